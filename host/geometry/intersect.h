@@ -1,0 +1,39 @@
+// Where straight pieces meet in space.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "gepnt3d.h"
+
+namespace host
+{
+// A segment, or the endless line through its ends when extended.
+struct StraightPiece
+{
+    AcGePoint3d start;
+    AcGePoint3d end;
+    bool extended = false;
+};
+
+struct Crossing
+{
+    double parameter;   // along the asking piece: 0 at its start, 1 at its end
+    AcGePoint3d point;  // in the system of the pieces
+    double tolerance;   // how far the point may be off, drawing units
+};
+
+// Where asking meets other, ends included; nothing when they pass each other in space, run
+// parallel or overlap, or when one of them is too short to have a direction. Pieces nearer than
+// the tolerance of host/geometry/tolerance.h meet.
+//
+// Each coordinate is taken from the piece that moves less in it. So a level or upright piece gives
+// its own coordinate unrounded: the crossing of an upright grid line with a level edge is
+// exactly on both.
+std::optional<Crossing> crossing(const StraightPiece& asking, const StraightPiece& other);
+
+// Puts crossings found on one asking piece in order, the one nearest to its end first, and keeps
+// one of those that are no further apart than their tolerance (an outline's corner is found on
+// both of its edges).
+void arrangeFarEndFirst(std::vector<Crossing>& found);
+}  // namespace host

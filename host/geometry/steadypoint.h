@@ -1,0 +1,25 @@
+// A place reached from two sides, with the least rounding.
+#pragma once
+
+#include <cmath>
+
+#include "gepnt3d.h"
+#include "gevec3d.h"
+
+namespace host
+{
+inline double steadyCoordinate(double a, double offset, double b, double otherOffset)
+{
+    return std::abs(offset) <= std::abs(otherOffset) ? a + offset : b + otherOffset;
+}
+
+// The point p + offset, which is also q + otherOffset but for rounding. Each coordinate is taken
+// from the side that moves less in it: an offset of 0 hands the coordinate on as it is.
+inline AcGePoint3d steadyPoint(const AcGePoint3d& p, const AcGeVector3d& offset,
+                               const AcGePoint3d& q, const AcGeVector3d& otherOffset)
+{
+    return {steadyCoordinate(p.x, offset.x, q.x, otherOffset.x),
+            steadyCoordinate(p.y, offset.y, q.y, otherOffset.y),
+            steadyCoordinate(p.z, offset.z, q.z, otherOffset.z)};
+}
+}  // namespace host

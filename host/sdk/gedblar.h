@@ -1,0 +1,6 @@
+// Array of numbers.
+#pragma once
+
+#include "acarray.h"
+
+typedef AcArray<double> AcGeDoubleArray;

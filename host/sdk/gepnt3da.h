@@ -1,0 +1,7 @@
+// Array of points.
+#pragma once
+
+#include "acarray.h"
+#include "gepnt3d.h"
+
+typedef AcArray<AcGePoint3d> AcGePoint3dArray;
