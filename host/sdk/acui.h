@@ -1,0 +1,7 @@
+// The host's dialog library.
+#pragma once
+
+#include "afxwin.h"
+
+// Lets the library's resources join the chain. Called at attach, after the module has joined it.
+void InitAcUiDLL();

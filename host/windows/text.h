@@ -1,0 +1,21 @@
+// Wide text of the module and UTF-8 of this platform.
+//
+// Wide text is UTF-16 held in this platform's wider wchar_t: a character above U+FFFF is two units.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace host
+{
+// Joins surrogate pairs; a surrogate without its other half becomes U+FFFD.
+std::string toUtf8(std::wstring_view text);
+
+// Each byte that is no part of valid UTF-8 becomes one U+FFFD.
+std::wstring fromUtf8(std::string_view bytes);
+
+// A path as the module writes it, backslashes between folders, as this platform has it, and back.
+std::string toNativePath(std::wstring_view path);
+std::wstring fromNativePath(std::string_view path);
+}  // namespace host
