@@ -1,0 +1,138 @@
+#include "host/database/access.h"
+
+namespace host
+{
+void ObjectAccess::destroy(AcDbObject* object)
+{
+    if (object != nullptr)
+    {
+        object->m_released = true;
+        delete object;
+    }
+}
+
+void ObjectAccess::setLayerFlags(const LayerFlags& flags)
+{
+    flags.layer->m_frozen = flags.frozen;
+    flags.layer->m_locked = flags.locked;
+    flags.layer->m_off = flags.off;
+}
+
+void ObjectAccess::setTextStyle(AcDbTextStyleTableRecord& record, double oblique, double xScale,
+                                double textSize)
+{
+    record.m_oblique = oblique;
+    record.m_xScale = xScale;
+    record.m_textSize = textSize;
+}
+
+LineStyle ObjectAccess::lineStyle(const AcDbEntity& entity)
+{
+    LineStyle style;
+    style.owner = entity.m_owner;
+    style.layer = entity.m_layer;
+    style.linetype = entity.m_linetype;
+    style.normal = entity.m_normal;
+    style.linetypeScale = entity.m_linetypeScale;
+    style.reactors = entity.m_reactors;
+    style.color = entity.m_color;
+    style.lineWeight = entity.m_lineWeight;
+    style.invisible = entity.m_invisible;
+    return style;
+}
+
+void ObjectAccess::applyStyle(AcDbEntity& entity, const LineStyle& style)
+{
+    entity.m_owner = style.owner;
+    entity.m_layer = style.layer;
+    entity.m_linetype = style.linetype;
+    entity.m_normal = style.normal;
+    entity.m_linetypeScale = style.linetypeScale;
+    entity.m_reactors = style.reactors;
+    entity.m_color = style.color;
+    entity.m_lineWeight = style.lineWeight;
+    entity.m_invisible = style.invisible;
+    entity.m_hasDefaults = true;
+}
+
+AcDbObject* resolve(AcDbStub* stub)
+{
+    if (!stub->packed())
+    {
+        return stub->object;
+    }
+    const double* at = stub->line;
+    auto* line = new AcDbLine(AcGePoint3d(at[0], at[1], at[2]), AcGePoint3d(at[3], at[4], at[5]));
+    ObjectAccess::stub(*line) = stub;
+    ObjectAccess::forWrite(*line) = false;
+    ObjectAccess::applyStyle(*line, coreOf(stub).lineStyles[stub->style]);
+    stub->flags &= ~AcDbStub::isPacked;
+    stub->object = line;
+    return line;
+}
+
+void pack(AcDbObject* object)
+{
+    AcDbStub* stub = ObjectAccess::stub(*object);
+    DatabaseCore& core = coreOf(stub);
+    const auto* line = static_cast<const AcDbLine*>(object);
+    const AcGePoint3d start = line->startPoint();
+    const AcGePoint3d end = line->endPoint();
+    const double points[] = {start.x, start.y, start.z, end.x, end.y, end.z};
+    stub->style = core.lineStyles.intern(ObjectAccess::lineStyle(*line));
+    stub->flags |= AcDbStub::isPacked;
+    std::copy(std::begin(points), std::end(points), stub->line);
+    core.retired.add(object);
+}
+
+AcRxClass* typeOf(const AcDbStub* stub)
+{
+    if (stub->flags & AcDbStub::isLine)
+    {
+        return AcDbLine::desc();
+    }
+    return stub->object ? stub->object->isA() : nullptr;
+}
+
+AcDbStub* layerOf(const AcDbStub* stub)
+{
+    if (stub->packed())
+    {
+        return coreOf(stub).lineStyles[stub->style].layer;
+    }
+    const AcDbEntity* entity = AcDbEntity::cast(stub->object);
+    return entity ? ObjectAccess::layer(*entity) : nullptr;
+}
+
+AcDbStub* ownerOf(const AcDbStub* stub)
+{
+    if (stub->packed())
+    {
+        return coreOf(stub).lineStyles[stub->style].owner;
+    }
+    return stub->object ? ObjectAccess::owner(*stub->object) : nullptr;
+}
+
+std::uint32_t reactorsOf(const AcDbStub* stub)
+{
+    if (stub->packed())
+    {
+        return coreOf(stub).lineStyles[stub->style].reactors;
+    }
+    AcDbEntity* entity = AcDbEntity::cast(stub->object);
+    return entity ? ObjectAccess::reactors(*entity) : 0;
+}
+
+std::string describe(const AcDbObject& object)
+{
+    const std::wstring name = object.isA()->name();
+    const AcDbStub* stub = ObjectAccess::stub(object);
+    char handle[40] = " that is not in a database";
+    if (stub != nullptr)
+    {
+        std::snprintf(handle, sizeof handle, " with handle %llX",
+                      static_cast<unsigned long long>(stub->handle));
+    }
+    return std::string(name.begin(), name.end()) + handle;
+}
+}  // namespace host

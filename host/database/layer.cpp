@@ -1,0 +1,39 @@
+#include "host/database/access.h"
+
+ACRX_DEFINE_MEMBERS(AcDbLayerTableRecord, AcDbSymbolTableRecord)
+
+namespace
+{
+// So that the change can be taken back.
+void remember(AcDbLayerTableRecord& layer)
+{
+    host::coreOf(layer.objectId().stub())
+        .layerLog.push_back({&layer, layer.isFrozen(), layer.isLocked(), layer.isOff()});
+}
+}  // namespace
+
+Acad::ErrorStatus AcDbLayerTableRecord::setIsFrozen(bool frozen)
+{
+    assertWriteEnabled("AcDbLayerTableRecord::setIsFrozen");
+    if (frozen && host::coreOf(objectId().stub()).current.layer == objectId().stub())
+    {
+        return Acad::eInvalidLayer;
+    }
+    remember(*this);
+    m_frozen = frozen;
+    return Acad::eOk;
+}
+
+void AcDbLayerTableRecord::setIsLocked(bool locked)
+{
+    assertWriteEnabled("AcDbLayerTableRecord::setIsLocked");
+    remember(*this);
+    m_locked = locked;
+}
+
+void AcDbLayerTableRecord::setIsOff(bool off)
+{
+    assertWriteEnabled("AcDbLayerTableRecord::setIsOff");
+    remember(*this);
+    m_off = off;
+}

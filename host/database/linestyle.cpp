@@ -1,0 +1,64 @@
+#include "host/database/linestyle.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace host
+{
+bool LineStyle::operator==(const LineStyle& other) const
+{
+    return owner == other.owner && layer == other.layer && linetype == other.linetype &&
+           normal.x == other.normal.x && normal.y == other.normal.y && normal.z == other.normal.z &&
+           linetypeScale == other.linetypeScale && reactors == other.reactors &&
+           color == other.color && lineWeight == other.lineWeight && invisible == other.invisible;
+}
+
+std::size_t LineStyleHash::operator()(const LineStyle& style) const
+{
+    const std::size_t parts[] = {std::hash<const void*>()(style.owner),
+                                 std::hash<const void*>()(style.layer),
+                                 std::hash<double>()(style.normal.x + 3 * style.normal.y),
+                                 std::size_t(style.color), std::size_t(style.reactors)};
+    std::size_t hash = 0;
+    for (std::size_t part : parts)
+    {
+        hash = hash * 1000003 + part;
+    }
+    return hash;
+}
+
+std::uint32_t LineStyles::intern(const LineStyle& style)
+{
+    if (m_last < m_styles.size() && m_styles[m_last] == style)
+    {
+        return m_last;
+    }
+    const auto [found, isNew] = m_numbers.try_emplace(style, std::uint32_t(m_styles.size()));
+    if (isNew)
+    {
+        m_styles.push_back(style);
+    }
+    m_last = found->second;
+    return m_last;
+}
+
+std::uint32_t ReactorLists::with(std::uint32_t number, AcDbStub* reactor)
+{
+    std::vector<AcDbStub*> list = m_lists[number];
+    list.push_back(reactor);
+    // Groups are few, and the list looked for is nearly always the newest.
+    const auto found = std::find(m_lists.rbegin(), m_lists.rend(), list);
+    if (found != m_lists.rend())
+    {
+        return std::uint32_t(m_lists.rend() - found - 1);
+    }
+    m_lists.push_back(std::move(list));
+    return std::uint32_t(m_lists.size() - 1);
+}
+
+bool ReactorLists::contains(std::uint32_t number, const AcDbStub* reactor) const
+{
+    const std::vector<AcDbStub*>& list = m_lists[number];
+    return std::find(list.begin(), list.end(), reactor) != list.end();
+}
+}  // namespace host

@@ -1,0 +1,60 @@
+// What packed lines have in common, kept once.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <unordered_map>
+#include <vector>
+
+#include "dbmain.h"
+
+namespace host
+{
+// Every property of a line but its two points.
+struct LineStyle
+{
+    AcDbStub* owner = nullptr;
+    AcDbStub* layer = nullptr;
+    AcDbStub* linetype = nullptr;
+    AcGeVector3d normal{0, 0, 1};
+    double linetypeScale = 1;
+    std::uint32_t reactors = 0;
+    std::uint16_t color = 256;
+    std::int16_t lineWeight = -1;
+    bool invisible = false;
+
+    bool operator==(const LineStyle& other) const;
+};
+
+struct LineStyleHash
+{
+    std::size_t operator()(const LineStyle& style) const;
+};
+
+// Numbers of styles. Neighbouring lines mostly share theirs, so the last answer is tried first.
+class LineStyles
+{
+public:
+    std::uint32_t intern(const LineStyle& style);
+    const LineStyle& operator[](std::uint32_t number) const { return m_styles[number]; }
+
+private:
+    std::deque<LineStyle> m_styles;
+    std::unordered_map<LineStyle, std::uint32_t, LineStyleHash> m_numbers;
+    std::uint32_t m_last = UINT32_MAX;
+};
+
+// Numbers of lists of persistent reactors; 0 is the empty list.
+class ReactorLists
+{
+public:
+    ReactorLists() : m_lists(1) {}
+    // The number of list `number` with one more reactor at its end.
+    std::uint32_t with(std::uint32_t number, AcDbStub* reactor);
+    const std::vector<AcDbStub*>& operator[](std::uint32_t number) const { return m_lists[number]; }
+    bool contains(std::uint32_t number, const AcDbStub* reactor) const;
+
+private:
+    std::deque<std::vector<AcDbStub*>> m_lists;
+};
+}  // namespace host

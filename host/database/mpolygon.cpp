@@ -1,0 +1,142 @@
+#include "dbMPolygon.h"
+
+#include <cmath>
+
+#include "gelnsg3d.h"
+#include "host/database/intersections.h"
+
+ACRX_DEFINE_MEMBERS(AcDbMPolygon, AcDbEntity)
+
+namespace
+{
+typedef std::vector<AcGePoint3d> Loop;
+
+// Newell's normal: right for any planar loop, its length twice the area.
+AcGeVector3d areaVector(const Loop& loop)
+{
+    AcGeVector3d sum(0, 0, 0);
+    for (std::size_t i = 1; i + 1 < loop.size(); ++i)
+    {
+        sum = sum + (loop[i] - loop[0]).crossProduct(loop[i + 1] - loop[0]);
+    }
+    return sum;
+}
+
+bool crosses(const Loop& a, const Loop& b)
+{
+    for (std::size_t i = 0; i < a.size(); ++i)
+    {
+        const AcDbLine side(a[i], a[(i + 1) % a.size()]);
+        for (std::size_t k = 0; k < b.size(); ++k)
+        {
+            AcGePoint3dArray points;
+            host::intersectLine(side, AcDbLine(b[k], b[(k + 1) % b.size()]), AcDb::kOnBothOperands,
+                                points);
+            if (!points.isEmpty())
+            {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool onLoop(const Loop& loop, const AcGePoint3d& point, double tol)
+{
+    for (std::size_t i = 0; i < loop.size(); ++i)
+    {
+        const AcGePoint3d& next = loop[(i + 1) % loop.size()];
+        if (host::closestOnSegment(loop[i], next, point).distanceTo(point) <= tol)
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Counts crossings of a ray along the plane's axis `across`, upwards sides open.
+bool insideLoop(const Loop& loop, const AcGePoint3d& point, double tol)
+{
+    const AcGeVector3d area = areaVector(loop);
+    const AcGeVector3d normal = area.normal();
+    if (std::fabs(normal.dotProduct(point - loop[0])) > tol)
+    {
+        return false;
+    }
+    const AcGeVector3d across = (loop[1] - loop[0]).normal();
+    const AcGeVector3d up = normal.crossProduct(across);
+    bool inside = false;
+    for (std::size_t i = 0; i < loop.size(); ++i)
+    {
+        const AcGeVector3d a = loop[i] - point;
+        const AcGeVector3d b = loop[(i + 1) % loop.size()] - point;
+        const double aUp = a.dotProduct(up);
+        const double bUp = b.dotProduct(up);
+        if ((aUp > 0) == (bUp > 0))
+        {
+            continue;
+        }
+        const double at = aUp / (aUp - bUp);
+        inside ^= a.dotProduct(across) * (1 - at) + b.dotProduct(across) * at > 0;
+    }
+    return inside;
+}
+}  // namespace
+
+Acad::ErrorStatus AcDbMPolygon::appendLoopFromBoundary(const AcDb2dPolyline* boundary,
+                                                       bool excludeCrossing, double)
+{
+    assertWriteEnabled("AcDbMPolygon::appendLoopFromBoundary");
+    if (boundary == nullptr || !boundary->isClosed() || boundary->numVertices() < 3)
+    {
+        return Acad::eInvalidInput;
+    }
+    Loop loop;
+    loop.reserve(std::size_t(boundary->numVertices()));
+    for (int i = 0; i < boundary->numVertices(); ++i)
+    {
+        loop.push_back(boundary->vertexAt(i));
+    }
+    for (const Loop& other : m_loops)
+    {
+        if (excludeCrossing && crosses(loop, other))
+        {
+            return Acad::eInvalidInput;
+        }
+    }
+    m_loops.push_back(std::move(loop));
+    return Acad::eOk;
+}
+
+int AcDbMPolygon::isPointInsideMPolygon(const AcGePoint3d& worldPoint, AcGeIntArray& loops,
+                                        double tol) const
+{
+    assertReadEnabled("AcDbMPolygon::isPointInsideMPolygon");
+    loops.removeAll();
+    for (std::size_t i = 0; i < m_loops.size(); ++i)
+    {
+        if (onLoop(m_loops[i], worldPoint, tol) || insideLoop(m_loops[i], worldPoint, tol))
+        {
+            loops.append(int(i));
+        }
+    }
+    return loops.length();
+}
+
+Acad::ErrorStatus AcDbMPolygon::transformBy(const AcGeMatrix3d& matrix)
+{
+    assertWriteEnabled("AcDbMPolygon::transformBy");
+    if (!host::keepsAngles(matrix))
+    {
+        return Acad::eCannotScaleNonUniformly;
+    }
+    for (Loop& loop : m_loops)
+    {
+        for (AcGePoint3d& point : loop)
+        {
+            point.transformBy(matrix);
+        }
+    }
+    setNormal((matrix * normal()).normal());
+    return Acad::eOk;
+}

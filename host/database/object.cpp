@@ -1,0 +1,280 @@
+#include <algorithm>
+
+#include "host/database/access.h"
+#include "host/runtime/breach.h"
+
+using host::ObjectAccess;
+
+ACRX_DEFINE_MEMBERS(AcDbObject, AcRxObject)
+
+const AcDbObjectId AcDbObjectId::kNull;
+
+bool AcDbObjectId::isErased() const
+{
+    return m_stub != nullptr && m_stub->erased();
+}
+
+AcDbDatabase* AcDbObjectId::database() const
+{
+    return m_stub != nullptr ? &host::coreOf(m_stub).database : nullptr;
+}
+
+AcDbObject::AcDbObject()
+    : m_stub(nullptr),
+      m_owner(nullptr),
+      m_readers(0),
+      m_forWrite(true),
+      m_forgiveClose(false),
+      m_refused(false),
+      m_released(false)
+{
+}
+
+AcDbObject::~AcDbObject()
+{
+    if (m_stub != nullptr && !m_released)
+    {
+        host::breach("AcDbObject::~AcDbObject", "an object that belongs to a database was deleted");
+    }
+}
+
+AcDbObjectId AcDbObject::objectId() const
+{
+    return AcDbObjectId(m_stub);
+}
+AcDbObjectId AcDbObject::ownerId() const
+{
+    return AcDbObjectId(m_owner);
+}
+AcDbDatabase* AcDbObject::database() const
+{
+    return objectId().database();
+}
+bool AcDbObject::isErased() const
+{
+    return m_stub != nullptr && m_stub->erased();
+}
+bool AcDbObject::isReadEnabled() const
+{
+    return m_forWrite || m_readers > 0;
+}
+bool AcDbObject::isWriteEnabled() const
+{
+    return m_forWrite;
+}
+
+void AcDbObject::assertReadEnabled(const char* call) const
+{
+    if (!isReadEnabled())
+    {
+        host::breach(call, "the " + host::describe(*this) + " is not open");
+    }
+}
+
+void AcDbObject::assertWriteEnabled(const char* call) const
+{
+    if (!m_forWrite)
+    {
+        host::breach(call, "the " + host::describe(*this) + " is not open for write");
+    }
+}
+
+namespace
+{
+bool onLockedLayer(const AcDbStub* stub)
+{
+    const AcDbStub* layer = host::layerOf(stub);
+    return layer != nullptr && layer->object != nullptr &&
+           static_cast<AcDbLayerTableRecord*>(layer->object)->isLocked();
+}
+
+void noteClosed(AcDbObject* object)
+{
+    std::vector<AcDbObject*>& open = host::coreOf(ObjectAccess::stub(*object)).open;
+    // What was opened last is mostly closed first.
+    const auto found = std::find(open.rbegin(), open.rend(), object);
+    open.erase(std::next(found).base());
+}
+}  // namespace
+
+Acad::ErrorStatus AcDbObject::upgradeOpen()
+{
+    if (m_forWrite)
+    {
+        return Acad::eWasOpenForWrite;
+    }
+    assertReadEnabled("AcDbObject::upgradeOpen");
+    if (m_readers > 1)
+    {
+        return Acad::eHadMultipleReaders;
+    }
+    if (onLockedLayer(m_stub))
+    {
+        m_refused = true;
+        return Acad::eOnLockedLayer;
+    }
+    m_readers = 0;
+    m_forWrite = true;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::downgradeOpen()
+{
+    assertReadEnabled("AcDbObject::downgradeOpen");
+    if (m_stub == nullptr)
+    {
+        return Acad::eNotInDatabase;
+    }
+    if (!m_forWrite)
+    {
+        return Acad::eWasOpenForRead;
+    }
+    m_forWrite = false;
+    m_readers = 1;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::close()
+{
+    if (m_stub == nullptr)
+    {
+        return Acad::eNotInDatabase;
+    }
+    if (!isReadEnabled())
+    {
+        if (!m_forgiveClose)
+        {
+            host::breach("AcDbObject::close",
+                         "the " + host::describe(*this) + " is already closed");
+        }
+        m_forgiveClose = false;
+        return Acad::eNotOpenForWrite;
+    }
+    if (m_readers > 1)
+    {
+        --m_readers;
+        return Acad::eOk;
+    }
+    if (AcDbText* text = m_forWrite ? AcDbText::cast(this) : nullptr)
+    {
+        text->adjustAlignment();
+    }
+    m_readers = 0;
+    m_forWrite = false;
+    m_refused = false;
+    noteClosed(this);
+    if (m_stub->flags & AcDbStub::isLine)
+    {
+        host::pack(this);
+    }
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::erase(Adesk::Boolean erasing)
+{
+    if (m_stub == nullptr)
+    {
+        return Acad::eNotInDatabase;
+    }
+    assertWriteEnabled("AcDbObject::erase");
+    if (m_stub->erased() == (erasing != Adesk::kFalse))
+    {
+        m_refused = true;
+        return Acad::eWasErased;
+    }
+    m_stub->setErased(erasing != Adesk::kFalse);
+    if (erasing)
+    {
+        host::coreOf(m_stub).erasedLog.push_back(m_stub);
+    }
+    return Acad::eOk;
+}
+
+namespace
+{
+Acad::ErrorStatus mayOpen(AcDbObject& object, AcDb::OpenMode mode, bool openOnLockedLayer)
+{
+    if (mode == AcDb::kForNotify)
+    {
+        return Acad::eNotImplementedYet;
+    }
+    if (ObjectAccess::forWrite(object))
+    {
+        return Acad::eWasOpenForWrite;
+    }
+    if (mode == AcDb::kForRead)
+    {
+        return ObjectAccess::readers(object) >= 256 ? Acad::eAtMaxReaders : Acad::eOk;
+    }
+    if (ObjectAccess::readers(object) > 0)
+    {
+        return Acad::eWasOpenForRead;
+    }
+    const bool locked = !openOnLockedLayer && onLockedLayer(ObjectAccess::stub(object));
+    return locked ? Acad::eOnLockedLayer : Acad::eOk;
+}
+
+void markOpen(AcDbObject& object, AcDb::OpenMode mode)
+{
+    if (!ObjectAccess::isOpen(object))
+    {
+        host::coreOf(ObjectAccess::stub(object)).open.push_back(&object);
+    }
+    ObjectAccess::forgiveClose(object) = false;
+    if (mode == AcDb::kForWrite)
+    {
+        ObjectAccess::forWrite(object) = true;
+        return;
+    }
+    ++ObjectAccess::readers(object);
+}
+}  // namespace
+
+Acad::ErrorStatus host::openObject(AcDbObject*& object, AcDbObjectId id, AcRxClass* type,
+                                   AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer)
+{
+    object = nullptr;
+    AcDbStub* stub = id.stub();
+    if (stub == nullptr)
+    {
+        return Acad::eNullObjectId;
+    }
+    if (stub->erased() && !openErased)
+    {
+        return Acad::eWasErased;
+    }
+    const AcRxClass* actual = typeOf(stub);
+    if (actual == nullptr)
+    {
+        return Acad::eNotImplementedYet;
+    }
+    if (!actual->isDerivedFrom(type))
+    {
+        return Acad::eNotThatKindOfClass;
+    }
+    const bool wasPacked = stub->packed();
+    AcDbObject* found = resolve(stub);
+    const Acad::ErrorStatus status = mayOpen(*found, mode, openOnLockedLayer);
+    if (status == Acad::eOk)
+    {
+        markOpen(*found, mode);
+        object = found;
+    }
+    else if (wasPacked)
+    {
+        pack(found);
+    }
+    return status;
+}
+
+Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode mode,
+                                     bool openErased)
+{
+    return host::openObject(object, id, AcDbObject::desc(), mode, openErased, false);
+}
+
+Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, AcDbObjectId id, AcDb::OpenMode mode,
+                                     bool openErased)
+{
+    return acdbOpenObject(entity, id, mode, openErased);
+}

@@ -1,0 +1,249 @@
+#include <limits>
+#include <memory>
+
+#include "dbents.h"
+#include "host/database/access.h"
+#include "host/database/intersections.h"
+#include "host/geometry/ocs.h"
+
+using host::ObjectAccess;
+
+ACRX_DEFINE_MEMBERS(AcDb2dVertex, AcDbEntity)
+ACRX_DEFINE_MEMBERS(AcDb2dPolyline, AcDbCurve)
+
+Acad::ErrorStatus AcDb2dVertex::transformBy(const AcGeMatrix3d&)
+{
+    // A vertex lies in the plane of its polyline and moves with that.
+    return Acad::eNotApplicable;
+}
+
+AcDb2dPolyline::AcDb2dPolyline() {}
+
+AcDb2dPolyline::AcDb2dPolyline(AcDb::Poly2dType type, AcGePoint3dArray& vertices, double elevation,
+                               Adesk::Boolean closed, double defStartWidth, double defEndWidth,
+                               AcGeDoubleArray* bulges, AcArray<Adesk::Int32>*)
+    : m_elevation(elevation),
+      m_startWidth(defStartWidth),
+      m_endWidth(defEndWidth),
+      m_closed(closed != Adesk::kFalse)
+{
+    if (type != AcDb::k2dSimplePoly || bulges != nullptr)
+    {
+        return;
+    }
+    for (int i = 0; i < vertices.length(); ++i)
+    {
+        m_vertices.push_back(
+            new AcDb2dVertex(AcGePoint3d(vertices[i].x, vertices[i].y, elevation)));
+    }
+    placePoints();
+}
+
+AcDb2dPolyline::~AcDb2dPolyline()
+{
+    // In a database the vertices are objects of their own.
+    if (objectId().isNull())
+    {
+        for (AcDb2dVertex* vertex : m_vertices)
+        {
+            delete vertex;
+        }
+    }
+}
+
+void AcDb2dPolyline::placePoints()
+{
+    const host::Ocs plane(normal());
+    m_points.clear();
+    for (const AcDb2dVertex* vertex : m_vertices)
+    {
+        m_points.push_back(plane.toWorld(vertex->m_position));
+    }
+}
+
+void AcDb2dPolyline::subentSetProperties()
+{
+    const host::LineStyle style = ObjectAccess::lineStyle(*this);
+    for (AcDb2dVertex* vertex : m_vertices)
+    {
+        host::LineStyle own = style;
+        own.owner = ObjectAccess::owner(*vertex);
+        own.reactors = 0;
+        ObjectAccess::applyStyle(*vertex, own);
+    }
+}
+
+Acad::ErrorStatus AcDb2dPolyline::makeClosed()
+{
+    assertWriteEnabled("AcDb2dPolyline::makeClosed");
+    m_closed = true;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDb2dPolyline::makeOpen()
+{
+    assertWriteEnabled("AcDb2dPolyline::makeOpen");
+    m_closed = false;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDb2dPolyline::setLinetypeGenerationOn()
+{
+    assertWriteEnabled("AcDb2dPolyline::setLinetypeGenerationOn");
+    m_linetypeGeneration = true;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDb2dPolyline::setLinetypeGenerationOff()
+{
+    assertWriteEnabled("AcDb2dPolyline::setLinetypeGenerationOff");
+    m_linetypeGeneration = false;
+    return Acad::eOk;
+}
+
+AcDbObjectIterator* AcDb2dPolyline::vertexIterator() const
+{
+    assertReadEnabled("AcDb2dPolyline::vertexIterator");
+    auto iterator = std::make_unique<AcDbObjectIterator>();
+    for (const AcDb2dVertex* vertex : m_vertices)
+    {
+        if (!vertex->objectId().isNull())
+        {
+            iterator->m_ids.append(vertex->objectId());
+        }
+    }
+    return iterator.release();
+}
+
+namespace
+{
+// Hands a property that has just been set on to the vertices.
+template <class Setter>
+Acad::ErrorStatus withSubents(Acad::ErrorStatus status, Adesk::Boolean doSubents, Setter setter)
+{
+    if (status == Acad::eOk && doSubents)
+    {
+        setter();
+    }
+    return status;
+}
+}  // namespace
+
+Acad::ErrorStatus AcDb2dPolyline::setColorIndex(Adesk::UInt16 color, Adesk::Boolean doSubents)
+{
+    return withSubents(AcDbEntity::setColorIndex(color, doSubents), doSubents,
+                       [this] { subentSetProperties(); });
+}
+
+Acad::ErrorStatus AcDb2dPolyline::setLayer(AcDbObjectId id, Adesk::Boolean doSubents,
+                                           bool allowHiddenLayer)
+{
+    return withSubents(AcDbEntity::setLayer(id, doSubents, allowHiddenLayer), doSubents,
+                       [this] { subentSetProperties(); });
+}
+
+Acad::ErrorStatus AcDb2dPolyline::setLinetype(AcDbObjectId id, Adesk::Boolean doSubents)
+{
+    return withSubents(AcDbEntity::setLinetype(id, doSubents), doSubents,
+                       [this] { subentSetProperties(); });
+}
+
+Acad::ErrorStatus AcDb2dPolyline::setLineWeight(AcDb::LineWeight weight, Adesk::Boolean doSubents)
+{
+    return withSubents(AcDbEntity::setLineWeight(weight, doSubents), doSubents,
+                       [this] { subentSetProperties(); });
+}
+
+Acad::ErrorStatus AcDb2dPolyline::setVisibility(AcDb::Visibility visibility,
+                                                Adesk::Boolean doSubents)
+{
+    return withSubents(AcDbEntity::setVisibility(visibility, doSubents), doSubents,
+                       [this] { subentSetProperties(); });
+}
+
+Acad::ErrorStatus AcDb2dPolyline::erase(Adesk::Boolean erasing)
+{
+    const Acad::ErrorStatus status = AcDbCurve::erase(erasing);
+    if (status != Acad::eOk)
+    {
+        return status;
+    }
+    const auto eraseToo = [erasing](AcDbStub* stub)
+    {
+        stub->setErased(erasing != Adesk::kFalse);
+        if (erasing)
+        {
+            host::coreOf(stub).erasedLog.push_back(stub);
+        }
+    };
+    for (AcDb2dVertex* vertex : m_vertices)
+    {
+        eraseToo(vertex->objectId().stub());
+    }
+    eraseToo(m_seqEnd);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDb2dPolyline::transformBy(const AcGeMatrix3d& matrix)
+{
+    assertWriteEnabled("AcDb2dPolyline::transformBy");
+    if (!host::keepsAngles(matrix))
+    {
+        return Acad::eCannotScaleNonUniformly;
+    }
+    // The points are moved as they are in the world, so that far from the origin no vertex picks up
+    // the rounding of a trip through the plane's system.
+    for (AcGePoint3d& point : m_points)
+    {
+        point.transformBy(matrix);
+    }
+    setNormal((matrix * normal()).normal());
+    const host::Ocs plane(normal());
+    for (std::size_t i = 0; i < m_points.size(); ++i)
+    {
+        const AcGePoint3d flat = plane.toObject(m_points[i]);
+        m_elevation = i == 0 ? flat.z : m_elevation;
+        m_vertices[i]->m_position.set(flat.x, flat.y, m_elevation);
+    }
+    subentSetProperties();
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDb2dPolyline::getStretchPoints(AcGePoint3dArray& points) const
+{
+    assertReadEnabled("AcDb2dPolyline::getStretchPoints");
+    for (const AcGePoint3d& point : m_points)
+    {
+        points.append(point);
+    }
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDb2dPolyline::getClosestPointTo(const AcGePoint3d& given, AcGePoint3d& onCurve,
+                                                    Adesk::Boolean extend) const
+{
+    assertReadEnabled("AcDb2dPolyline::getClosestPointTo");
+    if (extend)
+    {
+        return Acad::eNotImplementedYet;
+    }
+    const std::size_t corners = m_points.size();
+    if (corners < 2)
+    {
+        return Acad::eInvalidInput;
+    }
+    double best = std::numeric_limits<double>::infinity();
+    const std::size_t segments = m_closed ? corners : corners - 1;
+    for (std::size_t i = 0; i < segments; ++i)
+    {
+        const AcGePoint3d near =
+            host::closestOnSegment(m_points[i], m_points[(i + 1) % corners], given);
+        const double distance = near.distanceTo(given);
+        if (distance < best)
+        {
+            best = distance;
+            onCurve = near;
+        }
+    }
+    return Acad::eOk;
+}

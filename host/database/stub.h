@@ -1,0 +1,84 @@
+// The database's own record of an object, and where such records live.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "dbmain.h"
+
+// A closed line is kept in its stub alone: a sheet has a million of them. Every other object, and a
+// line while it is open, lives on the heap and is found through `object`.
+class AcDbStub
+{
+public:
+    enum Flag : std::uint32_t
+    {
+        isLine = 1,
+        isPacked = 2,  // the line is in `line`, with no object on the heap
+        isErasedFlag = 4
+    };
+
+    std::uint64_t handle;
+    std::uint32_t style;  // number of the interned properties of a line
+    std::uint32_t flags;
+    union
+    {
+        double line[6];  // start and end, WCS
+        AcDbObject* object;
+    };
+
+    bool packed() const { return (flags & isPacked) != 0; }
+    bool erased() const { return (flags & isErasedFlag) != 0; }
+    void setErased(bool erased) { flags = erased ? flags | isErasedFlag : flags & ~isErasedFlag; }
+};
+
+static_assert(sizeof(AcDbStub) == 64, "a line of the drawing costs one cache line");
+
+namespace host
+{
+class DatabaseCore;
+
+// Stubs in the order they were made, at addresses that never change.
+class StubArena
+{
+public:
+    explicit StubArena(DatabaseCore& core) : m_core(core) {}
+    ~StubArena();
+    StubArena(const StubArena&) = delete;
+    StubArena& operator=(const StubArena&) = delete;
+
+    AcDbStub* add(std::uint64_t handle);
+    std::size_t size() const { return m_size; }
+    AcDbStub& operator[](std::size_t index) const
+    {
+        return m_blocks[index / perBlock]->stubs[index % perBlock];
+    }
+    static DatabaseCore& coreOf(const AcDbStub* stub) { return *blockOf(stub)->core; }
+    static std::size_t indexOf(const AcDbStub* stub);
+
+private:
+    static constexpr std::size_t blockBytes = std::size_t(1) << 20;
+    static constexpr std::size_t perBlock = blockBytes / sizeof(AcDbStub) - 1;
+
+    // Aligned to its own size, so that a stub finds its block, and with it the database, by
+    // address.
+    struct Block
+    {
+        alignas(64) DatabaseCore* core;
+        std::size_t firstIndex;
+        alignas(64) AcDbStub stubs[perBlock];
+    };
+    static_assert(sizeof(Block) == blockBytes);
+
+    static const Block* blockOf(const AcDbStub* stub)
+    {
+        return reinterpret_cast<const Block*>(reinterpret_cast<std::uintptr_t>(stub) &
+                                              ~(blockBytes - 1));
+    }
+
+    DatabaseCore& m_core;
+    std::vector<Block*> m_blocks;
+    std::size_t m_size = 0;
+};
+}  // namespace host

@@ -1,0 +1,200 @@
+#include <cmath>
+
+#include "dbents.h"
+#include "host/database/access.h"
+#include "host/database/drawing.h"
+#include "host/database/intersections.h"
+#include "host/geometry/ocs.h"
+
+ACRX_DEFINE_MEMBERS(AcDbText, AcDbEntity)
+
+AcDbText::AcDbText() {}
+
+AcDbText::AcDbText(const AcGePoint3d& position, const ACHAR* text, AcDbObjectId style,
+                   double height, double rotation)
+    : m_position(position),
+      m_text(text != nullptr ? text : L""),
+      m_style(style.stub()),
+      m_height(height),
+      m_rotation(rotation)
+{
+}
+
+bool AcDbText::positionRules() const
+{
+    return m_vertical == AcDb::kTextBase &&
+           (m_horizontal == AcDb::kTextLeft || m_horizontal == AcDb::kTextAlign ||
+            m_horizontal == AcDb::kTextFit);
+}
+
+Acad::ErrorStatus AcDbText::setPosition(const AcGePoint3d& point)
+{
+    assertWriteEnabled("AcDbText::setPosition");
+    m_position = point;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setAlignmentPoint(const AcGePoint3d& point)
+{
+    assertWriteEnabled("AcDbText::setAlignmentPoint");
+    if (m_horizontal == AcDb::kTextLeft && m_vertical == AcDb::kTextBase)
+    {
+        return Acad::eNotApplicable;
+    }
+    m_alignment = point;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setTextStyle(AcDbObjectId style)
+{
+    assertWriteEnabled("AcDbText::setTextStyle");
+    if (style.isNull() || host::typeOf(style.stub()) != AcDbTextStyleTableRecord::desc())
+    {
+        return Acad::eWrongObjectType;
+    }
+    m_style = style.stub();
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setOblique(double angle)
+{
+    assertWriteEnabled("AcDbText::setOblique");
+    const double limit = 85 * M_PI / 180;
+    if (!(std::fabs(angle) <= limit))
+    {
+        return Acad::eInvalidInput;
+    }
+    m_oblique = angle;
+    return Acad::eOk;
+}
+
+namespace
+{
+bool isPositive(double value)
+{
+    return value > 0 && std::isfinite(value);
+}
+}  // namespace
+
+Acad::ErrorStatus AcDbText::setWidthFactor(double factor)
+{
+    assertWriteEnabled("AcDbText::setWidthFactor");
+    if (!isPositive(factor))
+    {
+        return Acad::eInvalidInput;
+    }
+    m_widthFactor = factor;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setHeight(double height)
+{
+    assertWriteEnabled("AcDbText::setHeight");
+    if (!isPositive(height))
+    {
+        return Acad::eInvalidInput;
+    }
+    m_height = height;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setRotation(double angle)
+{
+    assertWriteEnabled("AcDbText::setRotation");
+    m_rotation = angle;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setTextString(const ACHAR* text)
+{
+    assertWriteEnabled("AcDbText::setTextString");
+    if (text == nullptr)
+    {
+        return Acad::eInvalidInput;
+    }
+    m_text = text;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setVerticalMode(AcDb::TextVertMode mode)
+{
+    assertWriteEnabled("AcDbText::setVerticalMode");
+    m_vertical = mode;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::setHorizontalMode(AcDb::TextHorzMode mode)
+{
+    assertWriteEnabled("AcDbText::setHorizontalMode");
+    m_horizontal = mode;
+    return Acad::eOk;
+}
+
+namespace
+{
+// How far the anchor lies right of the text's start, in widths of the text.
+double anchorAcross(AcDb::TextHorzMode mode)
+{
+    switch (mode)
+    {
+        case AcDb::kTextCenter:
+        case AcDb::kTextMid:
+            return 0.5;
+        case AcDb::kTextRight:
+            return 1;
+        default:
+            return 0;
+    }
+}
+
+// How far the anchor lies above the base line, in text heights. Letters reach a third of their
+// height below the line in the host's stroke fonts.
+double anchorAbove(AcDb::TextHorzMode horizontal, AcDb::TextVertMode vertical)
+{
+    if (horizontal == AcDb::kTextMid || vertical == AcDb::kTextVertMid)
+    {
+        return 0.5;
+    }
+    return vertical == AcDb::kTextBottom ? -1.0 / 3 : vertical == AcDb::kTextTop ? 1 : 0;
+}
+}  // namespace
+
+Acad::ErrorStatus AcDbText::adjustAlignment(const AcDbDatabase*)
+{
+    assertWriteEnabled("AcDbText::adjustAlignment");
+    if (positionRules())
+    {
+        if (m_horizontal == AcDb::kTextLeft)
+        {
+            m_alignment = m_position;
+        }
+        return Acad::eOk;
+    }
+    // Six sevenths of the height is the mean advance of a letter in the host's stroke fonts.
+    const double width = double(m_text.size()) * m_height * m_widthFactor * 6 / 7;
+    const double across = -anchorAcross(m_horizontal) * width;
+    const double up = -anchorAbove(m_horizontal, m_vertical) * m_height;
+    const double c = std::cos(m_rotation);
+    const double s = std::sin(m_rotation);
+    const AcGeVector3d shift(across * c - up * s, across * s + up * c, 0);
+    m_position = m_alignment + host::Ocs(normal()).toWorld(shift);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix)
+{
+    assertWriteEnabled("AcDbText::transformBy");
+    if (!host::keepsAngles(matrix))
+    {
+        return Acad::eCannotScaleNonUniformly;
+    }
+    const AcGeVector3d moved = matrix * host::Ocs(normal()).directionWcs(m_rotation);
+    m_position.transformBy(matrix);
+    m_alignment.transformBy(matrix);
+    setNormal((matrix * normal()).normal());
+    m_rotation = host::Ocs(normal()).angleOf(moved);
+    // A turn leaves the height as it is, to the last bit.
+    const double scale = moved.length();
+    m_height *= std::fabs(scale - 1) > 1e-12 ? scale : 1;
+    return Acad::eOk;
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "acarray.h"
+#include "dbid.h"
+
+typedef AcArray<AcDbObjectId> AcDbObjectIdArray;

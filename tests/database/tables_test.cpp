@@ -1,0 +1,215 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "acutmem.h"
+#include "dbdict.h"
+#include "dbgroup.h"
+#include "dbobjptr.h"
+#include "host/database/access.h"
+#include "host/database/undo.h"
+#include "tests/support/emptydrawing.h"
+
+namespace
+{
+TEST(SymbolTables, namesAreFoundInAnyLetterCase)
+{
+    EmptyDrawing drawing;
+    drawing.core().addLoadedRecord<AcDbLayerTableRecord>(drawing.core().layerTable, L"Фундамент",
+                                                         0xF00);
+    AcDbSymbolTablePointer<AcDbLayerTable> table(&drawing.database(), AcDb::kForRead);
+    AcDbObjectId id;
+    EXPECT_EQ(table->getAt(L"фУНДАМЕНТ", id), Acad::eOk);
+    EXPECT_EQ(host::recordName(id), L"Фундамент");
+    EXPECT_EQ(table->getAt(L"Отметки", id), Acad::eKeyNotFound);
+    EXPECT_TRUE(id.isNull());
+    EXPECT_TRUE(table->has(L"0"));
+}
+
+TEST(SymbolTables, aRecordIsOpenedByNameOrNotAtAll)
+{
+    EmptyDrawing drawing;
+    AcDbSymbolTableRecordPointer<AcDbLayerTableRecord> none(L"none", &drawing.database(),
+                                                            AcDb::kForRead);
+    EXPECT_EQ(none.openStatus(), Acad::eKeyNotFound);
+    AcDbSymbolTableRecordPointer<AcDbTextStyleTableRecord> style(L"STANDARD", &drawing.database(),
+                                                                 AcDb::kForRead);
+    ASSERT_EQ(style.openStatus(), Acad::eOk);
+    EXPECT_EQ(style->xScale(), 1);
+    EXPECT_EQ(style->obliquingAngle(), 0);
+    EXPECT_EQ(style->textSize(), 0);
+    ACHAR* name = nullptr;
+    EXPECT_EQ(style->getName(name), Acad::eOk);
+    EXPECT_STREQ(name, L"Standard");
+    acutDelBuffer(name);
+    EXPECT_EQ(name, nullptr);
+}
+
+TEST(SymbolTables, noDatabaseIsAStatus)
+{
+    AcDbSymbolTablePointer<AcDbLayerTable> table(static_cast<AcDbDatabase*>(nullptr),
+                                                 AcDb::kForRead);
+    EXPECT_EQ(table.openStatus(), Acad::eNoDatabase);
+}
+
+TEST(SymbolTables, theIteratorGoesInTableOrder)
+{
+    EmptyDrawing drawing;
+    for (const wchar_t* name : {L"B", L"A", L""})
+    {
+        drawing.core().addLoadedRecord<AcDbTextStyleTableRecord>(drawing.core().textStyleTable,
+                                                                 name, 0);
+    }
+    AcDbSymbolTablePointer<AcDbTextStyleTable> table(&drawing.database(), AcDb::kForRead);
+    AcDbTextStyleTableIterator* made = nullptr;
+    ASSERT_EQ(table->newIterator(made), Acad::eOk);
+    const std::unique_ptr<AcDbTextStyleTableIterator> iterator(made);
+    std::vector<std::wstring> names;
+    for (iterator->start(); !iterator->done(); iterator->step())
+    {
+        AcDbTextStyleTableRecord* record = nullptr;
+        ASSERT_EQ(iterator->getRecord(record), Acad::eOk);
+        const ACHAR* name = nullptr;
+        record->getName(name);
+        names.push_back(name);
+        record->close();
+    }
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"Standard", L"B", L"A", L""}));
+}
+
+TEST(Block, anEntityIsAppendedOnce)
+{
+    EmptyDrawing drawing;
+    const AcDbObjectId id = drawing.addLine(0, 0, 1, 1);
+    AcDbObjectPointer<AcDbLine> line(id, AcDb::kForRead);
+    AcDbSymbolTablePointer<AcDbBlockTable> table(drawing->blockTableId(), AcDb::kForRead);
+    AcDbBlockTableRecord* record = nullptr;
+    ASSERT_EQ(table->getAt(L"*MODEL_SPACE", record, AcDb::kForWrite), Acad::eOk);
+    AcDbObjectId again;
+    EXPECT_EQ(record->appendAcDbEntity(again, line.object()), Acad::eAlreadyInDb);
+    EXPECT_TRUE(again.isNull());
+    EXPECT_EQ(record->appendAcDbEntity(again, nullptr), Acad::eNullObjectPointer);
+    record->close();
+}
+
+TEST(Block, unsetPropertiesGetTheDrawingsDefaultsAtTheAppend)
+{
+    EmptyDrawing drawing;
+    host::currentOf(drawing.database()).color = 5;
+    const AcDbObjectId id = drawing.addLine(0, 0, 1, 1);
+    AcDbObjectPointer<AcDbLine> line(id, AcDb::kForRead);
+    EXPECT_EQ(line->colorIndex(), 5);
+    EXPECT_EQ(host::recordName(line->layerId()), L"0");
+}
+
+class Groups : public testing::Test
+{
+protected:
+    AcDbGroup* make(const wchar_t* key)
+    {
+        AcDbDictionary* dictionary = nullptr;
+        drawing->getGroupDictionary(dictionary, AcDb::kForWrite);
+        auto* group = new AcDbGroup(L"grid", true);
+        AcDbObjectId id;
+        EXPECT_EQ(dictionary->setAt(key, group, id), Acad::eOk);
+        EXPECT_EQ(group->objectId(), id);
+        dictionary->close();
+        return group;
+    }
+
+    bool has(const wchar_t* key)
+    {
+        AcDbDictionary* dictionary = nullptr;
+        drawing->getGroupDictionary(dictionary, AcDb::kForRead);
+        const bool found = dictionary->has(key);
+        dictionary->close();
+        return found;
+    }
+
+    EmptyDrawing drawing;
+};
+
+TEST_F(Groups, anonymousOnesAreNumberedAndNumbersAreNotUsedAgain)
+{
+    make(L"*")->close();
+    EXPECT_TRUE(has(L"*A1"));
+    AcDbGroup* second = make(L"*");
+    EXPECT_TRUE(second->isAnonymous());
+    second->erase();
+    second->close();
+    EXPECT_FALSE(has(L"*A2"));
+    make(L"*")->close();
+    EXPECT_TRUE(has(L"*A3"));
+    AcDbGroup* named = make(L"Named");
+    EXPECT_FALSE(named->isAnonymous());
+    EXPECT_STREQ(named->description(), L"grid");
+    named->close();
+    EXPECT_TRUE(has(L"NAMED"));
+}
+
+TEST_F(Groups, aMemberIsTakenOnceAndKnowsItsGroups)
+{
+    AcDbGroup* group = make(L"*");
+    const AcDbObjectId line = drawing.addLine(0, 0, 1, 1);
+    const AcDbObjectId text = drawing.add(new AcDbText(AcGePoint3d(), L"a"));
+    EXPECT_EQ(group->append(line), Acad::eOk);
+    EXPECT_EQ(group->append(text), Acad::eOk);
+    EXPECT_EQ(group->append(line), Acad::eAlreadyInGroup);
+    EXPECT_EQ(group->append(AcDbObjectId::kNull), Acad::eNullObjectId);
+    EXPECT_EQ(group->append(drawing->clayer()), Acad::eNotAnEntity);
+    EXPECT_EQ(group->numEntities(), 2u);
+
+    AcDbGroup* other = make(L"*");
+    EXPECT_EQ(other->append(line), Acad::eOk);
+    const auto& lists = drawing.core().reactorLists;
+    EXPECT_EQ(lists[host::reactorsOf(line.stub())].size(), 2u);
+    EXPECT_EQ(lists[host::reactorsOf(text.stub())].size(), 1u);
+    other->close();
+    group->close();
+}
+
+TEST_F(Groups, anErasedMemberDoesNotCount)
+{
+    AcDbGroup* group = make(L"*");
+    const AcDbObjectId line = drawing.addLine(0, 0, 1, 1);
+    group->append(line);
+    group->append(drawing.addLine(1, 1, 2, 2));
+    {
+        AcDbObjectPointer<AcDbLine> open(line, AcDb::kForWrite);
+        open->erase();
+    }
+    AcDbObjectIdArray ids;
+    EXPECT_EQ(group->allEntityIds(ids), 1u);
+    EXPECT_NE(ids[0], line);
+    group->close();
+}
+
+TEST_F(Groups, outsideADictionaryNothingCanBeAppended)
+{
+    AcDbGroup group(L"loose");
+    EXPECT_EQ(group.append(drawing.addLine(0, 0, 1, 1)), Acad::eNotInDatabase);
+}
+
+TEST(Undo, takesBackEntitiesLayersAndCurrentProperties)
+{
+    EmptyDrawing drawing;
+    const AcDbObjectId before = drawing.addLine(0, 0, 1, 1);
+    const host::UndoMark mark = host::undoMark(drawing.database());
+    const AcDbObjectId after = drawing.addLine(1, 1, 2, 2);
+    {
+        AcDbObjectPointer<AcDbLine> line(before, AcDb::kForWrite);
+        line->erase();
+        AcDbObjectPointer<AcDbLayerTableRecord> layer(drawing->clayer(), AcDb::kForWrite);
+        layer->setIsOff(true);
+        layer->setIsOff(false);
+        layer->setIsOff(true);
+    }
+    host::currentOf(drawing.database()).color = 1;
+    host::undoTo(drawing.database(), mark);
+    EXPECT_FALSE(before.isErased());
+    EXPECT_TRUE(after.isErased());
+    EXPECT_EQ(host::currentOf(drawing.database()).color, 256);
+    AcDbObjectPointer<AcDbLayerTableRecord> layer(drawing->clayer(), AcDb::kForRead);
+    EXPECT_FALSE(layer->isOff());
+}
+}  // namespace
