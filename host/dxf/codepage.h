@@ -1,0 +1,45 @@
+// Texts of a DXF file as wide text, and back.
+#pragma once
+
+#include <iconv.h>
+
+#include <string>
+#include <string_view>
+
+namespace host::dxf
+{
+// From R2007 (AC1021) on the bytes are UTF-8 whatever the header says; before that they are in the
+// header's code page, and a file that states none is read as ANSI_1252.
+//
+// Not for two threads at once.
+class CodePage
+{
+public:
+    // Of the header: $ACADVER and $DWGCODEPAGE. A TagFile has none that are not known; for such the
+    // constructor throws an Error.
+    static bool isKnown(std::string_view version, std::string_view codePageName);
+    CodePage(std::string_view version, std::string_view codePageName);
+    ~CodePage();
+    CodePage(const CodePage&) = delete;
+    CodePage& operator=(const CodePage&) = delete;
+
+    // One wchar_t a character, also beyond the basic plane. "\U+XXXX" and "^J" are taken for the
+    // characters they stand for.
+    //
+    // A byte that means nothing in the code page becomes U+DC00 plus the byte, which stands for
+    // nothing else and which `encode` turns back: a name with such a byte can be written again.
+    std::wstring decode(std::string_view bytes) const;
+
+    // A surrogate pair counts as the character it makes. What the code page lacks is written
+    // "\U+XXXX", a control character with a caret, so the result is always one line.
+    std::string encode(std::wstring_view text) const;
+
+private:
+    std::wstring toWide(std::string_view bytes) const;
+    void append(std::string& bytes, char32_t character) const;
+    void appendConverted(std::string& bytes, char32_t character) const;
+
+    iconv_t m_toWide;
+    iconv_t m_fromWide;
+};
+}  // namespace host::dxf

@@ -1,0 +1,42 @@
+#include "host/dxf/drawingfile.h"
+
+#include "host/dxf/emptydrawing.h"
+#include "host/dxf/error.h"
+#include "host/dxf/filesource.h"
+
+namespace host
+{
+OpenedDrawing openDrawing(const std::string& path)
+{
+    try
+    {
+        auto database = std::make_unique<AcDbDatabase>();
+        dxf::load(database->core(), dxf::TagFile::read(path));
+        return {std::move(database), {}};
+    }
+    catch (const dxf::Error& error)
+    {
+        return {nullptr, error.what()};
+    }
+}
+
+std::unique_ptr<AcDbDatabase> newDrawing()
+{
+    auto database = std::make_unique<AcDbDatabase>();
+    dxf::load(database->core(), dxf::TagFile::fromText(dxf::emptyDrawing(), "new drawing"));
+    return database;
+}
+
+std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path)
+{
+    try
+    {
+        dxf::save(database.core(), path);
+        return std::nullopt;
+    }
+    catch (const std::exception& error)
+    {
+        return error.what();
+    }
+}
+}  // namespace host

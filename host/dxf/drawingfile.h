@@ -1,0 +1,27 @@
+// Drawings as files: opens, makes and saves databases.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "dbmain.h"
+
+namespace host
+{
+struct OpenedDrawing
+{
+    std::unique_ptr<AcDbDatabase> database;  // null if the file cannot be read
+    std::string error;                       // then: one line with file, line and what was expected
+};
+
+OpenedDrawing openDrawing(const std::string& path);
+
+// A new, empty, metric drawing (R2013).
+std::unique_ptr<AcDbDatabase> newDrawing();
+
+// Writes what the drawing was opened from with the changes made since; whatever was not changed
+// stays as it was, tag for tag. All or nothing: on failure, told in the line that comes back, the
+// old file is whole.
+std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path);
+}  // namespace host

@@ -1,0 +1,61 @@
+#include "host/dxf/edits.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace host::dxf
+{
+void Edits::replace(std::size_t begin, std::size_t end, Producer produce)
+{
+    m_edits.push_back({begin, end, std::move(produce)});
+}
+
+void Edits::setValue(const Tag& tag, std::string_view encoded)
+{
+    if (trimmed(tag.value) == trimmed(encoded))
+        return;
+    const std::size_t begin = tag.value.data() - m_file.bytes().data();
+    replace(begin, begin + tag.value.size(),
+            [text = std::string(encoded)](TagWriter& writer) { writer.raw(text); });
+}
+
+void Edits::setHeader(std::string_view name, const Producer& produce)
+{
+    std::string tags;
+    TagWriter writer([&tags](std::string_view bytes) { tags += bytes; }, m_file.style());
+    const HeaderVariable* variable = m_file.header(name);
+    if (!variable)
+        writer.text(9, name);
+    produce(writer);
+    writer.flush();
+
+    // A file without this section has no version and was not read.
+    const std::size_t headerEnd = m_file.section("HEADER")->end;
+    const std::size_t begin = variable ? variable->begin : headerEnd;
+    const std::size_t end = variable ? variable->end : headerEnd;
+    if (m_file.bytes().substr(begin, end - begin) != tags)
+        replace(begin, end, [tags](TagWriter& out) { out.raw(tags); });
+}
+
+void Edits::write(TagWriter& writer) const
+{
+    std::vector<const Edit*> inOrder;
+    for (const Edit& edit : m_edits)
+        inOrder.push_back(&edit);
+    // An insertion goes before a replacement that begins at the same place.
+    std::ranges::stable_sort(inOrder, {},
+                             [](const Edit* e) { return std::pair(e->begin, e->end); });
+
+    std::size_t done = 0;
+    for (const Edit* edit : inOrder)
+    {
+        if (edit->begin < done)
+            throw std::logic_error("changes of a drawing file overlap");
+        writer.raw(m_file.bytes().substr(done, edit->begin - done));
+        if (edit->produce)
+            edit->produce(writer);
+        done = edit->end;
+    }
+    writer.raw(m_file.bytes().substr(done));
+}
+}  // namespace host::dxf

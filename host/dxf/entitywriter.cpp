@@ -1,0 +1,227 @@
+#include "host/dxf/entitywriter.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/database/drawing.h"
+#include "host/geometry/ocs.h"
+
+namespace host::dxf
+{
+EntityWriter::EntityWriter(DatabaseCore& core, const CodePage& codePage, const TagStyle& style)
+    : m_core(core), m_codePage(codePage), m_style(style)
+{
+}
+
+void EntityWriter::writeEntitiesOf(const AcDbStub* owner, TagWriter& writer)
+{
+    for (std::size_t i = 0; i < m_core.stubs.size(); ++i)
+    {
+        const AcDbStub& stub = m_core.stubs[i];
+        if (!stub.erased() && ownerOf(&stub) == owner)
+        {
+            writeStub(stub, writer);
+        }
+    }
+}
+
+void EntityWriter::writeStub(const AcDbStub& stub, TagWriter& writer)
+{
+    if (stub.packed())
+    {
+        writeLine(stub.handle, stub.line, lineText(stub.style), writer);
+        return;
+    }
+    if (const AcDbLine* line = AcDbLine::cast(stub.object))
+    {
+        const AcGePoint3d a = line->startPoint();
+        const AcGePoint3d b = line->endPoint();
+        const double points[] = {a.x, a.y, a.z, b.x, b.y, b.z};
+        writeLine(stub.handle, points, makeLineText(ObjectAccess::lineStyle(*line)), writer);
+    }
+    else if (const AcDbText* text = AcDbText::cast(stub.object))
+    {
+        writeText(*text, writer);
+    }
+    else if (AcDb2dPolyline* polyline = AcDb2dPolyline::cast(stub.object))
+    {
+        writePolyline(*polyline, writer);
+    }
+}
+
+void EntityWriter::writeLine(std::uint64_t handle, const double* points, const LineText& text,
+                             TagWriter& writer)
+{
+    writer.text(0, "LINE");
+    writer.handle(5, handle);
+    writer.raw(text.head);
+    writer.point(10, points[0], points[1], points[2]);
+    writer.point(11, points[3], points[4], points[5]);
+    writer.raw(text.tail);
+}
+
+const EntityWriter::LineText& EntityWriter::lineText(std::uint32_t style)
+{
+    const auto found = m_lineTexts.find(style);
+    return found != m_lineTexts.end()
+               ? found->second
+               : m_lineTexts.emplace(style, makeLineText(m_core.lineStyles[style])).first->second;
+}
+
+EntityWriter::LineText EntityWriter::makeLineText(const LineStyle& style)
+{
+    LineText text;
+    TagWriter head([&text](std::string_view bytes) { text.head += bytes; }, m_style);
+    writeCommon(style, head);
+    head.text(100, "AcDbLine");
+    head.flush();
+    TagWriter tail([&text](std::string_view bytes) { text.tail += bytes; }, m_style);
+    writeNormal(style.normal, tail);
+    tail.flush();
+    return text;
+}
+
+std::string EntityWriter::nameOf(const AcDbStub* record) const
+{
+    return m_codePage.encode(recordName(AcDbObjectId(const_cast<AcDbStub*>(record))));
+}
+
+void EntityWriter::writeReactors(const LineStyle& style, TagWriter& writer)
+{
+    const std::vector<AcDbStub*>& reactors = m_core.reactorLists[style.reactors];
+    const auto alive = [](const AcDbStub* reactor) { return !reactor->erased(); };
+    if (std::none_of(reactors.begin(), reactors.end(), alive))
+    {
+        return;
+    }
+    writer.text(102, "{ACAD_REACTORS");
+    for (const AcDbStub* reactor : reactors)
+    {
+        if (alive(reactor))
+        {
+            writer.handle(330, reactor->handle);
+        }
+    }
+    writer.text(102, "}");
+}
+
+void EntityWriter::writeCommon(const LineStyle& style, TagWriter& writer)
+{
+    writeReactors(style, writer);
+    writer.handle(330, style.owner->handle);
+    writer.text(100, "AcDbEntity");
+    writer.text(8, nameOf(style.layer));
+    writer.text(6, nameOf(style.linetype));
+    if (style.color != 256)
+    {
+        writer.integer(62, style.color);
+    }
+    if (style.linetypeScale != 1)
+    {
+        writer.real(48, style.linetypeScale);
+    }
+    if (style.invisible)
+    {
+        writer.integer(60, 1);
+    }
+    if (style.lineWeight != AcDb::kLnWtByLayer)
+    {
+        writer.integer(370, style.lineWeight);
+    }
+}
+
+void writeNormal(const AcGeVector3d& normal, TagWriter& writer)
+{
+    if (normal.x != 0 || normal.y != 0 || normal.z != 1)
+    {
+        writer.point(210, normal.x, normal.y, normal.z);
+    }
+}
+
+namespace
+{
+void writeRealUnless(double usual, int code, double value, TagWriter& writer)
+{
+    if (value != usual)
+    {
+        writer.real(code, value);
+    }
+}
+
+// Angles are kept in radians and written in degrees from 0 up to 360.
+double degrees(double radians)
+{
+    const double angle = std::fmod(radians * 180 / M_PI, 360);
+    return angle < 0 ? angle + 360 : angle;
+}
+
+void writePoint(int code, const AcGePoint3d& point, TagWriter& writer)
+{
+    writer.point(code, point.x, point.y, point.z);
+}
+}  // namespace
+
+void EntityWriter::writeText(const AcDbText& text, TagWriter& writer)
+{
+    const Ocs plane(text.normal());
+    writer.text(0, "TEXT");
+    writer.handle(5, ObjectAccess::stub(text)->handle);
+    writeCommon(ObjectAccess::lineStyle(text), writer);
+    writer.text(100, "AcDbText");
+    writePoint(10, plane.toObject(text.position()), writer);
+    writer.real(40, text.height());
+    writer.text(1, m_codePage.encode(text.textStringConst()));
+    writeRealUnless(0, 50, degrees(text.rotation()), writer);
+    writeRealUnless(1, 41, text.widthFactor(), writer);
+    writeRealUnless(0, 51, degrees(text.oblique()), writer);
+    if (!text.textStyle().isNull())
+    {
+        writer.text(7, nameOf(text.textStyle().stub()));
+    }
+    if (text.horizontalMode() != AcDb::kTextLeft)
+    {
+        writer.integer(72, text.horizontalMode());
+    }
+    if (text.horizontalMode() != AcDb::kTextLeft || text.verticalMode() != AcDb::kTextBase)
+    {
+        writePoint(11, plane.toObject(text.alignmentPoint()), writer);
+    }
+    writeNormal(text.normal(), writer);
+    writer.text(100, "AcDbText");
+    if (text.verticalMode() != AcDb::kTextBase)
+    {
+        writer.integer(73, text.verticalMode());
+    }
+}
+
+void EntityWriter::writePolyline(AcDb2dPolyline& polyline, TagWriter& writer)
+{
+    const LineStyle style = ObjectAccess::lineStyle(polyline);
+    writer.text(0, "POLYLINE");
+    writer.handle(5, ObjectAccess::stub(polyline)->handle);
+    writeCommon(style, writer);
+    writer.text(100, "AcDb2dPolyline");
+    writer.integer(66, 1);
+    writer.point(10, 0, 0, polyline.elevation());
+    writer.integer(70,
+                   (polyline.isClosed() ? 1 : 0) | (polyline.isLinetypeGenerationOn() ? 128 : 0));
+    writeRealUnless(0, 40, polyline.defStartWidth(), writer);
+    writeRealUnless(0, 41, polyline.defEndWidth(), writer);
+    writeNormal(polyline.normal(), writer);
+    for (const AcDb2dVertex* vertex : ObjectAccess::vertices(polyline))
+    {
+        writer.text(0, "VERTEX");
+        writer.handle(5, ObjectAccess::stub(*vertex)->handle);
+        writeCommon(ObjectAccess::lineStyle(*vertex), writer);
+        writer.text(100, "AcDbVertex");
+        writer.text(100, "AcDb2dVertex");
+        writePoint(10, vertex->position(), writer);
+        writer.integer(70, 0);
+    }
+    writer.text(0, "SEQEND");
+    writer.handle(5, ObjectAccess::seqEnd(polyline)->handle);
+    writer.handle(330, ObjectAccess::stub(polyline)->handle);
+    writer.text(100, "AcDbEntity");
+    writer.text(8, nameOf(style.layer));
+}
+}  // namespace host::dxf

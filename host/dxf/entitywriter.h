@@ -1,0 +1,50 @@
+// Entities as tags.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+
+#include "host/database/access.h"
+#include "host/dxf/codepage.h"
+#include "host/dxf/tagwriter.h"
+
+namespace host::dxf
+{
+// Writes the entities of one database in the R2000 form. Everything that lines of one style have in
+// common is put together once.
+class EntityWriter
+{
+public:
+    EntityWriter(DatabaseCore& core, const CodePage& codePage, const TagStyle& style);
+
+    // All entities made since the drawing was opened that belong to `owner` and are not erased.
+    void writeEntitiesOf(const AcDbStub* owner, TagWriter& writer);
+
+private:
+    struct LineText
+    {
+        std::string head;  // from the handle to the points
+        std::string tail;  // after them
+    };
+
+    void writeStub(const AcDbStub& stub, TagWriter& writer);
+    void writeLine(std::uint64_t handle, const double* points, const LineText& text,
+                   TagWriter& writer);
+    void writeText(const AcDbText& text, TagWriter& writer);
+    void writePolyline(AcDb2dPolyline& polyline, TagWriter& writer);
+
+    const LineText& lineText(std::uint32_t style);
+    LineText makeLineText(const LineStyle& style);
+    void writeCommon(const LineStyle& style, TagWriter& writer);
+    void writeReactors(const LineStyle& style, TagWriter& writer);
+    std::string nameOf(const AcDbStub* record) const;
+
+    DatabaseCore& m_core;
+    const CodePage& m_codePage;
+    const TagStyle m_style;
+    std::unordered_map<std::uint32_t, LineText> m_lineTexts;
+};
+
+// 210, 220, 230 when the entity does not lie in a plane parallel to the world's.
+void writeNormal(const AcGeVector3d& normal, TagWriter& writer);
+}  // namespace host::dxf

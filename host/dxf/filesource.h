@@ -1,0 +1,45 @@
+// What a database remembers of the file it was read from.
+#pragma once
+
+#include "host/database/core.h"
+#include "host/dxf/codepage.h"
+#include "host/dxf/tagfile.h"
+
+namespace host::dxf
+{
+struct LoadedLayer
+{
+    const Record* record;
+    AcDbLayerTableRecord* layer;
+    bool frozen, locked, off;
+};
+
+// The state as read, to tell what has changed since. Pointers into `file` stay good with it.
+struct FileSource : DrawingSource
+{
+    explicit FileSource(TagFile read)
+        : file(std::move(read)), codePage(file.version(), file.codePageName())
+    {
+    }
+
+    TagFile file;
+    CodePage codePage;
+    DrawingState state;
+    CurrentProperties current;
+    std::vector<LoadedLayer> layers;
+    const Record* viewport = nullptr;        // the first "*ACTIVE" one
+    const Record* rootDictionary = nullptr;  // of named objects
+    const Record* groupDictionary = nullptr;
+};
+
+inline FileSource& sourceOf(const DatabaseCore& core)
+{
+    return static_cast<FileSource&>(*core.source);
+}
+
+// Fills an empty database. Throws an Error for a file whose records do not make a drawing.
+void load(DatabaseCore& core, TagFile file);
+
+// Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
+void save(DatabaseCore& core, const std::string& path);
+}  // namespace host::dxf

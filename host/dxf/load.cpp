@@ -1,0 +1,253 @@
+#include <algorithm>
+#include <cmath>
+
+#include "host/database/access.h"
+#include "host/dxf/filesource.h"
+#include "host/dxf/loadstate.h"
+#include "host/runtime/foldcase.h"
+
+namespace host::dxf
+{
+namespace
+{
+// The tags of a record that is looked at as a whole.
+struct Fields
+{
+    std::wstring name;
+    int flags = 0;
+    int color = 7;
+    double size = 0;
+    double widthFactor = 1;
+    double oblique = 0;  // degrees
+};
+
+Fields fieldsOf(const FileSource& source, const Record& record)
+{
+    Fields fields;
+    for (const Tag& tag : source.file.tags(record))
+    {
+        switch (tag.code)
+        {
+            case 2:
+                fields.name = source.codePage.decode(tag.value);
+                break;
+            case 70:
+                fields.flags = int(source.file.integer(tag));
+                break;
+            case 62:
+                fields.color = int(source.file.integer(tag));
+                break;
+            case 40:
+                fields.size = source.file.real(tag);
+                break;
+            case 41:
+                fields.widthFactor = source.file.real(tag);
+                break;
+            case 50:
+                fields.oblique = source.file.real(tag);
+                break;
+            case 1001:  // what follows is an application's own
+                return fields;
+        }
+    }
+    return fields;
+}
+
+void loadLayer(DatabaseCore& core, FileSource& source, const Record& record)
+{
+    const Fields fields = fieldsOf(source, record);
+    auto* layer =
+        core.addLoadedRecord<AcDbLayerTableRecord>(core.layerTable, fields.name, record.handle);
+    const bool frozen = fields.flags & 1;
+    const bool locked = fields.flags & 4;
+    const bool off = fields.color < 0;
+    ObjectAccess::setLayerFlags({layer, frozen, locked, off});
+    source.layers.push_back({&record, layer, frozen, locked, off});
+}
+
+void loadTextStyle(DatabaseCore& core, const FileSource& source, const Record& record)
+{
+    const Fields fields = fieldsOf(source, record);
+    auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, fields.name,
+                                                                 record.handle);
+    ObjectAccess::setTextStyle(*style, fields.oblique * M_PI / 180, fields.widthFactor,
+                               fields.size);
+}
+
+void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record& record)
+{
+    const std::wstring name = fieldsOf(source, record).name;
+    auto* block = core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, name, record.handle);
+    if (equalNoCase(name, ACDB_MODEL_SPACE))
+    {
+        core.modelSpace = ObjectAccess::stub(*block);
+    }
+}
+
+template <class Table>
+AcDbStub* makeTable(DatabaseCore& core, const FileSource& source, std::string_view recordType)
+{
+    for (const Record& record : source.file.records("TABLES"))
+    {
+        if (source.file.typeName(record) == "TABLE")
+        {
+            for (const Tag& tag : source.file.tags(record))
+            {
+                if (tag.code == 2 && trimmed(tag.value) == recordType)
+                {
+                    return core.addLoaded(new Table(), nullptr, record.handle);
+                }
+            }
+        }
+    }
+    return core.addLoaded(new Table(), nullptr, 0);
+}
+
+void loadTables(DatabaseCore& core, FileSource& source)
+{
+    core.blockTable = makeTable<AcDbBlockTable>(core, source, "BLOCK_RECORD");
+    core.layerTable = makeTable<AcDbLayerTable>(core, source, "LAYER");
+    core.linetypeTable = makeTable<AcDbLinetypeTable>(core, source, "LTYPE");
+    core.textStyleTable = makeTable<AcDbTextStyleTable>(core, source, "STYLE");
+    for (const Record& record : source.file.records("TABLES"))
+    {
+        const std::string_view type = source.file.typeName(record);
+        if (type == "LAYER")
+        {
+            loadLayer(core, source, record);
+        }
+        else if (type == "LTYPE")
+        {
+            core.addLoadedRecord<AcDbLinetypeTableRecord>(
+                core.linetypeTable, fieldsOf(source, record).name, record.handle);
+        }
+        else if (type == "STYLE")
+        {
+            loadTextStyle(core, source, record);
+        }
+        else if (type == "BLOCK_RECORD")
+        {
+            loadBlockRecord(core, source, record);
+        }
+        else if (type == "VPORT" && source.viewport == nullptr &&
+                 equalNoCase(fieldsOf(source, record).name, L"*ACTIVE"))
+        {
+            source.viewport = &record;
+        }
+    }
+}
+
+// Every drawing has these, written down or not.
+template <class Record>
+AcDbStub* recordOrOwn(DatabaseCore& core, AcDbStub* table, const std::wstring& name)
+{
+    AcDbObjectId id;
+    static_cast<AcDbSymbolTable*>(table->object)->getAt(name.c_str(), id);
+    if (!id.isNull())
+    {
+        return id.stub();
+    }
+    return ObjectAccess::stub(*core.addLoadedRecord<Record>(table, name, 0));
+}
+
+void completeTables(DatabaseCore& core, const FileSource& source)
+{
+    if (core.modelSpace == nullptr)
+    {
+        source.file.refuse(1, "a BLOCK_RECORD named *Model_Space in TABLES", "none");
+    }
+    recordOrOwn<AcDbLayerTableRecord>(core, core.layerTable, L"0");
+    recordOrOwn<AcDbTextStyleTableRecord>(core, core.textStyleTable, L"Standard");
+    for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
+    {
+        recordOrOwn<AcDbLinetypeTableRecord>(core, core.linetypeTable, name);
+    }
+}
+
+const Record* objectWithHandle(const TagFile& file, std::uint64_t handle)
+{
+    const auto records = file.records("OBJECTS");
+    const auto found = std::find_if(records.begin(), records.end(),
+                                    [handle](const Record& r) { return r.handle == handle; });
+    return found != records.end() && handle != 0 ? &*found : nullptr;
+}
+
+// Calls take(key, handle) for every entry.
+template <class Take>
+void forEachEntry(const FileSource& source, const Record& dictionary, Take take)
+{
+    std::wstring key;
+    for (const Tag& tag : source.file.tags(dictionary))
+    {
+        if (tag.code == 3)
+        {
+            key = source.codePage.decode(tag.value);
+        }
+        else if (!key.empty() && (tag.code == 350 || tag.code == 360))
+        {
+            take(key, source.file.handle(tag));
+            key.clear();
+        }
+    }
+}
+
+void loadGroupDictionary(DatabaseCore& core, FileSource& source)
+{
+    for (const Record& record : source.file.records("OBJECTS"))
+    {
+        if (source.rootDictionary == nullptr && source.file.typeName(record) == "DICTIONARY")
+        {
+            source.rootDictionary = &record;  // the first one holds all others
+        }
+    }
+    if (source.rootDictionary != nullptr)
+    {
+        forEachEntry(source, *source.rootDictionary,
+                     [&source](const std::wstring& key, std::uint64_t handle)
+                     {
+                         if (key == L"ACAD_GROUP")
+                         {
+                             source.groupDictionary = objectWithHandle(source.file, handle);
+                         }
+                     });
+    }
+    auto* dictionary = new AcDbDictionary();
+    const Record* record = source.groupDictionary;
+    core.groupDictionary =
+        core.addLoaded(dictionary, nullptr, record != nullptr ? record->handle : 0);
+    if (record == nullptr)
+    {
+        return;
+    }
+    AcDbDictionary::Entries& entries = ObjectAccess::entries(*dictionary);
+    forEachEntry(source, *record,
+                 [&](const std::wstring& key, std::uint64_t handle)
+                 {
+                     entries.entries.push_back({key, core.addForeign(handle), true});
+                     if (key.size() > 2 && key.compare(0, 2, L"*A") == 0)
+                     {
+                         const unsigned long number = std::wcstoul(key.c_str() + 2, nullptr, 10);
+                         entries.lastAnonymous = std::max(entries.lastAnonymous, unsigned(number));
+                     }
+                 });
+}
+}  // namespace
+
+void load(DatabaseCore& core, TagFile file)
+{
+    auto owned = std::make_unique<FileSource>(std::move(file));
+    FileSource& source = *owned;
+    core.source = std::move(owned);
+    if (source.file.highestHandle() > highestUsableHandle)
+    {
+        source.file.refuse(1, "handles that leave room for new objects", "one above all others");
+    }
+    core.nextHandle = source.file.highestHandle() + 1;
+    loadTables(core, source);
+    completeTables(core, source);
+    loadGroupDictionary(core, source);
+    loadState(core, source);
+    source.state = core.state;
+    source.current = core.current;
+}
+}  // namespace host::dxf

@@ -1,0 +1,303 @@
+#include <algorithm>
+#include <map>
+
+#include "host/database/access.h"
+#include "host/database/drawing.h"
+#include "host/dxf/entitywriter.h"
+#include "host/dxf/filesource.h"
+#include "host/dxf/save_atomic.h"
+#include "host/dxf/savestate.h"
+#include "host/runtime/foldcase.h"
+
+namespace host::dxf
+{
+namespace
+{
+// The value of the record's first tag with that code; the tag is added if there is none.
+void setInteger(Edits& edits, const Record& record, int code, int value)
+{
+    for (const Tag& tag : edits.file().tags(record))
+    {
+        if (tag.code == code)
+        {
+            edits.setValue(tag, std::to_string(value));
+            return;
+        }
+    }
+    edits.insert(record.end, [=](TagWriter& writer) { writer.integer(code, value); });
+}
+
+int firstInteger(const TagFile& file, const Record& record, int code, int fallback)
+{
+    for (const Tag& tag : file.tags(record))
+    {
+        if (tag.code == code)
+        {
+            return int(file.integer(tag));
+        }
+    }
+    return fallback;
+}
+
+void saveLayers(Edits& edits, const FileSource& source)
+{
+    for (const LoadedLayer& loaded : source.layers)
+    {
+        const AcDbLayerTableRecord& layer = *loaded.layer;
+        if (layer.isFrozen() != loaded.frozen || layer.isLocked() != loaded.locked)
+        {
+            const int others = firstInteger(source.file, *loaded.record, 70, 0) & ~5;
+            setInteger(edits, *loaded.record, 70,
+                       others | (layer.isFrozen() ? 1 : 0) | (layer.isLocked() ? 4 : 0));
+        }
+        if (layer.isOff() != loaded.off)
+        {
+            const int color = std::abs(firstInteger(source.file, *loaded.record, 62, 7));
+            setInteger(edits, *loaded.record, 62, layer.isOff() ? -color : color);
+        }
+    }
+}
+
+// New entities of the spaces stand in ENTITIES, those of another block before its end.
+std::size_t placeFor(const FileSource& source, const AcDbStub* owner)
+{
+    const std::wstring name = recordName(AcDbObjectId(const_cast<AcDbStub*>(owner)));
+    if (name.empty() || name[0] == L'*')
+    {
+        const Section* entities = source.file.section("ENTITIES");
+        return entities != nullptr ? entities->end : source.file.eofOffset();
+    }
+    bool inBlock = false;
+    for (const Record& record : source.file.records("BLOCKS"))
+    {
+        const std::string_view type = source.file.typeName(record);
+        if (type == "ENDBLK" && inBlock)
+        {
+            return record.begin;
+        }
+        if (type == "BLOCK")
+        {
+            for (const Tag& tag : source.file.tags(record))
+            {
+                inBlock |= tag.code == 2 && equalNoCase(source.codePage.decode(tag.value), name);
+            }
+        }
+    }
+    source.file.refuse(1, "a block for the new entities", "none of that name");
+}
+
+std::vector<const AcDbStub*> ownersOfNewEntities(const DatabaseCore& core)
+{
+    std::vector<const AcDbStub*> owners;
+    std::uint32_t lastStyle = UINT32_MAX;  // packed lines of one style have one owner
+    for (std::size_t i = 0; i < core.stubs.size(); ++i)
+    {
+        const AcDbStub& stub = core.stubs[i];
+        if (stub.erased() || (stub.packed() && stub.style == lastStyle))
+        {
+            continue;
+        }
+        lastStyle = stub.packed() ? stub.style : lastStyle;
+        const AcDbStub* owner = ownerOf(&stub);
+        if (owner != nullptr && typeOf(owner) == AcDbBlockTableRecord::desc() &&
+            std::find(owners.begin(), owners.end(), owner) == owners.end())
+        {
+            owners.push_back(owner);
+        }
+    }
+    return owners;
+}
+
+void inSection(TagWriter& writer, std::string_view name, const Producer& contents)
+{
+    writer.text(0, "SECTION");
+    writer.text(2, name);
+    contents(writer);
+    writer.text(0, "ENDSEC");
+}
+
+void saveEntities(Edits& edits, DatabaseCore& core, EntityWriter& entities)
+{
+    const FileSource& source = sourceOf(core);
+    for (const AcDbStub* owner : ownersOfNewEntities(core))
+    {
+        const std::size_t place = placeFor(source, owner);
+        const Producer produce = [&entities, owner](TagWriter& writer)
+        { entities.writeEntitiesOf(owner, writer); };
+        if (place == source.file.eofOffset())
+        {
+            edits.insert(place,
+                         [produce](TagWriter& writer) { inSection(writer, "ENTITIES", produce); });
+            continue;
+        }
+        edits.insert(place, produce);
+    }
+}
+
+void writeGroup(const AcDbDictionary::Entries::Entry& entry, std::uint64_t dictionary,
+                const CodePage& codePage, TagWriter& writer)
+{
+    const AcDbGroup::Members& members =
+        ObjectAccess::members(*static_cast<AcDbGroup*>(entry.stub->object));
+    writer.text(0, "GROUP");
+    writer.handle(5, entry.stub->handle);
+    writer.text(102, "{ACAD_REACTORS");
+    writer.handle(330, dictionary);
+    writer.text(102, "}");
+    writer.handle(330, dictionary);
+    writer.text(100, "AcDbGroup");
+    writer.text(300, codePage.encode(members.description));
+    writer.integer(70, members.anonymous ? 1 : 0);
+    writer.integer(71, members.selectable ? 1 : 0);
+    for (const AcDbStub* member : members.stubs)
+    {
+        if (!member->erased())
+        {
+            writer.handle(340, member->handle);
+        }
+    }
+}
+
+typedef std::vector<AcDbDictionary::Entries::Entry> NewGroups;
+
+NewGroups newGroups(const DatabaseCore& core)
+{
+    NewGroups groups;
+    for (const auto& entry :
+         ObjectAccess::entries(*static_cast<AcDbDictionary*>(core.groupDictionary->object)).entries)
+    {
+        if (!entry.loaded && !entry.stub->erased())
+        {
+            groups.push_back(entry);
+        }
+    }
+    return groups;
+}
+
+// Where a new entry goes: after the last tag that is not an application's own data.
+std::size_t endOfEntries(const TagFile& file, const Record& dictionary)
+{
+    for (const Tag& tag : file.tags(dictionary))
+    {
+        if (tag.code == 1001)
+        {
+            return tag.begin;
+        }
+    }
+    return dictionary.end;
+}
+
+void writeEntry(std::string_view key, std::uint64_t handle, TagWriter& writer)
+{
+    writer.text(3, key);
+    writer.handle(350, handle);
+}
+
+void writeDictionary(std::uint64_t handle, std::uint64_t owner, const Producer& entries,
+                     TagWriter& writer)
+{
+    writer.text(0, "DICTIONARY");
+    writer.handle(5, handle);
+    if (owner != 0)
+    {
+        writer.text(102, "{ACAD_REACTORS");
+        writer.handle(330, owner);
+        writer.text(102, "}");
+    }
+    writer.handle(330, owner);
+    writer.text(100, "AcDbDictionary");
+    writer.integer(281, 1);
+    entries(writer);
+}
+
+// Groups need the group dictionary, and that the root dictionary; what the file lacks is made.
+void saveGroups(Edits& edits, DatabaseCore& core)
+{
+    FileSource& source = sourceOf(core);
+    const NewGroups groups = newGroups(core);
+    if (groups.empty())
+    {
+        return;
+    }
+    AcDbStub* dictionary = core.groupDictionary;
+    if (dictionary->handle == 0)
+    {
+        dictionary->handle = core.nextHandle++;
+    }
+    const CodePage& codePage = source.codePage;
+    const std::uint64_t own = dictionary->handle;
+    const Producer entries = [&codePage, groups](TagWriter& writer)
+    {
+        for (const auto& group : groups)
+        {
+            writeEntry(codePage.encode(group.key), group.stub->handle, writer);
+        }
+    };
+    const std::uint64_t root =
+        source.rootDictionary != nullptr ? source.rootDictionary->handle : core.nextHandle++;
+    const bool isNew = source.groupDictionary == nullptr;
+    const Producer objects = [&codePage, groups, own, root, isNew, entries](TagWriter& writer)
+    {
+        if (isNew)
+        {
+            writeDictionary(own, root, entries, writer);
+        }
+        for (const auto& group : groups)
+        {
+            writeGroup(group, own, codePage, writer);
+        }
+    };
+    const Producer rootEntry = [own](TagWriter& writer) { writeEntry("ACAD_GROUP", own, writer); };
+    if (!isNew)
+    {
+        edits.insert(endOfEntries(source.file, *source.groupDictionary), entries);
+    }
+    else if (source.rootDictionary != nullptr)
+    {
+        edits.insert(endOfEntries(source.file, *source.rootDictionary), rootEntry);
+    }
+    if (source.rootDictionary != nullptr)
+    {
+        edits.insert(source.file.section("OBJECTS")->end, objects);
+        return;
+    }
+    const Producer all = [=](TagWriter& writer)
+    {
+        writeDictionary(root, 0, rootEntry, writer);
+        objects(writer);
+    };
+    const Section* section = source.file.section("OBJECTS");
+    if (section != nullptr)
+    {
+        edits.insert(section->end, all);
+        return;
+    }
+    edits.insert(source.file.eofOffset(),
+                 [all](TagWriter& writer) { inSection(writer, "OBJECTS", all); });
+}
+
+// The seed goes up with the objects that are saved, so a drawing left as it was stays so.
+void saveHandleSeed(Edits& edits, const DatabaseCore& core)
+{
+    if (ownersOfNewEntities(core).empty() && newGroups(core).empty())
+    {
+        return;
+    }
+    const std::uint64_t seed = core.nextHandle;
+    edits.setHeader("$HANDSEED", [seed](TagWriter& writer) { writer.handle(5, seed); });
+}
+}  // namespace
+
+void save(DatabaseCore& core, const std::string& path)
+{
+    const FileSource& source = sourceOf(core);
+    Edits edits(source.file);
+    EntityWriter entities(core, source.codePage, source.file.style());
+    saveLayers(edits, source);
+    saveEntities(edits, core, entities);
+    saveGroups(edits, core);
+    saveState(edits, core);
+    saveHandleSeed(edits, core);
+    saveAtomically(path, edits);
+}
+}  // namespace host::dxf

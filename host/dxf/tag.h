@@ -1,0 +1,113 @@
+// A tag of a DXF file: a group code and its value, a line each.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <iterator>
+#include <string_view>
+
+namespace host::dxf
+{
+struct Tag
+{
+    int code;
+    std::string_view value;  // the file's bytes, blanks kept, without the line ending
+    std::size_t begin;       // offset of the group code's line
+    std::size_t end;         // offset after the value's line
+    std::uint32_t line;      // of the group code, from 1; the value is on the next
+};
+
+// How a file writes its tags, so that new ones look like their neighbours.
+struct TagStyle
+{
+    std::string_view newline = "\n";
+    int codeWidth = 3;         // group codes are padded with blanks on the left to this, 1 to 6
+    bool padIntegers = false;  // so are integers, to the width of their kind
+};
+
+inline std::string_view trimmed(std::string_view value)
+{
+    const std::size_t first = value.find_first_not_of(" \t");
+    if (first == value.npos)
+        return {};
+    return value.substr(first, value.find_last_not_of(" \t") - first + 1);
+}
+
+// The tags of a range of bytes that holds whole, well-formed tags and nothing else; a TagFile
+// gives no others.
+class Tags
+{
+public:
+    class Iterator
+    {
+    public:
+        using value_type = Tag;
+        using difference_type = std::ptrdiff_t;
+
+        Iterator(const char* file, const char* at, const char* end, std::uint32_t line)
+            : m_file(file), m_at(at), m_end(end), m_line(line)
+        {
+            readTag();
+        }
+        const Tag& operator*() const { return m_tag; }
+        const Tag* operator->() const { return &m_tag; }
+        Iterator& operator++()
+        {
+            m_at = m_file + m_tag.end;
+            m_line += 2;
+            readTag();
+            return *this;
+        }
+        void operator++(int) { ++*this; }
+        bool operator==(std::default_sentinel_t) const { return m_at == m_end; }
+
+    private:
+        void readTag();
+
+        const char* m_file;
+        const char* m_at;
+        const char* m_end;
+        std::uint32_t m_line;
+        Tag m_tag{};
+    };
+
+    Tags(const char* file, std::size_t begin, std::size_t end, std::uint32_t line)
+        : m_file(file), m_begin(begin), m_end(end), m_line(line)
+    {
+    }
+    Iterator begin() const { return {m_file, m_file + m_begin, m_file + m_end, m_line}; }
+    std::default_sentinel_t end() const { return {}; }
+
+private:
+    const char* m_file;
+    std::size_t m_begin;
+    std::size_t m_end;
+    std::uint32_t m_line;
+};
+
+inline void Tags::Iterator::readTag()
+{
+    if (m_at == m_end)
+        return;
+
+    const char* p = m_at;
+    while (*p == ' ' || *p == '\t')
+        ++p;
+    int code = 0;
+    for (; *p >= '0' && *p <= '9'; ++p)
+        code = code * 10 + (*p - '0');
+    while (*p++ != '\n')
+    {
+    }
+    const char* lineEnd = static_cast<const char*>(std::memchr(p, '\n', m_end - p));
+    const char* valueEnd = lineEnd > p && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
+    m_tag = {
+        code,
+        {p, static_cast<std::size_t>(valueEnd - p)},
+        static_cast<std::size_t>(m_at - m_file),
+        static_cast<std::size_t>(lineEnd + 1 - m_file),
+        m_line
+    };
+}
+}  // namespace host::dxf

@@ -1,0 +1,154 @@
+#include "host/dxf/tagfile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <cmath>
+
+#include "host/dxf/tagscanner.h"
+
+namespace host::dxf
+{
+namespace
+{
+[[noreturn]] void fail(const std::string& path, const std::string& what)
+{
+    throw Error(path + ": " + what);
+}
+
+struct Descriptor
+{
+    ~Descriptor() { ::close(number); }
+    int number;
+};
+
+// Reads up to `size` bytes; fewer if the file ends before.
+std::size_t readFully(const Descriptor& file, char* bytes, std::size_t size,
+                      const std::string& path)
+{
+    std::size_t done = 0;
+    while (done < size)
+    {
+        const ssize_t got = ::read(file.number, bytes + done, size - done);
+        if (got == 0)
+            break;
+        if (got > 0)
+            done += got;
+        else if (errno != EINTR)
+            fail(path, std::string("cannot be read: ") + std::strerror(errno));
+    }
+    return done;
+}
+
+template <class Number, class... Base>
+bool parse(std::string_view value, Number& number, Base... base)
+{
+    value = trimmed(value);
+    const char* end = value.data() + value.size();
+    const auto result = std::from_chars(value.data(), end, number, base...);
+    return result.ec == std::errc() && result.ptr == end;
+}
+
+// One line, whatever the file holds there.
+std::string quoted(std::string_view value)
+{
+    constexpr std::size_t longest = 40;
+    std::string text(value.substr(0, longest));
+    std::ranges::replace_if(
+        text, [](unsigned char c) { return c < ' ' || c > '~'; }, '?');
+    return '"' + text + (value.size() > longest ? "...\"" : "\"");
+}
+}  // namespace
+
+// The file is copied, not mapped: another program that writes it meanwhile must not change the
+// drawing under our feet.
+TagFile TagFile::read(const std::string& path)
+{
+    // Not to hang at a pipe that nobody writes to.
+    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
+    struct stat status;
+    if (file.number < 0 || ::fstat(file.number, &status) != 0)
+        fail(path, std::string("cannot be opened: ") + std::strerror(errno));
+    if (S_ISDIR(status.st_mode))
+        fail(path, "expected a file, found a directory");
+    if (!S_ISREG(status.st_mode))
+        fail(path, "expected a file, found a device or pipe");
+
+    auto bytes = std::make_unique_for_overwrite<char[]>(status.st_size + 1);
+    const std::size_t size = readFully(file, bytes.get(), status.st_size, path);
+    return TagFile(path, std::move(bytes), size);
+}
+
+TagFile TagFile::fromText(std::string_view text, std::string name)
+{
+    auto bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
+    text.copy(bytes.get(), text.size());
+    return TagFile(std::move(name), std::move(bytes), text.size());
+}
+
+TagFile::TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size)
+    : m_name(std::move(name)), m_bytes(std::move(bytes)), m_size(size)
+{
+    m_bytes[size] = '\n';
+    TagFileScanner(*this).scan();
+}
+
+const Section* TagFile::section(std::string_view name) const
+{
+    const auto found = std::ranges::find(m_sections, name, &Section::name);
+    return found == m_sections.end() ? nullptr : &*found;
+}
+
+std::span<const Record> TagFile::records(std::string_view name) const
+{
+    const Section* found = section(name);
+    return found ? records().subspan(found->firstRecord, found->recordCount)
+                 : std::span<const Record>();
+}
+
+const HeaderVariable* TagFile::header(std::string_view name) const
+{
+    const auto found = std::find_if(m_header.rbegin(), m_header.rend(),
+                                    [&](const HeaderVariable& v) { return v.name == name; });
+    return found == m_header.rend() ? nullptr : &*found;
+}
+
+double TagFile::real(const Tag& tag) const
+{
+    double number;
+    if (!parse(tag.value, number) || !std::isfinite(number))
+        refuseValue(tag, "a number");
+    return number;
+}
+
+std::int64_t TagFile::integer(const Tag& tag) const
+{
+    std::int64_t number;
+    if (!parse(tag.value, number))
+        refuseValue(tag, "an integer");
+    return number;
+}
+
+std::uint64_t TagFile::handle(const Tag& tag) const
+{
+    std::uint64_t number;
+    if (trimmed(tag.value).size() > 16 || !parse(tag.value, number, 16))
+        refuseValue(tag, "a handle of 1 to 16 hexadecimal digits");
+    return number;
+}
+
+void TagFile::refuse(std::uint32_t line, std::string_view expected, std::string_view found) const
+{
+    fail(m_name, "line " + std::to_string(line) + ": expected " + std::string(expected) +
+                     ", found " + std::string(found));
+}
+
+void TagFile::refuseValue(const Tag& tag, std::string_view expected) const
+{
+    refuse(tag.line + 1, expected, quoted(tag.value));
+}
+}  // namespace host::dxf

@@ -1,0 +1,257 @@
+#include "host/dxf/tagscanner.h"
+
+#include <algorithm>
+
+#include "host/dxf/codepage.h"
+
+namespace host::dxf
+{
+namespace
+{
+struct Release
+{
+    std::string_view version;
+    std::string_view name;
+    bool readable;
+};
+
+constexpr Release releases[] = {
+    {"AC1006", "R10",   false},
+    {"AC1009", "R12",   false},
+    {"AC1012", "R13",   false},
+    {"AC1014", "R14",   false},
+    {"AC1015", "R2000", true },
+    {"AC1018", "R2004", true },
+    {"AC1021", "R2007", true },
+    {"AC1024", "R2010", true },
+    {"AC1027", "R2013", true },
+    {"AC1032", "R2018", true },
+};
+constexpr std::string_view readableVersions = "version AC1015 (R2000) to AC1032 (R2018)";
+
+bool holdsRecords(std::string_view section)
+{
+    return section == "TABLES" || section == "BLOCKS" || section == "ENTITIES" ||
+           section == "OBJECTS";
+}
+}  // namespace
+
+TagFileScanner::TagFileScanner(TagFile& file) : m_file(file), m_reader(file)
+{
+    file.m_records.reserve(file.m_size / 100);  // costs nothing until it is used
+}
+
+void TagFileScanner::scan()
+{
+    refuseOtherFormats();
+    for (m_reader.nextButComments(); !m_reader.is("EOF"); m_reader.nextButComments())
+    {
+        if (!m_reader.is("SECTION"))
+            m_reader.refuse("SECTION or EOF");
+        readSection();
+    }
+    m_file.m_eofOffset = m_tag.begin;
+    requireVersion();
+    requireNothingAfterEof();
+    requireUniqueHandles();
+}
+
+void TagFileScanner::refuseOtherFormats() const
+{
+    const std::string_view bytes = m_file.bytes();
+    if (bytes.empty())
+        m_file.refuse(1, "a DXF drawing", "an empty file");
+    if (bytes.starts_with("AutoCAD Binary DXF"))
+        m_file.refuse(1, "an ASCII DXF drawing", "a binary one");
+    if (bytes.starts_with("AC10"))
+        m_file.refuse(1, "a DXF drawing", "a DWG");
+}
+
+void TagFileScanner::readSection()
+{
+    if (m_file.m_sections.empty())
+        takeStyle();
+    m_reader.nextButComments();
+    const std::string_view name = trimmed(m_tag.value);
+    if (m_tag.code != 2)
+        m_reader.refuse("the section's name (group code 2)");
+    if (m_file.section(name))
+        m_reader.refuse("a section that was not there before");
+    if (holdsRecords(name))
+        requireVersion();
+
+    m_file.m_sections.push_back(
+        {name, m_tag.end, 0, m_reader.nextLine(), m_file.m_records.size(), 0});
+    if (name == "HEADER")
+        readHeader();
+    else if (holdsRecords(name))
+        readRecords();
+    else
+        skipContents();
+
+    Section& section = m_file.m_sections.back();
+    section.end = m_tag.begin;
+    section.recordCount = m_file.m_records.size() - section.firstRecord;
+}
+
+void TagFileScanner::readHeader()
+{
+    std::vector<HeaderVariable>& variables = m_file.m_header;
+    for (m_reader.nextButComments(); m_tag.code != 0; m_reader.nextButComments())
+    {
+        if (m_tag.code == 9)
+        {
+            variables.push_back({trimmed(m_tag.value), m_tag.end, m_tag.end, m_reader.nextLine()});
+            continue;
+        }
+        if (variables.empty())
+            m_reader.refuse("a variable's name (group code 9)");
+        variables.back().end = m_tag.end;
+        readHeaderValue(variables.back().name);
+    }
+    if (!m_reader.is("ENDSEC"))
+        m_reader.refuse("ENDSEC");
+    requireKnownCodePage();
+}
+
+void TagFileScanner::readHeaderValue(std::string_view variable)
+{
+    if (variable == "$ACADVER")
+        takeVersion();
+    else if (variable == "$DWGCODEPAGE")
+        m_file.m_codePage = trimmed(m_tag.value);
+    else if (70 <= m_tag.code && m_tag.code < 80 && m_tag.value.starts_with(' '))
+        m_file.m_style.padIntegers = true;
+}
+
+void TagFileScanner::readRecords()
+{
+    m_reader.nextButComments();
+    if (m_tag.code != 0)
+        m_reader.refuse("a record (group code 0)");
+    while (!m_reader.is("ENDSEC"))
+        readRecord();
+}
+
+// From its first tag to the next record's, which is the current one afterwards.
+void TagFileScanner::readRecord()
+{
+    if (m_reader.is("SECTION") || m_reader.is("EOF"))
+        m_reader.refuse("ENDSEC");
+    const std::string_view type = trimmed(m_tag.value);
+    if (type.empty())
+        m_reader.refuse("a record's type");
+    Record record{m_tag.begin, 0, 0, m_tag.line, typeIndex(type)};
+    record.handle = readHandle(type == "DIMSTYLE" ? 105 : 5);
+    m_reader.skipTo(0);
+    record.end = m_tag.begin;
+    m_file.m_records.push_back(record);
+    m_file.m_highestHandle = std::max(m_file.m_highestHandle, record.handle);
+}
+
+// The handle stands before the record's own data. What has its code there is something else: the
+// sort handles of a SORTENTSTABLE, or anything in an XRECORD or between the braces of a group 102.
+// Returns 0 if there is none.
+std::uint64_t TagFileScanner::readHandle(int handleCode)
+{
+    bool inBraces = false;
+    for (m_reader.next(); m_tag.code != 0 && m_tag.code != 100; m_reader.next())
+    {
+        if (m_tag.code == 102)
+            inBraces = trimmed(m_tag.value).starts_with('{');
+        else if (m_tag.code == handleCode && !inBraces)
+            break;
+    }
+    if (m_tag.code != handleCode)
+        return 0;
+    const std::uint64_t handle = m_file.handle(m_tag);
+    if (handle == 0)
+        m_file.refuseValue(m_tag, "a handle that is not zero");
+    return handle;
+}
+
+void TagFileScanner::skipContents()
+{
+    do
+        m_reader.next();
+    while (!m_reader.is("ENDSEC") && !m_reader.is("SECTION") && !m_reader.is("EOF"));
+    if (!m_reader.is("ENDSEC"))
+        m_reader.refuse("ENDSEC");
+}
+
+// From the first tag of the first section, whose code has one digit.
+void TagFileScanner::takeStyle()
+{
+    const std::string_view bytes = m_file.bytes();
+    const std::size_t lineEnd = bytes.find('\n', m_tag.begin);
+    const bool crLf = bytes[lineEnd - 1] == '\r';
+    const std::size_t width = lineEnd - crLf - m_tag.begin;
+    m_file.m_style.newline = crLf ? "\r\n" : "\n";
+    m_file.m_style.codeWidth = static_cast<int>(std::min<std::size_t>(width, 6));
+}
+
+void TagFileScanner::takeVersion()
+{
+    m_file.m_version = trimmed(m_tag.value);
+    const auto release = std::ranges::find(releases, m_file.m_version, &Release::version);
+    if (release == std::end(releases))
+        m_file.refuseValue(m_tag, readableVersions);
+    if (!release->readable)
+        m_file.refuse(m_tag.line + 1, readableVersions,
+                      std::string(release->version) + " (" + std::string(release->name) + ")");
+}
+
+void TagFileScanner::requireVersion() const
+{
+    if (m_file.m_version.empty())
+        m_reader.refuse("a HEADER with $ACADVER first");
+}
+
+void TagFileScanner::requireKnownCodePage() const
+{
+    if (CodePage::isKnown(m_file.m_version, m_file.m_codePage))
+        return;
+    const Tag tag = *m_file.tags(*m_file.header("$DWGCODEPAGE")).begin();
+    m_file.refuseValue(tag, "a known code page");
+}
+
+// A drawing is often followed by an empty line, by the old end mark Ctrl-Z, never by more.
+void TagFileScanner::requireNothingAfterEof() const
+{
+    if (m_reader.rest().find_first_not_of(" \t\r\n\x1a") != std::string_view::npos)
+        m_file.refuse(m_reader.nextLine(), "nothing after EOF", "more");
+}
+
+void TagFileScanner::requireUniqueHandles() const
+{
+    std::vector<std::uint64_t> handles;
+    handles.reserve(m_file.m_records.size());
+    for (const Record& record : m_file.m_records)
+        if (record.handle != 0)
+            handles.push_back(record.handle);
+    std::ranges::sort(handles);
+    const auto twice = std::ranges::adjacent_find(handles);
+    if (twice == handles.end())
+        return;
+
+    const auto& records = m_file.m_records;
+    const auto first = std::ranges::find(records, *twice, &Record::handle);
+    const auto second =
+        std::find_if(first + 1, records.end(), [&](const Record& r) { return r.handle == *twice; });
+    m_file.refuse(second->line, "a record with a handle of its own",
+                  "the handle of the one in line " + std::to_string(first->line));
+}
+
+std::uint32_t TagFileScanner::typeIndex(std::string_view name)
+{
+    if (name == m_lastType)
+        return m_lastTypeIndex;
+    const auto index = static_cast<std::uint32_t>(m_file.m_types.size());
+    const auto [found, isNew] = m_typeIndexes.try_emplace(name, index);
+    if (isNew)
+        m_file.m_types.push_back(name);
+    m_lastType = name;
+    m_lastTypeIndex = found->second;
+    return found->second;
+}
+}  // namespace host::dxf

@@ -1,0 +1,44 @@
+// Fills a TagFile from its bytes in one pass, or refuses them.
+#pragma once
+
+#include <unordered_map>
+
+#include "host/dxf/tagreader.h"
+
+namespace host::dxf
+{
+class TagFileScanner
+{
+public:
+    explicit TagFileScanner(TagFile& file);
+
+    void scan();  // throws Error
+
+private:
+    void refuseOtherFormats() const;
+    void readSection();
+    void readHeader();
+    void readHeaderValue(std::string_view variable);
+    void readRecords();
+    void readRecord();
+    std::uint64_t readHandle(int handleCode);
+    void skipContents();
+
+    void takeStyle();
+    void takeVersion();
+    void requireVersion() const;
+    void requireKnownCodePage() const;
+    void requireNothingAfterEof() const;
+    void requireUniqueHandles() const;
+
+    std::uint32_t typeIndex(std::string_view name);
+
+    TagFile& m_file;
+    TagReader m_reader;
+    const Tag& m_tag = m_reader.tag();
+
+    std::unordered_map<std::string_view, std::uint32_t> m_typeIndexes;
+    std::string_view m_lastType;  // most records are of the type of the one before
+    std::uint32_t m_lastTypeIndex = 0;
+};
+}  // namespace host::dxf

@@ -1,0 +1,60 @@
+// Writes tags, two million lines a drawing and no allocation a tag.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "host/dxf/tag.h"
+
+namespace host::dxf
+{
+// The shortest decimal that reads back as the same number, always with a point or an exponent:
+// "100.0", "-0.5", "1e+20". -0 is written as 0.0. Throws std::domain_error if it is not finite.
+std::string realText(double value);
+
+class TagWriter
+{
+public:
+    // Takes the bytes, about a megabyte at a time; may throw.
+    using Drain = std::function<void(std::string_view)>;
+
+    TagWriter(Drain drain, const TagStyle& style);
+    TagWriter(const TagWriter&) = delete;
+    TagWriter& operator=(const TagWriter&) = delete;
+
+    // Group codes are 0 to 1071.
+    void text(int code, std::string_view encoded);  // one line in the file's code page
+    void integer(int code, std::int64_t value);
+    void handle(int code, std::uint64_t value);          // hexadecimal capitals
+    void real(int code, double value);                   // as realText
+    void point(int code, double x, double y, double z);  // code, code + 10, code + 20
+    void point(int code, double x, double y);
+
+    void raw(std::string_view bytes);  // as they are
+
+    // To be called at the end; a writer that goes out of scope before has lost its last megabyte.
+    void flush();
+
+private:
+    struct CodeLine
+    {
+        char text[8];
+        unsigned char length;
+        unsigned char integerWidth;
+    };
+
+    char* begin(int code);
+    void end(char* at);
+    void copy(std::string_view bytes);
+
+    Drain m_drain;
+    std::string_view m_newline;
+    std::array<CodeLine, 1072> m_codes;
+    std::unique_ptr<char[]> m_buffer;
+    char* m_at;
+};
+}  // namespace host::dxf

@@ -1,0 +1,307 @@
+// Drawings through the database: opened, added to and saved.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "dbdict.h"
+#include "dbgroup.h"
+#include "dbobjptr.h"
+#include "host/database/undo.h"
+#include "host/dxf/emptydrawing.h"
+#include "host/dxf/tagfile.h"
+#include "tests/support/emptydrawing.h"
+
+namespace
+{
+namespace fs = std::filesystem;
+
+class Drawing : public testing::Test
+{
+protected:
+    Drawing() : path(fs::temp_directory_path() / ("drawing-" + std::to_string(getpid()) + ".dxf"))
+    {
+    }
+    ~Drawing() override { fs::remove(path); }
+
+    std::string saved(AcDbDatabase& database)
+    {
+        const auto error = host::saveDrawing(database, path);
+        EXPECT_FALSE(error) << *error;
+        std::ifstream file(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    }
+
+    // Opens a drawing made of the empty one with a text replaced.
+    std::unique_ptr<AcDbDatabase> changed(const std::string& from, const std::string& to)
+    {
+        std::string text = host::dxf::emptyDrawing();
+        const std::size_t at = text.find(from);
+        EXPECT_NE(at, text.npos) << from;
+        text.replace(at, from.size(), to);
+        return opened(text);
+    }
+
+    std::unique_ptr<AcDbDatabase> opened(const std::string& text)
+    {
+        std::ofstream(path, std::ios::binary) << text;
+        host::OpenedDrawing opened = host::openDrawing(path);
+        EXPECT_EQ(opened.error, "");
+        return std::move(opened.database);
+    }
+
+    AcDbGroup* makeGroup(AcDbDatabase& database)
+    {
+        AcDbDictionary* dictionary = nullptr;
+        database.getGroupDictionary(dictionary, AcDb::kForWrite);
+        auto* group = new AcDbGroup(L"*", true);
+        AcDbObjectId id;
+        dictionary->setAt(L"*", group, id);
+        dictionary->close();
+        return group;
+    }
+
+    const fs::path path;
+};
+
+std::size_t count(const std::string& text, const std::string& part)
+{
+    std::size_t found = 0;
+    for (std::size_t at = text.find(part); at != text.npos; at = text.find(part, at + 1))
+    {
+        ++found;
+    }
+    return found;
+}
+
+TEST_F(Drawing, savedAsItWasOpenedIsTheSameFile)
+{
+    EmptyDrawing drawing;
+    EXPECT_EQ(saved(drawing.database()), host::dxf::emptyDrawing());
+}
+
+TEST_F(Drawing, whatIsAddedAndTakenBackLeavesTheSameFile)
+{
+    EmptyDrawing drawing;
+    const host::UndoMark mark = host::undoMark(drawing.database());
+    drawing.addLine(0, 0, 1, 1);
+    makeGroup(drawing.database())->close();
+    host::undoTo(drawing.database(), mark);
+    EXPECT_EQ(saved(drawing.database()), host::dxf::emptyDrawing());
+}
+
+TEST_F(Drawing, aNewLineGetsAHandleAboveAllOthersAndTheSeedFollows)
+{
+    EmptyDrawing drawing;
+    const auto highest =
+        host::dxf::TagFile::fromText(host::dxf::emptyDrawing(), "empty").highestHandle();
+    drawing.addLine(0.5, 0, 1e-7, 12345678.25);
+    const auto file = host::dxf::TagFile::fromText(saved(drawing.database()), "saved");
+    ASSERT_EQ(file.records("ENTITIES").size(), 1u);
+    const host::dxf::Record& line = file.records("ENTITIES")[0];
+    EXPECT_EQ(file.typeName(line), "LINE");
+    EXPECT_GT(line.handle, highest);
+    const auto seed = *file.tags(*file.header("$HANDSEED")).begin();
+    EXPECT_GT(file.handle(seed), line.handle);
+    std::vector<double> reals;
+    for (const host::dxf::Tag& tag : file.tags(line))
+    {
+        if (tag.code >= 10 && tag.code < 40)
+        {
+            reals.push_back(file.real(tag));
+        }
+    }
+    EXPECT_EQ(reals, (std::vector<double>{0.5, 0, 0, 1e-7, 12345678.25, 0}));
+}
+
+TEST_F(Drawing, aGroupAndItsMembersNameEachOther)
+{
+    EmptyDrawing drawing;
+    AcDbGroup* group = makeGroup(drawing.database());
+    group->append(drawing.addLine(0, 0, 1, 1));
+    group->append(drawing.add(new AcDbText(AcGePoint3d(), L"a", AcDbObjectId::kNull, 1)));
+    group->close();
+    const std::string text = saved(drawing.database());
+    char handle[20];
+    std::snprintf(handle, sizeof handle, "%llX\n",
+                  static_cast<unsigned long long>(group->objectId().stub()->handle));
+    EXPECT_EQ(count(text, std::string("102\n{ACAD_REACTORS\n330\n") + handle), 2u);
+    EXPECT_EQ(count(text, std::string("  3\n*A1\n350\n") + handle), 1u);
+    EXPECT_EQ(count(text, "\n340\n"), count(host::dxf::emptyDrawing(), "\n340\n") + 2);
+}
+
+TEST_F(Drawing, anErasedGroupLeavesNoReactorBehind)
+{
+    EmptyDrawing drawing;
+    AcDbGroup* group = makeGroup(drawing.database());
+    group->append(drawing.addLine(0, 0, 1, 1));
+    group->erase();
+    group->close();
+    const std::string text = saved(drawing.database());
+    EXPECT_EQ(count(text, "*A1"), 0u);
+    EXPECT_EQ(count(text, "{ACAD_REACTORS"), count(host::dxf::emptyDrawing(), "{ACAD_REACTORS"));
+}
+
+TEST_F(Drawing, aLayerThatWasThawedUnlockedAndSwitchedOnIsSavedSo)
+{
+    std::string text = host::dxf::emptyDrawing();
+    const auto file = host::dxf::TagFile::fromText(text, "empty");
+    for (const host::dxf::Record& record : file.records("TABLES"))
+    {
+        if (file.typeName(record) != "LAYER")
+        {
+            continue;
+        }
+        std::string layer = text.substr(record.begin, record.end - record.begin);
+        layer.replace(layer.find("  5\n"),
+                      layer.find("\n", layer.find("  5\n") + 4) - layer.find("  5\n"), "  5\nABC");
+        layer.replace(layer.find("\n  2\n0\n"), 7, "\n  2\nother\n");
+        const auto set = [&layer](const std::string& code, const std::string& value)
+        {
+            const std::size_t at = layer.find("\n" + code + "\n") + code.size() + 2;
+            layer.replace(at, layer.find('\n', at) - at, value);
+        };
+        set(" 70", "69");
+        set(" 62", "-3");
+        text.insert(record.end, layer);
+        break;
+    }
+    const auto database = opened(text);
+    {
+        AcDbSymbolTableRecordPointer<AcDbLayerTableRecord> layer(L"OTHER", database.get(),
+                                                                 AcDb::kForWrite);
+        ASSERT_EQ(layer.openStatus(), Acad::eOk);
+        EXPECT_TRUE(layer->isFrozen() && layer->isLocked() && layer->isOff());
+        layer->setIsFrozen(false);
+        layer->setIsLocked(false);
+        layer->setIsOff(false);
+    }
+    const std::string after = saved(*database);
+    const std::size_t at = after.find("\n  2\nother\n");
+    EXPECT_EQ(after.find("\n 70\n64\n", at), at + 10 - 0) << after.substr(at, 60);
+    EXPECT_EQ(count(after, "\n 62\n-3\n"), 0u);
+}
+
+TEST_F(Drawing, currentPropertiesComeFromTheHeader)
+{
+    const auto database = changed("$CECOLOR\n 62\n256", "$CECOLOR\n 62\n3");
+    EXPECT_EQ(host::currentOf(*database).color, 3);
+    EXPECT_EQ(host::recordName(database->clayer()), L"0");
+    EXPECT_EQ(host::recordName(database->textstyle()), L"Standard");
+    EXPECT_EQ(host::recordName(database->celtype()), L"ByLayer");
+}
+
+TEST_F(Drawing, aViewThatWasTurnedIsSavedInTheViewportAndNothingElseChanges)
+{
+    EmptyDrawing drawing;
+    host::stateOf(drawing.database()).view.twist = 0.5235987755982988;
+    const std::string before = host::dxf::emptyDrawing();
+    const std::string after = saved(drawing.database());
+    EXPECT_EQ(count(after, "\n"), count(before, "\n"));
+    const auto database = opened(after);
+    EXPECT_NEAR(host::stateOf(*database).view.twist, 0.5235987755982988, 1e-15);
+}
+
+TEST_F(Drawing, aUcsThatWasSetIsReadBack)
+{
+    EmptyDrawing drawing;
+    AcGeMatrix3d matrix = AcGeMatrix3d::rotation(0.25, AcGeVector3d(1, 2, 3));
+    matrix.setTranslation(AcGeVector3d(5, 6, 7));
+    host::stateOf(drawing.database()).modelUcs.toWorld = matrix;
+    const auto database = opened(saved(drawing.database()));
+    const AcGeMatrix3d& read = host::stateOf(*database).modelUcs.toWorld;
+    for (int row = 0; row < 3; ++row)
+    {
+        for (int column = 0; column < 4; ++column)
+        {
+            EXPECT_NEAR(read.entry[row][column], matrix.entry[row][column], 1e-14);
+        }
+    }
+}
+
+TEST_F(Drawing, aVariableThatWasSetIsSavedUnderItsOwnCode)
+{
+    EmptyDrawing drawing;
+    host::stateOf(drawing.database()).variables[L"ELEVATION"] = 2.5;
+    const std::string after = saved(drawing.database());
+    EXPECT_EQ(count(after, "$ELEVATION\n 40\n2.5\n"), 1u);
+}
+
+TEST_F(Drawing, existingAnonymousGroupsAreCountedOn)
+{
+    std::string text = host::dxf::emptyDrawing();
+    const auto file = host::dxf::TagFile::fromText(text, "empty");
+    // The group dictionary is the one that the root names ACAD_GROUP.
+    const std::size_t name = text.find("ACAD_GROUP\n350\n");
+    const std::size_t end = text.find('\n', name + 15);
+    const std::string handle = text.substr(name + 15, end - name - 15);
+    for (const host::dxf::Record& record : file.records("OBJECTS"))
+    {
+        if (record.handle == std::stoull(handle, nullptr, 16))
+        {
+            text.insert(record.end, "  3\n*A7\n350\nFFFF\n");
+        }
+    }
+    const auto database = opened(text);
+    makeGroup(*database)->close();
+    EXPECT_EQ(count(saved(*database), "  3\n*A8\n350\n"), 1u);
+}
+
+TEST_F(Drawing, withoutAGroupDictionaryOneIsMade)
+{
+    const std::string name = "  3\nACAD_GROUP\n";
+    std::string text = host::dxf::emptyDrawing();
+    const std::size_t at = text.find(name);
+    const std::size_t end = text.find("  3\n", at + 1);
+    text.erase(at, end - at);
+    const auto database = opened(text);
+    makeGroup(*database)->close();
+    const std::string after = saved(*database);
+    EXPECT_EQ(count(after, name), 1u);
+    EXPECT_EQ(count(after, "  3\n*A1\n"), 1u);
+    const auto again = opened(after);
+    makeGroup(*again)->close();
+    EXPECT_EQ(count(saved(*again), "  3\n*A2\n"), 1u);
+}
+
+TEST_F(Drawing, aSeedThatLeavesNoRoomIsNotTrusted)
+{
+    const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\nFFFFFFFFFFFFFFFF");
+    EXPECT_EQ(database->core().nextHandle, 0x2Au);
+}
+
+TEST_F(Drawing, aSeedBelowTheHighestHandleIsNotTrusted)
+{
+    const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\n3");
+    EXPECT_EQ(database->core().nextHandle, 0x2Au);
+}
+
+TEST_F(Drawing, aSeedAboveTheHighestHandleIsKeptTo)
+{
+    const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\n1000");
+    EXPECT_EQ(database->core().nextHandle, 0x1000u);
+}
+
+TEST_F(Drawing, withoutModelSpaceIsRefusedInOneLine)
+{
+    std::string text = host::dxf::emptyDrawing();
+    for (std::size_t at; (at = text.find("*Model_Space")) != text.npos;)
+    {
+        text.replace(at, 12, "Other_Space_");
+    }
+    std::ofstream(path, std::ios::binary) << text;
+    const host::OpenedDrawing opened = host::openDrawing(path);
+    EXPECT_EQ(opened.database, nullptr);
+    EXPECT_NE(opened.error.find("*Model_Space"), std::string::npos);
+    EXPECT_EQ(count(opened.error, "\n"), 0u);
+}
+
+TEST_F(Drawing, aDrawingThatCannotBeSavedSaysWhy)
+{
+    EmptyDrawing drawing;
+    const auto error = host::saveDrawing(drawing.database(), "/nonexistent/folder/a.dxf");
+    ASSERT_TRUE(error);
+    EXPECT_NE(error->find("/nonexistent/folder/a.dxf"), std::string::npos);
+}
+}  // namespace
