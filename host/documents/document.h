@@ -1,0 +1,51 @@
+// An open drawing with what the editor keeps for it.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "acdocman.h"
+#include "dbmain.h"
+#include "host/database/undo.h"
+#include "host/documents/resourcestack.h"
+#include "host/documents/ucshistory.h"
+
+namespace host
+{
+// What a command found when it started; taking the command back returns to it.
+struct UndoStep
+{
+    std::wstring command;
+    UndoMark objects;
+    DrawingState state;
+    UcsHistory ucsHistory;
+};
+
+class Document final : public AcApDocument
+{
+public:
+    // An empty path: the drawing has no file yet.
+    Document(std::unique_ptr<AcDbDatabase> database, std::filesystem::path path);
+
+    AcDbDatabase* database() const override { return m_database.get(); }
+    const ACHAR* fileName() const override { return m_fileName.c_str(); }
+    AcAp::DocLockMode lockMode() const override;
+
+    const std::filesystem::path& path() const { return m_path; }
+    void setPath(std::filesystem::path path);
+
+    ResourceStack resources;
+    UcsHistory ucsHistory;
+    std::vector<UndoStep> undo;
+    AcGePoint3d lastPoint;     // WCS
+    bool blockEditor = false;  // a block is being edited
+    std::vector<AcAp::DocLockMode> locks;
+
+private:
+    std::unique_ptr<AcDbDatabase> m_database;
+    std::filesystem::path m_path;
+    std::wstring m_fileName;
+};
+}  // namespace host

@@ -1,0 +1,88 @@
+#include "acedads.h"
+#include "host/editor/hostcommands.h"
+#include "host/editor/prompts.h"
+#include "host/runtime/linker.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+// Nothing for Enter and for Esc. Quotes, as names with blanks have them, do not count.
+std::optional<std::filesystem::path> askFile(Editor& editor, const wchar_t* prompt)
+{
+    auto name = askLine(editor, Question::Kind::text, prompt);
+    if (name)
+    {
+        std::erase(*name, L'"');
+    }
+    return name && !name->empty() ? std::optional<std::filesystem::path>(toNativePath(*name))
+                                  : std::nullopt;
+}
+
+void printResult(Editor& editor, const Linker::Error& error, const std::filesystem::path& file,
+                 const wchar_t* done)
+{
+    editor.printLine(error ? fromUtf8(*error)
+                           : fromUtf8(file.filename().string()) + L" successfully " + done + L".");
+}
+
+void loadFile(Editor& editor)
+{
+    if (const auto file = askFile(editor, L"Enter ARX file name to load: "))
+    {
+        printResult(editor, linker().load(*file), *file, L"loaded");
+    }
+}
+
+void unloadFile(Editor& editor)
+{
+    if (const auto file = askFile(editor, L"Enter ARX file name to unload: "))
+    {
+        printResult(editor, linker().unload(*file), *file, L"unloaded");
+    }
+}
+
+// The commands of modules; the host's own are not among them.
+void listCommands(Editor& editor)
+{
+    bool any = false;
+    for (const CommandPtr& command : commandStack().all())
+    {
+        const CommandEntry& entry = command->entry();
+        if (entry.group != L"ACAD")
+        {
+            editor.printLine(entry.group + L": " + entry.globalName + L" (" + entry.localName +
+                             L")");
+            any = true;
+        }
+    }
+    if (!any)
+    {
+        editor.printLine(L"No module has registered a command.");
+    }
+}
+}  // namespace
+
+void arxCommand()
+{
+    Editor& editor = *Editor::current();
+    ACHAR option[133];
+    acedInitGet(0, L"Load Unload Commands");
+    if (acedGetKword(L"Enter an option [Load/Unload/Commands]: ", option) != RTNORM)
+    {
+        return;
+    }
+    switch (option[0])
+    {
+        case L'L':
+            loadFile(editor);
+            return;
+        case L'U':
+            unloadFile(editor);
+            return;
+        default:
+            listCommands(editor);
+    }
+}
+}  // namespace host

@@ -1,0 +1,267 @@
+#include "host/editor/commands.h"
+
+#include <algorithm>
+
+#include "host/database/drawing.h"
+#include "host/database/strict.h"
+#include "host/documents/documentmanager.h"
+#include "host/editor/hostcommands.h"
+#include "host/editor/numbertext.h"
+#include "host/editor/sysvars.h"
+#include "host/runtime/breach.h"
+#include "host/runtime/foldcase.h"
+#include "host/runtime/lispfunctions.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+// A name as it was typed, without what may stand before it.
+struct TypedName
+{
+    std::wstring_view name;
+    bool global = false;  // "_"
+};
+
+TypedName parseName(std::wstring_view line)
+{
+    TypedName typed{trimmed(line)};
+    while (!typed.name.empty() &&
+           std::wstring_view(L"'_.").find(typed.name.front()) != std::wstring_view::npos)
+    {
+        typed.global = typed.global || typed.name.front() == L'_';
+        typed.name.remove_prefix(1);
+    }
+    return typed;
+}
+
+CommandPtr findCommand(const TypedName& typed)
+{
+    return typed.global ? commandStack().findGlobal(typed.name)
+                        : commandStack().findLocal(typed.name);
+}
+
+std::wstring shownName(const Command& command)
+{
+    return upperCase(command.globalName());
+}
+
+// Why the command may not run in this document; empty when it may.
+std::wstring refusal(const Command& command, Document& document)
+{
+    const bool paper = stateOf(*document.database()).paperSpace;
+    if (paper && command.has(ACRX_CMD_NOPAPERSPACE))
+    {
+        return L"** Command not allowed in Paper Space **";
+    }
+    if (!paper && command.has(ACRX_CMD_NOTILEMODE))
+    {
+        return L"** Command not allowed in Model Tab **";
+    }
+    if (document.blockEditor && command.has(ACRX_CMD_NOBEDIT))
+    {
+        return L"** " + shownName(command) + L" command not allowed in block editor. **";
+    }
+    return {};
+}
+
+// What the host lends to a command for as long as it runs, with the rules for giving it back.
+class Borrowed
+{
+public:
+    Borrowed(Editor& editor, Document& document, const CommandPtr& command);
+    ~Borrowed();
+
+private:
+    void checkResources() const;
+    void checkMeter() const;
+
+    Editor& m_editor;
+    Document& m_document;
+    CommandPtr m_command;
+    bool m_ownResources;
+    std::size_t m_depth;
+};
+
+Borrowed::Borrowed(Editor& editor, Document& document, const CommandPtr& command)
+    : m_editor(editor),
+      m_document(document),
+      m_command(command),
+      m_ownResources(command->entry().resources != nullptr)
+{
+    if (m_ownResources)
+    {
+        document.resources.push(command->entry().resources);
+    }
+    m_depth = document.resources.depth();
+    if (!command->has(ACRX_CMD_SESSION))
+    {
+        documents().lock(AcAp::kWrite, command->globalName());
+    }
+    documents().setApplicationContext(command->has(ACRX_CMD_SESSION));
+    command->running = true;
+    editor.active.push_back(command);
+}
+
+Borrowed::~Borrowed()
+{
+    m_editor.active.pop_back();
+    m_command->running = false;
+    const bool outer = !m_editor.active.empty();
+    documents().setApplicationContext(!outer || m_editor.active.back()->has(ACRX_CMD_SESSION));
+    if (!m_command->has(ACRX_CMD_SESSION))
+    {
+        documents().unlock(m_command->globalName());
+    }
+    // Objects that an outer command holds open while it asks are no business of the inner one.
+    if (!outer)
+    {
+        requireNothingOpen(*m_document.database(), toUtf8(shownName(*m_command)));
+    }
+    checkResources();
+    checkMeter();
+    if (m_ownResources)
+    {
+        m_document.resources.pop();
+    }
+}
+
+void Borrowed::checkResources() const
+{
+    const std::size_t depth = m_document.resources.depth();
+    if (depth != m_depth)
+    {
+        breach(depth > m_depth ? "pushResourceHandle" : "popResourceHandle",
+               toUtf8(shownName(*m_command)) + " did not leave the resource handles as they were");
+    }
+}
+
+void Borrowed::checkMeter() const
+{
+    if (m_editor.meter)
+    {
+        breach("acedSetStatusBarProgressMeter",
+               toUtf8(shownName(*m_command)) + " did not restore the status bar");
+    }
+}
+
+void run(Editor& editor, Document& document, const CommandPtr& command)
+{
+    const Borrowed borrowed(editor, document, command);
+    // Options of a prompt that never came belong neither to this command nor to the one around it.
+    editor.setOptions({});
+    command->functionAddr()();
+    editor.setOptions({});
+}
+
+void markForUndo(Document& document, const Command& command)
+{
+    if (command.has(ACRX_CMD_NO_UNDO_MARKER))
+    {
+        return;
+    }
+    AcDbDatabase& database = *document.database();
+    document.undo.push_back(
+        {shownName(command), undoMark(database), stateOf(database), document.ucsHistory});
+}
+
+void start(Editor& editor, Document& document, const CommandPtr& command)
+{
+    const std::wstring reason = refusal(*command, document);
+    if (!reason.empty())
+    {
+        editor.printLine(reason);
+        return;
+    }
+    markForUndo(document, *command);
+    run(editor, document, command);
+}
+
+std::wstring unknownCommand(std::wstring_view name)
+{
+    return L"Unknown command \"" + upperCase(name) + L"\".  Press F1 for help.";
+}
+
+bool mayInterrupt(const Command& command)
+{
+    return command.has(ACRX_CMD_TRANSPARENT) && !command.running;
+}
+}  // namespace
+
+bool executeLine(Editor& editor, std::wstring_view line)
+{
+    const TypedName typed = parseName(line);
+    Document* document = documents().document();
+    if (const CommandPtr command = findCommand(typed); command && document)
+    {
+        start(editor, *document, command);
+        return true;
+    }
+    if (isVariable(typed.name) && document)
+    {
+        nameForSetvar(typed.name);
+        start(editor, *document, commandStack().findGlobal(L"SETVAR"));
+        return true;
+    }
+    const std::wstring function = L"C:" + std::wstring(typed.name);
+    if (lispFunctions().defines(function))
+    {
+        lispFunctions().invoke(function);
+        return true;
+    }
+    editor.printLine(unknownCommand(typed.name));
+    return false;
+}
+
+void startTransparent(Editor& editor, std::wstring_view line)
+{
+    const TypedName typed = parseName(line);
+    const CommandPtr command = findCommand(typed);
+    Document* document = documents().document();
+    if (!command || !document)
+    {
+        editor.printLine(unknownCommand(typed.name));
+        return;
+    }
+    const std::wstring reason = mayInterrupt(*command)
+                                    ? refusal(*command, *document)
+                                    : L"** That command may not be invoked transparently **";
+    if (!reason.empty())
+    {
+        editor.printLine(reason);
+        return;
+    }
+    run(editor, *document, command);
+    editor.printLine(L"Resuming " + shownName(*editor.active.back()) + L" command.");
+}
+
+std::wstring runningNames(const Editor& editor)
+{
+    std::wstring names;
+    for (const CommandPtr& command : editor.active)
+    {
+        names += (names.empty() ? L"" : L"'") + shownName(*command);
+    }
+    return names;
+}
+
+void runCommands(Editor& editor)
+{
+    const Question question{.kind = Question::Kind::command, .prompt = L"Command: "};
+    while (!editor.quit && !editor.inputEnded())
+    {
+        const Answer answer = editor.ask(question);
+        if (cancelled(answer))
+        {
+            continue;
+        }
+        const std::wstring line(trimmed(answer.text));
+        const std::wstring chosen = line.empty() ? editor.lastLine : line;
+        if (!chosen.empty() && executeLine(editor, chosen))
+        {
+            editor.lastLine = chosen;
+        }
+    }
+}
+}  // namespace host

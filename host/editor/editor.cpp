@@ -1,0 +1,120 @@
+#include "host/editor/editor.h"
+
+#include <utility>
+
+#include "host/editor/messageboxes.h"
+#include "host/runtime/breach.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+Editor* theEditor = nullptr;
+
+// No command asks this often after Esc unless it never looks at the answer.
+const int patience = 1000;
+
+// The end at the command prompt is no answer: nobody pressed Esc.
+std::wstring_view echoOf(const Question& question, const Answer& answer)
+{
+    const bool normalEnd =
+        answer.kind == Answer::Kind::endOfInput && question.kind == Question::Kind::command;
+    return normalEnd ? L"" : cancelled(answer) ? L"^C" : std::wstring_view(answer.text);
+}
+}  // namespace
+
+Editor::Editor(FrontEnd& frontEnd, bool trace) : m_frontEnd(frontEnd), m_trace(trace)
+{
+    theEditor = this;
+    answerMessageBoxes(this);
+}
+
+Editor::~Editor()
+{
+    answerMessageBoxes(nullptr);
+    theEditor = nullptr;
+}
+
+Editor* Editor::current()
+{
+    return theEditor;
+}
+
+void Editor::print(std::wstring_view text)
+{
+    if (text.empty())
+    {
+        return;
+    }
+    m_frontEnd.print(toUtf8(text));
+    m_atLineStart = text.back() == L'\n';
+}
+
+void Editor::printLine(std::wstring_view line)
+{
+    print((m_atLineStart ? L"" : L"\n") + std::wstring(line) + L"\n");
+}
+
+void Editor::traceLine(std::wstring_view line)
+{
+    if (m_trace)
+    {
+        printLine(line);
+    }
+}
+
+void Editor::report(std::wstring_view line) const
+{
+    m_frontEnd.report(toUtf8(line));
+}
+
+Answer Editor::ask(const Question& question)
+{
+    const Answer answer = askSilently(question);
+    echo(answer, echoOf(question, answer));
+    return answer;
+}
+
+Answer Editor::askSilently(const Question& question)
+{
+    const bool ownLine =
+        question.kind == Question::Kind::command || question.kind == Question::Kind::messageBox;
+    print((ownLine && !m_atLineStart ? L"\n" : L"") + question.prompt);
+    Answer answer = m_putBack ? *std::exchange(m_putBack, std::nullopt) : m_frontEnd.ask(question);
+    if (answer.kind == Answer::Kind::endOfInput)
+    {
+        noteEnd(question);
+    }
+    return answer;
+}
+
+void Editor::echo(const Answer& answer, std::wstring_view text)
+{
+    // At a terminal the typing of a line has ended the line as well.
+    if (answer.visible)
+    {
+        m_atLineStart = true;
+        return;
+    }
+    print(std::wstring(text) + L"\n");
+}
+
+void Editor::noteEnd(const Question& question)
+{
+    m_inputEnded = true;
+    if (question.kind == Question::Kind::command)
+    {
+        return;
+    }
+    const std::wstring name = active.empty() ? L"a question" : active.front()->globalName();
+    if (++m_unansweredQuestions == 1)
+    {
+        report(L"the input ended in the middle of " + name);
+    }
+    if (m_unansweredQuestions == patience)
+    {
+        breach(toUtf8(name), "asks again and again although it is cancelled");
+    }
+}
+}  // namespace host

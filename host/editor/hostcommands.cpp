@@ -1,0 +1,61 @@
+#include "host/editor/hostcommands.h"
+
+#include "host/database/drawing.h"
+#include "host/documents/documentmanager.h"
+#include "host/editor/editor.h"
+
+namespace host
+{
+namespace
+{
+struct Row
+{
+    const wchar_t* name;
+    int flags;
+    AcRxFunctionPtr function;
+};
+
+// Those without an undo marker change nothing that U could take back.
+const Row rows[] = {
+    {L"ARX",    ACRX_CMD_NO_UNDO_MARKER, arxCommand   },
+    {L"DVIEW",  ACRX_CMD_NOPAPERSPACE,   dviewCommand },
+    {L"PLAN",   ACRX_CMD_NOPAPERSPACE,   planCommand  },
+    {L"QUIT",   ACRX_CMD_NO_UNDO_MARKER, quitCommand  },
+    {L"SETVAR", ACRX_CMD_TRANSPARENT,    setvarCommand},
+    {L"U",      ACRX_CMD_NO_UNDO_MARKER, undoCommand  },
+    {L"UCS",    ACRX_CMD_MODAL,          ucsCommand   },
+    {L"VPOINT", ACRX_CMD_NOPAPERSPACE,   vpointCommand},
+};
+}  // namespace
+
+void registerHostCommands()
+{
+    for (const Row& row : rows)
+    {
+        commandStack().addCommand(L"ACAD", row.name, row.name, row.flags, row.function, nullptr, -1,
+                                  nullptr, nullptr);
+    }
+}
+
+void undoCommand()
+{
+    Editor& editor = *Editor::current();
+    Document& document = *documents().document();
+    if (document.undo.empty())
+    {
+        editor.printLine(L"Everything has been undone.");
+        return;
+    }
+    UndoStep step = std::move(document.undo.back());
+    document.undo.pop_back();
+    undoTo(*document.database(), step.objects);
+    stateOf(*document.database()) = std::move(step.state);
+    document.ucsHistory = std::move(step.ucsHistory);
+    editor.printLine(step.command);
+}
+
+void quitCommand()
+{
+    Editor::current()->quit = true;
+}
+}  // namespace host

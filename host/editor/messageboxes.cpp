@@ -1,0 +1,128 @@
+#include "host/editor/messageboxes.h"
+
+#include "acedads.h"
+#include "host/editor/editor.h"
+#include "host/editor/numbertext.h"
+#include "host/runtime/foldcase.h"
+#include "host/windows/messagebox.h"
+
+namespace host
+{
+namespace
+{
+struct Button
+{
+    const wchar_t* label;
+    int id;
+};
+
+struct Box
+{
+    std::vector<Button> buttons;
+    bool escapes;  // Esc presses the last button
+};
+
+Box boxOf(unsigned type)
+{
+    switch (type & 0xF)
+    {
+        case MB_OKCANCEL:
+            return {
+                {{L"OK", IDOK}, {L"Cancel", IDCANCEL}},
+                true
+            };
+        case MB_YESNOCANCEL:
+            return {
+                {{L"Yes", IDYES}, {L"No", IDNO}, {L"Cancel", IDCANCEL}},
+                true
+            };
+        case MB_YESNO:
+            return {
+                {{L"Yes", IDYES}, {L"No", IDNO}},
+                false
+            };
+        default:
+            return {{{L"OK", IDOK}}, true};
+    }
+}
+
+std::wstring labels(const Box& box)
+{
+    std::wstring text;
+    for (const Button& button : box.buttons)
+    {
+        text += (text.empty() ? L"" : L"/") + std::wstring(button.label);
+    }
+    return text;
+}
+
+const Button& defaultButton(const Box& box, unsigned type)
+{
+    const bool second = (type & MB_DEFBUTTON2) != 0 && box.buttons.size() > 1;
+    return box.buttons[second ? 1 : 0];
+}
+
+// Null for an answer that presses no button.
+const Button* pressed(const Box& box, const Answer& answer, unsigned type)
+{
+    // With the input at its end something has to be pressed, and the last button does the least.
+    if (answer.kind == Answer::Kind::endOfInput ||
+        (answer.kind == Answer::Kind::cancel && box.escapes))
+    {
+        return &box.buttons.back();
+    }
+    if (trimmed(answer.text).empty() && answer.kind != Answer::Kind::cancel)
+    {
+        return &defaultButton(box, type);
+    }
+    for (const Button& button : box.buttons)
+    {
+        if (equalNoCase(trimmed(answer.text), button.label))
+        {
+            return &button;
+        }
+    }
+    return nullptr;
+}
+
+int askBox(Editor& editor, const std::wstring& text, const std::wstring& caption, unsigned type)
+{
+    const Box box = boxOf(type);
+    Question question{.kind = Question::Kind::messageBox, .caption = caption, .text = text};
+    question.prompt = L"[message box] " + caption + L": " + text + L" (" + labels(box) + L") -> ";
+    for (const Button& button : box.buttons)
+    {
+        question.keywords.push_back(button.label);
+    }
+    for (;;)
+    {
+        const Answer answer = editor.askSilently(question);
+        if (const Button* button = pressed(box, answer, type))
+        {
+            editor.echo(answer, foldCase(button->label));
+            return button->id;
+        }
+        editor.echo(answer, cancelled(answer) ? L"^C" : answer.text);
+        editor.printLine(L"Answer with one of the buttons: " + labels(box) + L".");
+    }
+}
+}  // namespace
+
+void answerMessageBoxes(Editor* editor)
+{
+    if (editor == nullptr)
+    {
+        setMessageBoxHandler({});
+        return;
+    }
+    setMessageBoxHandler([editor](std::wstring text, std::wstring caption, unsigned type)
+                         { return askBox(*editor, text, caption, type); });
+}
+}  // namespace host
+
+HWND adsw_acadMainWnd()
+{
+    // Only ever compared and handed back; no window stands behind it.
+    static char window;
+    return reinterpret_cast<HWND>(&window);
+}

@@ -1,0 +1,81 @@
+#include "host/editor/numbertext.h"
+
+#include <charconv>
+#include <cmath>
+#include <numbers>
+
+namespace host
+{
+namespace
+{
+// Empty for a text that holds anything which numbers are not made of.
+std::string numberCharacters(std::wstring_view text)
+{
+    text = trimmed(text);
+    std::string characters;
+    for (wchar_t unit : text)
+    {
+        if (std::wstring_view(L"0123456789+-.eE").find(unit) == std::wstring_view::npos)
+        {
+            return {};
+        }
+        characters += char(unit);
+    }
+    // Only one sign may lead, and from_chars takes no plus.
+    const bool plus = characters.starts_with('+') && !characters.starts_with("+-");
+    return plus ? characters.substr(1) : characters;
+}
+
+template <class Number>
+std::optional<Number> parse(std::wstring_view text)
+{
+    const std::string characters = numberCharacters(text);
+    const char* const end = characters.data() + characters.size();
+    Number value{};
+    const auto [stop, error] = std::from_chars(characters.data(), end, value);
+    return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
+}
+
+std::wstring widen(const char* begin, const char* end)
+{
+    return {begin, end};
+}
+}  // namespace
+
+std::wstring_view trimmed(std::wstring_view text)
+{
+    const std::size_t first = text.find_first_not_of(L" \t");
+    const std::size_t last = text.find_last_not_of(L" \t");
+    return first == text.npos ? std::wstring_view() : text.substr(first, last - first + 1);
+}
+
+std::optional<double> parseReal(std::wstring_view text)
+{
+    return parse<double>(text);
+}
+
+std::optional<int> parseInteger(std::wstring_view text)
+{
+    return parse<int>(text);
+}
+
+std::wstring realText(double value)
+{
+    char buffer[64];
+    const double size = std::fabs(value);
+    const bool plain = size == 0 || (size >= 1e-6 && size < 1e16);
+    const auto format = plain ? std::chars_format::fixed : std::chars_format::scientific;
+    // Adding zero turns a negative zero into a plain one.
+    const auto written = std::to_chars(buffer, buffer + sizeof buffer, value + 0.0, format);
+    return widen(buffer, written.ptr);
+}
+
+std::wstring degreesText(double radians)
+{
+    char buffer[64];
+    const double degrees = radians * 180 / std::numbers::pi + 0.0;
+    const auto written =
+        std::to_chars(buffer, buffer + sizeof buffer, degrees, std::chars_format::general, 12);
+    return widen(buffer, written.ptr);
+}
+}  // namespace host

@@ -1,0 +1,147 @@
+#include <utility>
+
+#include "host/editor/hostcommands.h"
+#include "host/editor/numbertext.h"
+#include "host/editor/prompts.h"
+#include "host/editor/sysvars.h"
+#include "host/runtime/foldcase.h"
+
+#include <numbers>
+
+namespace host
+{
+namespace
+{
+std::wstring theName;
+
+// Nothing for Enter and for Esc.
+std::optional<std::wstring> askName(Editor& editor)
+{
+    while (const auto name = askLine(editor, Question::Kind::text, L"Enter variable name: "))
+    {
+        if (name->empty())
+        {
+            return std::nullopt;
+        }
+        if (isVariable(*name))
+        {
+            return name;
+        }
+        editor.printLine(L"Unknown variable name.");
+    }
+    return std::nullopt;
+}
+
+std::optional<VariableValue> parsePointValue(std::wstring_view text)
+{
+    const std::optional<TypedPoint> typed = parsePoint(text);
+    return typed ? std::optional<VariableValue>(resolvePoint(*typed, nullptr)) : std::nullopt;
+}
+
+template <class Number>
+std::optional<VariableValue> asValue(std::optional<Number> number)
+{
+    return number ? std::optional<VariableValue>(*number) : std::nullopt;
+}
+
+std::optional<VariableValue> parseValue(const VariableInfo& info, const std::wstring& text)
+{
+    switch (info.type)
+    {
+        case VariableType::integer:
+            return asValue(parseInteger(text));
+        case VariableType::point:
+            return parsePointValue(text);
+        case VariableType::text:
+            return text == L"." ? std::wstring() : text;
+        case VariableType::angle:
+        {
+            const std::optional<double> degrees = parseReal(text);
+            return degrees ? std::optional<VariableValue>(*degrees * std::numbers::pi / 180)
+                           : std::nullopt;
+        }
+        default:
+            return asValue(parseReal(text));
+    }
+}
+
+std::wstring requirement(const VariableInfo& info)
+{
+    switch (info.type)
+    {
+        case VariableType::integer:
+            return L"Requires an integer between " + std::to_wstring(info.range.least) + L" and " +
+                   std::to_wstring(info.range.most) + L".";
+        case VariableType::point:
+            return L"Invalid point.";
+        case VariableType::text:
+            return L"Cannot set " + info.name + L" to that value.";
+        case VariableType::positive:
+            return L"Value must be positive and nonzero.";
+        default:
+            return L"Requires numeric value.";
+    }
+}
+
+// Whether the question is answered.
+bool takeValue(Editor& editor, const VariableInfo& info, const std::wstring& text)
+{
+    if (text.empty())
+    {
+        return true;
+    }
+    if (info.readOnly)
+    {
+        editor.printLine(info.name + L" is read only.");
+        return true;
+    }
+    const std::optional<VariableValue> value = parseValue(info, text);
+    if (value && setVariable(info.name, *value) == VariableError::none)
+    {
+        return true;
+    }
+    editor.printLine(requirement(info));
+    return false;
+}
+
+// Read-only variables are asked for as well: a script gives one answer whichever it names.
+std::wstring valuePrompt(const VariableInfo& info)
+{
+    return L"Enter new value for " + info.name + (info.readOnly ? L" (read only)" : L"") + L" <" +
+           variableText(info.name) + L">: ";
+}
+}  // namespace
+
+void nameForSetvar(std::wstring_view name)
+{
+    theName = name;
+}
+
+void setvarCommand()
+{
+    Editor& editor = *Editor::current();
+    std::optional<std::wstring> name = std::exchange(theName, {});
+    if (name->empty())
+    {
+        name = askName(editor);
+    }
+    if (!name)
+    {
+        return;
+    }
+    const VariableInfo info = *variableInfo(*name);
+    for (;;)
+    {
+        const auto text = askLine(editor, Question::Kind::text, valuePrompt(info));
+        if (!text)
+        {
+            return;
+        }
+        if (takeValue(editor, info, *text))
+        {
+            editor.printLine(info.name + L" = " + variableText(info.name));
+            return;
+        }
+    }
+}
+}  // namespace host

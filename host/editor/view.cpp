@@ -1,0 +1,36 @@
+#include "host/editor/view.h"
+
+#include <cmath>
+#include <numbers>
+
+#include "host/editor/ucs.h"
+
+namespace host
+{
+AcGeMatrix3d viewFrame(const View& view)
+{
+    AcGeMatrix3d frame = AcGeMatrix3d::planeToWorld(view.direction) *
+                         AcGeMatrix3d::rotation(-view.twist, AcGeVector3d(0, 0, 1));
+    return frame.setTranslation(view.target.asVector());
+}
+
+void turnView(View& view, const AcGeVector3d& direction, double twist)
+{
+    const AcGePoint3d centre =
+        ucsToWorld(viewFrame(view), AcGePoint3d(view.centreX, view.centreY, 0));
+    view.direction = direction;
+    view.twist = twist;
+    const AcGePoint3d seen = worldToUcs(viewFrame(view), centre);
+    view.centreX = seen.x;
+    view.centreY = seen.y;
+}
+
+void planView(View& view, const AcGeMatrix3d& frame)
+{
+    const AcGeVector3d normal = axisOf(frame, 2);
+    const AcGeVector3d x = worldToUcs(AcGeMatrix3d::planeToWorld(normal), axisOf(frame, 0));
+    const double angle = std::atan2(x.y, x.x);
+    // The screen's X axis lies at minus the twist in the plane, the twist is kept in [0, 2 pi).
+    turnView(view, normal, angle > 0 ? 2 * std::numbers::pi - angle : -angle + 0.0);
+}
+}  // namespace host

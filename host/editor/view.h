@@ -1,0 +1,18 @@
+// The view of model space.
+#pragma once
+
+#include "gemat3d.h"
+#include "host/database/drawingstate.h"
+
+namespace host
+{
+// Display coordinates to WCS: X to the right and Y upwards on the screen, Z to the viewer, the
+// origin at the target.
+AcGeMatrix3d viewFrame(const View& view);
+
+// Looks from another side. What stood in the middle of the screen stays there.
+void turnView(View& view, const AcGeVector3d& direction, double twist);
+
+// Looks straight at the XY plane of a frame, its X axis to the right.
+void planView(View& view, const AcGeMatrix3d& frame);
+}  // namespace host

@@ -1,0 +1,140 @@
+#include <numbers>
+
+#include "acedads.h"
+#include "host/database/drawing.h"
+#include "host/documents/documentmanager.h"
+#include "host/editor/hostcommands.h"
+#include "host/editor/numbertext.h"
+#include "host/editor/prompts.h"
+#include "host/editor/ucs.h"
+#include "host/editor/view.h"
+
+namespace host
+{
+namespace
+{
+DrawingState& state()
+{
+    return stateOf(*documents().document()->database());
+}
+
+std::wstring pointText(const AcGeVector3d& vector)
+{
+    return realText(vector.x) + L"," + realText(vector.y) + L"," + realText(vector.z);
+}
+
+// A direction has neither an origin nor an elevation, so "@" and "*" have no meaning before it.
+std::optional<AcGeVector3d> parseDirection(std::wstring_view text)
+{
+    const std::optional<TypedPoint> typed = parsePoint(text);
+    if (!typed || typed->relative || typed->world)
+    {
+        return std::nullopt;
+    }
+    const AcGeVector3d direction = typed->coordinates.asVector();
+    return direction.length() > 0 ? std::optional(direction) : std::nullopt;
+}
+
+void askTwist(Editor& editor)
+{
+    View& view = state().view;
+    const std::wstring prompt = L"Specify view twist angle <" + degreesText(view.twist) + L">: ";
+    const double current = view.twist * 180 / std::numbers::pi;
+    const std::optional<double> degrees = askDegrees(editor, prompt, current);
+    if (degrees && *degrees != current)
+    {
+        turnView(view, view.direction, *degrees * std::numbers::pi / 180);
+    }
+}
+
+void usePlanOf(const AcGeMatrix3d& frame)
+{
+    planView(state().view, frame);
+}
+
+// Coordinate systems get no names here, so there is none to be found.
+void planOfNamedUcs(Editor& editor)
+{
+    const auto name = askLine(editor, Question::Kind::text, L"Enter name of UCS: ");
+    if (name && !name->empty())
+    {
+        editor.printLine(L"Cannot find UCS " + *name + L".");
+    }
+}
+}  // namespace
+
+void vpointCommand()
+{
+    Editor& editor = *Editor::current();
+    editor.printLine(L"Current view direction:  VIEWDIR=" + pointText(state().view.direction));
+    while (const auto line =
+               askLine(editor, Question::Kind::point, L"Specify a view point <keep>: "))
+    {
+        if (line->empty())
+        {
+            return;
+        }
+        if (const std::optional<AcGeVector3d> direction = parseDirection(*line))
+        {
+            turnView(state().view, *direction, 0);
+            return;
+        }
+        editor.printLine(L"Invalid point.");
+    }
+}
+
+void dviewCommand()
+{
+    Editor& editor = *Editor::current();
+    const wchar_t* const select = L"Select objects or <use DVIEWBLOCK>: ";
+    const auto selected = askLine(editor, Question::Kind::text, select);
+    if (!selected)
+    {
+        return;
+    }
+    if (!selected->empty())
+    {
+        editor.printLine(L"Nothing is shown while the view turns; the objects do not matter.");
+    }
+    for (;;)
+    {
+        ACHAR option[133];
+        acedInitGet(0, L"TWist");
+        if (acedGetKword(L"Enter option [TWist]: ", option) != RTNORM)
+        {
+            return;
+        }
+        askTwist(editor);
+    }
+}
+
+void planCommand()
+{
+    Editor& editor = *Editor::current();
+    const KeywordList options(L"Current Ucs World");
+    const Question question{.kind = Question::Kind::keyword,
+                            .prompt = L"Enter an option [Current ucs/Ucs/World] <Current>: ",
+                            .keywords = options.names()};
+    const Answer answer = editor.askSilently(question);
+    const std::wstring typed(trimmed(answer.text));
+    const std::optional<std::wstring> option = options.match(typed);
+    const bool foreign = answer.kind == Answer::Kind::line && !typed.empty() && !option;
+    editor.echo(answer, cancelled(answer) ? L"^C" : foreign ? L"" : answer.text);
+    if (cancelled(answer))
+    {
+        return;
+    }
+    // Scripts give PLAN without an answer and go on with the next command: what is no option is
+    // that command, and the plan is that of the current UCS.
+    if (foreign)
+    {
+        editor.putBack(answer);
+    }
+    if (option == L"Ucs")
+    {
+        planOfNamedUcs(editor);
+        return;
+    }
+    usePlanOf(option == L"World" ? AcGeMatrix3d() : state().ucs().toWorld);
+}
+}  // namespace host

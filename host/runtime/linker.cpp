@@ -1,0 +1,273 @@
+#include "host/runtime/linker.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/runtime/breach.h"
+#include "host/runtime/commandstack.h"
+#include "host/runtime/lispfunctions.h"
+#include "host/windows/text.h"
+
+ACRX_DEFINE_MEMBERS(AcRxDynamicLinker, AcRxObject)
+
+namespace host
+{
+namespace fs = std::filesystem;
+
+namespace
+{
+bool sameName(const fs::path& loaded, const fs::path& asked)
+{
+    return asked.has_parent_path() ? loaded == fs::absolute(asked).lexically_normal()
+                                   : loaded.filename() == asked || loaded.stem() == asked;
+}
+
+bool runsCommandOf(const ModuleFile& file)
+{
+    return std::ranges::any_of(
+        commandStack().all(),
+        [&](const CommandPtr& command) {
+            return command->running && file.holds(reinterpret_cast<void*>(command->functionAddr()));
+        });
+}
+
+void requireCommandsRemoved(const ModuleFile& file)
+{
+    for (const CommandPtr& command : commandStack().all())
+    {
+        if (file.holds(reinterpret_cast<void*>(command->functionAddr())))
+        {
+            breach("kUnloadAppMsg", file.path().filename().string() +
+                                        " did not remove a command that it had registered");
+        }
+    }
+}
+// Objects with virtual functions of this file.
+std::vector<const void*> listenersOf(const Linker& linker, const ModuleFile& file)
+{
+    std::vector<const void*> found =
+        linker.listeners ? linker.listeners() : std::vector<const void*>();
+    std::erase_if(found, [&](const void* object)
+                  { return !file.holds(*static_cast<const void* const*>(object)); });
+    return found;
+}
+
+void requireGone(const Linker& linker, const std::vector<const void*>& gone, const fs::path& path)
+{
+    const std::vector<const void*> left =
+        linker.listeners ? linker.listeners() : std::vector<const void*>();
+    if (std::ranges::find_first_of(left, gone) != left.end())
+    {
+        breach("removeReactor", path.filename().string() + " left a document reactor behind");
+    }
+}
+}  // namespace
+
+fs::path Linker::resolve(const fs::path& name) const
+{
+    const fs::path file = name.has_extension() ? name : fs::path(name).replace_extension(".arx");
+    if (!name.has_parent_path())
+    {
+        const auto seen = std::ranges::find(m_seen, file, &fs::path::filename);
+        if (seen != m_seen.end())
+        {
+            return *seen;
+        }
+        if (!fs::exists(file) && fs::exists(searchFolder / file))
+        {
+            return searchFolder / file;
+        }
+    }
+    return fs::absolute(file).lexically_normal();
+}
+
+Module* Linker::find(const fs::path& name) const
+{
+    const auto found = std::ranges::find_if(
+        m_modules, [&](const Module& module) { return sameName(module.file->path(), name); });
+    return found == m_modules.end() ? nullptr : &*found;
+}
+
+Module* Linker::fromPacket(const void* packet) const
+{
+    const auto found =
+        std::ranges::find_if(m_modules, [&](const Module& module) { return &module == packet; });
+    return found == m_modules.end() ? nullptr : &*found;
+}
+
+AcRx::AppRetCode Linker::send(Module& module, AcRx::AppMsgCode message)
+{
+    Module* const former = std::exchange(m_current, &module);
+    const AcRx::AppRetCode result = module.file->send(message, &module);
+    m_current = former;
+    return result;
+}
+
+Linker::Error Linker::load(const fs::path& name)
+{
+    const fs::path path = resolve(name);
+    if (Module* loaded = find(path))
+    {
+        ++loaded->references;
+        return std::nullopt;
+    }
+    std::string error;
+    std::unique_ptr<ModuleFile> file = ModuleFile::open(path, error);
+    if (!file)
+    {
+        return error;
+    }
+    std::erase(m_seen, path);
+    m_seen.push_front(path);
+    m_modules.emplace_back().file = std::move(file);
+    return start(m_modules.back());
+}
+
+Linker::Error Linker::start(Module& module)
+{
+    const bool started = send(module, AcRx::kInitAppMsg) != AcRx::kRetError &&
+                         (!m_drawingOpen || send(module, AcRx::kLoadDwgMsg) != AcRx::kRetError);
+    if (started)
+    {
+        return std::nullopt;
+    }
+    const std::string path = module.file->path().string();
+    send(module, AcRx::kUnloadAppMsg);
+    remove(module);
+    return path + ": the module does not want to be loaded";
+}
+
+Linker::Error Linker::unload(const fs::path& name)
+{
+    Module* module = find(name);
+    if (module == nullptr)
+    {
+        return name.string() + ": not loaded";
+    }
+    if (module->locked)
+    {
+        return name.string() + ": the module is locked";
+    }
+    if (runsCommandOf(*module->file))
+    {
+        return name.string() + ": a command of the module is running";
+    }
+    if (refuses(*module))
+    {
+        return name.string() + ": the module refuses to be unloaded";
+    }
+    remove(*module);
+    return std::nullopt;
+}
+
+bool Linker::refuses(Module& module)
+{
+    if (m_drawingOpen)
+    {
+        send(module, AcRx::kUnloadDwgMsg);
+    }
+    return send(module, AcRx::kUnloadAppMsg) == AcRx::kRetError;
+}
+
+void Linker::remove(Module& module)
+{
+    requireCommandsRemoved(*module.file);
+    lispFunctions().forget(module);
+    const fs::path path = module.file->path();
+    const std::vector<const void*> reactors = listenersOf(*this, *module.file);
+    m_modules.remove_if([&](const Module& other) { return &other == &module; });
+    requireGone(*this, reactors, path);
+}
+
+void Linker::unloadAll()
+{
+    while (!m_modules.empty())
+    {
+        // The host is ending: there is nobody left to refuse it to.
+        refuses(m_modules.back());
+        remove(m_modules.back());
+    }
+}
+
+void Linker::setDrawingOpen(bool open)
+{
+    m_drawingOpen = open;
+    for (Module& module : m_modules)
+    {
+        if (lispFunctions().has(module))
+        {
+            send(module, open ? AcRx::kLoadDwgMsg : AcRx::kUnloadDwgMsg);
+        }
+    }
+}
+
+void Linker::broadcast(AcRx::AppMsgCode message)
+{
+    for (Module& module : m_modules)
+    {
+        send(module, message);
+    }
+}
+
+bool Linker::loadModule(const ACHAR* fileName, bool printit, bool)
+{
+    const Error error = load(toNativePath(fileName));
+    if (error && printit && report)
+    {
+        report(*error);
+    }
+    return !error;
+}
+
+bool Linker::unloadModule(const ACHAR* fileName, bool asCmd)
+{
+    Module* module = find(toNativePath(fileName));
+    if (module != nullptr && !asCmd && module->references > 1)
+    {
+        --module->references;
+        return true;
+    }
+    return !unload(toNativePath(fileName));
+}
+
+bool Linker::loadApp(const ACHAR* appName, AcadApp::LoadReasons, bool printit, bool asCmd)
+{
+    return loadModule(appName, printit, asCmd);
+}
+
+bool Linker::lockApplication(void* packet) const
+{
+    Module* module = fromPacket(packet);
+    return module != nullptr && (module->locked = true);
+}
+
+bool Linker::unlockApplication(void* packet) const
+{
+    Module* module = fromPacket(packet);
+    return module != nullptr && !(module->locked = false);
+}
+
+bool Linker::isApplicationLocked(const ACHAR* name) const
+{
+    const Module* module = find(toNativePath(name));
+    return module != nullptr && module->locked;
+}
+
+bool Linker::registerAppMDIAware(void* packet) const
+{
+    Module* module = fromPacket(packet);
+    return module != nullptr && (module->mdiAware = true);
+}
+
+bool Linker::isAppMDIAware(const ACHAR* name) const
+{
+    const Module* module = find(toNativePath(name));
+    return module != nullptr && module->mdiAware;
+}
+
+Linker& linker()
+{
+    static Linker linker;
+    return linker;
+}
+}  // namespace host

@@ -1,0 +1,40 @@
+// A module's file, opened and checked: the part of loading that the operating system does.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "rxdefs.h"
+
+namespace host
+{
+class ModuleFile
+{
+public:
+    // Null, and one line that names the file, when it is no module of this generation. The path is
+    // taken as it is named: a link to a module is a module in the folder of the link.
+    static std::unique_ptr<ModuleFile> open(const std::filesystem::path& path, std::string& error);
+    ~ModuleFile();
+    ModuleFile(const ModuleFile&) = delete;
+    ModuleFile& operator=(const ModuleFile&) = delete;
+
+    AcRx::AppRetCode send(AcRx::AppMsgCode message, void* packet)
+    {
+        return m_entryPoint(message, packet);
+    }
+    // Whether a function or a table lies in this file.
+    bool holds(const void* address) const;
+    const std::filesystem::path& path() const { return m_path; }
+
+private:
+    using EntryPoint = decltype(&acrxEntryPoint);
+
+    ModuleFile(std::filesystem::path path, void* handle);
+    bool check(std::string& error);
+
+    std::filesystem::path m_path;
+    void* m_handle;
+    EntryPoint m_entryPoint = nullptr;
+};
+}  // namespace host

@@ -1,0 +1,7 @@
+#include "rxobject.h"
+
+AcRxClass* AcRxObject::desc()
+{
+    static AcRxClass type(L"AcRxObject", nullptr);
+    return &type;
+}

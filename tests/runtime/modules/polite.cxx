@@ -1,0 +1,26 @@
+// Does everything as it should be done.
+#include "module.h"
+
+namespace
+{
+void greet()
+{
+    acutPrintf(L"good morning");
+}
+}  // namespace
+
+AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packet)
+{
+    tell(message);
+    if (message == AcRx::kInitAppMsg)
+    {
+        acrxDynamicLinker->unlockApplication(packet);
+        acrxDynamicLinker->registerAppMDIAware(packet);
+        addGreeting(greet);
+    }
+    if (message == AcRx::kUnloadAppMsg)
+    {
+        removeGreeting();
+    }
+    return AcRx::kRetOK;
+}
