@@ -1,0 +1,91 @@
+#include "host/program/job.h"
+
+#include <cstdlib>
+
+#include "host/documents/documentmanager.h"
+#include "host/dxf/drawingfile.h"
+#include "host/editor/commands.h"
+#include "host/editor/editor.h"
+#include "host/editor/hostcommands.h"
+#include "host/program/saveas.h"
+#include "host/runtime/linker.h"
+#include "host/runtime/locale.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+bool openDocument(const Options& options, FrontEnd& frontEnd)
+{
+    OpenedDrawing drawing =
+        options.drawing.empty() ? OpenedDrawing{newDrawing(), {}} : openDrawing(options.drawing);
+    if (!drawing.database)
+    {
+        frontEnd.report(drawing.error);
+        return false;
+    }
+    documents().open(std::move(drawing.database), options.drawing);
+    return true;
+}
+
+bool loadModule(const Options& options, FrontEnd& frontEnd)
+{
+    linker().searchFolder = options.module.parent_path();
+    // Made absolute first: the name alone would be looked for in other folders as well.
+    const Linker::Error error = linker().load(std::filesystem::absolute(options.module));
+    if (error)
+    {
+        frontEnd.report(*error);
+    }
+    return !error;
+}
+
+// Whether the input ended where it may.
+bool runInput(Editor& editor)
+{
+    runCommands(editor);
+    return !editor.endedInsideCommand();
+}
+
+bool save(const Options& options, FrontEnd& frontEnd)
+{
+    if (options.save.empty())
+    {
+        return true;
+    }
+    const auto error = saveDrawing(*documents().document()->database(), options.save);
+    if (error)
+    {
+        frontEnd.report(*error);
+    }
+    return !error;
+}
+
+bool runDocument(const Options& options, FrontEnd& frontEnd)
+{
+    Editor editor(frontEnd, options.trace);
+    linker().report = [&](const std::string& line) { editor.printLine(fromUtf8(line)); };
+    bool done = loadModule(options, frontEnd);
+    if (done)
+    {
+        done = runInput(editor);
+        // A run that was cut short has still drawn what it has drawn.
+        done = save(options, frontEnd) && done;
+    }
+    documents().close();
+    linker().unloadAll();
+    linker().report = nullptr;
+    return done;
+}
+}  // namespace
+
+int runJob(const Options& options, FrontEnd& frontEnd)
+{
+    setProductLocale(options.locale);
+    registerHostCommands();
+    registerSaveAs();
+    const bool done = openDocument(options, frontEnd) && runDocument(options, frontEnd);
+    return done ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+}  // namespace host

@@ -1,0 +1,94 @@
+#include "host/program/options.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <map>
+
+#include "host/runtime/locale.h"
+
+namespace host
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+const int wrongUsage = 2;
+
+// Links to the program are followed: the module lies beside the program itself.
+fs::path programFolder()
+{
+    std::error_code error;
+    const fs::path program = fs::read_symlink("/proc/self/exe", error);
+    return error ? fs::current_path() : program.parent_path();
+}
+
+void describe(CLI::App& app, Options& options, std::string& locale)
+{
+    app.name("arxhost");
+    app.set_version_flag("--version", "arxhost " ARXHOST_VERSION);
+    app.add_option("DRAWING", options.drawing,
+                   "DXF file to open; left out: a new, empty metric drawing");
+    app.add_option("--module", options.module, "module to load")
+        ->type_name("FILE")
+        ->default_str("netrax.arx beside the program");
+    app.add_option("--script", options.script,
+                   "read input from FILE, one answer a line; - is standard input")
+        ->type_name("FILE");
+    app.add_option("--locale", locale, "product locale: en-US or ru-RU")
+        ->type_name("NAME")
+        ->check(CLI::IsMember({"en-US", "ru-RU"}))
+        ->default_str("en-US");
+    app.add_option("--save", options.save, "save the drawing as DXF after the input has ended")
+        ->type_name("FILE");
+    app.add_flag("--trace", options.trace, "tell of the progress meter as well");
+}
+
+int reportUsage(CLI::App& app, const CLI::ParseError& error)
+{
+    if (error.get_exit_code() == 0)
+    {
+        app.exit(error);
+        return EXIT_SUCCESS;
+    }
+    std::fprintf(stderr, "arxhost: %s\nusage: arxhost [DRAWING] [options]; see arxhost --help\n",
+                 error.what());
+    return wrongUsage;
+}
+
+bool scriptIsMissing(const Options& options)
+{
+    return !options.script.empty() && options.script != "-" &&
+           (!fs::exists(options.script) || fs::is_directory(options.script));
+}
+}  // namespace
+
+std::optional<Options> parseOptions(int count, char** arguments, int& status)
+{
+    CLI::App app("Opens a drawing, loads a module, feeds it input and saves the drawing.");
+    Options options{};
+    std::string locale = "en-US";
+    describe(app, options, locale);
+    try
+    {
+        app.parse(count, arguments);
+    }
+    catch (const CLI::ParseError& error)
+    {
+        status = reportUsage(app, error);
+        return std::nullopt;
+    }
+    if (scriptIsMissing(options))
+    {
+        std::fprintf(stderr, "arxhost: %s: no such script\n", options.script.c_str());
+        status = wrongUsage;
+        return std::nullopt;
+    }
+    options.locale = locale == "ru-RU" ? russianLocale : englishLocale;
+    if (options.module.empty())
+    {
+        options.module = programFolder() / "netrax.arx";
+    }
+    return options;
+}
+}  // namespace host

@@ -1,0 +1,25 @@
+// The command line of arxhost.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "windows.h"
+
+namespace host
+{
+struct Options
+{
+    std::string drawing;  // empty: a new one
+    std::filesystem::path module;
+    std::string script;  // empty: the terminal or standard input as it is; "-" is standard input
+    std::string save;    // empty: do not save
+    LCID locale;
+    bool trace = false;
+};
+
+// Nothing when there is nothing to run: `status` is what the program ends with then, and the text
+// to show has been printed.
+std::optional<Options> parseOptions(int count, char** arguments, int& status);
+}  // namespace host

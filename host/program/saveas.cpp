@@ -1,0 +1,54 @@
+#include "host/program/saveas.h"
+
+#include "host/documents/documentmanager.h"
+#include "host/dxf/drawingfile.h"
+#include "host/editor/prompts.h"
+#include "host/runtime/linker.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+// Nothing for Esc, and for Enter while the drawing has no file.
+std::optional<std::filesystem::path> askPath(Editor& editor, const Document& document)
+{
+    const std::wstring shown =
+        document.path().empty() ? L"" : L" <" + std::wstring(document.fileName()) + L">";
+    auto name = askLine(editor, Question::Kind::text, L"Save drawing as" + shown + L": ");
+    if (!name)
+    {
+        return std::nullopt;
+    }
+    std::erase(*name, L'"');
+    const std::filesystem::path typed = toNativePath(*name);
+    const std::filesystem::path path = typed.empty() ? document.path() : typed;
+    return path.empty() ? std::nullopt : std::optional(path);
+}
+
+// The drawing has the new name from then on. A file of that name is replaced without a question.
+void saveAsCommand()
+{
+    Editor& editor = *Editor::current();
+    Document& document = *documents().document();
+    const std::optional<std::filesystem::path> path = askPath(editor, document);
+    if (!path)
+    {
+        return;
+    }
+    linker().broadcast(AcRx::kSaveMsg);
+    if (const auto error = saveDrawing(*document.database(), path->string()))
+    {
+        editor.printLine(fromUtf8(*error));
+        return;
+    }
+    document.setPath(*path);
+}
+}  // namespace
+
+void registerSaveAs()
+{
+    commandStack().addCommand(L"ACAD", L"SAVEAS", L"SAVEAS", ACRX_CMD_NO_UNDO_MARKER, saveAsCommand,
+                              nullptr, -1, nullptr, nullptr);
+}
+}  // namespace host

@@ -1,0 +1,7 @@
+// The command SAVEAS.
+#pragma once
+
+namespace host
+{
+void registerSaveAs();
+}  // namespace host
