@@ -1,0 +1,6 @@
+#include "app/docdata.h"
+
+namespace
+{
+AcApDataManager<CDocData> docData;
+}  // namespace

@@ -1,0 +1,45 @@
+// Records that are kept for each open drawing.
+#pragma once
+
+#include <map>
+
+#include "app/host.h"
+
+// Nothing: the grid command leaves nothing behind but its settings file.
+class CDocData
+{
+};
+
+// A record for each open document. The host gives the pointer of a closed document to a later one,
+// so a record goes with its document.
+template <class Data>
+class AcApDataManager : public AcApDocManagerReactor
+{
+public:
+    AcApDataManager()
+    {
+        if (acDocManager != nullptr)
+        {
+            acDocManager->addReactor(this);
+        }
+    }
+
+    ~AcApDataManager()
+    {
+        if (acDocManager != nullptr)
+        {
+            acDocManager->removeReactor(this);
+        }
+    }
+
+    // The document's record, made when there is none. [borrowed] until the document is destroyed.
+    Data& dataOf(AcApDocument* document) { return m_records[document]; }
+
+    virtual void documentToBeDestroyed(AcApDocument* document) override
+    {
+        m_records.erase(document);
+    }
+
+private:
+    std::map<AcApDocument*, Data> m_records;
+};

@@ -1,0 +1,11 @@
+#include "app/gridapp.h"
+
+namespace
+{
+CGridApp theApp;
+}  // namespace
+
+CGridApp& gridApp()
+{
+    return theApp;
+}

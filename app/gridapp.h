@@ -1,0 +1,13 @@
+// The application object of the module.
+#pragma once
+
+#include "app/rxapp.h"
+
+class CGridApp : public AcRxArxApp
+{
+public:
+    virtual void registerComponents() override {}
+};
+
+// The one there is; made when the module is loaded.
+CGridApp& gridApp();

@@ -1,0 +1,83 @@
+#include "command/corners.h"
+
+#include <cmath>
+
+#include "output/entities.h"
+#include "settings/settingsdlg.h"
+
+namespace
+{
+// The whole word "Settings" is no match for the one-letter keyword and comes back as it was typed,
+// so its first letter decides. The case counts, for the host gives a matched keyword as listed.
+bool answerIsKeyword(const wchar_t* keyword)
+{
+    wchar_t answer[answerCapacity] = L"";
+    return acedGetInput(answer) == RTNORM && answer[0] == keyword[0];
+}
+
+void answerFirstCornerText(GridRun& run)
+{
+    const double unknown = -1.0;
+    if (answerIsKeyword(run.messages->settingsKeyword))
+    {
+        editSettings(run.settings, unknown, unknown, run.localeName);
+    }
+}
+
+AcDbObjectId drawBoundary(const AcGePoint3d& firstUcs, const AcGePoint3d& otherUcs)
+{
+    const Adesk::UInt16 boundaryColor = 250;
+    AcGePoint3dArray vertices;
+    vertices.append(firstUcs);
+    vertices.append(AcGePoint3d(firstUcs.x, otherUcs.y, 0.0));
+    vertices.append(otherUcs);
+    vertices.append(AcGePoint3d(otherUcs.x, firstUcs.y, 0.0));
+    vertices.append(firstUcs);
+    return addPolylineFrame(true, vertices, boundaryColor, nullptr, nullptr, L"*Model_Space");
+}
+
+AcGePoint3d toWcs(AcGePoint3d point)
+{
+    acdbUcs2Wcs(asDblArray(point), asDblArray(point), false);
+    return point;
+}
+}  // namespace
+
+bool askFirstCorner(GridRun& run, AcGePoint3d& cornerUcs)
+{
+    for (;;)
+    {
+        // The host drops the keywords after each prompt.
+        acedInitGet(RSG_OTHER, run.messages->settingsKeyword);
+        switch (acedGetPoint(nullptr, run.messages->firstCornerPrompt, asDblArray(cornerUcs)))
+        {
+            case RTNORM:
+                return true;
+            case RTCAN:
+            case RTERROR:
+                return false;
+            case RTKWORD:
+                answerFirstCornerText(run);
+                break;
+            default:  // Enter among them: it asks again
+                break;
+        }
+    }
+}
+
+bool askOtherCorner(const Messages& messages, const AcGePoint3d& firstUcs, AcGePoint3d& cornerUcs)
+{
+    return acedGetCorner(asDblArray(firstUcs), messages.otherCornerPrompt, asDblArray(cornerUcs)) ==
+           RTNORM;
+}
+
+PickedRectangle drawRectangle(const AcGePoint3d& firstUcs, const AcGePoint3d& otherUcs)
+{
+    PickedRectangle rectangle;
+    rectangle.boundaryId = drawBoundary(firstUcs, otherUcs);
+    rectangle.width = std::fabs(otherUcs.x - firstUcs.x);
+    rectangle.height = std::fabs(otherUcs.y - firstUcs.y);
+    rectangle.firstCorner = toWcs(firstUcs);
+    rectangle.otherCorner = toWcs(otherUcs);
+    return rectangle;
+}

@@ -1,0 +1,27 @@
+// What the command says, in both languages.
+#pragma once
+
+#include "app/host.h"
+
+struct Messages
+{
+    const wchar_t* firstCornerPrompt;
+    const wchar_t* otherCornerPrompt;
+    const wchar_t* acceptPrompt;
+    const wchar_t* applyKeyword;
+    const wchar_t* settingsKeyword;
+    const wchar_t* summary;         // format: HorStep, VertStep, Color, appearance text
+    const wchar_t* continuousLine;  // appearance text
+    const wchar_t* crossMark;       // appearance text, format: crossSize
+    const wchar_t* saveFailed;
+    const wchar_t* manyVertical;
+    const wchar_t* manyHorizontal;
+    const wchar_t* manyOfBoth;
+    const wchar_t* questionCaption;
+};
+
+// Locale name of the host product, "en-US" when the host has none.
+CString productLocaleName();
+
+// Russian for "ru-RU" in any case, English for anything else. [borrowed] for good.
+const Messages& messagesFor(const CString& localeName);

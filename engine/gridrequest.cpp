@@ -1,0 +1,30 @@
+#include "engine/gridrequest.h"
+
+#include <algorithm>
+
+void addMade(GridDrawing& drawing, AcDbObjectId id)
+{
+    if (id.isNull())
+    {
+        return;
+    }
+    // The host grows its arrays by a few entries; a million of them would be copied all day.
+    AcDbObjectIdArray& made = drawing.made;
+    if (made.length() == made.physicalLength())
+    {
+        made.setPhysicalLength(made.length() * 2 + 8);
+    }
+    made.append(id);
+}
+
+void sortCorners(AcGePoint3d& corner1, AcGePoint3d& corner2)
+{
+    if (corner1.x > corner2.x)
+    {
+        std::swap(corner1.x, corner2.x);
+    }
+    if (corner1.y > corner2.y)
+    {
+        std::swap(corner1.y, corner2.y);
+    }
+}

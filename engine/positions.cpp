@@ -1,0 +1,49 @@
+#include "engine/positions.h"
+
+#include <cmath>
+
+#include "output/tolerance.h"
+
+static bool fitsInt(double value)
+{
+    return std::fabs(value) < 2147483648.0;
+}
+
+std::vector<double> linePositions(double low, double high, double base, double step, int limit)
+{
+    std::vector<double> positions;
+    const double from = low - step;
+    const double to = high + step;
+    const double steps = (from - base) / step;
+    if (!(step > 0) || !isMeasurable(from) || !isMeasurable(to) || !fitsInt(steps))
+    {
+        return positions;
+    }
+    const double first = static_cast<int>(steps) * step + base;
+    if (!((to - first) / step < limit))
+    {
+        return positions;
+    }
+    for (double at = first; at <= to; at += step)
+    {
+        if (static_cast<int>(positions.size()) == limit || !(at + step > at))
+        {
+            return std::vector<double>();
+        }
+        positions.push_back(at);
+    }
+    return positions;
+}
+
+GridLines gridLines(const AcGePoint3d& low, const AcGePoint3d& high, const AcGePoint3d& base,
+                    double HorStep, double VertStep)
+{
+    GridLines lines;
+    lines.x = linePositions(low.x, high.x, base.x, HorStep, maxNodes);
+    if (!lines.x.empty())
+    {
+        const int left = maxNodes / static_cast<int>(lines.x.size());
+        lines.y = linePositions(low.y, high.y, base.y, VertStep, left);
+    }
+    return lines;
+}

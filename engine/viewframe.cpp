@@ -1,0 +1,28 @@
+#include "engine/viewframe.h"
+
+// A variable that cannot be read leaves zeros; the frame is then built from them.
+static resbuf readVariable(const ACHAR* name)
+{
+    resbuf variable = resbuf();
+    acedGetVar(name, &variable);
+    return variable;
+}
+
+// The variable holds UCS coordinates and any length.
+static AcGeVector3d viewDirection()
+{
+    AcGePoint3d direction = asPnt3d(readVariable(L"VIEWDIR").resval.rpoint);
+    acdbUcs2Wcs(asDblArray(direction), asDblArray(direction), true);
+    const AcGeVector3d towardsViewer = direction.asVector();
+    return towardsViewer * (1 / towardsViewer.length());
+}
+
+Acad::ErrorStatus setViewFrameUcs()
+{
+    const AcGePoint3d origin = asPnt3d(readVariable(L"UCSORG").resval.rpoint);
+    const double twist = readVariable(L"VIEWTWIST").resval.rreal;
+    AcGeMatrix3d frame = AcGeMatrix3d::planeToWorld(viewDirection()) *
+                         AcGeMatrix3d::rotation(-twist, AcGeVector3d::kZAxis);
+    frame.setTranslation(origin.asVector());
+    return acedSetCurrentUCS(frame);
+}

@@ -1,0 +1,159 @@
+#include "settings/inistore.h"
+
+#include <climits>
+
+namespace
+{
+CString stripped(CString text, const wchar_t* characters)
+{
+    text.TrimRight(characters);
+    text.TrimLeft(characters);
+    return text;
+}
+
+CString strippedName(const CString& name)
+{
+    return stripped(name, L" \t");
+}
+
+// The value keeps its leading blanks: "HorStep= 10" has always read as not set. A line without "="
+// is a key named and valued by itself, so that a remark behind "#" is still there after a save;
+// users keep such remarks.
+void readKey(const CString& line, IniSection& section)
+{
+    const int equals = line.Find(L'=');
+    if (equals == 0 || (equals == 1 && line[0] == L'#'))
+    {
+        return;
+    }
+    const CString name = equals < 0 ? line : line.Left(equals);
+    getOrCreateKey(section, name) = equals < 0 ? line : line.Mid(equals + 1);
+}
+
+// Runtimes differ on what fwprintf does at a character that the code page lacks; some drop the rest
+// of the line, its line feed included, and so the key after it.
+CString inCodePage(CString line)
+{
+    char bytes[MB_LEN_MAX];
+    for (int i = 0; i < line.GetLength(); ++i)
+    {
+        if (wctomb(bytes, line[i]) < 0)
+        {
+            line.SetAt(i, L'?');
+        }
+    }
+    return line;
+}
+
+void writeLine(FILE* file, const CString& line)
+{
+    fwprintf(file, L"%s\n", static_cast<const wchar_t*>(inCodePage(line)));
+}
+}  // namespace
+
+void IniStore::clear()
+{
+    m_sections.clear();
+}
+
+// Read as UTF-8 although written in the narrow code page: files written by hand are UTF-8, and only
+// ASCII has to survive both ways. A last line without its line feed is ignored, as it always was.
+bool IniStore::readFile(const CString& path)
+{
+    clear();
+    FILE* file = _wfopen(path, L"r, ccs=UTF-8");
+    if (file == nullptr)
+    {
+        return false;
+    }
+    IniSection* current = nullptr;
+    CString line;
+    for (wint_t c = fgetwc(file); c != WEOF; c = fgetwc(file))
+    {
+        if (c != L'\n')
+        {
+            line += static_cast<wchar_t>(c);
+            continue;
+        }
+        current = readLine(stripped(line, L" \t\r\n"), current);
+        line.Empty();
+    }
+    fclose(file);
+    return true;
+}
+
+IniSection* IniStore::readLine(const CString& line, IniSection* current)
+{
+    if (line.IsEmpty())
+    {
+        return current;
+    }
+    const int last = line.GetLength() - 1;
+    if (line[0] == L'[' && line.ReverseFind(L']') == last)
+    {
+        return &getOrCreateSection(line.Mid(1, last - 1));
+    }
+    if (current != nullptr)
+    {
+        readKey(line, *current);
+    }
+    return current;
+}
+
+bool IniStore::writeFile(const CString& path) const
+{
+    FILE* file = _wfopen(path, L"w");
+    if (file == nullptr)
+    {
+        return false;
+    }
+    for (auto section = m_sections.begin(); section != m_sections.end(); ++section)
+    {
+        writeLine(file, L"[" + section->first + L"]");
+        for (auto key = section->second.begin(); key != section->second.end(); ++key)
+        {
+            writeLine(file, key->first + L"=" + key->second);
+        }
+    }
+    fclose(file);
+    return true;
+}
+
+const IniSection* IniStore::findSection(const CString& name) const
+{
+    const auto found = m_sections.find(strippedName(name));
+    return found == m_sections.end() ? nullptr : &found->second;
+}
+
+IniSection& IniStore::getOrCreateSection(const CString& name)
+{
+    return m_sections[strippedName(name)];
+}
+
+void IniStore::removeSection(const CString& name)
+{
+    m_sections.erase(strippedName(name));
+}
+
+CString IniStore::getValue(const CString& section, const CString& key) const
+{
+    const IniSection* keys = findSection(section);
+    const CString* value = keys == nullptr ? nullptr : findKey(*keys, key);
+    return value == nullptr ? CString(L"0") : *value;
+}
+
+void IniStore::setValue(const CString& section, const CString& key, const CString& text)
+{
+    getOrCreateKey(getOrCreateSection(section), key) = text;
+}
+
+const CString* findKey(const IniSection& section, const CString& name)
+{
+    const auto found = section.find(strippedName(name));
+    return found == section.end() ? nullptr : &found->second;
+}
+
+CString& getOrCreateKey(IniSection& section, const CString& name)
+{
+    return section[strippedName(name)];
+}

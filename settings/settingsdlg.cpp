@@ -1,0 +1,6 @@
+#include "settings/settingsdlg.h"
+
+bool editSettings(GridSettings&, double, double, const CString&)
+{
+    return false;
+}

@@ -1,0 +1,197 @@
+#include "engine/pointtests.h"
+
+#include <cfloat>
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "output/tolerance.h"
+
+namespace
+{
+const double infinity = std::numeric_limits<double>::infinity();
+
+AcGePoint3dArray points(std::initializer_list<AcGePoint3d> list)
+{
+    AcGePoint3dArray array;
+    for (const AcGePoint3d& point : list)
+    {
+        array.append(point);
+    }
+    return array;
+}
+
+// 100 x 50, counter-clockwise from the origin.
+AcGePoint3dArray sheet()
+{
+    return points({
+        {0,   0,  0},
+        {100, 0,  0},
+        {100, 50, 0},
+        {0,   50, 0}
+    });
+}
+
+TEST(PointInQuad, tellsInsideEdgeOutsideAndCorner)
+{
+    struct Row
+    {
+        AcGePoint3d point;
+        int place;
+    };
+    const Row rows[] = {
+        {{50, 25, 0},           1 },
+        {{1e-3, 1e-3, 0},       1 },
+        {{99.9, 49.9, 0},       1 },
+        {{50, 0, 0},            0 },
+        {{100, 25, 0},          0 },
+        {{50, 50, 0},           0 },
+        {{0, 25, 0},            0 },
+        {{50, 5e-11, 0},        0 }, // within the host's tolerance on either side
+        {{50, -5e-11, 0},       0 },
+        {{50, -2e-10, 0},       1 }, // off the edge, but too near for the angles to tell
+        {{0, 0, 0},             2 },
+        {{100, 50, 0},          2 },
+        {{5e-13, 0, 0},         2 },
+        {{5e-12, 0, 0},         0 }, // no longer at the corner, still on the edge
+        {{-1, 25, 0},           -1},
+        {{101, 25, 0},          -1},
+        {{150, 0, 0},           -1}, // on the line of an edge, past its end
+        {{50, 25, 1},           -1}, // above the sheet
+        {{infinity, 25, 0},     -1},
+        {{std::nan(""), 25, 0}, -1},
+        {{DBL_MAX, DBL_MAX, 0}, -1},
+    };
+    const AcGePoint3dArray q = sheet();
+    for (const Row& row : rows)
+    {
+        const AcGePoint3d& p = row.point;
+        EXPECT_EQ(pointInQuad(p, q[0], q[1], q[2], q[3]), row.place)
+            << p.x << ' ' << p.y << ' ' << p.z;
+        EXPECT_EQ(pointInQuad(p, q[3], q[2], q[1], q[0]), row.place) << "the other turn";
+    }
+}
+
+TEST(PointInQuad, usesTheTolerancesOfTheHostAsTheyStand)
+{
+    const AcGePoint3dArray q = sheet();
+    const AcGeTol former = AcGeContext::gTol;
+    AcGeContext::gTol.setEqualPoint(1);
+    EXPECT_EQ(pointInQuad({50, 1, 0}, q[0], q[1], q[2], q[3]), 0);
+    EXPECT_EQ(pointInQuad({50, 1.1, 0}, q[0], q[1], q[2], q[3]), 1);
+    AcGeContext::gTol.setEqualVector(2);
+    EXPECT_EQ(pointInQuad({1.5, 1, 0}, q[0], q[1], q[2], q[3]), 2);
+    AcGeContext::gTol = former;
+}
+
+// Points computed on the outline at survey coordinates are some roundings off it.
+TEST(PointInQuad, findsEdgesAndCornersAtSurveyCoordinates)
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> unit(0, 1);
+    for (int i = 0; i < 10000; ++i)
+    {
+        const double turn = 6.28 * unit(random);
+        const AcGeVector3d along(300 * std::cos(turn), 300 * std::sin(turn), 0);
+        const AcGeVector3d up(-200 * std::sin(turn), 200 * std::cos(turn), 0);
+        const AcGePoint3d origin(1e6 + 9e6 * unit(random), 1e6 + 9e6 * unit(random), 0);
+        const AcGePoint3d q[] = {origin, origin + along, origin + along + up, origin + up};
+        const double part = 0.01 + 0.98 * unit(random);
+        EXPECT_EQ(pointInQuad(origin + along * part, q[0], q[1], q[2], q[3]), 0);
+        EXPECT_EQ(pointInQuad(q[2] - up * part, q[0], q[1], q[2], q[3]), 0);
+        EXPECT_EQ(pointInQuad(q[2] - along - up, q[0], q[1], q[2], q[3]), 2);
+        EXPECT_EQ(pointInQuad(origin + along * part + up * part, q[0], q[1], q[2], q[3]), 1);
+        EXPECT_EQ(pointInQuad(origin + along * part - up * part, q[0], q[1], q[2], q[3]), -1);
+    }
+}
+
+TEST(PointInOutlinePoints, countsTheFirstFourPointsOnly)
+{
+    AcGePoint3dArray outline = sheet();
+    outline.append(AcGePoint3d(-100, 25, 0));
+    EXPECT_EQ(pointInOutlinePoints({50, 25, 0}, outline), 1);
+    EXPECT_EQ(pointInOutlinePoints({-50, 25, 0}, outline), -1);
+}
+
+TEST(PointInOutlinePoints, refusesAnOutlineOfFewerThanFour)
+{
+    EXPECT_EQ(pointInOutlinePoints({0, 0, 0}, points({})), -99);
+    EXPECT_EQ(pointInOutlinePoints(
+                  {
+                      1, 1, 0
+    },
+                  points({{0, 0, 0}, {9, 0, 0}, {0, 9, 0}})),
+              -99);
+}
+
+TEST(PointInCurve, tellsInsideOnAndOutside)
+{
+    AcGePoint3dArray corners = sheet();
+    const AcDb2dPolyline frame(AcDb::k2dSimplePoly, corners, 0, true);
+    EXPECT_EQ(pointInCurve({50, 25, 0}, frame), 1);
+    EXPECT_EQ(pointInCurve({50, 0, 0}, frame), 0);
+    EXPECT_EQ(pointInCurve({0, 0, 0}, frame), 0);  // corners are no case of their own here
+    EXPECT_EQ(pointInCurve({50, 5e-11, 0}, frame), 0);
+    EXPECT_EQ(pointInCurve({-1, 25, 0}, frame), -1);
+    EXPECT_EQ(pointInCurve({150, 50, 0}, frame), -1);
+}
+
+TEST(PointInCurve, takesACurveOfAnyShape)
+{
+    AcGePoint3dArray corners = points({
+        {0,   0,   0},
+        {100, 0,   0},
+        {100, 100, 0},
+        {50,  10,  0},
+        {0,   100, 0}
+    });
+    const AcDb2dPolyline notched(AcDb::k2dSimplePoly, corners, 0, true);
+    EXPECT_EQ(pointInCurve({50, 5, 0}, notched), 1);
+    EXPECT_EQ(pointInCurve({50, 50, 0}, notched), -1);
+    EXPECT_EQ(pointInCurve({10, 50, 0}, notched), 1);
+}
+
+TEST(PointInCurve, takesARectangleThatRepeatsItsFirstCorner)
+{
+    AcGePoint3dArray corners = sheet();
+    corners.append(corners.first());
+    const AcDb2dPolyline frame(AcDb::k2dSimplePoly, corners, 0, true);
+    EXPECT_EQ(pointInCurve({50, 25, 0}, frame), 1);
+    EXPECT_EQ(pointInCurve({0, 0, 0}, frame), 0);
+    EXPECT_EQ(pointInCurve({0, 60, 0}, frame), -1);
+}
+
+TEST(PointInCurve, refusesACurveThatIsNoPolyline)
+{
+    const AcDbLine line({0, 0, 0}, {100, 0, 0});
+    EXPECT_EQ(pointInCurve({50, 0, 0}, line), 0);
+    EXPECT_EQ(pointInCurve({50, 1, 0}, line), -99);
+}
+
+TEST(ContainsPoint, findsAPointThatLiesCloserThanAMillionth)
+{
+    const AcGePoint3dArray list = points({
+        {0,  0,  0 },
+        {10, 20, 30}
+    });
+    EXPECT_TRUE(containsPoint(list, {10, 20, 30}));
+    EXPECT_TRUE(containsPoint(list, {0, 0, 9e-7}));
+    EXPECT_FALSE(containsPoint(list, {0, 0, 1e-6}));  // strictly closer
+    EXPECT_FALSE(containsPoint(list, {5, 5, 5}));
+    EXPECT_FALSE(containsPoint(points({}), {0, 0, 0}));
+}
+
+TEST(ContainsPoint, givesTheGlobalToleranceBack)
+{
+    const BorrowedTolerance tolerance(0.125);
+    const AcGePoint3dArray list = points({
+        {0, 0, 0}
+    });
+    EXPECT_TRUE(containsPoint(list, {0, 0, 0}));
+    EXPECT_EQ(AcGeContext::gTol.equalPoint(), 0.125);
+    EXPECT_FALSE(containsPoint(list, {1, 0, 0}));
+    EXPECT_EQ(AcGeContext::gTol.equalPoint(), 0.125);
+}
+}  // namespace

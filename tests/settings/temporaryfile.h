@@ -1,0 +1,43 @@
+// A settings file of a test's own.
+#pragma once
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "app/host.h"
+
+// In a new folder that goes with it.
+class TemporaryFile
+{
+public:
+    TemporaryFile() : m_folder(makeFolder()) {}
+    ~TemporaryFile() { std::filesystem::remove_all(m_folder); }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    CString path() const { return file().wstring().c_str(); }
+    CString pathInMissingFolder() const { return (m_folder / "none" / "x.ini").wstring().c_str(); }
+
+    void write(const std::string& bytes) const { std::ofstream(file(), std::ios::binary) << bytes; }
+
+    std::string read() const
+    {
+        std::ifstream stream(file(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+private:
+    static std::filesystem::path makeFolder()
+    {
+        std::string name = (std::filesystem::temp_directory_path() / "settings-XXXXXX").string();
+        return mkdtemp(name.data());
+    }
+
+    std::filesystem::path file() const { return m_folder / "properties.ini"; }
+
+    std::filesystem::path m_folder;
+};

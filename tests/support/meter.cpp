@@ -1,0 +1,63 @@
+#include "tests/support/meter.h"
+
+#include <dlfcn.h>
+
+#include "rxmfcapi.h"
+
+// The functions at the end take the place of the host's in the test program, which comes before the
+// host's library; without a Meter they hand each call on.
+namespace
+{
+tests::Meter* current = nullptr;
+
+template <class Function>
+Function* original(const char* mangledName)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, mangledName));
+}
+}  // namespace
+
+namespace tests
+{
+Meter::Meter()
+{
+    current = this;
+}
+Meter::~Meter()
+{
+    current = nullptr;
+}
+}  // namespace tests
+
+int acedSetStatusBarProgressMeter(const ACHAR* label, int minimum, int maximum)
+{
+    if (current == nullptr)
+    {
+        return original<int(const ACHAR*, int, int)>("_Z29acedSetStatusBarProgressMeterPKwii")(
+            label, minimum, maximum);
+    }
+    current->label = label;
+    current->minimum = minimum;
+    current->maximum = maximum;
+    ++current->started;
+    return 0;
+}
+
+int acedSetStatusBarProgressMeterPos(int position)
+{
+    if (current == nullptr)
+    {
+        return original<int(int)>("_Z32acedSetStatusBarProgressMeterPosi")(position);
+    }
+    current->positions.push_back(position);
+    return 0;
+}
+
+void acedRestoreStatusBar()
+{
+    if (current == nullptr)
+    {
+        return original<void()>("_Z20acedRestoreStatusBarv")();
+    }
+    ++current->restored;
+}

@@ -1,0 +1,25 @@
+// The progress meter of the status bar, written down.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tests
+{
+// While it lives the meter is its own and nothing is printed; one at a time.
+class Meter
+{
+public:
+    Meter();
+    ~Meter();
+    Meter(const Meter&) = delete;
+    Meter& operator=(const Meter&) = delete;
+
+    std::wstring label;
+    int minimum = -1;
+    int maximum = -1;
+    int started = 0;
+    std::vector<int> positions;
+    int restored = 0;
+};
+}  // namespace tests

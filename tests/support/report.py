@@ -1,0 +1,44 @@
+"""Collects checks, runs them in random order and prints what the caller of a test program needs."""
+import random
+import sys
+import traceback
+
+_checks = []
+
+
+def check(function):
+    """Marks a function as a test; its name is a sentence about the product."""
+    _checks.append((function.__name__.replace("_", " "), function))
+    return function
+
+
+def add(name, function, *arguments):
+    _checks.append((name, lambda: function(*arguments)))
+
+
+def expect(holds, what):
+    if not holds:
+        raise AssertionError(what)
+
+
+def expect_equal(got, wanted, what):
+    expect(got == wanted, f"{what}: got {got!r}, expected {wanted!r}")
+
+
+def run_all(seed=None):
+    """Runs everything and ends the program: status 0 only when all passed and there was something."""
+    seed = seed if seed is not None else random.randrange(1, 100000)
+    print(f"random order, seed {seed}")
+    random.Random(seed).shuffle(_checks)
+    failed = 0
+    for name, function in _checks:
+        try:
+            function()
+        except AssertionError as error:
+            failed += 1
+            print(f"FAILED {name}\n    {error}")
+        except Exception:  # a broken test is a failed one; the others still run
+            failed += 1
+            print(f"FAILED {name}\n{traceback.format_exc()}")
+    print(f"{len(_checks) - failed} passed, {failed} failed")
+    sys.exit(1 if failed or not _checks else 0)
