@@ -15,6 +15,23 @@ Editor* theEditor = nullptr;
 // No command asks this often after Esc unless it never looks at the answer.
 const int patience = 1000;
 
+const char* callOf(Question::Kind kind)
+{
+    switch (kind)
+    {
+        case Question::Kind::point:
+            return "acedGetPoint";
+        case Question::Kind::corner:
+            return "acedGetCorner";
+        case Question::Kind::distance:
+            return "acedGetDist";
+        case Question::Kind::keyword:
+            return "acedGetKword";
+        default:
+            return "a prompt";
+    }
+}
+
 // The end at the command prompt is no answer: nobody pressed Esc.
 std::wstring_view echoOf(const Question& question, const Answer& answer)
 {
@@ -78,8 +95,10 @@ Answer Editor::ask(const Question& question)
 
 Answer Editor::askSilently(const Question& question)
 {
-    const bool ownLine =
-        question.kind == Question::Kind::command || question.kind == Question::Kind::messageBox;
+    requireNoDialog(question);
+    const bool ownLine = question.kind == Question::Kind::command ||
+                         question.kind == Question::Kind::messageBox ||
+                         question.kind == Question::Kind::dialog;
     print((ownLine && !m_atLineStart ? L"\n" : L"") + question.prompt);
     Answer answer = m_putBack ? *std::exchange(m_putBack, std::nullopt) : m_frontEnd.ask(question);
     if (answer.kind == Answer::Kind::endOfInput)
@@ -98,6 +117,17 @@ void Editor::echo(const Answer& answer, std::wstring_view text)
         return;
     }
     print(std::wstring(text) + L"\n");
+}
+
+// A shown dialog holds the user's input; a prompt under it could never be answered.
+void Editor::requireNoDialog(const Question& question) const
+{
+    const bool ownWindow =
+        question.kind == Question::Kind::dialog || question.kind == Question::Kind::messageBox;
+    if (shownDialogs > 0 && !ownWindow)
+    {
+        breach(callOf(question.kind), "asked while a dialog is shown, without BeginEditorCommand");
+    }
 }
 
 void Editor::noteEnd(const Question& question)

@@ -64,8 +64,13 @@ public:
     int errorNumber = 0;  // the variable ERRNO
     std::optional<Meter> meter;
     bool quit = false;
+    int shownDialogs = 0;      // no prompt may be asked while there are any
+    int picksFromDialogs = 0;  // times that a dialog has stepped aside
+
+    bool interactive() const { return m_frontEnd.interactive(); }
 
 private:
+    void requireNoDialog(const Question& question) const;
     void noteEnd(const Question& question);
 
     FrontEnd& m_frontEnd;

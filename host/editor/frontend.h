@@ -62,5 +62,7 @@ public:
     virtual void report(std::string_view line) = 0;
     // The prompt has been printed already. Once it has given endOfInput it gives nothing else.
     virtual Answer ask(const Question& question) = 0;
+    // A person reads along and types: help is welcome that a script has no use for.
+    virtual bool interactive() const { return false; }
 };
 }  // namespace host

@@ -17,6 +17,7 @@ public:
     LineReader(std::istream& input, bool visible) : m_input(input), m_visible(visible) {}
 
     Answer next();
+    bool visible() const { return m_visible; }
 
 private:
     bool read(std::string& line);
@@ -37,6 +38,7 @@ public:
     void print(std::string_view text) override;
     void report(std::string_view line) override;
     Answer ask(const Question& question) override { return m_rendezvous.ask(question); }
+    bool interactive() const override { return m_reader.visible(); }
 
     // Runs the job on a thread of its own and answers its questions on the calling one.
     void serve(const std::function<void()>& job);

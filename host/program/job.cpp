@@ -2,11 +2,13 @@
 
 #include <cstdlib>
 
+#include "host/dialogs/modalloop.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
 #include "host/editor/commands.h"
 #include "host/editor/editor.h"
 #include "host/editor/hostcommands.h"
+#include "host/pictures/dialogpicture.h"
 #include "host/program/saveas.h"
 #include "host/runtime/linker.h"
 #include "host/runtime/locale.h"
@@ -62,6 +64,20 @@ bool save(const Options& options, FrontEnd& frontEnd)
     return !error;
 }
 
+// Draws every dialog over the one before, so that the last one stays.
+bool runInputAndDraw(Editor& editor, const std::string& picture)
+{
+    std::optional<std::string> error = picture + ": no dialog was shown that could be drawn";
+    setDialogObserver([&](HWND dialog) { error = drawDialog(dialog, picture); });
+    const bool ended = runInput(editor);
+    setDialogObserver({});
+    if (error)
+    {
+        editor.report(fromUtf8(*error));
+    }
+    return ended && !error;
+}
+
 bool runDocument(const Options& options, FrontEnd& frontEnd)
 {
     Editor editor(frontEnd, options.trace);
@@ -69,7 +85,8 @@ bool runDocument(const Options& options, FrontEnd& frontEnd)
     bool done = loadModule(options, frontEnd);
     if (done)
     {
-        done = runInput(editor);
+        done = options.dialogPicture.empty() ? runInput(editor)
+                                             : runInputAndDraw(editor, options.dialogPicture);
         // A run that was cut short has still drawn what it has drawn.
         done = save(options, frontEnd) && done;
     }

@@ -7,9 +7,11 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
+#include <sstream>
 
 #include "host/editor/linefrontend.h"
 #include "host/program/job.h"
+#include "host/runtime/locale.h"
 
 namespace
 {
@@ -50,8 +52,20 @@ int runWith(const host::Options& options, std::istream& input, bool visible)
     return status;
 }
 
+// What opens the settings dialog and leaves it again, for a picture that nobody wrote a script for.
+std::string answersForPicture(const host::Options& options)
+{
+    const char* const settings = options.locale == host::russianLocale ? "Н" : "S";
+    return std::string("zv_netrax\n") + settings + "\n^C\n^C\n";
+}
+
 int run(const host::Options& options)
 {
+    if (options.script.empty() && !options.dialogPicture.empty())
+    {
+        std::istringstream answers(answersForPicture(options));
+        return runWith(options, answers, false);
+    }
     if (options.script.empty() || options.script == "-")
     {
         const bool terminal = isatty(STDIN_FILENO) && isatty(STDOUT_FILENO);

@@ -41,6 +41,10 @@ void describe(CLI::App& app, Options& options, std::string& locale)
         ->default_str("en-US");
     app.add_option("--save", options.save, "save the drawing as DXF after the input has ended")
         ->type_name("FILE");
+    app.add_option("--dialog-picture", options.dialogPicture,
+                   "draw the last dialog shown as it stood when it closed; without --script the "
+                   "module's settings dialog is opened for it")
+        ->type_name("FILE.png");
     app.add_flag("--trace", options.trace, "tell of the progress meter as well");
 }
 

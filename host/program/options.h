@@ -16,6 +16,7 @@ struct Options
     std::string script;  // empty: the terminal or standard input as it is; "-" is standard input
     std::string save;    // empty: do not save
     LCID locale;
+    std::string dialogPicture;  // empty: none
     bool trace = false;
 };
 

@@ -23,6 +23,7 @@ typedef DWORD LCID;
 typedef std::intptr_t INT_PTR;
 typedef std::intptr_t LPARAM;
 typedef std::intptr_t LRESULT;
+typedef std::uintptr_t DWORD_PTR;
 typedef std::uintptr_t UINT_PTR;
 typedef std::uintptr_t WPARAM;
 typedef void* LPVOID;

@@ -100,6 +100,7 @@ void forgetModule(HINSTANCE module)
     {
         breach("AfxTermExtensionModule", "not called before the module left");
     }
+    setModuleResources(module, {});
     registry().modules.erase(module);
 }
 

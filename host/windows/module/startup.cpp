@@ -7,6 +7,7 @@
 #include "windows.h"
 
 #include "../modules.h"
+#include "../resources.h"
 
 // Hidden, so that it is always the module's own, whatever the program exports.
 extern "C" __attribute__((visibility("hidden"))) int APIENTRY DllMain(HINSTANCE, DWORD, LPVOID);
@@ -21,6 +22,10 @@ extern "C" int acrxGetApiVersion()
 {
     return ACRX_API_VERSION;
 }
+
+// The module's compiled resources; both null in a module that has none.
+extern "C" __attribute__((weak, visibility("hidden"))) const std::byte arxResources[];
+extern "C" __attribute__((weak, visibility("hidden"))) const std::byte arxResourcesEnd[];
 
 namespace
 {
@@ -56,6 +61,7 @@ bool attach(HINSTANCE module)
 // the loader where there is one.
 __attribute__((constructor)) void enter()
 {
+    host::setModuleResources(host::instanceHolding(&s_module), {arxResources, arxResourcesEnd});
     s_module = host::registerModule(&s_module, attach);
 }
 

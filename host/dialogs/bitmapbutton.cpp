@@ -1,0 +1,65 @@
+#include "host/dialogs/bitmapbutton.h"
+
+#include "host/dialogs/wnd.h"
+
+namespace
+{
+HRSRC findBitmap(LPCWSTR name, HINSTANCE& module)
+{
+    module = AfxFindResourceHandle(name, RT_BITMAP);
+    return FindResourceW(module, name, RT_BITMAP);
+}
+}  // namespace
+
+BOOL CAdUiOwnerDrawButton::AutoLoad()
+{
+    return OnAutoLoad();
+}
+
+BOOL CAdUiOwnerDrawButton::OnAutoLoad()
+{
+    return FALSE;
+}
+
+CAdUiBitmapButton::CAdUiBitmapButton(LPCWSTR bitmapName)
+    : m_bitmapName(bitmapName), m_autoSize(TRUE), m_bitmap(nullptr)
+{
+}
+
+BOOL CAdUiBitmapButton::GetAutoSizeToBitmap() const
+{
+    return m_autoSize;
+}
+
+void CAdUiBitmapButton::SetAutoSizeToBitmap(BOOL size)
+{
+    m_autoSize = size;
+}
+
+BOOL CAdUiBitmapButton::OnAutoLoad()
+{
+    if (m_bitmapName.IsEmpty())
+    {
+        CString text;
+        GetWindowText(text);
+        const int bar = text.Find(L'|');
+        if (bar < 0)
+        {
+            return FALSE;
+        }
+        m_bitmapName = text.Left(bar);
+        SetWindowText(text.Mid(bar + 1));
+    }
+    const bool drawsItself = (GetWindowLongW(m_hWnd, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW;
+    HINSTANCE module = nullptr;
+    m_bitmap = drawsItself ? findBitmap(m_bitmapName, module) : nullptr;
+    return m_bitmap != nullptr;
+}
+
+std::span<const std::byte> host::bitmapOfButton(HWND button)
+{
+    const auto* object = dynamic_cast<const CAdUiBitmapButton*>(objectOf(button));
+    const HRSRC bitmap = object != nullptr ? object->bitmap() : nullptr;
+    return {static_cast<const std::byte*>(LockResource(LoadResource(nullptr, bitmap))),
+            SizeofResource(nullptr, bitmap)};
+}

@@ -1,0 +1,155 @@
+#include "host/dialogs/controlview.h"
+
+#include <utility>
+
+#include "host/dialogs/wnd.h"
+#include "host/editor/numbertext.h"
+#include "host/runtime/foldcase.h"
+
+namespace host
+{
+namespace
+{
+ControlKind kindOfButton(DWORD style)
+{
+    switch (style & BS_TYPEMASK)
+    {
+        case BS_GROUPBOX:
+            return ControlKind::group;
+        case BS_AUTOCHECKBOX:
+            return ControlKind::check;
+        case BS_AUTORADIOBUTTON:
+            return ControlKind::radio;
+        default:
+            return ControlKind::button;
+    }
+}
+
+ControlKind kindOfStatic(DWORD style)
+{
+    const DWORD type = style & SS_TYPEMASK;
+    return type == SS_ETCHEDHORZ || type == SS_ETCHEDVERT ? ControlKind::line : ControlKind::label;
+}
+
+bool isChecked(HWND control)
+{
+    return SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+std::wstring stateOf(HWND control, ControlKind kind)
+{
+    switch (kind)
+    {
+        case ControlKind::check:
+        case ControlKind::radio:
+            return isChecked(control) ? L"checked" : L"unchecked";
+        case ControlKind::combo:
+            return L"selected=" + std::to_wstring(SendMessageW(control, CB_GETCURSEL, 0, 0));
+        default:
+            return L"-";
+    }
+}
+
+std::wstring valueOf(HWND control, ControlKind kind)
+{
+    const std::wstring text = windowText(control);
+    switch (kind)
+    {
+        case ControlKind::edit:
+        case ControlKind::combo:
+            return L"[" + text + L"]";
+        case ControlKind::check:
+            return (isChecked(control) ? L"[x] " : L"[ ] ") + text;
+        case ControlKind::radio:
+            return (isChecked(control) ? L"(*) " : L"( ) ") + text;
+        case ControlKind::button:
+            return L"<" + text + L">";
+        case ControlKind::group:
+            return L"--- " + std::wstring(trimmed(text)) + L" ---";
+        default:
+            return text;
+    }
+}
+
+// A line of the readable view: "-" marks what is disabled.
+std::wstring viewLine(HWND control, const std::wstring& contents)
+{
+    const std::wstring id = std::to_wstring(GetDlgCtrlID(control));
+    return (IsWindowEnabled(control) ? L"  " : L"- ") +
+           std::wstring(4 - std::min<std::size_t>(id.size(), 4), L' ') + id + L"  " + contents +
+           L"\n";
+}
+}  // namespace
+
+ControlKind kindOf(HWND control)
+{
+    wchar_t name[64] = L"";
+    GetClassNameW(control, name, 64);
+    const auto style = DWORD(GetWindowLongW(control, GWL_STYLE));
+    if (equalNoCase(name, L"Button"))
+    {
+        return kindOfButton(style);
+    }
+    if (equalNoCase(name, L"Edit"))
+    {
+        return ControlKind::edit;
+    }
+    return equalNoCase(name, L"ComboBox") ? ControlKind::combo : kindOfStatic(style);
+}
+
+const wchar_t* nameOf(ControlKind kind)
+{
+    static const wchar_t* const names[] = {L"edit",  L"button", L"check", L"radio",
+                                           L"combo", L"label",  L"group", L"line"};
+    return names[int(kind)];
+}
+
+std::wstring controlLine(HWND control)
+{
+    const ControlKind kind = kindOf(control);
+    return L"[control] " + std::to_wstring(GetDlgCtrlID(control)) + L" " + nameOf(kind) +
+           (IsWindowEnabled(control) ? L" enabled " : L" disabled ") + stateOf(control, kind) +
+           L" \"" + windowText(control) + L"\"";
+}
+
+// A label says what the field after it holds.
+std::wstring readableView(HWND dialog)
+{
+    std::wstring view;
+    std::pair<HWND, std::wstring> label;
+    const auto putLabel = [&]
+    {
+        if (label.first != nullptr)
+        {
+            view += viewLine(label.first, label.second);
+        }
+        label = {};
+    };
+    for (HWND control = GetWindow(dialog, GW_CHILD); control;
+         control = GetWindow(control, GW_HWNDNEXT))
+    {
+        const ControlKind kind = kindOf(control);
+        const bool field = kind == ControlKind::edit || kind == ControlKind::combo;
+        std::wstring contents = valueOf(control, kind);
+        if (field && label.first != nullptr)
+        {
+            contents = label.second + L" " + contents;
+            label = {};
+        }
+        putLabel();
+        if (kind == ControlKind::label)
+        {
+            label = {control, contents};
+        }
+        else if (kind != ControlKind::line)
+        {
+            view += viewLine(control, contents);
+        }
+    }
+    putLabel();
+    return view +
+           L"set ID TEXT, check ID on|off, click ID, select ID TEXT or #N, color ID N, show, "
+           L"close; "
+           L"Enter presses OK, ^C cancels";
+}
+}  // namespace host

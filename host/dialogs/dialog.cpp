@@ -1,0 +1,115 @@
+#include <string>
+
+#include "afxwin.h"
+#include "host/dialogs/modalloop.h"
+#include "host/dialogs/wnd.h"
+#include "host/editor/editor.h"
+
+// What the window of a dialog calls.
+struct DialogProcedure
+{
+    static INT_PTR CALLBACK call(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (message == WM_INITDIALOG)
+        {
+            auto* dialog = reinterpret_cast<CDialog*>(lParam);
+            dialog->Attach(window);
+            return dialog->OnInitDialog();
+        }
+        auto* dialog = static_cast<CDialog*>(host::objectOf(window));
+        return message == WM_COMMAND && dialog != nullptr ? dialog->OnCommand(wParam, lParam)
+                                                          : FALSE;
+    }
+};
+
+namespace
+{
+LPCDLGTEMPLATEW findTemplate(LPCWSTR name)
+{
+    const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
+    return LockResource(LoadResource(module, FindResourceW(module, name, RT_DIALOG)));
+}
+
+void reportMissing(UINT templateId)
+{
+    if (const host::Editor* editor = host::Editor::current())
+    {
+        editor->report(L"dialog " + std::to_wstring(templateId) +
+                       L" is not in the module's resources");
+    }
+}
+
+// The controls' objects stay, as members of the dialog; the windows go.
+void detachControls(HWND dialog)
+{
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+    {
+        if (CWnd* object = host::objectOf(child))
+        {
+            object->Detach();
+        }
+    }
+}
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_BN_CLICKED(IDOK, &CDialog::OnOK)
+ON_BN_CLICKED(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+CDialog::CDialog(UINT templateId, CWnd* parent)
+    : m_templateId(templateId), m_parent(parent), m_result(-1), m_ended(false)
+{
+}
+
+CDialog::~CDialog() {}
+
+INT_PTR CDialog::DoModal()
+{
+    m_result = -1;
+    m_ended = false;
+    const HWND owner = m_parent != nullptr ? m_parent->m_hWnd : nullptr;
+    const HWND window = CreateDialogIndirectParamW(
+        AfxGetResourceHandle(), findTemplate(MAKEINTRESOURCEW(m_templateId)), owner,
+        &DialogProcedure::call, reinterpret_cast<LPARAM>(this));
+    if (window == nullptr)
+    {
+        reportMissing(m_templateId);
+        return -1;
+    }
+    if (!m_ended)
+    {
+        host::runModalLoop(window, m_ended);
+        host::tellDialogClosed(m_result == IDOK);
+    }
+    detachControls(window);
+    Detach();
+    DestroyWindow(window);
+    host::dropTemporaryObjects();
+    return m_result;
+}
+
+void CDialog::EndDialog(int result)
+{
+    m_result = result;
+    m_ended = true;
+}
+
+BOOL CDialog::OnInitDialog()
+{
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE))
+    {
+        EndDialog(IDOK);
+    }
+}
+
+void CDialog::OnCancel()
+{
+    EndDialog(IDCANCEL);
+}

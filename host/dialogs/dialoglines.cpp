@@ -1,0 +1,177 @@
+#include "host/dialogs/dialoglines.h"
+
+#include <algorithm>
+
+#include "acui.h"
+#include "host/dialogs/controlview.h"
+#include "host/dialogs/wnd.h"
+#include "host/editor/editor.h"
+#include "host/editor/numbertext.h"
+#include "host/runtime/foldcase.h"
+
+namespace host
+{
+namespace
+{
+using Wrong = std::optional<std::wstring>;
+
+const Wrong done = std::nullopt;
+
+// Takes the first word off the line, and one blank after it.
+std::wstring takeWord(std::wstring_view& line)
+{
+    const std::size_t first = std::min(line.find_first_not_of(L" \t"), line.size());
+    const std::size_t end = std::min(line.find_first_of(L" \t", first), line.size());
+    const std::wstring word(line.substr(first, end - first));
+    line.remove_prefix(std::min(end + 1, line.size()));
+    return word;
+}
+
+std::wstring named(HWND control)
+{
+    return L"Control " + std::to_wstring(GetDlgCtrlID(control));
+}
+
+void tellDialog(HWND control, WORD code)
+{
+    SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), code),
+                 reinterpret_cast<LPARAM>(control));
+}
+
+Wrong set(HWND edit, std::wstring_view text)
+{
+    SetWindowTextW(edit, std::wstring(text).c_str());
+    return done;
+}
+
+Wrong click(HWND button, std::wstring_view)
+{
+    SendMessageW(button, BM_CLICK, 0, 0);
+    return done;
+}
+
+Wrong check(HWND button, std::wstring_view text)
+{
+    const std::wstring_view word = trimmed(text);
+    const bool on = equalNoCase(word, L"on");
+    if (!on && !equalNoCase(word, L"off"))
+    {
+        return L"Say on or off: check " + std::to_wstring(GetDlgCtrlID(button)) + L" on";
+    }
+    const bool checked = SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
+    if (kindOf(button) == ControlKind::radio && checked && !on)
+    {
+        return named(button) + L" goes off only when another button of its group is clicked.";
+    }
+    return checked == on ? done : click(button, {});
+}
+
+Wrong choose(HWND list, LRESULT index, const std::wstring& wanted)
+{
+    if (index < 0 || index >= SendMessageW(list, CB_GETCOUNT, 0, 0))
+    {
+        return named(list) + L" has no item " + wanted + L".";
+    }
+    SendMessageW(list, CB_SETCURSEL, WPARAM(index), 0);
+    tellDialog(list, CBN_SELCHANGE);
+    return done;
+}
+
+Wrong select(HWND list, std::wstring_view text)
+{
+    const std::wstring wanted(trimmed(text));
+    if (wanted.starts_with(L'#'))
+    {
+        return choose(list, parseInteger(wanted.substr(1)).value_or(-1), wanted);
+    }
+    const LRESULT index = SendMessageW(list, CB_FINDSTRINGEXACT, WPARAM(-1),
+                                       reinterpret_cast<LPARAM>(wanted.c_str()));
+    return choose(list, index, L"\"" + wanted + L"\"");
+}
+
+// As the host's own colour dialog does it: the colour joins the recent ones.
+Wrong color(HWND list, std::wstring_view text)
+{
+    auto* const colors = dynamic_cast<CAcUiColorComboBox*>(objectOf(list));
+    if (colors == nullptr)
+    {
+        return named(list) + L" is no list of colours.";
+    }
+    const std::wstring wanted(trimmed(text));
+    const int index = colors->AddColorToMRU(parseInteger(wanted).value_or(-1));
+    return choose(list, index, L"for the colour \"" + wanted + L"\"");
+}
+
+struct Verb
+{
+    const wchar_t* word;
+    Wrong (*act)(HWND control, std::wstring_view rest);
+    std::initializer_list<ControlKind> kinds;
+};
+
+const Verb verbs[] = {
+    {L"set",    set,    {ControlKind::edit}                                          },
+    {L"check",  check,  {ControlKind::check, ControlKind::radio}                     },
+    {L"click",  click,  {ControlKind::button, ControlKind::check, ControlKind::radio}},
+    {L"select", select, {ControlKind::combo}                                         },
+    {L"color",  color,  {ControlKind::combo}                                         },
+};
+
+Wrong act(const Verb& verb, HWND dialog, std::wstring_view rest)
+{
+    const std::wstring word = takeWord(rest);
+    const std::optional<int> id = parseInteger(word);
+    const HWND control = id ? GetDlgItem(dialog, *id) : nullptr;
+    if (control == nullptr)
+    {
+        return word.empty() ? L"Say which control: " + std::wstring(verb.word) + L" ID"
+                            : L"There is no control " + word + L" in this dialog.";
+    }
+    const ControlKind kind = kindOf(control);
+    if (std::ranges::find(verb.kinds, kind) == verb.kinds.end())
+    {
+        return named(control) + L" is a " + nameOf(kind) + L", which does not take " + verb.word +
+               L".";
+    }
+    if (!IsWindowEnabled(control) || !IsWindowVisible(control))
+    {
+        return named(control) + L" is disabled.";
+    }
+    return verb.act(control, rest);
+}
+
+void show(Editor& editor, HWND dialog)
+{
+    for (HWND control = GetWindow(dialog, GW_CHILD); control;
+         control = GetWindow(control, GW_HWNDNEXT))
+    {
+        editor.printLine(controlLine(control));
+    }
+}
+}  // namespace
+
+Wrong takeDialogLine(Editor& editor, HWND dialog, std::wstring_view line)
+{
+    std::wstring_view rest = line;
+    const std::wstring word = takeWord(rest);
+    if (equalNoCase(word, L"show"))
+    {
+        show(editor, dialog);
+        return done;
+    }
+    if (equalNoCase(word, L"close"))
+    {
+        SendMessageW(dialog, WM_CLOSE, 0, 0);
+        return done;
+    }
+    for (const Verb& verb : verbs)
+    {
+        if (equalNoCase(word, verb.word))
+        {
+            return act(verb, dialog, rest);
+        }
+    }
+    return L"A dialog takes set, check, click, select, color, show and close, not \"" +
+           std::wstring(trimmed(line)) + L"\".";
+}
+}  // namespace host

@@ -1,0 +1,72 @@
+// The host's own dialogs: they find their resources and step aside for the editor.
+#include <utility>
+
+#include "acui.h"
+#include "host/dialogs/modalloop.h"
+#include "host/runtime/breach.h"
+
+BEGIN_MESSAGE_MAP(CAdUiBaseDialog, CDialog)
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CAdUiDialog, CAdUiBaseDialog)
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CAcUiDialog, CAdUiDialog)
+END_MESSAGE_MAP()
+
+CAdUiBaseDialog::CAdUiBaseDialog(UINT templateId, CWnd* parent, HINSTANCE resources)
+    : CDialog(templateId, parent), m_resources(resources)
+{
+}
+
+INT_PTR CAdUiBaseDialog::DoModal()
+{
+    const HINSTANCE before = AfxGetResourceHandle();
+    if (m_resources != nullptr)
+    {
+        AfxSetResourceHandle(m_resources);
+    }
+    const INT_PTR result = CDialog::DoModal();
+    AfxSetResourceHandle(before);
+    return result;
+}
+
+CAdUiDialog::CAdUiDialog(UINT templateId, CWnd* parent, HINSTANCE resources)
+    : CAdUiBaseDialog(templateId, parent, resources)
+{
+}
+
+CAcUiDialog::CAcUiDialog(UINT templateId, CWnd* parent, HINSTANCE resources)
+    : CAdUiDialog(templateId, parent, resources), m_editing(false)
+{
+}
+
+CAcUiDialog::~CAcUiDialog() {}
+
+void CAcUiDialog::BeginEditorCommand()
+{
+    if (std::exchange(m_editing, true))
+    {
+        host::breach("BeginEditorCommand", "called again before CompleteEditorCommand");
+    }
+    ShowWindow(SW_HIDE);
+    host::dialogStepsAside();
+}
+
+void CAcUiDialog::CompleteEditorCommand(BOOL restoreDialogs)
+{
+    if (!std::exchange(m_editing, false))
+    {
+        host::breach("CompleteEditorCommand", "called without BeginEditorCommand");
+    }
+    host::dialogComesBack();
+    if (restoreDialogs != FALSE)
+    {
+        ShowWindow(SW_SHOW);
+    }
+}
+
+void CAcUiDialog::CancelEditorCommand()
+{
+    CompleteEditorCommand();
+}

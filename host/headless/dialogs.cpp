@@ -1,0 +1,120 @@
+#include "host/headless/dialogtemplate.h"
+#include "host/headless/messages.h"
+#include "host/headless/windowclasses.h"
+#include "host/windows/resources.h"
+
+namespace host
+{
+namespace
+{
+INT_PTR ask(const Window& dialog, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return dialog.procedure != nullptr ? dialog.procedure(dialog.handle, message, wParam, lParam)
+                                       : FALSE;
+}
+
+// A dialog whose Cancel is disabled does not close.
+void pressCancel(HWND dialog)
+{
+    const HWND cancel = GetDlgItem(dialog, IDCANCEL);
+    if (cancel == nullptr || IsWindowEnabled(cancel))
+    {
+        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(cancel));
+    }
+}
+
+LRESULT defaultButton(const Window& dialog)
+{
+    for (const HWND control : controlsOf(dialog.handle))
+    {
+        const Window& window = *findWindow(control);
+        if (isButton(window, BS_DEFPUSHBUTTON))
+        {
+            return LRESULT(MAKEWPARAM(window.id, DC_HASDEFID));
+        }
+    }
+    return 0;
+}
+
+HWND firstToFocus(HWND dialog)
+{
+    for (const HWND control : controlsOf(dialog))
+    {
+        const Window& window = *findWindow(control);
+        if (window.has(WS_TABSTOP | WS_VISIBLE) && window.isEnabled())
+        {
+            return control;
+        }
+    }
+    return nullptr;
+}
+
+// Hidden until it is initialised, so that nobody sees it half filled.
+HWND makeWindows(DialogTemplate made, HWND owner, DLGPROC procedure)
+{
+    made.dialog.put(WS_VISIBLE, false);
+    made.dialog.parent = IsWindow(owner) ? owner : nullptr;
+    made.dialog.procedure = procedure;
+    const HWND dialog = addWindow(made.dialog);
+    for (Window& control : made.controls)
+    {
+        control.parent = dialog;
+        addWindow(control);
+    }
+    return dialog;
+}
+
+// The first control is looked for again: the procedure may have disabled the one it was told.
+void initialise(HWND dialog, LPARAM parameter)
+{
+    const auto first = reinterpret_cast<WPARAM>(firstToFocus(dialog));
+    const bool wantsFocus = SendMessageW(dialog, WM_INITDIALOG, first, parameter) != FALSE;
+    const HWND now = firstToFocus(dialog);
+    if (wantsFocus && now != nullptr)
+    {
+        SetFocus(now);
+    }
+}
+}  // namespace
+
+LRESULT dialogMessage(Window& dialog, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND handle = dialog.handle;
+    switch (message)
+    {
+        case WM_INITDIALOG:
+            return ask(dialog, message, wParam, lParam);
+        case WM_COMMAND:
+            ask(dialog, message, wParam, lParam);
+            return 0;
+        case WM_CLOSE:
+            if (ask(dialog, message, wParam, lParam) == FALSE)
+            {
+                pressCancel(handle);
+            }
+            return 0;
+        case DM_GETDEFID:
+            return defaultButton(dialog);
+        default:
+            return anyMessage(dialog, message, wParam, lParam);
+    }
+}
+}  // namespace host
+
+HWND CreateDialogIndirectParamW(HINSTANCE, LPCDLGTEMPLATEW dialogTemplate, HWND owner,
+                                DLGPROC procedure, LPARAM parameter)
+{
+    const auto read = host::readDialogTemplate(host::resourceAt(dialogTemplate));
+    if (!read)
+    {
+        return nullptr;
+    }
+    const HWND dialog = host::makeWindows(*read, owner, procedure);
+    host::initialise(dialog, parameter);
+    if (read->dialog.has(WS_VISIBLE))
+    {
+        ShowWindow(dialog, SW_SHOW);
+    }
+    return IsWindow(dialog) ? dialog : nullptr;
+}

@@ -1,0 +1,18 @@
+// Bitmaps out of a module's resources.
+#pragma once
+
+#include <cairo.h>
+
+#include <cstddef>
+#include <memory>
+#include <span>
+
+namespace host
+{
+using Image = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
+
+// An uncompressed bitmap of 4, 8 or 24 bits a pixel, rows from the bottom up, as a resource holds
+// it (without the header of the file). The light grey that stands for the button's face (192 each)
+// is transparent. Null for anything else.
+Image imageOfBitmap(std::span<const std::byte> bytes);
+}  // namespace host

@@ -1,0 +1,67 @@
+// What the pictures of dialogs are drawn with: pixels of a screen of 96 dots to the inch.
+#pragma once
+
+#include <cairo.h>
+
+#include <string>
+#include <string_view>
+
+namespace host
+{
+struct Color
+{
+    double red;
+    double green;
+    double blue;
+};
+
+inline constexpr Color black{0, 0, 0};
+inline constexpr Color white{1, 1, 1};
+inline constexpr Color face{0.941, 0.941, 0.941};
+inline constexpr Color shadow{0.627, 0.627, 0.627};
+inline constexpr Color edge{0.478, 0.478, 0.478};
+inline constexpr Color dimmed{0.55, 0.55, 0.55};
+inline constexpr Color accent{0, 0.471, 0.843};
+
+struct Box
+{
+    double x;
+    double y;
+    double width;
+    double height;
+
+    double middle() const { return y + height / 2; }
+    Box inset(double by) const { return {x + by, y + by, width - 2 * by, height - 2 * by}; }
+};
+
+class Canvas
+{
+public:
+    Canvas(int width, int height, double scale);
+    ~Canvas();
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+
+    void fill(const Box& box, Color color);
+    void frame(const Box& box, Color color);  // one pixel, within the box
+    void line(double x1, double y1, double x2, double y2, Color color, double width = 1);
+    void circle(double x, double y, double radius, Color color, bool filled);
+    void triangleDown(double x, double y, double size, Color color);
+    // Centred upright on `middle`; cut at the box.
+    void text(const Box& box, double x, double middle, std::wstring_view text, Color color);
+    void veil(const Box& box);  // what lies below fades into the face
+    void image(const Box& box, cairo_surface_t* image);
+
+    double textWidth(std::wstring_view text) const;
+    double textHeight() const;
+
+    // False when the file cannot be written.
+    bool save(const std::string& file) const;
+
+private:
+    void color(Color color);
+
+    cairo_surface_t* m_surface;
+    cairo_t* m_cairo;
+};
+}  // namespace host

@@ -1,6 +1,0 @@
-#include "settings/settingsdlg.h"
-
-bool editSettings(GridSettings&, double, double, const CString&)
-{
-    return false;
-}
