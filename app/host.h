@@ -7,6 +7,7 @@
 #include "shlwapi.h"
 
 #include "arxHeaders.h"
+#include "axlock.h"
 #include "acdocman.h"
 #include "aced.h"
 #include "acedads.h"

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "output/entities.h"
-#include "settings/settingsdlg.h"
+#include "command/editsettings.h"
 
 namespace
 {

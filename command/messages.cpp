@@ -12,10 +12,6 @@ const Messages english = {
     L"continuous line",
     L"cross mark, %.2f drawing units",
     L"\n*** failed to save changes in options data",
-    L"Large number of vertical lines in grid. Proceed?",
-    L"Large number of horizontal lines in grid. Proceed?",
-    L"Large number of vertical and horizontal lines in grid. Proceed?",
-    L"Attention",
 };
 
 const Messages russian = {
@@ -28,10 +24,6 @@ const Messages russian = {
     L"сплошная линия",
     L"крест, %.2f ед. чертежа",
     L"\n*** не получилось сохранить последние изменения в файле настроек",
-    L"Большое количество вертикальных линий в сетке. Продолжить?",
-    L"Большое количество горизонтальных линий в сетке. Продолжить?",
-    L"Большое количество вертикальных и горизонтальных линий в сетке. Продолжить?",
-    L"Внимание",
 };
 }  // namespace
 

@@ -14,10 +14,6 @@ struct Messages
     const wchar_t* continuousLine;  // appearance text
     const wchar_t* crossMark;       // appearance text, format: crossSize
     const wchar_t* saveFailed;
-    const wchar_t* manyVertical;
-    const wchar_t* manyHorizontal;
-    const wchar_t* manyOfBoth;
-    const wchar_t* questionCaption;
 };
 
 // Locale name of the host product, "en-US" when the host has none.

@@ -3,7 +3,7 @@
 #include "command/largegrid.h"
 #include "engine/buildgrid.h"
 #include "output/entities.h"
-#include "settings/settingsdlg.h"
+#include "command/editsettings.h"
 
 namespace
 {
@@ -79,7 +79,7 @@ bool offerGrid(GridRun& run, const PickedRectangle& rectangle, AcDbObjectIdArray
     {
         eraseEntities(gridIds);
         const bool build =
-            asked || mayBuildGrid(rectangle.width, rectangle.height, run.settings, *run.messages);
+            asked || mayBuildGrid(rectangle.width, rectangle.height, run.settings, run.localeName);
         asked = true;
         if (build)
         {

@@ -122,12 +122,14 @@ TEST(GridCommand, asksForTheFirstCornerUntilItGetsOneOrIsStopped)
     {
         ScriptedAnswer answer;
         bool asksAgain;
+        bool opensDialog = false;
     };
     const Row rows[] = {
         {enter,         true        },
         {text(RTKWORD,  L"x"),        true},
-        {text(RTKWORD,             L"S"),              true},
-        {text(RTKWORD,         L"Settings"),        true},
+        {text(RTKWORD,             L"S"),              true, true},
+        {text(RTKWORD,         L"Settings"),        true, true},
+        {text(RTKWORD, L"settings"), true},
         {text(RTKWORD,L""),true},
         {code(RTREJ),  true                 },
         {esc,             false              },
@@ -139,8 +141,9 @@ TEST(GridCommand, asksForTheFirstCornerUntilItGetsOneOrIsStopped)
         const std::deque<ScriptedAnswer> once = {row.answer};
         const std::deque<ScriptedAnswer> again = {row.answer, row.answer, esc};
         editor.run(row.asksAgain ? again : once);
-        EXPECT_EQ(editor.log,
-                  together(borrowed, times(row.asksAgain ? 3 : 1, askedFirst), givenBack));
+        const auto round = together(times(1, askedFirst), times(row.opensDialog ? 1 : 0, L"dialog"));
+        const auto asked = row.asksAgain ? together(round, round, times(1, askedFirst)) : round;
+        EXPECT_EQ(editor.log, together(borrowed, asked, givenBack));
         EXPECT_EQ(editor.contents(), Contents());
     }
 }

@@ -50,7 +50,7 @@ TEST(LargeGrid, isAskedAboutAboveFiftySteps)
                 editor.boxAnswers = {button};
                 expected = {std::wstring(L"box Attention: ") + row.asked};
             }
-            const bool built = mayBuildGrid(row.width, row.height, settings, messagesFor(L"en-US"));
+            const bool built = mayBuildGrid(row.width, row.height, settings, L"en-US");
             EXPECT_EQ(built, row.asked == nullptr || button == IDYES);
             EXPECT_EQ(editor.log, expected)
                 << row.width << " " << row.height << " " << row.HorStep << " " << row.VertStep;
@@ -75,7 +75,7 @@ TEST(LargeGrid, isAskedAboutInRussian)
     {
         ScriptedEditor editor;
         editor.boxAnswers = {IDNO};
-        EXPECT_FALSE(mayBuildGrid(row.width, row.height, GridSettings(), messagesFor(L"RU-ru")));
+        EXPECT_FALSE(mayBuildGrid(row.width, row.height, GridSettings(), L"RU-ru"));
         EXPECT_EQ(editor.log, std::vector{std::wstring(L"box Внимание: ") + row.asked});
     }
 }

@@ -9,6 +9,7 @@
 #include "command/gridcommand.h"
 #include "host/database/access.h"
 #include "host/database/strict.h"
+#include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
 #include "host/windows/format.h"
 #include "tests/app/original.h"
@@ -61,16 +62,16 @@ ScriptedAnswer code(int result)
     return {.result = result, .point = AcGePoint3d(), .text = L""};
 }
 
-ScriptedEditor::ScriptedEditor() : database(host::newDrawing()), options(L"[]")
+ScriptedEditor::ScriptedEditor()
+    : database(host::documents().open(host::newDrawing()).database()), options(L"[]")
 {
     current = this;
-    acdbHostApplicationServices()->setWorkingDatabase(database.get());
 }
 
 ScriptedEditor::~ScriptedEditor()
 {
     current = nullptr;
-    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    host::documents().close();
 }
 
 std::wstring ScriptedEditor::modulePath() const
@@ -131,6 +132,24 @@ Contents ScriptedEditor::contents() const
 }
 
 // From here on: in the place of the host's functions. Without an editor they hand the call on.
+
+// Called from within the host's library, hence visible to it.
+__attribute__((visibility("default"))) INT_PTR CDialog::DoModal()
+{
+    if (current == nullptr)
+    {
+        return original<INT_PTR(CDialog*)>("_ZN7CDialog7DoModalEv")(this);
+    }
+    current->log.push_back(L"dialog");
+    EXPECT_EQ(host::documents().document()->resources.depth(), 1u);
+    INT_PTR result = IDCANCEL;
+    if (current->userOfDialog)
+    {
+        current->userOfDialog(*this);
+        result = IDOK;
+    }
+    return result;
+}
 
 int acedInitGet(int bits, const ACHAR* keywords)
 {

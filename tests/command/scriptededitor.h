@@ -3,7 +3,6 @@
 
 #include <deque>
 #include <functional>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -60,10 +59,11 @@ public:
     int follow = 1;
     std::set<std::wstring> unreadable;  // variables that acedGetVar refuses
     bool ucsCannotBeSet = false;
+    std::function<void(CDialog&)> userOfDialog;  // none: cancels
     AcGeMatrix3d ucs;
     std::vector<AcGeMatrix3d> formerUcs;
 
-    std::unique_ptr<AcDbDatabase> database;
+    AcDbDatabase* database;  // of the one document
     tests::Meter meter;
 
     // For the functions that stand in for the host's.

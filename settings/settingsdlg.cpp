@@ -1,0 +1,234 @@
+#include "settings/settingsdlg.h"
+
+#include <iterator>
+
+#include "output/numbers.h"
+#include "resources/resource.h"
+#include "settings/labelflags.h"
+#include "settings/textstyles.h"
+
+namespace
+{
+const int shownDecimals = 4;
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CSettingsDlg, CAcUiDialog)
+ON_BN_CLICKED(IDC_PICK_VERT_STEP, &CSettingsDlg::OnPickVertStep)
+ON_BN_CLICKED(IDC_PICK_HOR_STEP, &CSettingsDlg::OnPickHorStep)
+ON_BN_CLICKED(IDC_PICK_CROSS_SIZE, &CSettingsDlg::OnPickCrossSize)
+ON_BN_CLICKED(IDC_PICK_BASE_POINT, &CSettingsDlg::OnPickBasePoint)
+ON_BN_CLICKED(IDC_PICK_TEXT_HEIGHT, &CSettingsDlg::OnPickTextHeight)
+ON_BN_CLICKED(IDC_LINES, &CSettingsDlg::OnAppearanceChanged)
+ON_BN_CLICKED(IDC_CROSSES, &CSettingsDlg::OnAppearanceChanged)
+ON_BN_CLICKED(IDC_MODE_WCS, &CSettingsDlg::OnModeChanged)
+ON_BN_CLICKED(IDC_MODE_VIEW, &CSettingsDlg::OnModeChanged)
+ON_BN_CLICKED(IDC_NEED_TEXT, &CSettingsDlg::OnNeedTextChanged)
+ON_BN_CLICKED(IDOK, &CSettingsDlg::OnOK)
+END_MESSAGE_MAP()
+
+CSettingsDlg::CSettingsDlg(const GridSettings& settings, double gridWidth, double gridHeight,
+                           const CString& localeName, const CString& textStyleName)
+    : CAcUiDialog(IDD_SETTINGS, CWnd::FromHandle(adsw_acadMainWnd())),
+      m_settings(settings),
+      m_localeName(localeName),
+      m_textStyleName(textStyleName),
+      m_texts(&settingsTextsFor(localeName)),
+      m_basePoint(settings.basePoint),
+      m_basePointInUcs(false)
+{
+    const Length vert = {IDC_VERT_STEP, settings.VertStep, &m_texts->vertStep.length};
+    const Length hor = {IDC_HOR_STEP, settings.HorStep, &m_texts->horStep.length};
+    const Length cross = {IDC_CROSS_SIZE, settings.crossSize, &m_texts->crossSize};
+    const Length text = {IDC_TEXT_HEIGHT, settings.heightText, &m_texts->textHeight};
+    const Step vertStep = {vert, gridHeight, m_texts->vertStep.tooBig, true, false};
+    const Step horStep = {hor, gridWidth, m_texts->horStep.tooBig, false, false};
+    m_vertStep = vertStep;
+    m_horStep = horStep;
+    m_crossSize = cross;
+    m_textHeight = text;
+}
+
+void CSettingsDlg::DoDataExchange(CDataExchange* exchange)
+{
+    CAcUiDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_COLOR, m_color);
+    DDX_Control(exchange, IDC_TEXT_STYLE, m_textStyle);
+    DDX_Control(exchange, IDC_ACCURACY, m_accuracy);
+    DDX_Control(exchange, IDC_PICK_VERT_STEP, m_pickVertStep);
+    DDX_Control(exchange, IDC_PICK_HOR_STEP, m_pickHorStep);
+    DDX_Control(exchange, IDC_PICK_CROSS_SIZE, m_pickCrossSize);
+    DDX_Control(exchange, IDC_PICK_BASE_POINT, m_pickBasePoint);
+    DDX_Control(exchange, IDC_PICK_TEXT_HEIGHT, m_pickTextHeight);
+}
+
+BOOL CSettingsDlg::OnInitDialog()
+{
+    CAcUiDialog::OnInitDialog();
+    if (m_localeName.CompareNoCase(L"ru-RU") != 0)
+    {
+        showEnglish();
+    }
+    showBanners();
+    loadPickButtons();  // after the captions: they name the picture and the tooltip
+    showGrid();
+    showAppearance();
+    showMode();
+    showColor();
+    showTextStyles();
+    showAccuracies();
+    showLabels();
+    return TRUE;
+}
+
+void CSettingsDlg::showEnglish()
+{
+    SetWindowText(englishTitle());
+    for (const Caption* caption = englishCaptions(); caption->text != nullptr; ++caption)
+    {
+        SetDlgItemText(caption->control, caption->text);
+    }
+}
+
+// Hidden while the edit has the focus. A banner is no text: an empty prefix stays empty.
+void CSettingsDlg::showBanners()
+{
+    SendDlgItemMessage(IDC_X_PREFIX, EM_SETCUEBANNER, FALSE,
+                       reinterpret_cast<LPARAM>(m_texts->xPrefixBanner));
+    SendDlgItemMessage(IDC_Y_PREFIX, EM_SETCUEBANNER, FALSE,
+                       reinterpret_cast<LPARAM>(m_texts->yPrefixBanner));
+}
+
+void CSettingsDlg::loadPickButtons()
+{
+    CAdUiBitmapButton* const buttons[] = {&m_pickVertStep, &m_pickHorStep, &m_pickCrossSize,
+                                          &m_pickBasePoint, &m_pickTextHeight};
+    for (auto button = std::begin(buttons); button != std::end(buttons); ++button)
+    {
+        (*button)->SetAutoSizeToBitmap(FALSE);
+        (*button)->AutoLoad();  // without its picture a button still works
+    }
+}
+
+void CSettingsDlg::showGrid()
+{
+    showReal(IDC_VERT_STEP, m_settings.VertStep);
+    showReal(IDC_HOR_STEP, m_settings.HorStep);
+}
+
+void CSettingsDlg::showAppearance()
+{
+    showReal(IDC_CROSS_SIZE, m_settings.crossSize);
+    CheckRadioButton(IDC_LINES, IDC_CROSSES, m_settings.LookType == 1 ? IDC_CROSSES : IDC_LINES);
+    CheckDlgButton(IDC_ERASE_BOUNDARY, m_settings.delCont == 1 ? BST_CHECKED : BST_UNCHECKED);
+    OnAppearanceChanged();
+}
+
+void CSettingsDlg::showMode()
+{
+    CheckRadioButton(IDC_MODE_WCS, IDC_MODE_VIEW,
+                     m_settings.WCSBasePoint != 0 ? IDC_MODE_VIEW : IDC_MODE_WCS);
+    showBasePoint();
+}
+
+// What the list does not know as a colour stays unselected.
+void CSettingsDlg::showColor()
+{
+    m_color.SetCurSel(m_color.AddColorToMRU(m_settings.Color));
+}
+
+void CSettingsDlg::showTextStyles()
+{
+    const std::vector<CString> names = textStyleNames();
+    for (auto name = names.begin(); name != names.end(); ++name)
+    {
+        m_textStyle.AddString(*name);
+    }
+    const CString current = m_textStyleName.IsEmpty() ? CString(L"Standard") : m_textStyleName;
+    m_textStyle.SetCurSel(m_textStyle.FindStringExact(-1, current));
+}
+
+void CSettingsDlg::showAccuracies()
+{
+    const wchar_t* const items[] = {L"0", L"0.0", L"0.00", L"0.000", L"0.0000"};
+    for (auto item = std::begin(items); item != std::end(items); ++item)
+    {
+        m_accuracy.AddString(*item);
+    }
+    m_accuracy.SetCurSel(m_settings.iCountSigns);
+}
+
+void CSettingsDlg::showLabels()
+{
+    showReal(IDC_TEXT_HEIGHT, m_settings.heightText);
+    SetDlgItemText(IDC_X_PREFIX, m_settings.textXScribe);
+    SetDlgItemText(IDC_Y_PREFIX, m_settings.textYScribe);
+    for (const LabelFlag* flag = labelFlags(); flag->field != nullptr; ++flag)
+    {
+        CheckDlgButton(flag->button, m_settings.*flag->field != 0 ? BST_CHECKED : BST_UNCHECKED);
+    }
+    CheckDlgButton(IDC_NEED_TEXT, m_settings.needText != 0 ? BST_CHECKED : BST_UNCHECKED);
+    OnNeedTextChanged();
+}
+
+void CSettingsDlg::showBasePoint()
+{
+    AcGePoint3d shown = m_basePoint;
+    const bool inUcs = isChecked(IDC_MODE_VIEW);
+    if (inUcs && !m_basePointInUcs)
+    {
+        acdbWcs2Ucs(asDblArray(shown), asDblArray(shown), false);
+    }
+    if (!inUcs && m_basePointInUcs)
+    {
+        acdbUcs2Wcs(asDblArray(shown), asDblArray(shown), false);
+    }
+    CString text;
+    text.Format(L"(%s, %s)", static_cast<LPCWSTR>(formatReal(shown.x, shownDecimals)),
+                static_cast<LPCWSTR>(formatReal(shown.y, shownDecimals)));
+    SetDlgItemText(IDC_BASE_POINT, text);
+}
+
+void CSettingsDlg::showReal(int edit, double value)
+{
+    SetDlgItemText(edit, formatReal(value, shownDecimals));
+}
+
+double CSettingsDlg::shownReal(int edit) const
+{
+    CString text;
+    GetDlgItemText(edit, text);
+    return parseReal(text);
+}
+
+bool CSettingsDlg::isChecked(int button) const
+{
+    return IsDlgButtonChecked(button) == BST_CHECKED;
+}
+
+void CSettingsDlg::OnAppearanceChanged()
+{
+    const BOOL crosses = isChecked(IDC_CROSSES);
+    GetDlgItem(IDC_CROSS_SIZE)->EnableWindow(crosses);
+    GetDlgItem(IDC_PICK_CROSS_SIZE)->EnableWindow(crosses);
+}
+
+void CSettingsDlg::OnModeChanged()
+{
+    showBasePoint();
+}
+
+void CSettingsDlg::OnNeedTextChanged()
+{
+    const int group[] = {IDC_TEXT_STYLE,       IDC_ACCURACY,          IDC_X_PREFIX,
+                         IDC_Y_PREFIX,         IDC_TEXT_HEIGHT,       IDC_PICK_TEXT_HEIGHT,
+                         IDC_TEXT_STYLE_LABEL, IDC_TEXT_HEIGHT_LABEL, IDC_ACCURACY_LABEL};
+    const BOOL labels = isChecked(IDC_NEED_TEXT);
+    for (auto control = std::begin(group); control != std::end(group); ++control)
+    {
+        GetDlgItem(*control)->EnableWindow(labels);
+    }
+    for (const LabelFlag* flag = labelFlags(); flag->field != nullptr; ++flag)
+    {
+        GetDlgItem(flag->button)->EnableWindow(labels);
+    }
+}

@@ -1,0 +1,95 @@
+// The settings dialog: the checks and the storing on OK. What is refused leaves the dialog open and
+// the settings as they are.
+#include "output/numbers.h"
+#include "resources/resource.h"
+#include "settings/labelflags.h"
+#include "settings/manylines.h"
+#include "settings/settingsdlg.h"
+
+void CSettingsDlg::OnOK()
+{
+    GridSettings settings = m_settings;
+    if (!readStep(m_vertStep, settings.VertStep) || !readStep(m_horStep, settings.HorStep) ||
+        !readAppearance(settings))
+    {
+        return;
+    }
+    settings.delCont = isChecked(IDC_ERASE_BOUNDARY);
+    // Asked for with the labels off too, deliberately: whoever switches them on later finds one.
+    if (!readLength(m_textHeight, settings.heightText))
+    {
+        return;
+    }
+    readLabels(settings);
+    m_settings = settings;
+    CAcUiDialog::OnOK();
+}
+
+bool CSettingsDlg::readLength(const Length& length, double& value)
+{
+    const double typed = shownReal(length.edit);
+    if (typed == notSetReal() || !(typed > 0.0))
+    {
+        acedAlert(length.texts->notSet);
+        return false;
+    }
+    value = typed;
+    return true;
+}
+
+bool CSettingsDlg::readStep(Step& step, double& value)
+{
+    return readLength(step.length, value) && allowsMany(step, value);
+}
+
+bool CSettingsDlg::allowsMany(Step& step, double value)
+{
+    if (step.manyAllowed || !(step.gridSize > 0.0) || !isManyLines(step.gridSize, value))
+    {
+        return true;
+    }
+    step.manyAllowed = userAllowsManyLines(step.vertical, !step.vertical, m_localeName);
+    return step.manyAllowed;
+}
+
+bool CSettingsDlg::readAppearance(GridSettings& settings)
+{
+    if (m_color.GetCurSel() != CB_ERR)
+    {
+        settings.Color = m_color.GetCurrentItemColorIndex();
+    }
+    settings.LookType = isChecked(IDC_CROSSES);
+    settings.WCSBasePoint = isChecked(IDC_MODE_VIEW);
+    settings.basePoint = basePointWcs();
+    return settings.LookType != 1 || readLength(m_crossSize, settings.crossSize);
+}
+
+AcGePoint3d CSettingsDlg::basePointWcs() const
+{
+    AcGePoint3d point = m_basePoint;
+    if (m_basePointInUcs)
+    {
+        acdbUcs2Wcs(asDblArray(point), asDblArray(point), false);
+    }
+    return point;
+}
+
+// A list in which nothing is selected has nothing to say.
+void CSettingsDlg::readLabels(GridSettings& settings)
+{
+    if (m_accuracy.GetCurSel() != CB_ERR)
+    {
+        settings.iCountSigns = m_accuracy.GetCurSel();
+    }
+    if (m_textStyle.GetCurSel() != CB_ERR)
+    {
+        m_textStyle.GetLBText(m_textStyle.GetCurSel(), settings.textStyleName);
+    }
+    settings.needText = isChecked(IDC_NEED_TEXT);
+    for (const LabelFlag* flag = labelFlags(); flag->field != nullptr; ++flag)
+    {
+        settings.*flag->field = isChecked(flag->button);
+    }
+    GetDlgItemText(IDC_X_PREFIX, settings.textXScribe);
+    GetDlgItemText(IDC_Y_PREFIX, settings.textYScribe);
+}

@@ -1,0 +1,9 @@
+// The text styles of the current drawing.
+#pragma once
+
+#include <vector>
+
+#include "app/host.h"
+
+// Names in table order, erased styles left out; empty when the drawing cannot be locked or read.
+std::vector<CString> textStyleNames();
