@@ -52,7 +52,7 @@ void ObjectAccess::applyStyle(AcDbEntity& entity, const LineStyle& style)
     entity.m_color = style.color;
     entity.m_lineWeight = style.lineWeight;
     entity.m_invisible = style.invisible;
-    entity.m_hasDefaults = true;
+    entity.m_given = allProperties;
 }
 
 AcDbObject* resolve(AcDbStub* stub)

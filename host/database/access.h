@@ -35,6 +35,17 @@ struct AcDbGroup::Members
 
 namespace host
 {
+// Properties of an entity that may have been set before it joins a drawing.
+enum Property : unsigned char
+{
+    layerProperty = 1,
+    linetypeProperty = 2,
+    colorProperty = 4,
+    lineWeightProperty = 8,
+    linetypeScaleProperty = 16,
+    allProperties = 31
+};
+
 struct ObjectAccess
 {
     static AcDbStub* stub(const AcDbObject& object) { return object.m_stub; }
@@ -60,7 +71,8 @@ struct ObjectAccess
                              double textSize);
 
     static Adesk::UInt32& reactors(AcDbEntity& entity) { return entity.m_reactors; }
-    static bool& hasDefaults(AcDbEntity& entity) { return entity.m_hasDefaults; }
+    // What nobody has set comes from the drawing's current properties.
+    static void fillProperties(AcDbEntity& entity, const CurrentProperties& current);
     static AcDbStub* layer(const AcDbEntity& entity) { return entity.m_layer; }
     static LineStyle lineStyle(const AcDbEntity& entity);
     static void applyStyle(AcDbEntity& entity, const LineStyle& style);

@@ -34,10 +34,7 @@ Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbE
     }
     AcDbStub* own = objectId().stub();
     host::DatabaseCore& core = host::coreOf(own);
-    if (!ObjectAccess::hasDefaults(*entity))
-    {
-        entity->setDatabaseDefaults(&core.database);
-    }
+    ObjectAccess::fillProperties(*entity, core.current);
     AcDbText* text = AcDbText::cast(entity);
     if (text != nullptr && text->textStyle().isNull())
     {

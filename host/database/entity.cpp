@@ -16,7 +16,7 @@ AcDbEntity::AcDbEntity()
       m_lineWeight(-1),
       m_reactors(0),
       m_invisible(false),
-      m_hasDefaults(false)
+      m_given(0)
 {
 }
 
@@ -32,15 +32,22 @@ void AcDbEntity::setDatabaseDefaults(AcDbDatabase* database)
     {
         return;
     }
-    const host::CurrentProperties& current = host::currentOf(*database);
-    m_layer = current.layer;
-    m_linetype = current.linetype;
-    m_linetypeScale = current.linetypeScale;
-    m_color = current.color;
-    m_lineWeight = current.lineWeight;
+    m_given = 0;
+    host::ObjectAccess::fillProperties(*this, host::currentOf(*database));
     m_invisible = false;
-    m_hasDefaults = true;
     subentSetProperties();
+}
+
+void host::ObjectAccess::fillProperties(AcDbEntity& entity, const CurrentProperties& current)
+{
+    const auto isOpen = [&entity](Property property) { return (entity.m_given & property) == 0; };
+    entity.m_layer = isOpen(layerProperty) ? current.layer : entity.m_layer;
+    entity.m_linetype = isOpen(linetypeProperty) ? current.linetype : entity.m_linetype;
+    entity.m_color = isOpen(colorProperty) ? current.color : entity.m_color;
+    entity.m_lineWeight = isOpen(lineWeightProperty) ? current.lineWeight : entity.m_lineWeight;
+    entity.m_linetypeScale =
+        isOpen(linetypeScaleProperty) ? current.linetypeScale : entity.m_linetypeScale;
+    entity.m_given = allProperties;
 }
 
 Adesk::UInt16 AcDbEntity::colorIndex() const
@@ -81,6 +88,7 @@ Acad::ErrorStatus AcDbEntity::setColorIndex(Adesk::UInt16 color, Adesk::Boolean)
         return Acad::eInvalidInput;
     }
     m_color = color;
+    m_given |= host::colorProperty;
     return Acad::eOk;
 }
 
@@ -130,6 +138,7 @@ Acad::ErrorStatus AcDbEntity::setLayer(AcDbObjectId id, Adesk::Boolean, bool)
         return Acad::eWrongObjectType;
     }
     m_layer = id.stub();
+    m_given |= host::layerProperty;
     return Acad::eOk;
 }
 
@@ -153,6 +162,7 @@ Acad::ErrorStatus AcDbEntity::setLinetype(AcDbObjectId id, Adesk::Boolean)
         return Acad::eWrongObjectType;
     }
     m_linetype = id.stub();
+    m_given |= host::linetypeProperty;
     return Acad::eOk;
 }
 
@@ -166,6 +176,7 @@ Acad::ErrorStatus AcDbEntity::setLineWeight(AcDb::LineWeight weight, Adesk::Bool
         return Acad::eInvalidInput;
     }
     m_lineWeight = Adesk::Int16(weight);
+    m_given |= host::lineWeightProperty;
     return Acad::eOk;
 }
 

@@ -162,7 +162,7 @@ private:
     Adesk::Int16 m_lineWeight;
     Adesk::UInt32 m_reactors;  // number of the interned list of persistent reactors; 0 for none
     bool m_invisible;
-    bool m_hasDefaults;
+    unsigned char m_given;  // properties that have been set, a bit each
 };
 
 // eNullObjectId, eWasErased, eWasOpenForWrite, eWasOpenForRead, eAtMaxReaders, eOnLockedLayer,

@@ -34,6 +34,16 @@ TEST_F(DrawingPlane, cornersAtDifferentElevationsGiveOneTextInTheirMiddle)
                       });
 }
 
+TEST_F(DrawingPlane, theTextIsAThirtiethOfTheWidthWhicheverCornerWasFirst)
+{
+    pick({60, 20, 0}, {0, 0, 0});
+    corner2.z = 8;
+    const AcDbObjectIdArray made = build();
+    ASSERT_EQ(made.length(), 1);
+    const auto height = [](const AcDbText& text) { return text.height(); };
+    EXPECT_NEAR(inspect<AcDbText>(made[0], height), 2, 1e-9);
+}
+
 TEST_F(DrawingPlane, theTextIsInTheLanguageOfTheHost)
 {
     const wchar_t* const english = L"Current plane is not parallel to XY plane in WCS";

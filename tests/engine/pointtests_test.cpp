@@ -52,6 +52,8 @@ TEST(PointInQuad, tellsInsideEdgeOutsideAndCorner)
         {{50, 5e-11, 0},        0 }, // within the host's tolerance on either side
         {{50, -5e-11, 0},       0 },
         {{50, -2e-10, 0},       1 }, // off the edge, but too near for the angles to tell
+        {{50, -1e-5, 0},        1 }, // a millionth of an angle is the most that is not seen
+        {{50, -2e-5, 0},        -1},
         {{0, 0, 0},             2 },
         {{100, 50, 0},          2 },
         {{5e-13, 0, 0},         2 },

@@ -95,6 +95,51 @@ TEST_F(UcsGrid, theTestRectangleDoesNotStay)
     EXPECT_TRUE(outline.isErased());  // it was left closed
 }
 
+// Entities of no type that the host can cut lines with.
+class Uncuttable : public AcDbEntity
+{
+public:
+    Acad::ErrorStatus transformBy(const AcGeMatrix3d&) override { return Acad::eOk; }
+};
+
+TEST_F(UcsGrid, aPieceWhoseCutFailsIsDroppedAndAWholeOneIsKept)
+{
+    ASSERT_EQ(appendToBlock(new Uncuttable(), outline, ACDB_MODEL_SPACE), Acad::eOk);
+    corner2 = {30, 20, 0};
+    EXPECT_EQ(build().length(), 4);
+}
+
+TEST_F(UcsGrid, theTestRectangleIsNeverSeen)
+{
+    pickSheet();
+    build();
+    const host::StubArena& stubs = database().core().stubs;
+    int seen = 0;
+    for (std::size_t i = 0; i < stubs.size(); ++i)
+    {
+        if (host::typeOf(&stubs[i]) != AcDb2dPolyline::desc() || !stubs[i].erased())
+        {
+            continue;
+        }
+        ++seen;
+        AcDbEntity* rectangle = nullptr;
+        ASSERT_EQ(acdbOpenAcDbEntity(rectangle, AcDbObjectId(&stubs[i]), AcDb::kForRead, true),
+                  Acad::eOk);
+        EXPECT_EQ(rectangle->visibility(), AcDb::kInvisible);
+        rectangle->close();
+    }
+    EXPECT_EQ(seen, 1);
+}
+
+// The half turn has twelve digits here, which the host's own angles have not.
+TEST_F(UcsGrid, theHalfTurnOfALabelHasTwelveDigits)
+{
+    options.needText = true;
+    pickSheet();
+    build();
+    EXPECT_NEAR(labels()[0].rotation, 3.14159265359 - M_PI / 2, 5e-14);
+}
+
 TEST_F(UcsGrid, aCrossIsKeptWhenOneEndOfItsBarIsInside)
 {
     options.LookType = 1;

@@ -83,6 +83,20 @@ TEST_F(ViewFrame, ofAnObliqueViewLooksAtTheViewer)
     EXPECT_TRUE(near(axis(1), {0, 0, 1}));
 }
 
+// The twist turns the screen, not the world: about the direction of view.
+TEST_F(ViewFrame, ofAnObliqueAndTwistedViewLiesAlongTheScreen)
+{
+    const AcGeVector3d direction(1, -1, 2);
+    const double twist = 0.5;
+    setUcs({0, 0, 0});
+    look(direction, twist);
+    ASSERT_EQ(setViewFrameUcs(), Acad::eOk);
+    const AcGeVector3d right = AcGeVector3d::kZAxis.crossProduct(direction).normal();
+    const AcGeVector3d up = direction.normal().crossProduct(right);
+    EXPECT_TRUE(near(axis(0), right * std::cos(twist) - up * std::sin(twist)));
+    EXPECT_TRUE(near(axis(1), right * std::sin(twist) + up * std::cos(twist)));
+}
+
 TEST_F(ViewFrame, doesNotDependOnTheUcsThatTheDirectionIsReadIn)
 {
     setUcs({7, 8, 9}, 77);

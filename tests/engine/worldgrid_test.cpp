@@ -177,7 +177,13 @@ TEST_F(WorldGrid, anyLookButLinesIsCrosses)
     for (const int look : {1, 2, -1, 2147483647})
     {
         options.LookType = look;
-        EXPECT_EQ(build().length(), 12) << look;
+        const AcDbObjectIdArray made = build();
+        EXPECT_EQ(made.length(), 12) << look;
+        EXPECT_TRUE(hasLine({5, 3, 0}, {5, 7, 0})) << look;
+        for (int i = 0; i < made.length(); ++i)
+        {
+            eraseEntity(made[i]);
+        }
     }
 }
 
@@ -307,6 +313,26 @@ TEST_F(WorldGrid, aPieceWhoseCutFailsIsDroppedAndAWholeOneIsKept)
     EXPECT_TRUE(hasLine({10, 5, 0}, {10, 15, 0}));
     EXPECT_TRUE(hasLine({5, 10, 0}, {15, 10, 0}));
     EXPECT_TRUE(texts().empty());
+}
+
+// A line through the notch leaves and enters again: its label points would be a choice.
+TEST_F(WorldGrid, aLineThatTheOutlineCutsMoreThanTwiceHasNoLabels)
+{
+    AcGePoint3dArray points;
+    points.append(AcGePoint3d(0, 0, 0));
+    points.append(AcGePoint3d(30, 0, 0));
+    points.append(AcGePoint3d(30, 20, 0));
+    points.append(AcGePoint3d(0, 20, 0));
+    points.append(AcGePoint3d(25, 10, 0));
+    points.append(AcGePoint3d(0, 0, 0));
+    outline = addPolylineFrame(true, points, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
+    corner2 = {30, 20, 0};
+    options.needText = true;
+    build();
+    for (const std::wstring& text : texts())
+    {
+        EXPECT_NE(text[0], L'X');
+    }
 }
 
 TEST_F(WorldGrid, aBoundaryThatCannotBeReadGivesNothing)

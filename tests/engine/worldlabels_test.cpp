@@ -187,6 +187,19 @@ TEST_F(WorldLabels, oneLineHasOnePairHoweverManyPiecesItHas)
     EXPECT_EQ(texts().size(), 4u);
 }
 
+TEST_F(WorldLabels, standAtTheEndsThatComeFirstInTheTurnedFrame)
+{
+    options.needText = true;
+    setUcs({30, 20, 0}, 180);
+    pickSheet();
+    build();
+    const std::vector<LabelSeen> seen = labels();
+    ASSERT_EQ(seen.size(), 6u);
+    EXPECT_NEAR(toUcs(seen[0].anchor).y, 0, 1e-9);
+    EXPECT_EQ(seen[0].mode, AcDb::kTextLeft);
+    EXPECT_NEAR(toUcs(seen[4].anchor).x, 0, 1e-9);
+}
+
 TEST_F(WorldLabels, turnOverUnderATwistInTheFirstAndThirdQuarterOnly)
 {
     struct Row
@@ -206,8 +219,8 @@ TEST_F(WorldLabels, turnOverUnderATwistInTheFirstAndThirdQuarterOnly)
         {pi / 2 + pi, false},
         {6,           false},
         {-0.5,        false},
-        {M_PI / 2,    true }, // a little less than the quarter turn of
-  // twelve decimals
+        {M_PI / 2,    true }, // a little less than the quarter turn of twelve decimals
+        {3*M_PI/2,    true },
     };
     pickSheet();
     for (const Row& row : rows)

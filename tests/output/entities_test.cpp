@@ -62,6 +62,7 @@ std::wstring linetypeOf(const AcDbEntity& entity)
 
 TEST_F(Entities, aLineLooksAsTheGridLinesDo)
 {
+    host::currentOf(database()).lineWeight = 25;  // of the drawing's own new lines
     const AcDbObjectId id =
         addLine(true, {1, 2, 0}, {3, 4, 0}, 12, nullptr, nullptr, ACDB_MODEL_SPACE);
     ASSERT_FALSE(id.isNull());
@@ -237,6 +238,7 @@ TEST_F(Entities, aFrameIsClosedWhenItsEndsCoincideAndNoCornerIsDoubled)
 
 TEST_F(Entities, aFrameLooksAsTheOutlineDoes)
 {
+    host::currentOf(database()).lineWeight = 25;
     const AcDbObjectId id = addFrame(true, corners({
                                                {0, 0, 7},
                                                {9, 0, 8},

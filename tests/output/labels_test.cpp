@@ -103,6 +103,13 @@ TEST_F(Labels, colourNoughtLeavesTheDrawingsCurrentColour)
     EXPECT_EQ(inspect<AcDbText>(addPlain(L"1", L"Standard", 4), color), 4);
 }
 
+TEST_F(Labels, keepTheLineWeightOfTheDrawing)
+{
+    host::currentOf(database()).lineWeight = 25;
+    const auto weight = [](const AcDbText& text) { return int(text.lineWeight()); };
+    EXPECT_EQ(inspect<AcDbText>(addPlain(L"1", L"Standard", 4), weight), 25);
+}
+
 TEST_F(Labels, liesInThePlaneOfTheUcsAndKeepsTheCallersPoint)
 {
     setUcs({100, 200, 5}, 90);
