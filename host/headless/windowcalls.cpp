@@ -12,7 +12,7 @@ HWND nextControl(const Window& control)
 {
     const std::vector<HWND> controls = host::controlsOf(control.parent);
     const auto next = std::ranges::upper_bound(controls, control.handle);
-    return control.isChild() && next != controls.end() ? *next : nullptr;
+    return next != controls.end() ? *next : nullptr;
 }
 
 HWND firstControl(HWND dialog)

@@ -32,7 +32,7 @@ TestDialog::Answer destroysOn(UINT unwelcome)
         {
             DestroyWindow(dialog);
         }
-        return FALSE;
+        return message == WM_INITDIALOG;
     };
 }
 }  // namespace
@@ -207,7 +207,7 @@ TEST(Dialogs, aDialogGoesWithItsOwner)
     const TestDialog stranger(question(), {}, reinterpret_cast<HWND>(UINT_PTR(5)));
     EXPECT_EQ(GetParent(owned.window), owner.window);
     EXPECT_EQ(GetParent(stranger.window), nullptr);
-    EXPECT_EQ(GetDlgCtrlID(GetWindow(owner.window, GW_CHILD)), 10);
+    EXPECT_EQ(GetWindow(owner.control(IDCANCEL), GW_HWNDNEXT), nullptr);
     DestroyWindow(owner.window);
     EXPECT_FALSE(IsWindow(owned.window));
     EXPECT_TRUE(IsWindow(stranger.window));

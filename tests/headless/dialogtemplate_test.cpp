@@ -104,11 +104,27 @@ TEST(DialogTemplates, classesAreKnownByNameInAnyCaseAndByNumber)
 
 TEST(DialogTemplates, aClassOfItsOwnForTheDialogIsRefused)
 {
-    Bytes bytes = TemplateBuilder(L"", 10, 10).bytes();
+    const Bytes plain = TemplateBuilder(L"", 10, 10, WS_POPUP).bytes();
     const std::size_t classOffset = 28;
-    EXPECT_TRUE(readDialogTemplate(bytes));
-    overwrite(bytes, classOffset, L'A');  // and the empty caption ends the name
-    EXPECT_FALSE(readDialogTemplate(bytes));
+    ASSERT_TRUE(readDialogTemplate(plain));
+    for (const WORD first : {WORD(L'A'), WORD(0xFFFF)})  // a name "A", the number 0x80
+    {
+        Bytes bytes = plain;
+        bytes.insert(bytes.begin() + classOffset, 2, std::byte(0));
+        overwrite(bytes, classOffset, first);
+        overwrite(bytes, classOffset + 2, first == 0xFFFF ? 0x80 : 0);
+        EXPECT_FALSE(readDialogTemplate(bytes)) << first;
+    }
+}
+
+TEST(DialogTemplates, aControlIsOneOfItsDialogEvenWithoutTheStyleForIt)
+{
+    Bytes bytes = TemplateBuilder(L"", 10, 10, WS_POPUP).control(5, L"Edit", 0, 0, 0, 9, 9).bytes();
+    const std::size_t styleOffset = 40;
+    overwrite(bytes, styleOffset + 2, 0);
+    const auto read = readDialogTemplate(bytes);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->controls[0].style, DWORD(WS_CHILD));
 }
 
 TEST(DialogTemplates, dialogUnitsBecomePixelsRoundedHalfAwayFromZero)
