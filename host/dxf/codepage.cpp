@@ -31,9 +31,9 @@ wchar_t joined(wchar_t high, wchar_t low)
     return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
 }
 
-std::string converterName(std::string_view version, std::string_view codePage)
+std::string converterName(const Release& release, std::string_view codePage)
 {
-    if (version >= "AC1021")
+    if (release.utf8)
         return "UTF-8";
     if (codePage.empty())
         return "CP1252";
@@ -114,10 +114,10 @@ void appendEscape(std::string& bytes, char32_t character)
 }
 }  // namespace
 
-bool CodePage::isKnown(std::string_view version, std::string_view codePageName)
+bool CodePage::isKnown(const Release& release, std::string_view codePageName)
 try
 {
-    CodePage(version, codePageName);
+    CodePage(release, codePageName);
     return true;
 }
 catch (const Error&)
@@ -125,9 +125,9 @@ catch (const Error&)
     return false;
 }
 
-CodePage::CodePage(std::string_view version, std::string_view codePageName)
+CodePage::CodePage(const Release& release, std::string_view codePageName)
 {
-    const std::string name = converterName(version, codePageName);
+    const std::string name = converterName(release, codePageName);
     m_toWide = ::iconv_open("WCHAR_T", name.c_str());
     m_fromWide = ::iconv_open(name.c_str(), "WCHAR_T");
     if (m_toWide == iconv_t(-1) || m_fromWide == iconv_t(-1))

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/dxf/release.h"
+
 namespace host::dxf
 {
 // From R2007 (AC1021) on the bytes are UTF-8 whatever the header says; before that they are in the
@@ -17,8 +19,8 @@ class CodePage
 public:
     // Of the header: $ACADVER and $DWGCODEPAGE. A TagFile has none that are not known; for such the
     // constructor throws an Error.
-    static bool isKnown(std::string_view version, std::string_view codePageName);
-    CodePage(std::string_view version, std::string_view codePageName);
+    static bool isKnown(const Release& release, std::string_view codePageName);
+    CodePage(const Release& release, std::string_view codePageName);
     ~CodePage();
     CodePage(const CodePage&) = delete;
     CodePage& operator=(const CodePage&) = delete;

@@ -27,6 +27,11 @@ std::unique_ptr<AcDbDatabase> newDrawing()
     return database;
 }
 
+std::vector<std::string> lossesOnSaving(const AcDbDatabase& database)
+{
+    return dxf::lossesOnSaving(database.core());
+}
+
 std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path)
 {
     try

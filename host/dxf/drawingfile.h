@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "dbmain.h"
 
@@ -24,4 +25,7 @@ std::unique_ptr<AcDbDatabase> newDrawing();
 // stays as it was, tag for tag. All or nothing: on failure, told in the line that comes back, the
 // old file is whole.
 std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path);
+
+// What the release of the drawing's file cannot hold and saving leaves out, a line for each.
+std::vector<std::string> lossesOnSaving(const AcDbDatabase& database);
 }  // namespace host

@@ -8,9 +8,39 @@
 
 namespace host::dxf
 {
-EntityWriter::EntityWriter(DatabaseCore& core, const CodePage& codePage, const TagStyle& style)
-    : m_core(core), m_codePage(codePage), m_style(style)
+// An R12 drawing may do without handles; then the new entities have none either.
+EntityWriter::EntityWriter(DatabaseCore& core, const FileSource& source)
+    : m_core(core),
+      m_codePage(source.codePage),
+      m_style(source.file.style()),
+      m_release(source.file.release()),
+      m_handles(source.file.hasHandles())
 {
+}
+
+void EntityWriter::writeHandle(std::uint64_t handle, TagWriter& writer) const
+{
+    if (m_handles)
+    {
+        writer.handle(5, handle);
+    }
+}
+
+// A space that the file does not name as an object is nobody's owner.
+void EntityWriter::writeOwner(std::uint64_t handle, TagWriter& writer) const
+{
+    if (m_release.ownership && handle != 0)
+    {
+        writer.handle(330, handle);
+    }
+}
+
+void EntityWriter::writeSubclass(std::string_view name, TagWriter& writer) const
+{
+    if (m_release.objects)
+    {
+        writer.text(100, name);
+    }
 }
 
 void EntityWriter::writeEntitiesOf(const AcDbStub* owner, TagWriter& writer)
@@ -53,7 +83,7 @@ void EntityWriter::writeLine(std::uint64_t handle, const double* points, const L
                              TagWriter& writer)
 {
     writer.text(0, "LINE");
-    writer.handle(5, handle);
+    writeHandle(handle, writer);
     writer.raw(text.head);
     writer.point(10, points[0], points[1], points[2]);
     writer.point(11, points[3], points[4], points[5]);
@@ -73,7 +103,7 @@ EntityWriter::LineText EntityWriter::makeLineText(const LineStyle& style)
     LineText text;
     TagWriter head([&text](std::string_view bytes) { text.head += bytes; }, m_style);
     writeCommon(style, head);
-    head.text(100, "AcDbLine");
+    writeSubclass("AcDbLine", head);
     head.flush();
     TagWriter tail([&text](std::string_view bytes) { text.tail += bytes; }, m_style);
     writeNormal(style.normal, tail);
@@ -90,7 +120,7 @@ void EntityWriter::writeReactors(const LineStyle& style, TagWriter& writer)
 {
     const std::vector<AcDbStub*>& reactors = m_core.reactorLists[style.reactors];
     const auto alive = [](const AcDbStub* reactor) { return !reactor->erased(); };
-    if (std::none_of(reactors.begin(), reactors.end(), alive))
+    if (!m_release.objects || std::none_of(reactors.begin(), reactors.end(), alive))
     {
         return;
     }
@@ -108,13 +138,27 @@ void EntityWriter::writeReactors(const LineStyle& style, TagWriter& writer)
 void EntityWriter::writeCommon(const LineStyle& style, TagWriter& writer)
 {
     writeReactors(style, writer);
-    writer.handle(330, style.owner->handle);
-    writer.text(100, "AcDbEntity");
+    writeOwner(style.owner->handle, writer);
+    writeSubclass("AcDbEntity", writer);
     writer.text(8, nameOf(style.layer));
-    writer.text(6, nameOf(style.linetype));
+    const std::string linetype = nameOf(style.linetype);
+    if (m_release.objects || linetype != "ByLayer")  // which R12 has no record for
+    {
+        writer.text(6, linetype);
+    }
     if (style.color != 256)
     {
         writer.integer(62, style.color);
+    }
+    writeLater(style, writer);
+}
+
+// What R12 does not know yet.
+void EntityWriter::writeLater(const LineStyle& style, TagWriter& writer) const
+{
+    if (!m_release.objects)
+    {
+        return;
     }
     if (style.linetypeScale != 1)
     {
@@ -124,7 +168,7 @@ void EntityWriter::writeCommon(const LineStyle& style, TagWriter& writer)
     {
         writer.integer(60, 1);
     }
-    if (style.lineWeight != AcDb::kLnWtByLayer)
+    if (m_release.ownership && style.lineWeight != AcDb::kLnWtByLayer)
     {
         writer.integer(370, style.lineWeight);
     }
@@ -165,9 +209,9 @@ void EntityWriter::writeText(const AcDbText& text, TagWriter& writer)
 {
     const Ocs plane(text.normal());
     writer.text(0, "TEXT");
-    writer.handle(5, ObjectAccess::stub(text)->handle);
+    writeHandle(ObjectAccess::stub(text)->handle, writer);
     writeCommon(ObjectAccess::lineStyle(text), writer);
-    writer.text(100, "AcDbText");
+    writeSubclass("AcDbText", writer);
     writePoint(10, plane.toObject(text.position()), writer);
     writer.real(40, text.height());
     writer.text(1, m_codePage.encode(text.textStringConst()));
@@ -187,7 +231,7 @@ void EntityWriter::writeText(const AcDbText& text, TagWriter& writer)
         writePoint(11, plane.toObject(text.alignmentPoint()), writer);
     }
     writeNormal(text.normal(), writer);
-    writer.text(100, "AcDbText");
+    writeSubclass("AcDbText", writer);
     if (text.verticalMode() != AcDb::kTextBase)
     {
         writer.integer(73, text.verticalMode());
@@ -198,9 +242,9 @@ void EntityWriter::writePolyline(AcDb2dPolyline& polyline, TagWriter& writer)
 {
     const LineStyle style = ObjectAccess::lineStyle(polyline);
     writer.text(0, "POLYLINE");
-    writer.handle(5, ObjectAccess::stub(polyline)->handle);
+    writeHandle(ObjectAccess::stub(polyline)->handle, writer);
     writeCommon(style, writer);
-    writer.text(100, "AcDb2dPolyline");
+    writeSubclass("AcDb2dPolyline", writer);
     writer.integer(66, 1);
     writer.point(10, 0, 0, polyline.elevation());
     writer.integer(70,
@@ -211,17 +255,17 @@ void EntityWriter::writePolyline(AcDb2dPolyline& polyline, TagWriter& writer)
     for (const AcDb2dVertex* vertex : ObjectAccess::vertices(polyline))
     {
         writer.text(0, "VERTEX");
-        writer.handle(5, ObjectAccess::stub(*vertex)->handle);
+        writeHandle(ObjectAccess::stub(*vertex)->handle, writer);
         writeCommon(ObjectAccess::lineStyle(*vertex), writer);
-        writer.text(100, "AcDbVertex");
-        writer.text(100, "AcDb2dVertex");
+        writeSubclass("AcDbVertex", writer);
+        writeSubclass("AcDb2dVertex", writer);
         writePoint(10, vertex->position(), writer);
         writer.integer(70, 0);
     }
     writer.text(0, "SEQEND");
-    writer.handle(5, ObjectAccess::seqEnd(polyline)->handle);
-    writer.handle(330, ObjectAccess::stub(polyline)->handle);
-    writer.text(100, "AcDbEntity");
+    writeHandle(ObjectAccess::seqEnd(polyline)->handle, writer);
+    writeOwner(ObjectAccess::stub(polyline)->handle, writer);
+    writeSubclass("AcDbEntity", writer);
     writer.text(8, nameOf(style.layer));
 }
 }  // namespace host::dxf

@@ -5,17 +5,17 @@
 #include <unordered_map>
 
 #include "host/database/access.h"
-#include "host/dxf/codepage.h"
+#include "host/dxf/filesource.h"
 #include "host/dxf/tagwriter.h"
 
 namespace host::dxf
 {
-// Writes the entities of one database in the R2000 form. Everything that lines of one style have in
-// common is put together once.
+// Writes the entities of one database in the form of the file's release. Everything that lines of
+// one style have in common is put together once.
 class EntityWriter
 {
 public:
-    EntityWriter(DatabaseCore& core, const CodePage& codePage, const TagStyle& style);
+    EntityWriter(DatabaseCore& core, const FileSource& source);
 
     // All entities made since the drawing was opened that belong to `owner` and are not erased.
     void writeEntitiesOf(const AcDbStub* owner, TagWriter& writer);
@@ -35,13 +35,19 @@ private:
 
     const LineText& lineText(std::uint32_t style);
     LineText makeLineText(const LineStyle& style);
+    void writeHandle(std::uint64_t handle, TagWriter& writer) const;
+    void writeOwner(std::uint64_t handle, TagWriter& writer) const;
+    void writeSubclass(std::string_view name, TagWriter& writer) const;
     void writeCommon(const LineStyle& style, TagWriter& writer);
+    void writeLater(const LineStyle& style, TagWriter& writer) const;
     void writeReactors(const LineStyle& style, TagWriter& writer);
     std::string nameOf(const AcDbStub* record) const;
 
     DatabaseCore& m_core;
     const CodePage& m_codePage;
     const TagStyle m_style;
+    const Release& m_release;
+    bool m_handles;
     std::unordered_map<std::uint32_t, LineText> m_lineTexts;
 };
 

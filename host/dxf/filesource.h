@@ -14,11 +14,18 @@ struct LoadedLayer
     bool frozen, locked, off;
 };
 
+// A record that every drawing has and the file lacks.
+struct AddedRecord
+{
+    std::string_view type;  // of its table: "LAYER"
+    AcDbStub* stub;
+};
+
 // The state as read, to tell what has changed since. Pointers into `file` stay good with it.
 struct FileSource : DrawingSource
 {
     explicit FileSource(TagFile read)
-        : file(std::move(read)), codePage(file.version(), file.codePageName())
+        : file(std::move(read)), codePage(file.release(), file.codePageName())
     {
     }
 
@@ -27,6 +34,7 @@ struct FileSource : DrawingSource
     DrawingState state;
     CurrentProperties current;
     std::vector<LoadedLayer> layers;
+    std::vector<AddedRecord> added;
     const Record* viewport = nullptr;        // the first "*ACTIVE" one
     const Record* rootDictionary = nullptr;  // of named objects
     const Record* groupDictionary = nullptr;
@@ -37,9 +45,15 @@ inline FileSource& sourceOf(const DatabaseCore& core)
     return static_cast<FileSource&>(*core.source);
 }
 
+// What the tables of TABLES are called.
+std::string_view tableName(const TagFile& file, const Record& table);
+
 // Fills an empty database. Throws an Error for a file whose records do not make a drawing.
 void load(DatabaseCore& core, TagFile file);
 
 // Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
 void save(DatabaseCore& core, const std::string& path);
+
+// What the file's release cannot hold, a line for each.
+std::vector<std::string> lossesOnSaving(const DatabaseCore& core);
 }  // namespace host::dxf

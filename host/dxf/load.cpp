@@ -85,19 +85,13 @@ void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record&
 }
 
 template <class Table>
-AcDbStub* makeTable(DatabaseCore& core, const FileSource& source, std::string_view recordType)
+AcDbStub* makeTable(DatabaseCore& core, const FileSource& source, std::string_view type)
 {
     for (const Record& record : source.file.records("TABLES"))
     {
-        if (source.file.typeName(record) == "TABLE")
+        if (source.file.typeName(record) == "TABLE" && tableName(source.file, record) == type)
         {
-            for (const Tag& tag : source.file.tags(record))
-            {
-                if (tag.code == 2 && trimmed(tag.value) == recordType)
-                {
-                    return core.addLoaded(new Table(), nullptr, record.handle);
-                }
-            }
+            return core.addLoaded(new Table(), nullptr, record.handle);
         }
     }
     return core.addLoaded(new Table(), nullptr, 0);
@@ -139,28 +133,30 @@ void loadTables(DatabaseCore& core, FileSource& source)
 
 // Every drawing has these, written down or not.
 template <class Record>
-AcDbStub* recordOrOwn(DatabaseCore& core, AcDbStub* table, const std::wstring& name)
+void ensure(DatabaseCore& core, FileSource& source, AcDbStub* table, std::string_view type,
+            const std::wstring& name)
 {
-    AcDbObjectId id;
-    static_cast<AcDbSymbolTable*>(table->object)->getAt(name.c_str(), id);
-    if (!id.isNull())
+    if (!static_cast<AcDbSymbolTable*>(table->object)->has(name.c_str()))
     {
-        return id.stub();
+        auto* record = core.addLoadedRecord<Record>(table, name, 0);
+        source.added.push_back({type, ObjectAccess::stub(*record)});
     }
-    return ObjectAccess::stub(*core.addLoadedRecord<Record>(table, name, 0));
 }
 
-void completeTables(DatabaseCore& core, const FileSource& source)
+// The spaces of R12 are no objects, nor has a drawing without tables any.
+void completeTables(DatabaseCore& core, FileSource& source)
 {
     if (core.modelSpace == nullptr)
     {
-        source.file.refuse(1, "a BLOCK_RECORD named *Model_Space in TABLES", "none");
+        auto* space =
+            core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, ACDB_MODEL_SPACE, 0);
+        core.modelSpace = ObjectAccess::stub(*space);
     }
-    recordOrOwn<AcDbLayerTableRecord>(core, core.layerTable, L"0");
-    recordOrOwn<AcDbTextStyleTableRecord>(core, core.textStyleTable, L"Standard");
+    ensure<AcDbLayerTableRecord>(core, source, core.layerTable, "LAYER", L"0");
+    ensure<AcDbTextStyleTableRecord>(core, source, core.textStyleTable, "STYLE", L"Standard");
     for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
     {
-        recordOrOwn<AcDbLinetypeTableRecord>(core, core.linetypeTable, name);
+        ensure<AcDbLinetypeTableRecord>(core, source, core.linetypeTable, "LTYPE", name);
     }
 }
 
@@ -232,6 +228,18 @@ void loadGroupDictionary(DatabaseCore& core, FileSource& source)
                  });
 }
 }  // namespace
+
+std::string_view tableName(const TagFile& file, const Record& table)
+{
+    for (const Tag& tag : file.tags(table))
+    {
+        if (tag.code == 2)
+        {
+            return trimmed(tag.value);
+        }
+    }
+    return {};
+}
 
 void load(DatabaseCore& core, TagFile file)
 {

@@ -7,6 +7,7 @@
 #include "host/dxf/filesource.h"
 #include "host/dxf/save_atomic.h"
 #include "host/dxf/savestate.h"
+#include "host/dxf/savetables.h"
 #include "host/runtime/foldcase.h"
 
 namespace host::dxf
@@ -135,7 +136,7 @@ void saveEntities(Edits& edits, DatabaseCore& core, EntityWriter& entities)
 }
 
 void writeGroup(const AcDbDictionary::Entries::Entry& entry, std::uint64_t dictionary,
-                const CodePage& codePage, TagWriter& writer)
+                const FileSource& source, TagWriter& writer)
 {
     const AcDbGroup::Members& members =
         ObjectAccess::members(*static_cast<AcDbGroup*>(entry.stub->object));
@@ -144,9 +145,12 @@ void writeGroup(const AcDbDictionary::Entries::Entry& entry, std::uint64_t dicti
     writer.text(102, "{ACAD_REACTORS");
     writer.handle(330, dictionary);
     writer.text(102, "}");
-    writer.handle(330, dictionary);
+    if (source.file.release().ownership)
+    {
+        writer.handle(330, dictionary);
+    }
     writer.text(100, "AcDbGroup");
-    writer.text(300, codePage.encode(members.description));
+    writer.text(300, source.codePage.encode(members.description));
     writer.integer(70, members.anonymous ? 1 : 0);
     writer.integer(71, members.selectable ? 1 : 0);
     for (const AcDbStub* member : members.stubs)
@@ -193,8 +197,8 @@ void writeEntry(std::string_view key, std::uint64_t handle, TagWriter& writer)
     writer.handle(350, handle);
 }
 
-void writeDictionary(std::uint64_t handle, std::uint64_t owner, const Producer& entries,
-                     TagWriter& writer)
+void writeDictionary(const Release& release, std::uint64_t handle, std::uint64_t owner,
+                     const Producer& entries, TagWriter& writer)
 {
     writer.text(0, "DICTIONARY");
     writer.handle(5, handle);
@@ -204,9 +208,15 @@ void writeDictionary(std::uint64_t handle, std::uint64_t owner, const Producer& 
         writer.handle(330, owner);
         writer.text(102, "}");
     }
-    writer.handle(330, owner);
+    if (release.ownership)
+    {
+        writer.handle(330, owner);
+    }
     writer.text(100, "AcDbDictionary");
-    writer.integer(281, 1);
+    if (release.ownership)
+    {
+        writer.integer(281, 1);
+    }
     entries(writer);
 }
 
@@ -215,7 +225,7 @@ void saveGroups(Edits& edits, DatabaseCore& core)
 {
     FileSource& source = sourceOf(core);
     const NewGroups groups = newGroups(core);
-    if (groups.empty())
+    if (groups.empty() || !source.file.release().objects)
     {
         return;
     }
@@ -236,15 +246,15 @@ void saveGroups(Edits& edits, DatabaseCore& core)
     const std::uint64_t root =
         source.rootDictionary != nullptr ? source.rootDictionary->handle : core.nextHandle++;
     const bool isNew = source.groupDictionary == nullptr;
-    const Producer objects = [&codePage, groups, own, root, isNew, entries](TagWriter& writer)
+    const Producer objects = [&source, groups, own, root, isNew, entries](TagWriter& writer)
     {
         if (isNew)
         {
-            writeDictionary(own, root, entries, writer);
+            writeDictionary(source.file.release(), own, root, entries, writer);
         }
         for (const auto& group : groups)
         {
-            writeGroup(group, own, codePage, writer);
+            writeGroup(group, own, source, writer);
         }
     };
     const Producer rootEntry = [own](TagWriter& writer) { writeEntry("ACAD_GROUP", own, writer); };
@@ -261,9 +271,9 @@ void saveGroups(Edits& edits, DatabaseCore& core)
         edits.insert(source.file.section("OBJECTS")->end, objects);
         return;
     }
-    const Producer all = [=](TagWriter& writer)
+    const Producer all = [&source, root, rootEntry, objects](TagWriter& writer)
     {
-        writeDictionary(root, 0, rootEntry, writer);
+        writeDictionary(source.file.release(), root, 0, rootEntry, writer);
         objects(writer);
     };
     const Section* section = source.file.section("OBJECTS");
@@ -279,7 +289,12 @@ void saveGroups(Edits& edits, DatabaseCore& core)
 // The seed goes up with the objects that are saved, so a drawing left as it was stays so.
 void saveHandleSeed(Edits& edits, const DatabaseCore& core)
 {
+    const FileSource& source = sourceOf(core);
     if (ownersOfNewEntities(core).empty() && newGroups(core).empty())
+    {
+        return;
+    }
+    if (!source.file.hasHandles())
     {
         return;
     }
@@ -288,11 +303,24 @@ void saveHandleSeed(Edits& edits, const DatabaseCore& core)
 }
 }  // namespace
 
+std::vector<std::string> lossesOnSaving(const DatabaseCore& core)
+{
+    const Release& release = sourceOf(core).file.release();
+    const std::size_t groups = newGroups(core).size();
+    if (groups == 0 || release.objects)
+    {
+        return {};
+    }
+    return {std::string(release.name) + " has no groups: the entities are kept, " +
+            (groups == 1 ? "their group is not" : "their groups are not")};
+}
+
 void save(DatabaseCore& core, const std::string& path)
 {
     const FileSource& source = sourceOf(core);
     Edits edits(source.file);
-    EntityWriter entities(core, source.codePage, source.file.style());
+    EntityWriter entities(core, source);
+    saveTables(edits, core);
     saveLayers(edits, source);
     saveEntities(edits, core, entities);
     saveGroups(edits, core);

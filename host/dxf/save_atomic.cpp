@@ -12,6 +12,8 @@
 #include <tuple>
 #include <utility>
 
+#include "host/dxf/binaryform.h"
+
 namespace host::dxf
 {
 namespace
@@ -164,10 +166,21 @@ fs::path folderOf(const fs::path& target)
     return target.has_parent_path() ? target.parent_path() : fs::path(".");
 }
 
+void writeBinary(TemporaryFile& file, const TagStyle& style, const Producer& produce)
+{
+    BinaryEncoder encoder([&](std::string_view bytes) { file.write(bytes); }, style.binaryCodeSize);
+    TagWriter writer([&](std::string_view ascii) { encoder.take(ascii); }, style);
+    produce(writer);
+    writer.flush();
+    encoder.finish();
+}
+
 void writeTags(TemporaryFile& file, const TagStyle& style, const Producer& produce,
                const std::string& path)
 try
 {
+    if (style.binaryCodeSize != 0)
+        return writeBinary(file, style, produce);
     TagWriter writer([&](std::string_view bytes) { file.write(bytes); }, style);
     produce(writer);
     writer.flush();

@@ -24,6 +24,7 @@ struct TagStyle
     std::string_view newline = "\n";
     int codeWidth = 3;         // group codes are padded with blanks on the left to this, 1 to 6
     bool padIntegers = false;  // so are integers, to the width of their kind
+    int binaryCodeSize = 0;    // of a binary file: bytes of a group code, 1 or 2
 };
 
 inline std::string_view trimmed(std::string_view value)

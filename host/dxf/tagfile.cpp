@@ -9,6 +9,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "host/dxf/binaryform.h"
 #include "host/dxf/tagscanner.h"
 
 namespace host::dxf
@@ -93,14 +94,40 @@ TagFile TagFile::fromText(std::string_view text, std::string name)
 TagFile::TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size)
     : m_name(std::move(name)), m_bytes(std::move(bytes)), m_size(size)
 {
-    m_bytes[size] = '\n';
+    if (isBinary(this->bytes()))
+        takeAsciiForm();
+    m_bytes[m_size] = '\n';
     TagFileScanner(*this).scan();
+}
+
+void TagFile::takeAsciiForm()
+{
+    AsciiForm form = asciiForm(bytes(), m_name);
+    form.offsets.push_back(m_size);
+    m_style.binaryCodeSize = form.codeSize;
+    m_offsets = std::move(form.offsets);
+    m_size = form.text.size();
+    m_bytes = std::make_unique_for_overwrite<char[]>(m_size + 1);
+    form.text.copy(m_bytes.get(), m_size);
+}
+
+std::string TagFile::place(std::uint32_t line) const
+{
+    if (m_offsets.empty())
+        return "line " + std::to_string(line);
+    const std::size_t tag = std::min<std::size_t>((line - 1) / 2, m_offsets.size() - 1);
+    return "offset " + std::to_string(m_offsets[tag]);
 }
 
 const Section* TagFile::section(std::string_view name) const
 {
     const auto found = std::ranges::find(m_sections, name, &Section::name);
     return found == m_sections.end() ? nullptr : &*found;
+}
+
+std::size_t TagFile::endOfSection(const Section& section) const
+{
+    return Tags(m_bytes.get(), section.end, m_size, section.line).begin()->end;
 }
 
 std::span<const Record> TagFile::records(std::string_view name) const
@@ -143,8 +170,8 @@ std::uint64_t TagFile::handle(const Tag& tag) const
 
 void TagFile::refuse(std::uint32_t line, std::string_view expected, std::string_view found) const
 {
-    fail(m_name, "line " + std::to_string(line) + ": expected " + std::string(expected) +
-                     ", found " + std::string(found));
+    fail(m_name,
+         place(line) + ": expected " + std::string(expected) + ", found " + std::string(found));
 }
 
 void TagFile::refuseValue(const Tag& tag, std::string_view expected) const

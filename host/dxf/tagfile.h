@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/dxf/error.h"
+#include "host/dxf/release.h"
 #include "host/dxf/tag.h"
 
 namespace host::dxf
@@ -39,7 +40,8 @@ struct HeaderVariable
     std::uint32_t line;
 };
 
-// An ASCII DXF drawing of R2000 to R2018, whole in memory and unchanged. Everything else is refused
+// A DXF drawing of R12 to R2018, whole in memory and unchanged; a binary one in the ASCII form that
+// has the same tags. Everything else is refused
 // by an Error: other files and versions, tags out of step, sections out of order, a missing end,
 // handles that are no handles or used twice.
 //
@@ -54,18 +56,21 @@ public:
 
     const std::string& name() const { return m_name; }
     std::string_view bytes() const { return {m_bytes.get(), m_size}; }
-    std::string_view version() const { return m_version; }        // "AC1015" to "AC1032"
+    const Release& release() const { return *m_release; }
     std::string_view codePageName() const { return m_codePage; }  // "ANSI_1252"; empty: not stated
     const TagStyle& style() const { return m_style; }
 
     std::span<const Section> sections() const { return m_sections; }
-    const Section* section(std::string_view name) const;   // nullptr: has none
-    std::size_t eofOffset() const { return m_eofOffset; }  // new sections go before this
+    const Section* section(std::string_view name) const;     // nullptr: has none
+    std::size_t endOfSection(const Section& section) const;  // after ENDSEC
+    std::size_t eofOffset() const { return m_eofOffset; }    // new sections go before this
 
     std::span<const Record> records() const { return m_records; }  // of all sections, file order
     std::span<const Record> records(std::string_view section) const;
     std::string_view typeName(const Record& record) const { return m_types[record.type]; }
     std::uint64_t highestHandle() const { return m_highestHandle; }
+    // An R12 drawing may do without them.
+    bool hasHandles() const { return m_release->objects || m_highestHandle != 0; }
 
     // In file order. Of two with one name the later is the one that `header` finds.
     std::span<const HeaderVariable> headerVariables() const { return m_header; }
@@ -81,6 +86,7 @@ public:
     std::uint64_t handle(const Tag& tag) const;  // 0 is good: refers to nothing
 
     // Throws "FILE: line N: expected X, found Y".
+    // "FILE: offset N: ..." for a binary file.
     [[noreturn]] void refuse(std::uint32_t line, std::string_view expected,
                              std::string_view found) const;
     [[noreturn]] void refuseValue(const Tag& tag, std::string_view expected) const;
@@ -89,6 +95,8 @@ private:
     friend class TagFileScanner;
 
     TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size);
+    void takeAsciiForm();
+    std::string place(std::uint32_t line) const;
 
     template <class Range>
     Tags range(const Range& r) const
@@ -99,7 +107,8 @@ private:
     std::string m_name;
     std::unique_ptr<char[]> m_bytes;  // one '\n' more than the file
     std::size_t m_size = 0;
-    std::string_view m_version;
+    std::vector<std::size_t> m_offsets;  // of a binary file: where each tag begins, and the end
+    const Release* m_release = nullptr;
     std::string_view m_codePage;
     TagStyle m_style;
     std::size_t m_eofOffset = 0;

@@ -3,31 +3,13 @@
 #include <algorithm>
 
 #include "host/dxf/codepage.h"
+#include "host/dxf/release.h"
 
 namespace host::dxf
 {
 namespace
 {
-struct Release
-{
-    std::string_view version;
-    std::string_view name;
-    bool readable;
-};
-
-constexpr Release releases[] = {
-    {"AC1006", "R10",   false},
-    {"AC1009", "R12",   false},
-    {"AC1012", "R13",   false},
-    {"AC1014", "R14",   false},
-    {"AC1015", "R2000", true },
-    {"AC1018", "R2004", true },
-    {"AC1021", "R2007", true },
-    {"AC1024", "R2010", true },
-    {"AC1027", "R2013", true },
-    {"AC1032", "R2018", true },
-};
-constexpr std::string_view readableVersions = "version AC1015 (R2000) to AC1032 (R2018)";
+constexpr std::string_view readableVersions = "version AC1009 (R12) to AC1032 (R2018)";
 
 bool holdsRecords(std::string_view section)
 {
@@ -51,7 +33,9 @@ void TagFileScanner::scan()
         readSection();
     }
     m_file.m_eofOffset = m_tag.begin;
-    requireVersion();
+    if (m_file.m_release == nullptr)
+        m_file.m_release = findRelease(unstatedVersion);
+    requireKnownCodePage();
     requireNothingAfterEof();
     requireUniqueHandles();
 }
@@ -59,10 +43,8 @@ void TagFileScanner::scan()
 void TagFileScanner::refuseOtherFormats() const
 {
     const std::string_view bytes = m_file.bytes();
-    if (bytes.empty())
+    if (bytes.empty() && m_file.style().binaryCodeSize == 0)
         m_file.refuse(1, "a DXF drawing", "an empty file");
-    if (bytes.starts_with("AutoCAD Binary DXF"))
-        m_file.refuse(1, "an ASCII DXF drawing", "a binary one");
     if (bytes.starts_with("AC10"))
         m_file.refuse(1, "a DXF drawing", "a DWG");
 }
@@ -77,9 +59,6 @@ void TagFileScanner::readSection()
         m_reader.refuse("the section's name (group code 2)");
     if (m_file.section(name))
         m_reader.refuse("a section that was not there before");
-    if (holdsRecords(name))
-        requireVersion();
-
     m_file.m_sections.push_back(
         {name, m_tag.end, 0, m_reader.nextLine(), m_file.m_records.size(), 0});
     if (name == "HEADER")
@@ -111,7 +90,6 @@ void TagFileScanner::readHeader()
     }
     if (!m_reader.is("ENDSEC"))
         m_reader.refuse("ENDSEC");
-    requireKnownCodePage();
 }
 
 void TagFileScanner::readHeaderValue(std::string_view variable)
@@ -192,24 +170,14 @@ void TagFileScanner::takeStyle()
 
 void TagFileScanner::takeVersion()
 {
-    m_file.m_version = trimmed(m_tag.value);
-    const auto release = std::ranges::find(releases, m_file.m_version, &Release::version);
-    if (release == std::end(releases))
+    m_file.m_release = findRelease(trimmed(m_tag.value));
+    if (m_file.m_release == nullptr)
         m_file.refuseValue(m_tag, readableVersions);
-    if (!release->readable)
-        m_file.refuse(m_tag.line + 1, readableVersions,
-                      std::string(release->version) + " (" + std::string(release->name) + ")");
-}
-
-void TagFileScanner::requireVersion() const
-{
-    if (m_file.m_version.empty())
-        m_reader.refuse("a HEADER with $ACADVER first");
 }
 
 void TagFileScanner::requireKnownCodePage() const
 {
-    if (CodePage::isKnown(m_file.m_version, m_file.m_codePage))
+    if (CodePage::isKnown(*m_file.m_release, m_file.m_codePage))
         return;
     const Tag tag = *m_file.tags(*m_file.header("$DWGCODEPAGE")).begin();
     m_file.refuseValue(tag, "a known code page");

@@ -26,7 +26,6 @@ private:
 
     void takeStyle();
     void takeVersion();
-    void requireVersion() const;
     void requireKnownCodePage() const;
     void requireNothingAfterEof() const;
     void requireUniqueHandles() const;

@@ -56,12 +56,18 @@ bool save(const Options& options, FrontEnd& frontEnd)
     {
         return true;
     }
-    const auto error = saveDrawing(*documents().document()->database(), options.save);
+    AcDbDatabase& database = *documents().document()->database();
+    const auto error = saveDrawing(database, options.save);
     if (error)
     {
         frontEnd.report(*error);
+        return false;
     }
-    return !error;
+    for (const std::string& loss : lossesOnSaving(database))
+    {
+        frontEnd.report(options.save + ": " + loss);
+    }
+    return true;
 }
 
 // Draws every dialog over the one before, so that the last one stays.

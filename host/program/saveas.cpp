@@ -42,6 +42,10 @@ void saveAsCommand()
         editor.printLine(fromUtf8(*error));
         return;
     }
+    for (const std::string& loss : lossesOnSaving(*document.database()))
+    {
+        editor.printLine(fromUtf8(loss));
+    }
     document.setPath(*path);
 }
 }  // namespace

@@ -46,7 +46,7 @@ TEST(CodePage, textsAreReadAndWrittenInTheFilesCodePage)
     };
     for (const Row& row : rows)
     {
-        const CodePage page(row.version, row.codePage);
+        const CodePage page(*findRelease(row.version), row.codePage);
         EXPECT_EQ(page.decode(row.bytes), row.text) << row.codePage << ' ' << row.bytes;
         EXPECT_EQ(page.encode(row.text), row.bytes) << row.codePage << ' ' << row.bytes;
     }
@@ -68,7 +68,8 @@ TEST(CodePage, whatReadsAlikeNeedNotBeWrittenAlike)
         {"AC1027", "", "\\U+12",                   L"\\U+12"      },
     };
     for (const Row& row : rows)
-        EXPECT_EQ(CodePage(row.version, row.codePage).decode(row.bytes), row.text) << row.bytes;
+        EXPECT_EQ(CodePage(*findRelease(row.version), row.codePage).decode(row.bytes), row.text)
+            << row.bytes;
 }
 
 TEST(CodePage, bytesThatMeanNothingComeBackAsTheyWere)
@@ -85,7 +86,7 @@ TEST(CodePage, bytesThatMeanNothingComeBackAsTheyWere)
     };
     for (const Row& row : rows)
     {
-        const CodePage page(row.version, row.codePage);
+        const CodePage page(*findRelease(row.version), row.codePage);
         EXPECT_EQ(page.encode(page.decode(row.bytes)), row.bytes);
         EXPECT_EQ(page.decode(row.bytes), row.text);
     }
@@ -93,12 +94,12 @@ TEST(CodePage, bytesThatMeanNothingComeBackAsTheyWere)
 
 TEST(CodePage, whatTheCodePageLacksIsEscaped)
 {
-    const CodePage western("AC1015", "ANSI_1252");
+    const CodePage western(*findRelease("AC1015"), "ANSI_1252");
     EXPECT_EQ(western.encode(L"Фé"), "\\U+0424\xE9");
     EXPECT_EQ(western.encode(L"\U0001F600"), "\\U+D83D\\U+DE00");
     EXPECT_EQ(western.encode(L"\xD83D\xDE00"), "\\U+D83D\\U+DE00");
 
-    const CodePage unicode("AC1027", "ANSI_1252");
+    const CodePage unicode(*findRelease("AC1027"), "ANSI_1252");
     EXPECT_EQ(unicode.encode(L"\xD83D\xDE00"), "\xF0\x9F\x98\x80");
     EXPECT_EQ(unicode.encode(L"\xD83D"), "\\U+D83D");
     EXPECT_EQ(unicode.encode(std::wstring(1, wchar_t(0x110000))), "\xEF\xBF\xBD");
@@ -109,9 +110,9 @@ TEST(CodePage, anUnknownCodePageIsRefusedUnlessItDoesNotMatter)
 {
     for (const char* name : {"ANSI_7", "UTF-16", "no page", "DOS", "ISO8859-99"})
     {
-        EXPECT_THAT([&] { CodePage("AC1018", name); },
+        EXPECT_THAT([&] { CodePage(*findRelease("AC1018"), name); },
                     testing::ThrowsMessage<Error>("expected a known code page, found \"" +
                                                   std::string(name) + "\""));
-        EXPECT_EQ(CodePage("AC1021", name).encode(L"Ф"), "\xD0\xA4");
+        EXPECT_EQ(CodePage(*findRelease("AC1021"), name).encode(L"Ф"), "\xD0\xA4");
     }
 }

@@ -283,20 +283,6 @@ TEST_F(Drawing, aSeedAboveTheHighestHandleIsKeptTo)
     EXPECT_EQ(database->core().nextHandle, 0x1000u);
 }
 
-TEST_F(Drawing, withoutModelSpaceIsRefusedInOneLine)
-{
-    std::string text = host::dxf::emptyDrawing();
-    for (std::size_t at; (at = text.find("*Model_Space")) != text.npos;)
-    {
-        text.replace(at, 12, "Other_Space_");
-    }
-    std::ofstream(path, std::ios::binary) << text;
-    const host::OpenedDrawing opened = host::openDrawing(path);
-    EXPECT_EQ(opened.database, nullptr);
-    EXPECT_NE(opened.error.find("*Model_Space"), std::string::npos);
-    EXPECT_EQ(count(opened.error, "\n"), 0u);
-}
-
 TEST_F(Drawing, aDrawingThatCannotBeSavedSaysWhy)
 {
     EmptyDrawing drawing;
