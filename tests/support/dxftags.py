@@ -1,4 +1,8 @@
-"""Reads an ASCII DXF file as what it is: pairs of a group code and a value, nothing interpreted."""
+"""Reads a DXF file as what it is: pairs of a group code and a value, nothing interpreted.
+
+The values of a binary file are given as an ASCII file would hold them.
+"""
+import struct
 from dataclasses import dataclass, field
 
 
@@ -48,9 +52,42 @@ class Record:
         return f"{name} in {self.section or 'no section'}"
 
 
+BINARY = b"AutoCAD Binary DXF\r\n\x1a\0"
+NUMBERS = [("<d", (range(10, 60), range(110, 150), range(210, 240), range(460, 470), range(1010, 1060))),
+           ("<h", (range(60, 80), range(170, 180), range(270, 290), range(370, 390), range(400, 410),
+                   range(1060, 1071))),
+           ("<i", (range(90, 100), range(420, 430), range(440, 460), range(1071, 1072))),
+           ("<q", (range(160, 170),)), ("<B", (range(290, 300),))]
+FORMATS = {code: form for form, ranges in NUMBERS for codes in ranges for code in codes}
+
+
+def binary_tags(data):
+    at, short = len(BINARY), data[len(BINARY) + 1] != 0
+    while at < len(data):
+        code = data[at] if short else struct.unpack_from("<h", data, at)[0]
+        at += 1 if short else 2
+        if short and code == 255:
+            code = struct.unpack_from("<h", data, at)[0]
+            at += 2
+        if code in FORMATS:
+            number, = struct.unpack_from(FORMATS[code], data, at)
+            at += struct.calcsize(FORMATS[code])
+            yield Tag(code, repr(number).encode())
+        elif code in range(310, 320) or code == 1004:
+            yield Tag(code, data[at + 1:at + 1 + data[at]].hex().encode())
+            at += 1 + data[at]
+        else:
+            end = data.index(b"\0", at)
+            yield Tag(code, data[at:end])
+            at = end + 1
+
+
 def read_tags(path):
     with open(path, "rb") as file:
-        lines = file.read().split(b"\n")
+        data = file.read()
+    if data.startswith(BINARY):
+        return list(binary_tags(data))
+    lines = data.split(b"\n")
     if lines and not lines[-1].strip():
         lines.pop()
     if len(lines) % 2:
