@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/dialogs/bitmapbutton.h"
+#include "host/dialogs/wnd.h"
 #include "host/pictures/bitmap.h"
 #include "host/pictures/canvas.h"
 #include "host/pictures/indexcolors.h"
@@ -30,13 +31,6 @@ struct Control
     bool checked() const { return SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED; }
 };
 
-std::wstring textOf(HWND window)
-{
-    std::wstring text(std::size_t(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(std::size_t(GetWindowTextW(window, text.data(), int(text.size()))));
-    return text;
-}
-
 Control describe(HWND window)
 {
     wchar_t className[64] = L"";
@@ -48,7 +42,7 @@ Control describe(HWND window)
     return {window,
             box,
             className,
-            textOf(window),
+            windowText(window),
             DWORD(GetWindowLongW(window, GWL_STYLE)),
             IsWindowEnabled(window) != FALSE};
 }
