@@ -14,7 +14,21 @@ struct UndoMark
 };
 
 UndoMark undoMark(const AcDbDatabase& database);
+
+// What was taken back, to do it again.
+struct UndoneChanges
+{
+    UndoMark mark;
+    std::vector<bool> erased;  // of the objects made since the mark, as they were
+    std::vector<AcDbStub*> erasedLog;
+    std::vector<LayerFlags> layerLog;
+    std::vector<LayerFlags> layers;  // as they were
+    CurrentProperties current;
+};
+
 // Objects made since the mark are erased, those erased since are back, layers and current
 // properties are as they were. Marks made later are void.
-void undoTo(AcDbDatabase& database, const UndoMark& mark);
+UndoneChanges undoTo(AcDbDatabase& database, const UndoMark& mark);
+// Nothing may have been changed in between.
+void redo(AcDbDatabase& database, const UndoneChanges& changes);
 }  // namespace host

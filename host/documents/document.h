@@ -23,6 +23,15 @@ struct UndoStep
     UcsHistory ucsHistory;
 };
 
+// A command that was taken back, and what it left.
+struct RedoStep
+{
+    UndoStep step;
+    UndoneChanges objects;
+    DrawingState state;
+    UcsHistory ucsHistory;
+};
+
 class Document final : public AcApDocument
 {
 public:
@@ -39,6 +48,7 @@ public:
     ResourceStack resources;
     UcsHistory ucsHistory;
     std::vector<UndoStep> undo;
+    std::vector<RedoStep> redo;  // until something else is done
     AcGePoint3d lastPoint;     // WCS
     bool blockEditor = false;  // a block is being edited
     std::vector<AcAp::DocLockMode> locks;

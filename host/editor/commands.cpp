@@ -161,6 +161,7 @@ void markForUndo(Document& document, const Command& command)
     {
         return;
     }
+    document.redo.clear();
     AcDbDatabase& database = *document.database();
     document.undo.push_back(
         {shownName(command), undoMark(database), stateOf(database), document.ucsHistory});

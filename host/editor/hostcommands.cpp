@@ -21,6 +21,7 @@ const Row rows[] = {
     {L"DVIEW",  ACRX_CMD_NOPAPERSPACE,   dviewCommand },
     {L"PLAN",   ACRX_CMD_NOPAPERSPACE,   planCommand  },
     {L"QUIT",   ACRX_CMD_NO_UNDO_MARKER, quitCommand  },
+    {L"REDO",   ACRX_CMD_NO_UNDO_MARKER, redoCommand  },
     {L"SETVAR", ACRX_CMD_TRANSPARENT,    setvarCommand},
     {L"U",      ACRX_CMD_NO_UNDO_MARKER, undoCommand  },
     {L"UCS",    ACRX_CMD_MODAL,          ucsCommand   },
@@ -46,12 +47,33 @@ void undoCommand()
         editor.printLine(L"Everything has been undone.");
         return;
     }
+    AcDbDatabase& database = *document.database();
     UndoStep step = std::move(document.undo.back());
     document.undo.pop_back();
-    undoTo(*document.database(), step.objects);
-    stateOf(*document.database()) = std::move(step.state);
-    document.ucsHistory = std::move(step.ucsHistory);
     editor.printLine(step.command);
+    const UndoneChanges objects = undoTo(database, step.objects);
+    document.redo.push_back({step, objects, stateOf(database), document.ucsHistory});
+    stateOf(database) = std::move(step.state);
+    document.ucsHistory = std::move(step.ucsHistory);
+}
+
+void redoCommand()
+{
+    Editor& editor = *Editor::current();
+    Document& document = *documents().document();
+    if (document.redo.empty())
+    {
+        editor.printLine(L"Nothing to redo.");
+        return;
+    }
+    AcDbDatabase& database = *document.database();
+    RedoStep step = std::move(document.redo.back());
+    document.redo.pop_back();
+    editor.printLine(step.step.command);
+    redo(database, step.objects);
+    stateOf(database) = std::move(step.state);
+    document.ucsHistory = std::move(step.ucsHistory);
+    document.undo.push_back(std::move(step.step));
 }
 
 void quitCommand()

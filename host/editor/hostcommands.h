@@ -19,5 +19,6 @@ void planCommand();
 void setvarCommand();
 void arxCommand();
 void undoCommand();
+void redoCommand();
 void quitCommand();
 }  // namespace host

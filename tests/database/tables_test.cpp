@@ -190,7 +190,7 @@ TEST_F(Groups, outsideADictionaryNothingCanBeAppended)
     EXPECT_EQ(group.append(drawing.addLine(0, 0, 1, 1)), Acad::eNotInDatabase);
 }
 
-TEST(Undo, takesBackEntitiesLayersAndCurrentProperties)
+TEST(Undo, takesBackEntitiesLayersAndCurrentPropertiesAndRedoDoesThemAgain)
 {
     EmptyDrawing drawing;
     const AcDbObjectId before = drawing.addLine(0, 0, 1, 1);
@@ -205,11 +205,31 @@ TEST(Undo, takesBackEntitiesLayersAndCurrentProperties)
         layer->setIsOff(true);
     }
     host::currentOf(drawing.database()).color = 1;
-    host::undoTo(drawing.database(), mark);
-    EXPECT_FALSE(before.isErased());
-    EXPECT_TRUE(after.isErased());
-    EXPECT_EQ(host::currentOf(drawing.database()).color, 256);
-    AcDbObjectPointer<AcDbLayerTableRecord> layer(drawing->clayer(), AcDb::kForRead);
-    EXPECT_FALSE(layer->isOff());
+    const AcDbObjectId gone = drawing.addLine(3, 3, 4, 4);
+    {
+        AcDbObjectPointer<AcDbLine> line(gone, AcDb::kForWrite);
+        line->erase();
+    }
+    const auto isOff = [&]
+    {
+        AcDbObjectPointer<AcDbLayerTableRecord> layer(drawing->clayer(), AcDb::kForRead);
+        return layer->isOff();
+    };
+    for (int round = 0; round < 2; ++round)
+    {
+        const host::UndoneChanges changes = host::undoTo(drawing.database(), mark);
+        EXPECT_FALSE(before.isErased());
+        EXPECT_TRUE(after.isErased());
+        EXPECT_TRUE(gone.isErased());
+        EXPECT_EQ(host::currentOf(drawing.database()).color, 256);
+        EXPECT_FALSE(isOff());
+
+        host::redo(drawing.database(), changes);
+        EXPECT_TRUE(before.isErased());
+        EXPECT_FALSE(after.isErased());
+        EXPECT_TRUE(gone.isErased());
+        EXPECT_EQ(host::currentOf(drawing.database()).color, 1);
+        EXPECT_TRUE(isOff());
+    }
 }
 }  // namespace

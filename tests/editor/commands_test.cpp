@@ -249,6 +249,24 @@ TEST(Undo, takesCommandsBackOneByOne)
     EXPECT_EQ(linesIn(session.drawing()), 0u);
 }
 
+TEST(Redo, doesWhatWasTakenBackUntilSomethingElseIsDone)
+{
+    Session session;
+    session.define(L"grid", drawALine);
+    session.type({"grid", "grid", "UCS", "Z", "30"});
+    session.type({"U", "U", "U"});
+    EXPECT_EQ(session.type({"REDO"}), "Command: REDO\nGRID\nCommand: \n");
+    EXPECT_EQ(linesIn(session.drawing()), 1u);
+    EXPECT_EQ(session.type({"redo", "redo", "redo"}),
+              "Command: redo\nGRID\nCommand: redo\nUCS\nCommand: redo\nNothing to redo.\n"
+              "Command: \n");
+    EXPECT_EQ(linesIn(session.drawing()), 2u);
+    EXPECT_NEAR(host::stateOf(session.drawing()).ucs().toWorld.entry[1][0], 0.5, 1e-15);
+    session.type({"U", "U", "grid"});
+    EXPECT_EQ(session.type({"REDO"}), "Command: REDO\nNothing to redo.\nCommand: \n");
+    EXPECT_EQ(linesIn(session.drawing()), 2u);
+}
+
 TEST(Undo, bringsBackTheUcsWithItsHistoryAndTheVariables)
 {
     Session session;
