@@ -46,19 +46,25 @@ std::string converterName(const Release& release, std::string_view codePage)
     return name.starts_with("ISO8859-") ? name : "unknown";
 }
 
+bool parseHex(std::wstring_view digits, unsigned& value)
+{
+    for (const wchar_t c : digits)
+    {
+        if (c > 'f' || !std::isxdigit(static_cast<int>(c)))
+            return false;
+        value = value * 16 + unsigned(c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
+    }
+    return true;
+}
+
 // The character that "\U+XXXX" stands for, 0 if that is not what is at `at`.
 wchar_t escaped(std::wstring_view text, std::size_t at)
 {
-    if (text.substr(at, 3) != L"\\U+" || text.size() - at < 7)
+    unsigned value = 0;
+    if (text.substr(at, 3) != L"\\U+" || text.size() - at < 7 ||
+        !parseHex(text.substr(at + 3, 4), value))
         return 0;
-    wchar_t value = 0;
-    for (const wchar_t c : text.substr(at + 3, 4))
-    {
-        if (c > 'f' || !std::isxdigit(static_cast<int>(c)))
-            return 0;
-        value = value * 16 + (c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
-    }
-    return value;
+    return static_cast<wchar_t>(value);
 }
 
 // As `escaped`, and two escapes may make one character; a half of such a pair is none.
@@ -71,6 +77,51 @@ wchar_t escapedCharacter(std::wstring_view text, std::size_t at, std::size_t& le
     const wchar_t second = escaped(text, std::min(at + length, text.size()));
     length = 14;
     return isLow(second) ? joined(first, second) : 0;
+}
+
+struct MultibytePage
+{
+    wchar_t digit;
+    const char* name;
+};
+
+constexpr MultibytePage multibytePages[] = {
+    {L'1', "CP932" },
+    {L'2', "CP950" },
+    {L'3', "CP949" },
+    {L'4', "JOHAB" },
+    {L'5', "CP936" },
+};
+
+wchar_t convertedFrom(const char* codePage, std::string bytes)
+{
+    const iconv_t converter = ::iconv_open("WCHAR_T", codePage);
+    if (converter == iconv_t(-1))
+        return 0;
+    wchar_t character = 0;
+    char* in = bytes.data();
+    std::size_t inLeft = bytes.size();
+    char* out = reinterpret_cast<char*>(&character);
+    std::size_t outLeft = sizeof character;
+    const bool done = ::iconv(converter, &in, &inLeft, &out, &outLeft) == 0 && outLeft == 0;
+    ::iconv_close(converter);
+    return done ? character : 0;
+}
+
+// The character of an East Asian code page that "\M+nXXXX" stands for, 0 if that is not what is at
+// `at`.
+wchar_t multibyteCharacter(std::wstring_view text, std::size_t at)
+{
+    if (text.substr(at, 3) != L"\\M+" || text.size() - at < 8)
+        return 0;
+    const auto page = std::ranges::find(multibytePages, text[at + 3], &MultibytePage::digit);
+    unsigned code = 0;
+    if (page == std::end(multibytePages) || !parseHex(text.substr(at + 4, 4), code))
+        return 0;
+    std::string bytes{static_cast<char>(code)};
+    if (code > 0xFF)
+        bytes.insert(bytes.begin(), static_cast<char>(code >> 8));
+    return convertedFrom(page->name, bytes);
 }
 
 // The character that "^J" stands for, 0 if that is not what is at `at`.
@@ -90,6 +141,11 @@ std::wstring unescaped(std::wstring_view text)
     for (std::size_t at = 0, length = 1; at < text.size(); at += length)
     {
         wchar_t character = escapedCharacter(text, at, length);
+        if (character == 0)
+        {
+            character = multibyteCharacter(text, at);
+            length = 8;
+        }
         if (character == 0)
         {
             character = caretCharacter(text, at);

@@ -25,8 +25,8 @@ public:
     CodePage(const CodePage&) = delete;
     CodePage& operator=(const CodePage&) = delete;
 
-    // One wchar_t a character, also beyond the basic plane. "\U+XXXX" and "^J" are taken for the
-    // characters they stand for.
+    // One wchar_t a character, also beyond the basic plane. "\U+XXXX", "\M+nXXXX" and "^J" are
+    // taken for the characters they stand for.
     //
     // A byte that means nothing in the code page becomes U+DC00 plus the byte, which stands for
     // nothing else and which `encode` turns back: a name with such a byte can be written again.

@@ -12,7 +12,8 @@ OpenedDrawing openDrawing(const std::string& path)
     {
         auto database = std::make_unique<AcDbDatabase>();
         dxf::load(database->core(), dxf::TagFile::read(path));
-        return {std::move(database), {}};
+        const std::string repairs = dxf::sourceOf(database->core()).file.repairs();
+        return {std::move(database), {}, repairs};
     }
     catch (const dxf::Error& error)
     {

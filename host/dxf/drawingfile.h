@@ -14,6 +14,7 @@ struct OpenedDrawing
 {
     std::unique_ptr<AcDbDatabase> database;  // null if the file cannot be read
     std::string error;                       // then: one line with file, line and what was expected
+    std::string warning{};                   // one line on what was repaired, if anything
 };
 
 OpenedDrawing openDrawing(const std::string& path);

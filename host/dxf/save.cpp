@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdio>
 #include <map>
 
 #include "host/database/access.h"
@@ -290,7 +291,8 @@ void saveGroups(Edits& edits, DatabaseCore& core)
 void saveHandleSeed(Edits& edits, const DatabaseCore& core)
 {
     const FileSource& source = sourceOf(core);
-    if (ownersOfNewEntities(core).empty() && newGroups(core).empty())
+    const bool repaired = !source.file.repairedRecords().empty();
+    if (!repaired && ownersOfNewEntities(core).empty() && newGroups(core).empty())
     {
         return;
     }
@@ -302,6 +304,19 @@ void saveHandleSeed(Edits& edits, const DatabaseCore& core)
     edits.setHeader("$HANDSEED", [seed](TagWriter& writer) { writer.handle(5, seed); });
 }
 }  // namespace
+
+void saveRepairs(Edits& edits)
+{
+    const TagFile& file = edits.file();
+    for (const std::size_t index : file.repairedRecords())
+    {
+        const Record& record = file.records()[index];
+        char digits[17];
+        std::snprintf(digits, sizeof digits, "%llX",
+                      static_cast<unsigned long long>(record.handle));
+        edits.setValue(file.handleTag(record), digits);
+    }
+}
 
 std::vector<std::string> lossesOnSaving(const DatabaseCore& core)
 {
@@ -321,6 +336,7 @@ void save(DatabaseCore& core, const std::string& path)
     Edits edits(source.file);
     EntityWriter entities(core, source);
     saveTables(edits, core);
+    saveRepairs(edits);
     saveLayers(edits, source);
     saveEntities(edits, core, entities);
     saveGroups(edits, core);

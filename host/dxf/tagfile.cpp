@@ -137,6 +137,31 @@ std::span<const Record> TagFile::records(std::string_view name) const
                  : std::span<const Record>();
 }
 
+Tag TagFile::handleTag(const Record& record) const
+{
+    const int code = typeName(record) == "DIMSTYLE" ? 105 : 5;
+    bool inBraces = false;
+    for (const Tag& tag : tags(record))
+    {
+        if (tag.code == 102)
+            inBraces = trimmed(tag.value).starts_with('{');
+        else if (tag.code == code && !inBraces)
+            return tag;
+    }
+    return {};
+}
+
+std::string TagFile::repairs() const
+{
+    if (m_repaired.empty())
+        return {};
+    const Tag first = handleTag(m_records[m_repaired.front()]);
+    const std::size_t count = m_repaired.size();
+    return m_name + ": " + place(first.line + 1) + ": the handle " + quoted(trimmed(first.value)) +
+           " is no record's own; " + std::to_string(count) +
+           (count == 1 ? " record is given a new one" : " records are given new ones");
+}
+
 const HeaderVariable* TagFile::header(std::string_view name) const
 {
     const auto found = std::find_if(m_header.rbegin(), m_header.rend(),

@@ -42,8 +42,8 @@ struct HeaderVariable
 
 // A DXF drawing of R12 to R2018, whole in memory and unchanged; a binary one in the ASCII form that
 // has the same tags. Everything else is refused
-// by an Error: other files and versions, tags out of step, sections out of order, a missing end,
-// handles that are no handles or used twice.
+// by an Error: other files and versions, tags out of step, sections out of order, a missing end
+// and handles that are no handles. Records that share a handle are repaired.
 //
 // What is checked is the form of the file, not the meaning of its records. All views, records and
 // sections are [borrowed] from the TagFile; moving it keeps them good.
@@ -71,6 +71,13 @@ public:
     std::uint64_t highestHandle() const { return m_highestHandle; }
     // An R12 drawing may do without them.
     bool hasHandles() const { return m_release->objects || m_highestHandle != 0; }
+
+    // Records whose handle in the file is empty, zero or that of another record: they have new ones
+    // here, above all others, which the file is to be given on saving.
+    std::span<const std::size_t> repairedRecords() const { return m_repaired; }
+    // The tag with the record's handle; none has the code 0.
+    Tag handleTag(const Record& record) const;
+    std::string repairs() const;  // one line about them; empty when there are none
 
     // In file order. Of two with one name the later is the one that `header` finds.
     std::span<const HeaderVariable> headerVariables() const { return m_header; }
@@ -117,5 +124,6 @@ private:
     std::vector<std::string_view> m_types;
     std::vector<HeaderVariable> m_header;
     std::uint64_t m_highestHandle = 0;
+    std::vector<std::size_t> m_repaired;  // indexes of m_records
 };
 }  // namespace host::dxf

@@ -1,6 +1,7 @@
 #include "host/dxf/tagscanner.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "host/dxf/codepage.h"
 #include "host/dxf/release.h"
@@ -37,7 +38,8 @@ void TagFileScanner::scan()
         m_file.m_release = findRelease(unstatedVersion);
     requireKnownCodePage();
     requireNothingAfterEof();
-    requireUniqueHandles();
+    findSharedHandles();
+    repairHandles();
 }
 
 void TagFileScanner::refuseOtherFormats() const
@@ -129,7 +131,7 @@ void TagFileScanner::readRecord()
 
 // The handle stands before the record's own data. What has its code there is something else: the
 // sort handles of a SORTENTSTABLE, or anything in an XRECORD or between the braces of a group 102.
-// Returns 0 if there is none.
+// Returns 0 if there is none; one that is empty or zero is to be repaired.
 std::uint64_t TagFileScanner::readHandle(int handleCode)
 {
     bool inBraces = false;
@@ -142,9 +144,9 @@ std::uint64_t TagFileScanner::readHandle(int handleCode)
     }
     if (m_tag.code != handleCode)
         return 0;
-    const std::uint64_t handle = m_file.handle(m_tag);
+    const std::uint64_t handle = trimmed(m_tag.value).empty() ? 0 : m_file.handle(m_tag);
     if (handle == 0)
-        m_file.refuseValue(m_tag, "a handle that is not zero");
+        m_file.m_repaired.push_back(m_file.m_records.size());  // where the record will be
     return handle;
 }
 
@@ -190,7 +192,8 @@ void TagFileScanner::requireNothingAfterEof() const
         m_file.refuse(m_reader.nextLine(), "nothing after EOF", "more");
 }
 
-void TagFileScanner::requireUniqueHandles() const
+// Of records with one handle the first keeps it.
+void TagFileScanner::findSharedHandles()
 {
     std::vector<std::uint64_t> handles;
     handles.reserve(m_file.m_records.size());
@@ -198,16 +201,25 @@ void TagFileScanner::requireUniqueHandles() const
         if (record.handle != 0)
             handles.push_back(record.handle);
     std::ranges::sort(handles);
-    const auto twice = std::ranges::adjacent_find(handles);
-    if (twice == handles.end())
+    if (std::ranges::adjacent_find(handles) == handles.end())
         return;
 
-    const auto& records = m_file.m_records;
-    const auto first = std::ranges::find(records, *twice, &Record::handle);
-    const auto second =
-        std::find_if(first + 1, records.end(), [&](const Record& r) { return r.handle == *twice; });
-    m_file.refuse(second->line, "a record with a handle of its own",
-                  "the handle of the one in line " + std::to_string(first->line));
+    std::unordered_set<std::uint64_t> taken;
+    for (std::size_t i = 0; i < m_file.m_records.size(); ++i)
+    {
+        const std::uint64_t handle = m_file.m_records[i].handle;
+        if (handle != 0 && !taken.insert(handle).second)
+            m_file.m_repaired.push_back(i);
+    }
+    std::ranges::sort(m_file.m_repaired);
+}
+
+void TagFileScanner::repairHandles()
+{
+    if (m_file.m_highestHandle > UINT64_MAX - m_file.m_repaired.size())
+        m_file.refuse(1, "handles that leave room for others", "one above all others");
+    for (const std::size_t index : m_file.m_repaired)
+        m_file.m_records[index].handle = ++m_file.m_highestHandle;
 }
 
 std::uint32_t TagFileScanner::typeIndex(std::string_view name)

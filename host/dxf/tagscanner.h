@@ -28,7 +28,8 @@ private:
     void takeVersion();
     void requireKnownCodePage() const;
     void requireNothingAfterEof() const;
-    void requireUniqueHandles() const;
+    void findSharedHandles();
+    void repairHandles();
 
     std::uint32_t typeIndex(std::string_view name);
 

@@ -27,6 +27,10 @@ bool openDocument(const Options& options, FrontEnd& frontEnd)
         frontEnd.report(drawing.error);
         return false;
     }
+    if (!drawing.warning.empty())
+    {
+        frontEnd.report(drawing.warning);
+    }
     documents().open(std::move(drawing.database), options.drawing);
     return true;
 }

@@ -66,6 +66,15 @@ TEST(CodePage, whatReadsAlikeNeedNotBeWrittenAlike)
         {"AC1027", "", "\\U+DC80",                 L"\\U+DC80"    },
         {"AC1027", "", "\\U+D83D\\U+0041",         L"\\U+D83DA"   },
         {"AC1027", "", "\\U+12",                   L"\\U+12"      },
+        {"AC1015", "", "\\M+182A0!",               L"\u3042!"     }, // the five East Asian pages
+        {"AC1015", "", "\\M+2A741",                L"\u4F60"      },
+        {"AC1015", "", "\\M+3B0A1",                L"\uAC00"      },
+        {"AC1015", "", "\\M+48861",                L"\uAC00"      },
+        {"AC1015", "", "\\M+5C4E3",                L"\u4F60"      },
+        {"AC1015", "", "\\M+10041",                L"A"           },
+        {"AC1015", "", "\\M+6C4E3",                L"\\M+6C4E3"   },
+        {"AC1015", "", "\\M+1FFFF",                L"\\M+1FFFF"   },
+        {"AC1015", "", "\\M+1",                    L"\\M+1"       },
     };
     for (const Row& row : rows)
         EXPECT_EQ(CodePage(*findRelease(row.version), row.codePage).decode(row.bytes), row.text)

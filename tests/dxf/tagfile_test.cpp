@@ -91,24 +91,45 @@ TEST(TagFile, sectionsOutOfOrderAreRefused)
         EXPECT_EQ(refusal(row.text), row.message);
 }
 
-TEST(TagFile, aHandleMustBeHexadecimalUniqueAndNotZero)
+TEST(TagFile, aHandleMustBeHexadecimal)
 {
-    const std::string form = "a handle of 1 to 16 hexadecimal digits";
-    const Refused rows[] = {
-        {"0\nLINE\n5\nXYZ\n",               "22: expected " + form + ", found \"XYZ\""                                                      },
-        {"0\nLINE\n5\n\n",                  "22: expected " + form + ", found \"\""                                                         },
-        {"0\nLINE\n5\n-1\n",                "22: expected " + form + ", found \"-1\""                                                       },
-        {"0\nLINE\n5\n0x1\n",               "22: expected " + form + ", found \"0x1\""                                                      },
-        {"0\nLINE\n5\n00000000000000001\n",
-         "22: expected " + form + ", found \"00000000000000001\""                                                                           },
-        {"0\nLINE\n5\n0\n",                 "22: expected a handle that is not zero, found \"0\""                                           },
-        {line + line,
-         "29: expected a record with a handle of its own, found the handle of the one in line 19"                                           },
-        {"0\nLINE\n5\nA\n0\nLINE\n5\n0a\n", // the same number
-         "23: expected a record with a handle of its own, found the handle of the one in line 19"},
+    for (const std::string value : {"XYZ", "-1", "0x1", "00000000000000001"})
+    {
+        EXPECT_EQ(refusal(drawingWith("0\nLINE\n5\n" + value + "\n")),
+                  "FILE: line 22: expected a handle of 1 to 16 hexadecimal digits, found \"" +
+                      value + "\"");
+    }
+}
+
+struct Repair
+{
+    std::string entities;
+    std::vector<std::uint64_t> handles;
+    std::string said;
+};
+
+TEST(TagFile, aHandleThatIsNoRecordsOwnGivesWayToANewOne)
+{
+    const Repair rows[] = {
+        {"0\nLINE\n5\nA\n0\nLINE\n5\nB\n", {0xA, 0xB}, ""},
+        {"0\nLINE\n5\n\n", {1}, "22: the handle \"\" is no record's own; 1 record is given a new one"},
+        {"0\nLINE\n5\n0\n0\nLINE\n5\nA\n",
+         {0xB, 0xA},
+         "22: the handle \"0\" is no record's own; 1 record is given a new one"},
+        {"0\nLINE\n5\nA\n0\nLINE\n5\n0a\n0\nARC\n5\nA\n",
+         {0xA, 0xB, 0xC},
+         "26: the handle \"0a\" is no record's own; 2 records are given new ones"},
     };
-    for (const Refused& row : rows)
-        EXPECT_EQ(refusal(drawingWith(row.text)), "FILE: line " + row.message);
+    for (const Repair& row : rows)
+    {
+        const TagFile file = TagFile::fromText(drawingWith(row.entities), "FILE");
+        std::vector<std::uint64_t> handles;
+        for (const Record& record : file.records())
+            handles.push_back(record.handle);
+        EXPECT_EQ(handles, row.handles);
+        EXPECT_EQ(file.highestHandle(), *std::ranges::max_element(row.handles));
+        EXPECT_EQ(file.repairs(), row.said.empty() ? "" : "FILE: line " + row.said);
+    }
 }
 
 TEST(TagFile, onlyTheRecordsOwnHandleCounts)
