@@ -13,6 +13,7 @@ HRSRC findBitmap(LPCWSTR name, HINSTANCE& module)
 
 BOOL CAdUiOwnerDrawButton::AutoLoad()
 {
+    host::windowOf(*this, "CAdUiOwnerDrawButton::AutoLoad");
     return OnAutoLoad();
 }
 

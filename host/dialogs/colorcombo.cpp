@@ -58,8 +58,15 @@ int CAcUiMRUComboBox::GetCurrentItemCargo() const
     return selected != CB_ERR ? int(GetItemData(selected)) : CB_ERR;
 }
 
+// A new window has an empty list.
+void CAcUiMRUComboBox::PreSubclassWindow()
+{
+    m_recentCount = 0;
+}
+
 void CAcUiColorComboBox::PreSubclassWindow()
 {
+    CAcUiMRUComboBox::PreSubclassWindow();
     for (const Fixed& color : fixedColors)
     {
         SetItemData(AddString(color.name), DWORD_PTR(color.cargo));

@@ -1,5 +1,6 @@
 #include "host/dialogs/controlview.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "host/dialogs/wnd.h"
@@ -28,7 +29,8 @@ ControlKind kindOfButton(DWORD style)
 ControlKind kindOfStatic(DWORD style)
 {
     const DWORD type = style & SS_TYPEMASK;
-    return type == SS_ETCHEDHORZ || type == SS_ETCHEDVERT ? ControlKind::line : ControlKind::label;
+    const bool etched = type == SS_ETCHEDHORZ || type == SS_ETCHEDVERT || type == SS_ETCHEDFRAME;
+    return etched ? ControlKind::line : ControlKind::label;
 }
 
 bool isChecked(HWND control)
@@ -50,12 +52,22 @@ std::wstring stateOf(HWND control, ControlKind kind)
     }
 }
 
+// An empty edit tells with its banner what belongs in it.
+std::wstring editValue(HWND edit, const std::wstring& text)
+{
+    wchar_t banner[64] = L"";
+    SendMessageW(edit, EM_GETCUEBANNER, reinterpret_cast<WPARAM>(banner), 64);
+    const bool hint = text.empty() && *banner != L'\0';
+    return L"[" + text + L"]" + (hint ? L" " + std::wstring(banner) : L"");
+}
+
 std::wstring valueOf(HWND control, ControlKind kind)
 {
     const std::wstring text = windowText(control);
     switch (kind)
     {
         case ControlKind::edit:
+            return editValue(control, text);
         case ControlKind::combo:
             return L"[" + text + L"]";
         case ControlKind::check:
@@ -71,13 +83,63 @@ std::wstring valueOf(HWND control, ControlKind kind)
     }
 }
 
-// A line of the readable view: "-" marks what is disabled.
-std::wstring viewLine(HWND control, const std::wstring& contents)
+// Puts the readable view together, line by line. A label says what the field after it holds.
+class View
+{
+public:
+    void add(HWND control);
+    std::wstring text();
+
+private:
+    void putLine(HWND control, const std::wstring& contents);
+    void putLabel();
+
+    std::wstring m_text;
+    HWND m_label = nullptr;  // waits for its field
+};
+
+void View::add(HWND control)
+{
+    const ControlKind kind = kindOf(control);
+    const bool field = kind == ControlKind::edit || kind == ControlKind::combo;
+    if (field && m_label != nullptr)
+    {
+        putLine(control,
+                windowText(std::exchange(m_label, nullptr)) + L" " + valueOf(control, kind));
+        return;
+    }
+    putLabel();
+    if (kind == ControlKind::label)
+    {
+        m_label = control;
+    }
+    else if (kind != ControlKind::line)
+    {
+        putLine(control, valueOf(control, kind));
+    }
+}
+
+std::wstring View::text()
+{
+    putLabel();
+    return m_text;
+}
+
+// "-" marks what is disabled.
+void View::putLine(HWND control, const std::wstring& contents)
 {
     const std::wstring id = std::to_wstring(GetDlgCtrlID(control));
-    return (IsWindowEnabled(control) ? L"  " : L"- ") +
-           std::wstring(4 - std::min<std::size_t>(id.size(), 4), L' ') + id + L"  " + contents +
-           L"\n";
+    m_text += (IsWindowEnabled(control) ? L"  " : L"- ") +
+              std::wstring(4 - std::min<std::size_t>(id.size(), 4), L' ') + id + L"  " + contents +
+              L"\n";
+}
+
+void View::putLabel()
+{
+    if (const HWND label = std::exchange(m_label, nullptr))
+    {
+        putLine(label, windowText(label));
+    }
 }
 }  // namespace
 
@@ -112,42 +174,18 @@ std::wstring controlLine(HWND control)
            L" \"" + windowText(control) + L"\"";
 }
 
-// A label says what the field after it holds.
 std::wstring readableView(HWND dialog)
 {
-    std::wstring view;
-    std::pair<HWND, std::wstring> label;
-    const auto putLabel = [&]
-    {
-        if (label.first != nullptr)
-        {
-            view += viewLine(label.first, label.second);
-        }
-        label = {};
-    };
+    View view;
     for (HWND control = GetWindow(dialog, GW_CHILD); control;
          control = GetWindow(control, GW_HWNDNEXT))
     {
-        const ControlKind kind = kindOf(control);
-        const bool field = kind == ControlKind::edit || kind == ControlKind::combo;
-        std::wstring contents = valueOf(control, kind);
-        if (field && label.first != nullptr)
+        if (IsWindowVisible(control))
         {
-            contents = label.second + L" " + contents;
-            label = {};
-        }
-        putLabel();
-        if (kind == ControlKind::label)
-        {
-            label = {control, contents};
-        }
-        else if (kind != ControlKind::line)
-        {
-            view += viewLine(control, contents);
+            view.add(control);
         }
     }
-    putLabel();
-    return view +
+    return view.text() +
            L"set ID TEXT, check ID on|off, click ID, select ID TEXT or #N, color ID N, show, "
            L"close; "
            L"Enter presses OK, ^C cancels";

@@ -30,24 +30,12 @@ LPCDLGTEMPLATEW findTemplate(LPCWSTR name)
     return LockResource(LoadResource(module, FindResourceW(module, name, RT_DIALOG)));
 }
 
-void reportMissing(UINT templateId)
+void reportNotShown(UINT templateId)
 {
     if (const host::Editor* editor = host::Editor::current())
     {
         editor->report(L"dialog " + std::to_wstring(templateId) +
-                       L" is not in the module's resources");
-    }
-}
-
-// The controls' objects stay, as members of the dialog; the windows go.
-void detachControls(HWND dialog)
-{
-    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-    {
-        if (CWnd* object = host::objectOf(child))
-        {
-            object->Detach();
-        }
+                       L" cannot be shown: its template is missing or broken");
     }
 }
 }  // namespace
@@ -74,7 +62,8 @@ INT_PTR CDialog::DoModal()
         &DialogProcedure::call, reinterpret_cast<LPARAM>(this));
     if (window == nullptr)
     {
-        reportMissing(m_templateId);
+        host::dropGoneWindows();
+        reportNotShown(m_templateId);
         return -1;
     }
     if (!m_ended)
@@ -82,15 +71,14 @@ INT_PTR CDialog::DoModal()
         host::runModalLoop(window, m_ended);
         host::tellDialogClosed(m_result == IDOK);
     }
-    detachControls(window);
-    Detach();
     DestroyWindow(window);
-    host::dropTemporaryObjects();
+    host::dropGoneWindows();
     return m_result;
 }
 
 void CDialog::EndDialog(int result)
 {
+    host::windowOf(*this, "CDialog::EndDialog");
     m_result = result;
     m_ended = true;
 }

@@ -130,7 +130,8 @@ Wrong act(const Verb& verb, HWND dialog, std::wstring_view rest)
     const ControlKind kind = kindOf(control);
     if (std::ranges::find(verb.kinds, kind) == verb.kinds.end())
     {
-        return named(control) + L" is a " + nameOf(kind) + L", which does not take " + verb.word +
+        const wchar_t* const article = kind == ControlKind::edit ? L" is an " : L" is a ";
+        return named(control) + article + nameOf(kind) + L", which does not take " + verb.word +
                L".";
     }
     if (!IsWindowEnabled(control) || !IsWindowVisible(control))

@@ -3,6 +3,7 @@
 
 #include "acui.h"
 #include "host/dialogs/modalloop.h"
+#include "host/dialogs/wnd.h"
 #include "host/runtime/breach.h"
 
 BEGIN_MESSAGE_MAP(CAdUiBaseDialog, CDialog)
@@ -41,10 +42,17 @@ CAcUiDialog::CAcUiDialog(UINT templateId, CWnd* parent, HINSTANCE resources)
 {
 }
 
-CAcUiDialog::~CAcUiDialog() {}
+CAcUiDialog::~CAcUiDialog()
+{
+    if (m_editing)
+    {
+        host::breach("BeginEditorCommand", "there was no CompleteEditorCommand");
+    }
+}
 
 void CAcUiDialog::BeginEditorCommand()
 {
+    host::windowOf(*this, "BeginEditorCommand");
     if (std::exchange(m_editing, true))
     {
         host::breach("BeginEditorCommand", "called again before CompleteEditorCommand");
@@ -68,5 +76,9 @@ void CAcUiDialog::CompleteEditorCommand(BOOL restoreDialogs)
 
 void CAcUiDialog::CancelEditorCommand()
 {
+    if (!m_editing)
+    {
+        host::breach("CancelEditorCommand", "called without BeginEditorCommand");
+    }
     CompleteEditorCommand();
 }

@@ -6,6 +6,7 @@
 #include "host/dialogs/dialoglines.h"
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
+#include "host/editor/numbertext.h"
 #include "host/runtime/breach.h"
 
 namespace host
@@ -18,10 +19,15 @@ std::function<void(HWND)>& observer()
     return installed;
 }
 
+// A button that is not there is pressed all the same.
 void press(HWND dialog, int id)
 {
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
-                 reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
+    const HWND button = GetDlgItem(dialog, id);
+    if (button == nullptr || IsWindowEnabled(button))
+    {
+        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(button));
+    }
 }
 
 // Enter presses the default button, or OK where there is none.
@@ -45,7 +51,7 @@ void take(Editor& editor, HWND dialog, const Answer& answer)
     {
         press(dialog, IDCANCEL);
     }
-    else if (answer.kind == Answer::Kind::enter)
+    else if (trimmed(answer.text).empty())
     {
         pressDefault(dialog);
     }
@@ -55,11 +61,24 @@ void take(Editor& editor, HWND dialog, const Answer& answer)
     }
 }
 
+// What a handler may not leave behind, whether it has ended the dialog or not.
+void requireBack(HWND dialog, bool shown)
+{
+    if (!IsWindow(dialog))
+    {
+        breach("DestroyWindow", "a dialog that is shown ends with EndDialog");
+    }
+    if (!shown)
+    {
+        breach("BeginEditorCommand", "there was no CompleteEditorCommand");
+    }
+}
+
 void requireVisible(HWND dialog)
 {
     if (!IsWindowVisible(dialog))
     {
-        breach("BeginEditorCommand", "the dialog was not brought back by CompleteEditorCommand");
+        breach("CDialog::DoModal", "the dialog is hidden and cannot be answered");
     }
 }
 
@@ -101,7 +120,7 @@ void runModalLoop(HWND dialog, const bool& ended)
     }
     ShowWindow(dialog, SW_SHOW);
     editor->printLine(L"[dialog] " + windowText(dialog));
-    ++editor->shownDialogs;
+    const int shown = ++editor->shownDialogs;
     Viewer viewer(*editor, dialog);
     while (!ended)
     {
@@ -112,8 +131,8 @@ void runModalLoop(HWND dialog, const bool& ended)
             editor->echo(answer, {});
         }
         take(*editor, dialog, answer);
+        requireBack(dialog, editor->shownDialogs == shown);
     }
-    requireVisible(dialog);
     --editor->shownDialogs;
     if (observer())
     {

@@ -3,33 +3,36 @@
 #include <string>
 #include <utility>
 
+#include "acedads.h"
 #include "afxwin.h"
 #include "host/dialogs/wnd.h"
 #include "host/runtime/breach.h"
 
 namespace
 {
+// Never destroyed, as the next: a module's objects may outlive them.
 std::map<HWND, CWnd*>& objects()
 {
-    static std::map<HWND, CWnd*> all;
+    static std::map<HWND, CWnd*>& all = *new std::map<HWND, CWnd*>;
     return all;
 }
 
 std::map<HWND, std::unique_ptr<CWnd>>& temporaries()
 {
-    static std::map<HWND, std::unique_ptr<CWnd>> all;
+    using Objects = std::map<HWND, std::unique_ptr<CWnd>>;
+    static Objects& all = *new Objects;
     return all;
 }
-
-HWND windowOf(const CWnd& wnd, const char* call)
-{
-    if (wnd.m_hWnd == nullptr)
-    {
-        host::breach(call, "the object stands for no window");
-    }
-    return wnd.m_hWnd;
-}
 }  // namespace
+
+HWND host::windowOf(const CWnd& object, const char* call)
+{
+    if (object.m_hWnd == nullptr)
+    {
+        breach(call, "the object stands for no window");
+    }
+    return object.m_hWnd;
+}
 
 CWnd* host::objectOf(HWND window)
 {
@@ -37,9 +40,20 @@ CWnd* host::objectOf(HWND window)
     return found != objects().end() ? found->second : nullptr;
 }
 
-void host::dropTemporaryObjects()
+// The main window stays although nothing may stand behind its handle: dialogs keep it as parent.
+void host::dropGoneWindows()
 {
-    std::erase_if(temporaries(), [](const auto& entry) { return !IsWindow(entry.first); });
+    const auto isGone = [](const auto& entry)
+    { return entry.first != adsw_acadMainWnd() && !IsWindow(entry.first); };
+    std::erase_if(temporaries(), isGone);
+    const std::map<HWND, CWnd*> known = objects();
+    for (const auto& entry : known)
+    {
+        if (isGone(entry))
+        {
+            entry.second->Detach();
+        }
+    }
 }
 
 std::wstring host::windowText(HWND window)
@@ -76,6 +90,18 @@ CWnd::~CWnd()
 
 BOOL CWnd::Attach(HWND window)
 {
+    if (window == nullptr)
+    {
+        return FALSE;
+    }
+    if (m_hWnd != nullptr)
+    {
+        host::breach("CWnd::Attach", "the object stands for another window");
+    }
+    if (host::objectOf(window) != nullptr)
+    {
+        host::breach("CWnd::Attach", "another object stands for the window");
+    }
     m_hWnd = window;
     objects()[window] = this;
     PreSubclassWindow();
@@ -113,75 +139,77 @@ CWnd* CWnd::FromHandle(HWND window)
 
 CWnd* CWnd::GetDlgItem(int id) const
 {
-    return FromHandle(::GetDlgItem(windowOf(*this, "CWnd::GetDlgItem"), id));
+    return FromHandle(::GetDlgItem(host::windowOf(*this, "CWnd::GetDlgItem"), id));
 }
 
 void CWnd::SetWindowText(LPCWSTR text)
 {
-    SetWindowTextW(windowOf(*this, "CWnd::SetWindowText"), text);
+    SetWindowTextW(host::windowOf(*this, "CWnd::SetWindowText"), text);
 }
 
 void CWnd::GetWindowText(CString& text) const
 {
-    text = host::windowText(windowOf(*this, "CWnd::GetWindowText")).c_str();
+    text = host::windowText(host::windowOf(*this, "CWnd::GetWindowText")).c_str();
 }
 
 void CWnd::SetDlgItemText(int id, LPCWSTR text)
 {
-    SetWindowTextW(::GetDlgItem(windowOf(*this, "CWnd::SetDlgItemText"), id), text);
+    SetWindowTextW(::GetDlgItem(host::windowOf(*this, "CWnd::SetDlgItemText"), id), text);
 }
 
 int CWnd::GetDlgItemText(int id, CString& text) const
 {
-    const HWND control = ::GetDlgItem(windowOf(*this, "CWnd::GetDlgItemText"), id);
+    const HWND control = ::GetDlgItem(host::windowOf(*this, "CWnd::GetDlgItemText"), id);
     text = host::windowText(control).c_str();
     return text.GetLength();
 }
 
 BOOL CWnd::EnableWindow(BOOL enable)
 {
-    return ::EnableWindow(windowOf(*this, "CWnd::EnableWindow"), enable);
+    return ::EnableWindow(host::windowOf(*this, "CWnd::EnableWindow"), enable);
 }
 
 BOOL CWnd::IsWindowEnabled() const
 {
-    return ::IsWindowEnabled(windowOf(*this, "CWnd::IsWindowEnabled"));
+    return ::IsWindowEnabled(host::windowOf(*this, "CWnd::IsWindowEnabled"));
 }
 
 BOOL CWnd::ShowWindow(int command)
 {
-    return ::ShowWindow(windowOf(*this, "CWnd::ShowWindow"), command);
+    return ::ShowWindow(host::windowOf(*this, "CWnd::ShowWindow"), command);
 }
 
 BOOL CWnd::IsWindowVisible() const
 {
-    return ::IsWindowVisible(windowOf(*this, "CWnd::IsWindowVisible"));
+    return ::IsWindowVisible(host::windowOf(*this, "CWnd::IsWindowVisible"));
 }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return SendMessageW(windowOf(*this, "CWnd::SendMessage"), message, wParam, lParam);
+    return SendMessageW(host::windowOf(*this, "CWnd::SendMessage"), message, wParam, lParam);
 }
 
 LRESULT CWnd::SendDlgItemMessage(int id, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const HWND control = ::GetDlgItem(windowOf(*this, "CWnd::SendDlgItemMessage"), id);
+    const HWND control = ::GetDlgItem(host::windowOf(*this, "CWnd::SendDlgItemMessage"), id);
     return SendMessageW(control, message, wParam, lParam);
 }
 
 void CWnd::CheckDlgButton(int id, UINT check)
 {
-    SendDlgItemMessage(id, BM_SETCHECK, check);
+    const HWND button = ::GetDlgItem(host::windowOf(*this, "CWnd::CheckDlgButton"), id);
+    SendMessageW(button, BM_SETCHECK, check, 0);
 }
 
 UINT CWnd::IsDlgButtonChecked(int id) const
 {
-    const HWND control = ::GetDlgItem(windowOf(*this, "CWnd::IsDlgButtonChecked"), id);
+    const HWND control = ::GetDlgItem(host::windowOf(*this, "CWnd::IsDlgButtonChecked"), id);
     return UINT(SendMessageW(control, BM_GETCHECK, 0, 0));
 }
 
 void CWnd::CheckRadioButton(int first, int last, int checked)
 {
+    host::windowOf(*this, "CWnd::CheckRadioButton");
     for (int id = first; id <= last; ++id)
     {
         CheckDlgButton(id, id == checked ? BST_CHECKED : BST_UNCHECKED);
@@ -190,7 +218,7 @@ void CWnd::CheckRadioButton(int first, int last, int checked)
 
 BOOL CWnd::UpdateData(BOOL saveAndValidate)
 {
-    windowOf(*this, "CWnd::UpdateData");
+    host::windowOf(*this, "CWnd::UpdateData");
     CDataExchange exchange(this, saveAndValidate);
     DoDataExchange(&exchange);
     return TRUE;

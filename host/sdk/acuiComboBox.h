@@ -29,6 +29,9 @@ public:
     // Cargo of the selected item, -1 for none.
     int GetCurrentItemCargo() const;
 
+protected:
+    virtual void PreSubclassWindow() override;
+
 private:
     int m_recentCount;
 };

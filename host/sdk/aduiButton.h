@@ -21,7 +21,8 @@ public:
     // stands after it becomes the text and so the tooltip.
     explicit CAdUiBitmapButton(LPCWSTR bitmapName = nullptr);
 
-    // Whether AutoLoad makes the button as large as its bitmap; it does unless told otherwise.
+    // Whether the button is as large as its bitmap; it is unless told otherwise. This host leaves
+    // every button as large as the template makes it.
     BOOL GetAutoSizeToBitmap() const;
     void SetAutoSizeToBitmap(BOOL size);
 

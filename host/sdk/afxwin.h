@@ -56,7 +56,8 @@ public:
     // The object that stands for the window; without one a temporary object, good until the dialog
     // of the window goes [borrowed]. Null for null.
     static CWnd* FromHandle(HWND window);
-    // From now on the object stands for the window; for none.
+    // From now on the object stands for the window; FALSE for none. A breach when it stands for a
+    // window already, or another object for this one.
     BOOL Attach(HWND window);
     HWND Detach();
 

@@ -1,7 +1,6 @@
 #include "host/windows/resources.h"
 
 #include <algorithm>
-#include <cstring>
 #include <map>
 #include <string>
 
@@ -48,10 +47,14 @@ const host::Resource* resourceOf(HRSRC handle)
 
 std::wstring textInBlock(HRSRC block, UINT index)
 {
-    const std::span<const std::byte> bytes =
-        block != nullptr ? resourceOf(block)->bytes : std::span<const std::byte>();
+    if (block == nullptr)
+    {
+        return {};
+    }
+    const std::span<const std::byte> bytes = resourceOf(block)->bytes;
     std::vector<char16_t> units(bytes.size() / 2);
-    std::memcpy(units.data(), bytes.data(), units.size() * 2);
+    std::copy_n(reinterpret_cast<const char*>(bytes.data()), units.size() * 2,
+                reinterpret_cast<char*>(units.data()));
     std::size_t first = 0;
     for (; index > 0 && first < units.size(); --index)
     {
