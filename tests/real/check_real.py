@@ -13,10 +13,12 @@ from collections import Counter
 from functools import cached_property
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
+sys.path[:0] = [str(Path(__file__).resolve().parents[1] / folder) for folder in ("support", "readers")]
 import ezdxf  # noqa: E402
 from arxhost import ROOT, Desk, need_built, options_text  # noqa: E402
 from dxftags import read_records, read_tags  # noqa: E402
+from rawtags import problems  # noqa: E402
+from readers import of_dxflib, of_gdal, of_tags  # noqa: E402
 from report import add, expect, expect_equal, run_all  # noqa: E402
 from unchanged import Comparison  # noqa: E402
 
@@ -34,6 +36,17 @@ def is_repairable(path):
 
 def is_r12(path):
     return any(tag.value.strip() == b"AC1009" for tag in read_tags(path)[:40])
+
+
+def encoding_of(path):
+    values = {r.kind: r.tags[1].value.strip() for r in read_records(path) if r.kind in ("$ACADVER", "$DWGCODEPAGE")}
+    if values["$ACADVER"] >= b"AC1021":
+        return "utf-8"
+    return values.get("$DWGCODEPAGE", b"ANSI_1252").decode().lower().replace("ansi_", "cp")
+
+
+def is_binary(path):
+    return path.read_bytes().startswith(b"AutoCAD Binary DXF")
 
 
 def is_tilted(path):
@@ -145,6 +158,22 @@ def the_independent_reader_agrees(drawing):
         expect_equal(list(member.get_reactors()), [group.dxf.handle], f"reactors of {member}")
 
 
+def no_rule_of_the_tags_is_broken_that_was_not(drawing):
+    broken = Counter(problems(drawing.accepted[0] / "saved.dxf", drawing.path))
+    expect_equal([*(broken - Counter(problems(drawing.path)))], [], "rules that the saved drawing breaks")
+
+
+def gdal_and_dxflib_see_the_grid(drawing):
+    path = drawing.accepted[0] / "saved.dxf"
+    encoding = encoding_of(path)
+    fresh = None if is_r12(path) else drawing.compared.fresh
+    grid = of_tags(path, encoding, fresh)
+    expect(grid.lines, "no lines were drawn")
+    for name, read in (("GDAL", of_gdal(path, encoding)), ("dxflib", of_dxflib(path, encoding))):
+        missing = read.lacks(grid)
+        expect(missing is None, f"{name} does not see {missing}")
+
+
 def a_cancelled_run_saves_the_opened_file(drawing):
     with Desk(options=drawing.options) as desk:
         desk.bring(drawing.path)
@@ -202,7 +231,9 @@ def main():
     for path in readable:
         drawing = Drawing(path)
         tests = [the_old_content_is_unchanged, the_new_content_is_what_the_transcript_tells,
-                 a_cancelled_run_saves_the_opened_file]
+                 no_rule_of_the_tags_is_broken_that_was_not, a_cancelled_run_saves_the_opened_file]
+        if not is_binary(path):  # which neither of the two reads
+            tests.append(gdal_and_dxflib_see_the_grid)
         if can_be_read_by_ezdxf(path):
             tests.append(the_independent_reader_agrees)
         for test in tests:
