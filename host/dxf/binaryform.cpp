@@ -7,6 +7,7 @@
 #include <limits>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "host/dxf/error.h"
 #include "host/dxf/tag.h"
@@ -114,6 +115,8 @@ AsciiForm Reader::read()
     while (m_at < m_bytes.size() && readTag())
     {
     }
+    m_form.offsets.push_back(m_at);
+    m_form.text += m_bytes.substr(m_at);
     return std::move(m_form);
 }
 
@@ -143,7 +146,17 @@ int Reader::readCode()
         return take<std::int16_t>();
     }
     const int code = take<std::uint8_t>();
-    return code == longCode ? take<std::int16_t>() : code;
+    if (code != longCode)
+    {
+        return code;
+    }
+    const int inTwoBytes = take<std::int16_t>();
+    if (0 <= inTwoBytes && inTwoBytes < longCode)  // it would be saved as another one
+    {
+        m_at -= 3;
+        refuse("a group code of DXF in one byte", std::to_string(inTwoBytes) + " in three");
+    }
+    return inTwoBytes;
 }
 
 void Reader::readValue(Kind kind)
@@ -311,7 +324,7 @@ void BinaryEncoder::take(std::string_view ascii)
 {
     m_pending += ascii;
     std::string_view rest = m_pending;
-    for (;;)
+    while (!m_ended)
     {
         const std::size_t code = rest.find('\n');
         const std::size_t value = code == rest.npos ? code : rest.find('\n', code + 1);
@@ -321,6 +334,10 @@ void BinaryEncoder::take(std::string_view ascii)
         }
         encodeTag(rest.substr(0, code), rest.substr(code + 1, value - code - 1));
         rest.remove_prefix(value + 1);
+    }
+    if (m_ended)
+    {
+        m_binary += std::exchange(rest, {});
     }
     m_pending.erase(0, m_pending.size() - rest.size());
     m_drain(m_binary);
@@ -361,6 +378,7 @@ void BinaryEncoder::encodeTag(std::string_view codeText, std::string_view value)
         default:
             m_binary += value;
             m_binary += '\0';
+            m_ended = code == 0 && value == "EOF";
     }
 }
 

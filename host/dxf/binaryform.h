@@ -16,8 +16,8 @@ bool isBinary(std::string_view bytes);
 
 struct AsciiForm
 {
-    std::string text;                  // a tag has two lines
-    std::vector<std::size_t> offsets;  // of each tag in the binary file
+    std::string text;                  // a tag has two lines; what follows EOF is as it was
+    std::vector<std::size_t> offsets;  // of each tag in the binary file, and after the last
     int codeSize;                      // bytes of a group code: 1 up to R12, 2 later
 };
 
@@ -46,5 +46,6 @@ private:
     int m_codeSize;
     std::string m_pending;  // the ASCII tag that is not whole yet
     std::string m_binary;
+    bool m_ended = false;  // after EOF, behind which there are no tags
 };
 }  // namespace host::dxf

@@ -29,17 +29,33 @@ void Edits::setHeader(std::string_view name, const Producer& produce)
     produce(writer);
     writer.flush();
 
-    // A file without this section has no version and was not read.
-    const std::size_t headerEnd = m_file.section("HEADER")->end;
-    const std::size_t begin = variable ? variable->begin : headerEnd;
-    const std::size_t end = variable ? variable->end : headerEnd;
+    const Section* header = m_file.section("HEADER");
+    if (!header)
+    {
+        m_newHeader += tags;
+        return;
+    }
+    const std::size_t begin = variable ? variable->begin : header->end;
+    const std::size_t end = variable ? variable->end : header->end;
     if (m_file.bytes().substr(begin, end - begin) != tags)
         replace(begin, end, [tags](TagWriter& out) { out.raw(tags); });
+}
+
+void Edits::writeNewHeader(TagWriter& writer) const
+{
+    writer.text(0, "SECTION");
+    writer.text(2, "HEADER");
+    writer.raw(m_newHeader);
+    writer.text(0, "ENDSEC");
 }
 
 void Edits::write(TagWriter& writer) const
 {
     std::vector<const Edit*> inOrder;
+    const std::size_t first = m_file.firstTag();
+    const Edit header{first, first, [this](TagWriter& out) { writeNewHeader(out); }};
+    if (!m_newHeader.empty())
+        inOrder.push_back(&header);
     for (const Edit& edit : m_edits)
         inOrder.push_back(&edit);
     // An insertion goes before a replacement that begins at the same place.

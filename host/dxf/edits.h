@@ -22,7 +22,7 @@ public:
     explicit Edits(const TagFile& file) : m_file(file) {}  // [borrowed]
 
     const TagFile& file() const { return m_file; }
-    bool empty() const { return m_edits.empty(); }
+    bool empty() const { return m_edits.empty() && m_newHeader.empty(); }
 
     // The bytes from `begin` up to `end` give way to what is produced. Offsets are those of tags.
     void replace(std::size_t begin, std::size_t end, Producer produce);
@@ -37,7 +37,8 @@ public:
     void setValue(const Tag& tag, std::string_view encoded);
 
     // The value tags of a header variable ("$INSUNITS": code 70). It is added if the header lacks
-    // it. No change if these are its tags already. `produce` is called at once.
+    // it, and the header if the file lacks that. No change if these are its tags already. `produce`
+    // is called at once.
     void setHeader(std::string_view name, const Producer& produce);
 
     void write(TagWriter& writer) const;  // the whole file, without flushing
@@ -50,7 +51,10 @@ private:
         Producer produce;
     };
 
+    void writeNewHeader(TagWriter& writer) const;
+
     const TagFile& m_file;
     std::vector<Edit> m_edits;
+    std::string m_newHeader;  // variables of a file that has no header
 };
 }  // namespace host::dxf

@@ -1,8 +1,11 @@
 // What a database remembers of the file it was read from.
 #pragma once
 
+#include <functional>
+
 #include "host/database/core.h"
 #include "host/dxf/codepage.h"
+#include "host/dxf/edits.h"
 #include "host/dxf/tagfile.h"
 
 namespace host::dxf
@@ -50,6 +53,9 @@ std::string_view tableName(const TagFile& file, const Record& table);
 
 // Fills an empty database. Throws an Error for a file whose records do not make a drawing.
 void load(DatabaseCore& core, TagFile file);
+
+// Calls `take` with everything that has changed since `load`: good for the length of the call.
+void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take);
 
 // Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
 void save(DatabaseCore& core, const std::string& path);

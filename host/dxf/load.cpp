@@ -198,14 +198,11 @@ void loadGroupDictionary(DatabaseCore& core, FileSource& source)
     }
     if (source.rootDictionary != nullptr)
     {
+        std::uint64_t groups = 0;
         forEachEntry(source, *source.rootDictionary,
-                     [&source](const std::wstring& key, std::uint64_t handle)
-                     {
-                         if (key == L"ACAD_GROUP")
-                         {
-                             source.groupDictionary = objectWithHandle(source.file, handle);
-                         }
-                     });
+                     [&groups](const std::wstring& key, std::uint64_t handle)
+                     { groups = key == L"ACAD_GROUP" ? handle : groups; });
+        source.groupDictionary = objectWithHandle(source.file, groups);
     }
     auto* dictionary = new AcDbDictionary();
     const Record* record = source.groupDictionary;

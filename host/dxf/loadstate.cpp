@@ -60,7 +60,8 @@ public:
         const auto y = get((prefix + L"UCSYDIR").c_str(), AcGePoint3d(0, 1, 0)).asVector();
         Ucs ucs;
         const AcGeVector3d z = x.crossProduct(y);
-        if (z.length() > 1e-6)
+        // Directions too long for a length make no coordinate system either.
+        if (z.length() > 1e-6 && std::isfinite(x.length() + y.length() + z.length()))
         {
             ucs.toWorld.setCoordSystem(origin, x.normal(), y.normal(), z.normal());
             ucs.name = get((prefix + L"UCSNAME").c_str(), std::wstring());
@@ -148,8 +149,11 @@ void loadState(DatabaseCore& core, const FileSource& source)
     DrawingState& state = core.state;
     for (const HeaderVariable& variable : source.file.headerVariables())
     {
-        const std::wstring name(variable.name.begin() + 1, variable.name.end());
-        state.variables[name] = valueOf(source, variable);
+        if (variable.name.starts_with('$'))
+        {
+            const std::wstring name(variable.name.begin() + 1, variable.name.end());
+            state.variables[name] = valueOf(source, variable);
+        }
     }
     loadView(source, state);
 

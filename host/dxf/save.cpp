@@ -330,7 +330,7 @@ std::vector<std::string> lossesOnSaving(const DatabaseCore& core)
             (groups == 1 ? "their group is not" : "their groups are not")};
 }
 
-void save(DatabaseCore& core, const std::string& path)
+void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take)
 {
     const FileSource& source = sourceOf(core);
     Edits edits(source.file);
@@ -342,6 +342,11 @@ void save(DatabaseCore& core, const std::string& path)
     saveGroups(edits, core);
     saveState(edits, core);
     saveHandleSeed(edits, core);
-    saveAtomically(path, edits);
+    take(edits);
+}
+
+void save(DatabaseCore& core, const std::string& path)
+{
+    withChanges(core, [&path](const Edits& edits) { saveAtomically(path, edits); });
 }
 }  // namespace host::dxf

@@ -166,32 +166,27 @@ fs::path folderOf(const fs::path& target)
     return target.has_parent_path() ? target.parent_path() : fs::path(".");
 }
 
-void writeBinary(TemporaryFile& file, const TagStyle& style, const Producer& produce)
+void writeBinary(const TagStyle& style, const Producer& produce, const TagWriter::Drain& drain)
 {
-    BinaryEncoder encoder([&](std::string_view bytes) { file.write(bytes); }, style.binaryCodeSize);
+    BinaryEncoder encoder(drain, style.binaryCodeSize);
     TagWriter writer([&](std::string_view ascii) { encoder.take(ascii); }, style);
     produce(writer);
     writer.flush();
     encoder.finish();
 }
+}  // namespace
 
-void writeTags(TemporaryFile& file, const TagStyle& style, const Producer& produce,
-               const std::string& path)
-try
+void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::Drain& drain)
 {
     if (style.binaryCodeSize != 0)
-        return writeBinary(file, style, produce);
-    TagWriter writer([&](std::string_view bytes) { file.write(bytes); }, style);
+        return writeBinary(style, produce, drain);
+    TagWriter writer(drain, style);
     produce(writer);
     writer.flush();
 }
-catch (const std::domain_error& noTagCanHoldIt)
-{
-    fail(path, noTagCanHoldIt.what());
-}
-}  // namespace
 
 void saveAtomically(const std::string& path, const TagStyle& style, const Producer& produce)
+try
 {
     const SizeLimitAsFailure sizeLimitAsFailure;
     const fs::path target = followed(path);
@@ -201,9 +196,13 @@ void saveAtomically(const std::string& path, const TagStyle& style, const Produc
     // Before there is anything to read: a private drawing stays private.
     if (old)
         file.takeOwnerAndMode(*old);
-    writeTags(file, style, produce, path);
+    writeTags(style, produce, [&](std::string_view bytes) { file.write(bytes); });
     file.replace(target);
     syncFolder(folderOf(target));
+}
+catch (const std::domain_error& noTagCanHoldIt)
+{
+    fail(path, noTagCanHoldIt.what());
 }
 
 void saveAtomically(const std::string& path, const Edits& edits)

@@ -15,4 +15,7 @@ namespace host::dxf
 // Errors and exceptions of `produce` pass through with the same promise.
 void saveAtomically(const std::string& path, const TagStyle& style, const Producer& produce);
 void saveAtomically(const std::string& path, const Edits& edits);
+
+// The bytes that these write, text or binary. Throws std::domain_error for what no tag can hold.
+void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::Drain& drain);
 }  // namespace host::dxf

@@ -222,30 +222,37 @@ void saveCurrent(Edits& edits, const FileSource& source, const CurrentProperties
     }
 }
 
-// The group code that the file has for the variable, else the usual one for its type.
-int codeOf(const TagFile& file, const std::string& name, const VariableValue& value)
+// The group code that the file has for a value of that type, else the usual one for it.
+int codeOf(const FileSource& source, const std::string& name, const VariableValue& value,
+           const VariableValue* before)
 {
-    if (const HeaderVariable* variable = file.header(name))
-    {
-        return (*file.tags(*variable).begin()).code;
-    }
     static const int usual[] = {70, 40, 10, 1};  // in the order of the variant's types
-    return usual[value.index()];
+    int code = usual[value.index()];
+    if (before == nullptr || before->index() != value.index() || code == 10)
+    {
+        return code;
+    }
+    for (const Tag& tag : source.file.tags(*source.file.header(name)))
+    {
+        code = tag.code;
+    }
+    return code;
 }
 
 void saveVariables(Edits& edits, const FileSource& source, const DrawingState& state)
 {
     for (const auto& [wideName, value] : state.variables)
     {
-        const auto before = source.state.variables.find(wideName);
-        if (before != source.state.variables.end() && same(before->second, value))
+        const auto found = source.state.variables.find(wideName);
+        const auto* before = found != source.state.variables.end() ? &found->second : nullptr;
+        if (before != nullptr && same(*before, value))
         {
             continue;
         }
         const std::string name = "$" + std::string(wideName.begin(), wideName.end());
-        const int code = codeOf(source.file, name, value);
+        const int code = codeOf(source, name, value, before);
         edits.setHeader(name,
-                        [&](TagWriter& writer)
+                        [&, &value = value](TagWriter& writer)
                         {
                             if (const auto* number = std::get_if<int>(&value))
                                 writer.integer(code, *number);

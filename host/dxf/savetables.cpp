@@ -193,7 +193,7 @@ const Record* endOfTable(const TagFile& file, std::string_view type)
 // A section of tables stands after HEADER and CLASSES.
 std::size_t placeForTables(const TagFile& file)
 {
-    std::size_t place = 0;
+    std::size_t place = file.firstTag();
     for (const Section& section : file.sections())
     {
         if (section.name == "HEADER" || section.name == "CLASSES")

@@ -103,7 +103,6 @@ TagFile::TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t si
 void TagFile::takeAsciiForm()
 {
     AsciiForm form = asciiForm(bytes(), m_name);
-    form.offsets.push_back(m_size);
     m_style.binaryCodeSize = form.codeSize;
     m_offsets = std::move(form.offsets);
     m_size = form.text.size();
@@ -117,6 +116,12 @@ std::string TagFile::place(std::uint32_t line) const
         return "line " + std::to_string(line);
     const std::size_t tag = std::min<std::size_t>((line - 1) / 2, m_offsets.size() - 1);
     return "offset " + std::to_string(m_offsets[tag]);
+}
+
+std::size_t TagFile::firstTag() const
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return bytes().starts_with(mark) ? mark.size() : 0;
 }
 
 const Section* TagFile::section(std::string_view name) const

@@ -63,7 +63,8 @@ public:
     std::span<const Section> sections() const { return m_sections; }
     const Section* section(std::string_view name) const;     // nullptr: has none
     std::size_t endOfSection(const Section& section) const;  // after ENDSEC
-    std::size_t eofOffset() const { return m_eofOffset; }    // new sections go before this
+    std::size_t firstTag() const;  // offset of it: some editors mark UTF-8 files
+    std::size_t eofOffset() const { return m_eofOffset; }  // new sections go before this
 
     std::span<const Record> records() const { return m_records; }  // of all sections, file order
     std::span<const Record> records(std::string_view section) const;

@@ -24,10 +24,8 @@ TagReader::TagReader(const TagFile& file)
     : m_file(file),
       m_begin(file.bytes().data()),
       m_end(m_begin + file.bytes().size()),
-      m_next(m_begin)
+      m_next(m_begin + file.firstTag())
 {
-    if (file.bytes().starts_with("\xEF\xBB\xBF"))  // some editors mark UTF-8 files so
-        m_next += 3;
 }
 
 void TagReader::next()

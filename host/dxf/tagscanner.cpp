@@ -59,7 +59,7 @@ void TagFileScanner::readSection()
     const std::string_view name = trimmed(m_tag.value);
     if (m_tag.code != 2)
         m_reader.refuse("the section's name (group code 2)");
-    if (m_file.section(name))
+    if (!m_sectionNames.insert(name).second)
         m_reader.refuse("a section that was not there before");
     m_file.m_sections.push_back(
         {name, m_tag.end, 0, m_reader.nextLine(), m_file.m_records.size(), 0});
@@ -185,10 +185,12 @@ void TagFileScanner::requireKnownCodePage() const
     m_file.refuseValue(tag, "a known code page");
 }
 
-// A drawing is often followed by an empty line, by the old end mark Ctrl-Z, never by more.
+// A drawing is often followed by an empty line, by the old end mark Ctrl-Z or by the zeros that
+// fill a block, never by more.
 void TagFileScanner::requireNothingAfterEof() const
 {
-    if (m_reader.rest().find_first_not_of(" \t\r\n\x1a") != std::string_view::npos)
+    constexpr std::string_view blanks(" \t\r\n\x1a\0", 6);
+    if (m_reader.rest().find_first_not_of(blanks) != std::string_view::npos)
         m_file.refuse(m_reader.nextLine(), "nothing after EOF", "more");
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <unordered_map>
+#include <unordered_set>
 
 #include "host/dxf/tagreader.h"
 
@@ -37,6 +38,7 @@ private:
     TagReader m_reader;
     const Tag& m_tag = m_reader.tag();
 
+    std::unordered_set<std::string_view> m_sectionNames;
     std::unordered_map<std::string_view, std::uint32_t> m_typeIndexes;
     std::string_view m_lastType;  // most records are of the type of the one before
     std::uint32_t m_lastTypeIndex = 0;

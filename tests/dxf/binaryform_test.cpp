@@ -60,27 +60,27 @@ struct Value
 TEST(BinaryForm, everyKindOfValueIsReadAndWrittenAsItWas)
 {
     const Value rows[] = {
-        {1,    text("Steinbruch \xC4"),               "Steinbruch \xC4"       },
-        {8,    text(" blank "),                       " blank "               },
-        {10,   bytesOf(1234567.1234567),              "1234567.1234567"       },
-        {40,   bytesOf(-0.0),                         "-0"                    },
-        {41,   bytesOf(5e-324),                       "5e-324"                },
-        {62,   bytesOf(std::int16_t(-7)),             "-7"                    },
-        {90,   bytesOf(std::int32_t(-2147483647)),    "-2147483647"           },
-        {100,  text("AcDbLine"),                      "AcDbLine"              },
-        {140,  bytesOf(2.5),                          "2.5"                   },
-        {160,  bytesOf(std::int64_t(1) << 40),        "1099511627776"         },
-        {210,  bytesOf(1.0),                          "1"                     },
-        {290,  bytesOf(std::uint8_t(1)),              "1"                     },
-        {310,  std::string("\x03\x01\xFE\x00", 4),    "01FE00"                },
-        {330,  text("1F"),                            "1F"                    },
-        {370,  bytesOf(std::int16_t(25)),             "25"                    },
-        {420,  bytesOf(std::int32_t(0xFFFFFF)),       "16777215"              },
-        {1000, text("xdata"),                         "xdata"                 },
-        {1004, std::string("\0", 1),                  ""                      },
-        {1010, bytesOf(7.0),                          "7"                     },
-        {1070, bytesOf(std::int16_t(9)),              "9"                     },
-        {1071, bytesOf(std::int32_t(9)),              "9"                     },
+        {1,    text("Steinbruch \xC4"),            "Steinbruch \xC4"},
+        {8,    text(" blank "),                    " blank "        },
+        {10,   bytesOf(1234567.1234567),           "1234567.1234567"},
+        {40,   bytesOf(-0.0),                      "-0"             },
+        {41,   bytesOf(5e-324),                    "5e-324"         },
+        {62,   bytesOf(std::int16_t(-7)),          "-7"             },
+        {90,   bytesOf(std::int32_t(-2147483647)), "-2147483647"    },
+        {100,  text("AcDbLine"),                   "AcDbLine"       },
+        {140,  bytesOf(2.5),                       "2.5"            },
+        {160,  bytesOf(std::int64_t(1) << 40),     "1099511627776"  },
+        {210,  bytesOf(1.0),                       "1"              },
+        {290,  bytesOf(std::uint8_t(1)),           "1"              },
+        {310,  std::string("\x03\x01\xFE\x00",     4),                "01FE00"},
+        {330,    text("1F"),                                    "1F"                                       },
+        {370,    bytesOf(std::int16_t(25)),                                    "25"},
+        {420,    bytesOf(std::int32_t(0xFFFFFF)),                                    "16777215"                                 },
+        {1000,    text("xdata"),                                   "xdata"  },
+        {1004,    std::string("\0",                                   1),                               ""},
+        {1010,  bytesOf(7.0),                                    "7"                   },
+        {1070, bytesOf(std::int16_t(9)),"9"},
+        {1071, bytesOf(std::int32_t(9)),                                    "9"                                                       },
     };
     for (const Value& row : rows)
     {
@@ -123,18 +123,40 @@ TEST(BinaryForm, whatNoTagCanBeIsRefusedWithItsOffset)
     const std::string offset = std::to_string(start.size());
     const std::string value = std::to_string(start.size() + 2);
     const std::pair<std::string, std::string> rows[] = {
-        {tag(-5, ""),                            offset + ": expected a group code of DXF, found -5"  },
-        {tag(80, text("x")),                     offset + ": expected a group code of DXF, found 80"  },
-        {tag(1, text("two\nlines")),             value + ": expected a text of one line, found more lines"},
-        {tag(1, "no end"),                       value + ": expected the end of a text, found the end of the file"},
-        {tag(40, bytesOf(std::nan("7"))),            value + ": expected a number, found none"            },
-        {tag(310, "\x7F only this"),             std::to_string(start.size() + 3) +
-                                                     ": expected a whole value, found the end of the file"},
+        {tag(-5,  ""),                     offset + ": expected a group code of DXF, found -5"              },
+        {tag(80,  text("x")),              offset + ": expected a group code of DXF, found 80"              },
+        {tag(1,   text("two\nlines")),     value + ": expected a text of one line, found more lines"        },
+        {tag(1,   "no end"),               value + ": expected the end of a text, found the end of the file"},
+        {tag(40,  bytesOf(std::nan("7"))), value + ": expected a number, found none"                        },
+        {tag(310, "\x7F only this"),
+         std::to_string(start.size() + 3) + ": expected a whole value, found the end of the file"           },
     };
     for (const auto& [bytes, message] : rows)
     {
         EXPECT_EQ(refusal(start + bytes), "FILE: offset " + message);
     }
+}
+
+// In pieces of any size, as the writer of tags gives them.
+TEST(BinaryForm, whatFollowsTheEndMarkStaysAsItIs)
+{
+    for (const std::string& end : {std::string(), std::string(100, '\0'), std::string("\r\n\x1a")})
+    {
+        const std::string binary =
+            start + tag(2, text("ENTITIES")) + tag(0, text("ENDSEC")) + tag(0, text("EOF")) + end;
+        const TagFile file = TagFile::fromText(binary, "FILE");
+        EXPECT_EQ(encoded(std::string(file.bytes()), 2), binary);
+        EXPECT_EQ(encoded(std::string(file.bytes()), 2, 3), binary);
+    }
+    EXPECT_EQ(refusal(mark + tag(0, text("EOF")) + "more"),
+              "FILE: offset 28: expected nothing after EOF, found more");
+}
+
+TEST(BinaryForm, aCodeThatTakesMoreBytesThanItNeedsIsRefused)
+{
+    const std::string binary = mark + '\0' + text("SECTION") + "\xFF" + bytesOf(std::int16_t(2));
+    EXPECT_EQ(refusal(binary + text("ENTITIES")),
+              "FILE: offset 31: expected a group code of DXF in one byte, found 2 in three");
 }
 
 TEST(BinaryForm, aValueThatItsCodeCannotHoldIsNotWritten)

@@ -192,6 +192,22 @@ TEST_F(Drawing, currentPropertiesComeFromTheHeader)
     EXPECT_EQ(host::recordName(database->celtype()), L"ByLayer");
 }
 
+TEST_F(Drawing, aVariableOfAnotherTypeIsSavedUnderTheCodeOfTheNewOne)
+{
+    const auto database = changed("$ELEVATION\n 40\n0.0", "$ELEVATION\n 70\n0");
+    host::stateOf(*database).variables[L"ELEVATION"] = 2.5;
+    EXPECT_EQ(count(saved(*database), "$ELEVATION\n 40\n2.5\n"), 1u);
+}
+
+TEST_F(Drawing, aVariableOfADrawingWithoutAHeaderMakesOne)
+{
+    const std::string lean = "  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n";
+    const auto database = opened(lean);
+    host::stateOf(*database).variables[L"ELEVATION"] = 2.5;
+    EXPECT_EQ(saved(*database),
+              "  0\nSECTION\n  2\nHEADER\n  9\n$ELEVATION\n 40\n2.5\n  0\nENDSEC\n" + lean);
+}
+
 TEST_F(Drawing, aViewThatWasTurnedIsSavedInTheViewportAndNothingElseChanges)
 {
     EmptyDrawing drawing;

@@ -7,7 +7,9 @@
 #include <iostream>
 #include <iterator>
 
+#include "host/dxf/binaryform.h"
 #include "host/dxf/save_atomic.h"
+#include "tests/dxf/smalldrawing.h"
 
 using namespace host::dxf;
 namespace fs = std::filesystem;
@@ -44,7 +46,7 @@ bool shouldBeRead(const std::string& path)
     return path.find("bad_r12_no_sections") == path.npos;
 }
 
-std::string refusal(const std::string& path)
+std::string refusalOfFile(const std::string& path)
 {
     try
     {
@@ -55,6 +57,30 @@ std::string refusal(const std::string& path)
     {
         return error.what();
     }
+}
+
+// Bytes from one cut to the next, for a test of seconds: a cut costs the time to read up to it.
+std::size_t stepOfCuts(const std::string& drawing)
+{
+#ifdef __SANITIZE_ADDRESS__
+    return drawing.size() > 100000 ? 9973 : 29;
+#else
+    return drawing.size() > 100000 ? 997 : 1;
+#endif
+}
+
+// The first thing that is not as it must be when the drawing is cut.
+std::string complaintAboutCuts(const std::string& drawing)
+{
+    const std::size_t eof = drawing.rfind("EOF") + (isBinary(drawing) ? 4 : 3);
+    for (std::size_t size = 0; size < drawing.size(); size += stepOfCuts(drawing))
+    {
+        const std::string said = refusal(drawing.substr(0, size));
+        const bool inOneLine = said.starts_with("FILE: ") && said.find('\n') == said.npos;
+        if (size < eof ? !inOneLine : said != "read")
+            return "cut after " + std::to_string(size) + " bytes: " + said;
+    }
+    return "";
 }
 }  // namespace
 
@@ -109,7 +135,7 @@ TEST(SharedDrawings, brokenOnesAreRefusedInOneLine)
     {
         if (shouldBeRead(path))
             continue;
-        const std::string message = refusal(path);
+        const std::string message = refusalOfFile(path);
         EXPECT_TRUE(message.starts_with(path + ": line ")) << path << " -> " << message;
         EXPECT_EQ(message.find('\n'), message.npos);
         ++count;
@@ -117,4 +143,19 @@ TEST(SharedDrawings, brokenOnesAreRefusedInOneLine)
     if (count == 0)
         GTEST_SKIP() << "no such drawings in " << drawingsFolder();
     std::cout << count << " drawings refused\n";
+}
+
+TEST(SharedDrawings, cutAnywhereTheyAreRefusedInOneLine)
+{
+    int count = 0;
+    for (const std::string& path : drawings())
+    {
+        if (!shouldBeRead(path))
+            continue;
+        EXPECT_EQ(complaintAboutCuts(bytesOf(path)), "") << path;
+        ++count;
+    }
+    if (count == 0)
+        GTEST_SKIP() << "no drawings in " << drawingsFolder();
+    std::cout << count << " drawings cut\n";
 }
