@@ -20,11 +20,6 @@ struct PromptOptions
     KeywordList keywords{};
 };
 
-struct Meter
-{
-    int position;
-};
-
 // While one exists it serves the module's calls, from one thread at a time.
 class Editor
 {
@@ -41,6 +36,7 @@ public:
     void printLine(std::wstring_view line);  // on a line of its own
     void traceLine(std::wstring_view line);  // likewise, if events are to be told
     void report(std::wstring_view line) const;
+    void showMeter() { m_frontEnd.showMeter(meter); }  // whenever it has changed
 
     // Shows the prompt, waits for the answer, echoes it and ends the line.
     Answer ask(const Question& question);

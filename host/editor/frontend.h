@@ -51,6 +51,15 @@ struct Answer
     bool visible = false;  // the user sees what was typed: it is not echoed
 };
 
+// The progress meter of the status bar.
+struct Meter
+{
+    std::wstring label;
+    int least;
+    int most;
+    int position;  // may lie outside the two
+};
+
 class FrontEnd
 {
 public:
@@ -62,6 +71,8 @@ public:
     virtual void report(std::string_view line) = 0;
     // The prompt has been printed already. Once it has given endOfInput it gives nothing else.
     virtual Answer ask(const Question& question) = 0;
+    // The meter as it stands now; nothing when it has gone.
+    virtual void showMeter(const std::optional<Meter>&) {}
     // A person reads along and types: help is welcome that a script has no use for.
     virtual bool interactive() const { return false; }
 };

@@ -7,6 +7,19 @@
 
 namespace host
 {
+Answer answerOf(std::string_view line, bool visible)
+{
+    if (line.empty())
+    {
+        return {.kind = Answer::Kind::enter, .visible = visible};
+    }
+    if (line == "^C")
+    {
+        return {.kind = Answer::Kind::cancel, .visible = visible};
+    }
+    return {.kind = Answer::Kind::line, .text = fromUtf8(line), .visible = visible};
+}
+
 bool LineReader::read(std::string& line)
 {
     if (!std::getline(m_input, line))
@@ -24,7 +37,7 @@ bool LineReader::read(std::string& line)
     return true;
 }
 
-Answer LineReader::next()
+Answer LineReader::next(const Question&)
 {
     std::string line;
     do
@@ -34,33 +47,34 @@ Answer LineReader::next()
             return {.kind = Answer::Kind::endOfInput};
         }
     } while (line.starts_with(';'));
-
-    if (line.empty())
-    {
-        return {.kind = Answer::Kind::enter, .visible = m_visible};
-    }
-    if (line == "^C")
-    {
-        return {.kind = Answer::Kind::cancel, .visible = m_visible};
-    }
-    return {.kind = Answer::Kind::line, .text = fromUtf8(line), .visible = m_visible};
+    return answerOf(line, m_visible);
 }
 
-LineFrontEnd::LineFrontEnd(LineReader& reader, Writer print, Writer report)
-    : m_reader(reader), m_print(std::move(print)), m_report(std::move(report))
+LineFrontEnd::LineFrontEnd(AnswerReader& reader, LineOutput output)
+    : m_reader(reader), m_output(std::move(output))
 {
 }
 
 void LineFrontEnd::print(std::string_view text)
 {
     const std::lock_guard lock(m_printing);
-    m_print(text);
+    m_output.print(text);
 }
 
 void LineFrontEnd::report(std::string_view line)
 {
     const std::lock_guard lock(m_printing);
-    m_report(line);
+    m_output.report(line);
+}
+
+void LineFrontEnd::showMeter(const std::optional<Meter>& meter)
+{
+    if (!m_output.showMeter)
+    {
+        return;
+    }
+    const std::lock_guard lock(m_printing);
+    m_output.showMeter(meter);
 }
 
 void LineFrontEnd::serve(const std::function<void()>& job)
@@ -71,9 +85,9 @@ void LineFrontEnd::serve(const std::function<void()>& job)
             job();
             m_rendezvous.finish();
         });
-    while (m_rendezvous.waitForQuestion())
+    while (const std::optional<Question> question = m_rendezvous.waitForQuestion())
     {
-        m_rendezvous.answer(m_reader.next());
+        m_rendezvous.answer(m_reader.next(*question));
     }
     command.join();
 }

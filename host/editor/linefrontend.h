@@ -3,21 +3,39 @@
 
 #include <functional>
 #include <istream>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "host/editor/rendezvous.h"
 
 namespace host
 {
-// Reads one answer a line. UTF-8, a byte-order mark and carriage returns are dropped; a line that
-// begins with ";" is a comment, an empty one is Enter, "^C" is Esc.
-class LineReader
+// Where the answers come from.
+class AnswerReader
 {
 public:
-    // visible: whoever types sees the line already, as at a terminal.
+    virtual ~AnswerReader() = default;
+
+    // After the end of the input it gives nothing else.
+    virtual Answer next(const Question& question) = 0;
+    // Whoever types sees the line already, as at a terminal.
+    virtual bool visible() const { return false; }
+};
+
+// What a line says, UTF-8 without its end: an empty one is Enter, "^C" is Esc.
+Answer answerOf(std::string_view line, bool visible);
+
+// Reads one answer a line. UTF-8, a byte-order mark and carriage returns are dropped; a line that
+// begins with ";" is a comment.
+class LineReader : public AnswerReader
+{
+public:
     LineReader(std::istream& input, bool visible) : m_input(input), m_visible(visible) {}
 
-    Answer next();
-    bool visible() const { return m_visible; }
+    Answer next(const Question& question) override;
+    bool visible() const override { return m_visible; }
 
 private:
     bool read(std::string& line);
@@ -27,16 +45,23 @@ private:
     bool m_first = true;
 };
 
-// Prints through two functions that it calls one at a time, answers from a reader.
+// How a front end of lines shows things. It calls one function at a time.
+struct LineOutput
+{
+    std::function<void(std::string_view)> print;
+    std::function<void(std::string_view)> report;
+    // Left out: the meter is not shown.
+    std::function<void(const std::optional<Meter>&)> showMeter{};
+};
+
 class LineFrontEnd : public FrontEnd
 {
 public:
-    using Writer = std::function<void(std::string_view)>;
-
-    LineFrontEnd(LineReader& reader, Writer print, Writer report);
+    LineFrontEnd(AnswerReader& reader, LineOutput output);
 
     void print(std::string_view text) override;
     void report(std::string_view line) override;
+    void showMeter(const std::optional<Meter>& meter) override;
     Answer ask(const Question& question) override { return m_rendezvous.ask(question); }
     bool interactive() const override { return m_reader.visible(); }
 
@@ -44,9 +69,8 @@ public:
     void serve(const std::function<void()>& job);
 
 private:
-    LineReader& m_reader;
-    Writer m_print;
-    Writer m_report;
+    AnswerReader& m_reader;
+    LineOutput m_output;
     std::mutex m_printing;
     Rendezvous m_rendezvous;
 };

@@ -10,9 +10,10 @@ int acedSetStatusBarProgressMeter(const ACHAR* pszLabel, int nMinPos, int nMaxPo
     {
         return -1;
     }
-    editor->meter = host::Meter{nMinPos};
-    editor->traceLine(L"[meter] " + std::wstring(pszLabel ? pszLabel : L"") + L" " +
-                      std::to_wstring(nMinPos) + L".." + std::to_wstring(nMaxPos));
+    editor->meter = host::Meter{pszLabel ? pszLabel : L"", nMinPos, nMaxPos, nMinPos};
+    editor->traceLine(L"[meter] " + editor->meter->label + L" " + std::to_wstring(nMinPos) + L".." +
+                      std::to_wstring(nMaxPos));
+    editor->showMeter();
     return 0;
 }
 
@@ -26,6 +27,7 @@ int acedSetStatusBarProgressMeterPos(int nPos)
     int& position = editor->meter->position;
     position = nPos < 0 ? position - nPos : nPos;
     editor->traceLine(L"[meter] " + std::to_wstring(position));
+    editor->showMeter();
     return 0;
 }
 
@@ -37,5 +39,6 @@ void acedRestoreStatusBar()
         return;
     }
     editor->meter.reset();
+    editor->showMeter();
     editor->traceLine(L"[meter] restored");
 }

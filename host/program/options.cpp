@@ -33,7 +33,8 @@ void describe(CLI::App& app, Options& options, std::string& locale)
         ->type_name("FILE")
         ->default_str("netrax.arx beside the program");
     app.add_option("--script", options.script,
-                   "read input from FILE, one answer a line; - is standard input")
+                   "read input from FILE: one answer a line, or by the rules of the CAD program's "
+                   "script files if its name ends in .scr; - is standard input")
         ->type_name("FILE");
     app.add_option("--locale", locale, "product locale: en-US or ru-RU")
         ->type_name("NAME")
@@ -46,6 +47,7 @@ void describe(CLI::App& app, Options& options, std::string& locale)
                    "module's settings dialog is opened for it")
         ->type_name("FILE.png");
     app.add_flag("--trace", options.trace, "tell of the progress meter as well");
+    app.add_flag("--quiet", options.quiet, "print nothing but errors");
 }
 
 int reportUsage(CLI::App& app, const CLI::ParseError& error)

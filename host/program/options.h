@@ -18,6 +18,7 @@ struct Options
     LCID locale;
     std::string dialogPicture;  // empty: none
     bool trace = false;
+    bool quiet = false;
 };
 
 // Nothing when there is nothing to run: `status` is what the program ends with then, and the text

@@ -5,6 +5,9 @@
 #include <sstream>
 #include <thread>
 
+#include "host/editor/editor.h"
+#include "rxmfcapi.h"
+
 namespace
 {
 using Kind = host::Answer::Kind;
@@ -39,7 +42,7 @@ TEST(LineReader, linesAreAnswers)
     };
     for (const auto& row : expected)
     {
-        const host::Answer answer = reader.next();
+        const host::Answer answer = reader.next({});
         EXPECT_EQ(answer.kind, row.kind);
         EXPECT_EQ(answer.text, row.text);
         EXPECT_FALSE(answer.visible);
@@ -50,10 +53,10 @@ TEST(LineReader, typingAtATerminalIsSeenAlready)
 {
     std::istringstream input("a\n\n^C\n");
     host::LineReader reader(input, true);
-    EXPECT_TRUE(reader.next().visible);
-    EXPECT_TRUE(reader.next().visible);
-    EXPECT_TRUE(reader.next().visible);
-    EXPECT_FALSE(reader.next().visible);  // nobody typed the end
+    EXPECT_TRUE(reader.next({}).visible);
+    EXPECT_TRUE(reader.next({}).visible);
+    EXPECT_TRUE(reader.next({}).visible);
+    EXPECT_FALSE(reader.next({}).visible);  // nobody typed the end
 }
 
 TEST(LineFrontEnd, questionsMeetTheThreadThatOwnsTheInput)
@@ -61,9 +64,9 @@ TEST(LineFrontEnd, questionsMeetTheThreadThatOwnsTheInput)
     std::istringstream input("one\ntwo\n");
     host::LineReader reader(input, false);
     std::string printed, reported;
-    host::LineFrontEnd frontEnd(
-        reader, [&](std::string_view text) { printed += text; },
-        [&](std::string_view line) { reported += line; });
+    host::LineFrontEnd frontEnd(reader,
+                                {.print = [&](std::string_view text) { printed += text; },
+                                 .report = [&](std::string_view line) { reported += line; }});
     const std::thread::id owner = std::this_thread::get_id();
     std::wstring answers;
     frontEnd.serve(
@@ -83,12 +86,35 @@ TEST(LineFrontEnd, questionsMeetTheThreadThatOwnsTheInput)
     EXPECT_EQ(reported, "done");
 }
 
+TEST(LineFrontEnd, meterIsShownWhereThereIsAPlaceForIt)
+{
+    std::istringstream input;
+    host::LineReader reader(input, false);
+    const auto ignore = [](std::string_view) {};
+    std::string shown;
+    host::LineFrontEnd meterless(reader, {.print = ignore, .report = ignore});
+    host::LineFrontEnd frontEnd(reader, {.print = ignore,
+                                         .report = ignore,
+                                         .showMeter = [&](const std::optional<host::Meter>& meter) {
+                                             shown += meter ? std::to_string(meter->position) + " "
+                                                            : "gone";
+                                         }});
+    for (host::LineFrontEnd* const each : {&meterless, &frontEnd})
+    {
+        host::Editor editor(*each, false);
+        acedSetStatusBarProgressMeter(L"Grouping", 2, 10);
+        acedSetStatusBarProgressMeterPos(-3);
+        acedRestoreStatusBar();
+    }
+    EXPECT_EQ(shown, "2 5 gone");
+}
+
 TEST(LineFrontEnd, jobMayEndWithoutAQuestion)
 {
     std::istringstream input;
     host::LineReader reader(input, false);
     host::LineFrontEnd frontEnd(
-        reader, [](std::string_view) {}, [](std::string_view) {});
+        reader, {.print = [](std::string_view) {}, .report = [](std::string_view) {}});
     bool ran = false;
     frontEnd.serve([&] { ran = true; });
     EXPECT_TRUE(ran);

@@ -1,0 +1,263 @@
+"""arxhost at a terminal, script files of the CAD program, and runs that print nothing."""
+from common import CORNERS, GRID, PLAN, Desk, check, expect, expect_equal, one_line
+from console import Console
+
+ENTER, TAB, ESC, UP, LEFT, BACKSPACE = "\r", "\t", "\x1b", "\x1b[A", "\x1b[D", "\x7f"
+CTRL_C, CTRL_D = "\x03", "\x04"
+
+
+def console(desk, *arguments, **environment):
+    command = [str(desk.build / "arxhost"), "--module", "netrax.arx", *arguments]
+    home = {"HOME": str(desk / "home")}
+    return Console(command, desk.folder, **(home | environment))
+
+
+def answer(terminal, prompt, typed):
+    terminal.wait_for(prompt)
+    terminal.type(typed)
+
+
+def leave(terminal):
+    answer(terminal, "Command: ", CTRL_D)
+    expect_equal(terminal.wait_for_end(), 0, f"exit status after {terminal.shown!r}")
+
+
+@check
+def a_line_can_be_edited_at_a_terminal():
+    with Desk() as desk, console(desk) as terminal:
+        answer(terminal, "Command: ", "XШАГZ" + LEFT + BACKSPACE + "Ы" + ENTER)
+        terminal.wait_for('Unknown command "XШАЫZ".')
+        leave(terminal)
+
+
+@check
+def a_line_survives_the_resizing_of_its_window():
+    with Desk() as desk, console(desk) as terminal:
+        answer(terminal, "Command: ", "ABC")
+        terminal.wait_for("ABC")
+        for columns in (60, 120):
+            terminal.resize(columns)
+        terminal.type("DEF" + LEFT * 6 + "X" + ENTER)
+        terminal.wait_for('Unknown command "XABCDEF".')
+        leave(terminal)
+
+
+@check
+def each_prompt_is_shown_once_and_each_answer_ends_its_line():
+    with Desk() as desk, console(desk) as terminal:
+        for prompt, typed in (("Command: ", "zv_netrax"), ("corner point [Settings]: ", "10,20"),
+                              ("other corner point: ", "260,170"), ("[<Apply>/Settings]: ", "A")):
+            answer(terminal, prompt, typed + ENTER)
+        leave(terminal)
+        told = [line for line in terminal.shown.replace("\r", "\n").split("\n")
+                if line and not line.startswith(("Progress:", "***"))]
+        expect_equal(told, ["Command: zv_netrax", "Specify first corner point [Settings]: 10,20",
+                            "Specify other corner point: 260,170", "[<Apply>/Settings]: A",
+                            "Command: ^D"], "lines")
+
+
+@check
+def arrow_up_brings_earlier_lines_back_also_in_the_next_session():
+    with Desk() as desk:
+        with console(desk) as terminal:
+            answer(terminal, "Command: ", "FIRST" + ENTER)
+            answer(terminal, "Command: ", "SECOND" + ENTER)
+            answer(terminal, "Command: ", UP + UP + ENTER)
+            terminal.wait_for('Unknown command "FIRST".')
+            leave(terminal)
+        expect((desk / "home" / ".local" / "state" / "arxhost" / "history").exists(), "no history file")
+        with console(desk) as terminal:
+            answer(terminal, "Command: ", UP + UP + ENTER)
+            terminal.wait_for('Unknown command "SECOND".')
+            leave(terminal)
+
+
+@check
+def the_history_is_kept_where_the_user_keeps_such_things():
+    with Desk() as desk:
+        with console(desk, XDG_STATE_HOME=str(desk / "state")) as terminal:
+            leave(terminal)
+        expect((desk / "state" / "arxhost" / "history").exists(), "no history file")
+        expect(not (desk / "home").exists(), "the home folder was used as well")
+
+
+@check
+def a_history_that_cannot_be_kept_is_no_reason_for_a_word():
+    with Desk() as desk:
+        (desk / "state").write_text("no folder")
+        with console(desk, XDG_STATE_HOME=str(desk / "state")) as terminal:
+            answer(terminal, "Command: ", "FIRST" + ENTER)
+            answer(terminal, "Command: ", UP + ENTER)
+            leave(terminal)
+        expect_equal(terminal.shown.count('Unknown command "FIRST".'), 2, "times that the line was taken")
+        expect("arxhost:" not in terminal.shown, f"something was said: {terminal.shown!r}")
+
+
+@check
+def tab_completes_commands_variables_and_keywords():
+    with Desk() as desk, console(desk) as terminal:
+        answer(terminal, "Command: ", "ucsi" + TAB + ENTER)
+        terminal.wait_for("Enter new value for UCSICON")
+        answer(terminal, ": ", ENTER)
+        answer(terminal, "Command: ", "_ZV" + TAB + ENTER)
+        answer(terminal, "[Settings]: ", "s" + TAB)
+        terminal.wait_for("S")  # the keyword is this letter
+        terminal.type(ENTER)
+        answer(terminal, "Dialog: ", "clo" + TAB + ENTER)
+        terminal.wait_for("[dialog closed] cancel")
+        answer(terminal, "[Settings]: ", ESC)
+        leave(terminal)
+
+
+@check
+def tab_lists_what_may_follow():
+    with Desk() as desk, console(desk) as terminal:
+        answer(terminal, "Command: ", "UCSX" + BACKSPACE + TAB)
+        terminal.wait_for("UCS  UCSFOLLOW  UCSICON  UCSNAME  UCSORG  UCSXDIR  UCSYDIR")
+        answer(terminal, "Command: UCS", "F" + TAB + ENTER)
+        answer(terminal, "for UCSFOLLOW <0>: ", ENTER)
+        leave(terminal)
+
+
+@check
+def ctrl_c_and_esc_cancel_the_command_but_not_the_program():
+    with Desk() as desk, console(desk) as terminal:
+        for key in (CTRL_C, ESC, "half a word" + CTRL_C, "half" + ESC, "front" + LEFT + CTRL_C):
+            answer(terminal, "Command: ", "zv_netrax" + ENTER)
+            answer(terminal, "[Settings]: ", key)
+            terminal.wait_for("^C\n")
+        expect("front\bt^C" in terminal.shown, "the end of the line was overwritten")
+        answer(terminal, "Command: ", CTRL_C)
+        terminal.wait_for("^C\n")
+        leave(terminal)
+
+
+@check
+def ctrl_c_does_not_stop_a_command_that_computes():
+    with Desk() as desk, console(desk, "--save", "saved.dxf") as terminal:
+        for prompt, typed in (("Command: ", "zv_netrax"), ("[Settings]: ", "0,0"), ("corner point: ", "5000,5000"),
+                              ("[<Apply>/Settings]: ", "A")):
+            answer(terminal, prompt, typed + ENTER)
+        terminal.wait_for("Progress: [")
+        terminal.interrupt()  # the terminal does so for Ctrl-C, unless a line is being edited
+        leave(terminal)
+        expect("\nAcDbGroup\n" in (desk / "saved.dxf").read_text(), "the grid was not kept")
+
+
+@check
+def the_end_of_input_at_a_terminal_is_ctrl_d():
+    with Desk() as desk, console(desk) as terminal:
+        answer(terminal, "Command: ", "zv_netrax" + ENTER)
+        answer(terminal, "[Settings]: ", CTRL_D)
+        expect_equal(terminal.wait_for_end(), 1, "exit status")
+        expect("\narxhost: the input ended in the middle of zv_netrax\n" in terminal.shown,
+               f"no line about it in {terminal.shown!r}")
+
+
+@check
+def the_dialog_is_printed_at_a_terminal_and_worked_by_lines():
+    with Desk() as desk, console(desk) as terminal:
+        answer(terminal, "Command: ", "zv_netrax" + ENTER)
+        answer(terminal, "[Settings]: ", "S" + ENTER)
+        printed = terminal.wait_for("Dialog: ")
+        expect("\n   107  Vertical step: [100.0000]\n" in printed, f"no such line in {printed!r}")
+        terminal.type("set 107 25" + ENTER)
+        answer(terminal, "Dialog: ", "show" + ENTER)
+        printed = terminal.wait_for("Dialog: ")
+        expect('\n[control] 107 edit enabled - "25"\n' in printed, f"no such line in {printed!r}")
+        terminal.type("close" + ENTER)
+        terminal.wait_for("\n[dialog closed] cancel\n")
+        answer(terminal, "[Settings]: ", ESC)
+        leave(terminal)
+
+
+@check
+def the_meter_is_a_bar_that_goes_away():
+    with Desk() as desk:
+        with console(desk) as terminal:
+            for line in GRID.splitlines():
+                answer(terminal, ": ", line + ENTER)
+            leave(terminal)
+        bars = terminal.raw.split(b"\r")
+        expect(b"Progress: [" + b"#" * 20 + b"." * 20 + b"] 50%\x1b[K" in bars, f"no bar at 50% in {bars}")
+        last = max(i for i, bar in enumerate(bars) if bar.startswith(b"Progress: "))
+        expect(bars[last + 1].startswith(b"\x1b[K"), f"the bar was not erased: {bars[last:]}")
+        expect("Progress" not in desk.run(script=GRID).said, "a script's output has the bar")
+
+
+@check
+def a_narrow_terminal_gets_a_narrow_bar():
+    with Desk() as desk:
+        command = [str(desk.build / "arxhost"), "--module", "netrax.arx"]
+        with Console(command, desk.folder, columns=50, HOME=str(desk / "home")) as terminal:
+            answer(terminal, "Command: ", "zv_netrax" + ENTER)
+            answer(terminal, "[Settings]: ", "10,20" + ENTER)
+            answer(terminal, "corner point: ", "260,170" + ENTER)
+            answer(terminal, "Settings]: ", "A" + ENTER)
+            leave(terminal)
+        expect(b"\rProgress: [" + b"#" * 16 + b"." * 16 + b"] 50%\x1b[K" in terminal.raw, f"no such bar in {terminal.raw}")
+
+
+@check
+def prompts_are_dim_unless_the_user_wants_no_colour():
+    dim = b"\x1b[2mCommand:\x1b[0m "
+    with Desk() as desk:
+        for wanted, environment in ((True, {}), (True, {"NO_COLOR": ""}), (False, {"NO_COLOR": "1"})):
+            with console(desk, **environment) as terminal:
+                leave(terminal)
+            expect_equal(dim in terminal.raw, wanted, f"a dim prompt with {environment}")
+
+
+@check
+def a_terminal_that_understands_nothing_gets_plain_lines():
+    with Desk() as desk, console(desk, TERM="dumb") as terminal:
+        answer(terminal, "Command: ", "zv_netrax\n")
+        answer(terminal, "[Settings]: ", "^C\n")
+        leave(terminal)
+        expect(b"\x1b" not in terminal.raw, f"there are escape sequences in {terminal.raw}")
+
+
+@check
+def a_script_file_of_the_CAD_program_has_blanks_between_its_answers():
+    with Desk() as desk:
+        by_lines = desk.run("--save", "lines.dxf", script=GRID)
+        (desk / "properties.ini").unlink()
+        (desk / "grid.SCR").write_bytes(b"; one line\r\nzv_netrax 10,20 260,170 A\r\n")
+        by_blanks = desk.run("--script", "grid.SCR", "--save", "blanks.dxf")
+        expect_equal((by_blanks.status, by_blanks.errors), (0, ""), "result")
+        expect_equal(by_blanks.said, by_lines.said, "transcripts")
+        expect((desk / "blanks.dxf").read_bytes() == (desk / "lines.dxf").read_bytes(), "the drawings differ")
+        (desk / "grid.txt").write_bytes((desk / "grid.SCR").read_bytes())
+        expect("Unknown command" in desk.run("--script", "grid.txt").said, "blanks end answers in any file")
+
+
+@check
+def a_script_file_of_the_CAD_program_works_the_dialog_by_lines():
+    with Desk() as desk:
+        (desk / "grid.scr").write_text("zv_netrax S\nset 107 25\n\n10,20 260,170 \n")
+        run = desk.run("--script", "grid.scr")
+        expect_equal((run.status, run.errors), (0, ""), "result")
+        # The grid was accepted by the blank before the line end, which is Enter.
+        expect("=25.0000" in (desk / "properties.ini").read_text(), "the step is not 25")
+
+
+@check
+def a_quiet_run_prints_nothing_and_does_the_same():
+    with Desk() as desk:
+        desk.bring(PLAN)
+        plain = desk.run("drawing.dxf", "--save", "plain.dxf", script=GRID)
+        (desk / "properties.ini").unlink()
+        quiet = desk.run("drawing.dxf", "--quiet", "--trace", "--save", "quiet.dxf", script=GRID)
+        expect_equal((quiet.status, quiet.said, quiet.errors), (0, "", ""), "result")
+        expect(plain.said != "", "the other run printed nothing either")
+        expect((desk / "quiet.dxf").read_bytes() == (desk / "plain.dxf").read_bytes(), "the drawings differ")
+
+
+@check
+def a_quiet_run_still_tells_its_errors():
+    with Desk() as desk:
+        for arguments, script in ((["nowhere.dxf"], ""), ([], CORNERS)):
+            plain, quiet = (desk.run(*arguments, *more, script=script) for more in ([], ["--quiet"]))
+            expect_equal((quiet.status, quiet.said), (1, ""), "result")
+            expect_equal(quiet.errors, plain.errors, "standard error")
+            expect(one_line(quiet.errors), f"standard error is not one line: {quiet.errors!r}")
