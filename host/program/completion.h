@@ -17,6 +17,6 @@ struct Completion
 };
 
 // Command names and system variables at the command prompt and after an apostrophe, the question's
-// keywords elsewhere. Letter case does not count. Nothing replaced and no text: nothing fits.
+// keywords elsewhere. Letter case does not count. No text and no choices: nothing fits.
 Completion complete(const Question& question, std::wstring_view beforeCursor);
 }  // namespace host

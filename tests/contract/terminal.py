@@ -17,6 +17,12 @@ def answer(terminal, prompt, typed):
     terminal.type(typed)
 
 
+def draw_grid(terminal, first="10,20", other="260,170"):
+    for prompt, typed in (("Command: ", "zv_netrax"), ("corner point [Settings]: ", first),
+                          ("other corner point: ", other), ("[<Apply>/Settings]: ", "A")):
+        answer(terminal, prompt, typed + ENTER)
+
+
 def leave(terminal):
     answer(terminal, "Command: ", CTRL_D)
     expect_equal(terminal.wait_for_end(), 0, f"exit status after {terminal.shown!r}")
@@ -45,9 +51,7 @@ def a_line_survives_the_resizing_of_its_window():
 @check
 def each_prompt_is_shown_once_and_each_answer_ends_its_line():
     with Desk() as desk, console(desk) as terminal:
-        for prompt, typed in (("Command: ", "zv_netrax"), ("corner point [Settings]: ", "10,20"),
-                              ("other corner point: ", "260,170"), ("[<Apply>/Settings]: ", "A")):
-            answer(terminal, prompt, typed + ENTER)
+        draw_grid(terminal)
         leave(terminal)
         told = [line for line in terminal.shown.replace("\r", "\n").split("\n")
                 if line and not line.startswith(("Progress:", "***"))]
@@ -110,12 +114,17 @@ def tab_completes_commands_variables_and_keywords():
 
 
 @check
-def tab_lists_what_may_follow():
+def tab_goes_as_far_as_the_names_agree_and_then_lists_them():
+    names = "VIEWCTR  VIEWDIR  VIEWSIZE  VIEWTWIST"
     with Desk() as desk, console(desk) as terminal:
-        answer(terminal, "Command: ", "UCSX" + BACKSPACE + TAB)
-        terminal.wait_for("UCS  UCSFOLLOW  UCSICON  UCSNAME  UCSORG  UCSXDIR  UCSYDIR")
-        answer(terminal, "Command: UCS", "F" + TAB + ENTER)
-        answer(terminal, "for UCSFOLLOW <0>: ", ENTER)
+        answer(terminal, "Command: ", "vi" + TAB + ENTER)
+        expect(names not in terminal.wait_for('Unknown command "VIEW".'), "the names were listed")
+        answer(terminal, "Command: ", "VIEW" + TAB)
+        terminal.wait_for(f"\n{names}  \n")
+        answer(terminal, "Command: VIEW", BACKSPACE * 3 + TAB)
+        terminal.wait_for(f"\n{names}  VPOINT  \n")
+        answer(terminal, "Command: V", "IEWT" + TAB + ENTER)
+        answer(terminal, "for VIEWTWIST (read only) <0>: ", ENTER)
         leave(terminal)
 
 
@@ -135,9 +144,7 @@ def ctrl_c_and_esc_cancel_the_command_but_not_the_program():
 @check
 def ctrl_c_does_not_stop_a_command_that_computes():
     with Desk() as desk, console(desk, "--save", "saved.dxf") as terminal:
-        for prompt, typed in (("Command: ", "zv_netrax"), ("[Settings]: ", "0,0"), ("corner point: ", "5000,5000"),
-                              ("[<Apply>/Settings]: ", "A")):
-            answer(terminal, prompt, typed + ENTER)
+        draw_grid(terminal, "0,0", "5000,5000")
         terminal.wait_for("Progress: [")
         terminal.interrupt()  # the terminal does so for Ctrl-C, unless a line is being edited
         leave(terminal)
@@ -175,8 +182,7 @@ def the_dialog_is_printed_at_a_terminal_and_worked_by_lines():
 def the_meter_is_a_bar_that_goes_away():
     with Desk() as desk:
         with console(desk) as terminal:
-            for line in GRID.splitlines():
-                answer(terminal, ": ", line + ENTER)
+            draw_grid(terminal)
             leave(terminal)
         bars = terminal.raw.split(b"\r")
         expect(b"Progress: [" + b"#" * 20 + b"." * 20 + b"] 50%\x1b[K" in bars, f"no bar at 50% in {bars}")
@@ -190,10 +196,7 @@ def a_narrow_terminal_gets_a_narrow_bar():
     with Desk() as desk:
         command = [str(desk.build / "arxhost"), "--module", "netrax.arx"]
         with Console(command, desk.folder, columns=50, HOME=str(desk / "home")) as terminal:
-            answer(terminal, "Command: ", "zv_netrax" + ENTER)
-            answer(terminal, "[Settings]: ", "10,20" + ENTER)
-            answer(terminal, "corner point: ", "260,170" + ENTER)
-            answer(terminal, "Settings]: ", "A" + ENTER)
+            draw_grid(terminal)
             leave(terminal)
         expect(b"\rProgress: [" + b"#" * 16 + b"." * 16 + b"] 50%\x1b[K" in terminal.raw, f"no such bar in {terminal.raw}")
 

@@ -97,6 +97,7 @@ TEST(ScriptFile, textsBoxesAndDialogsTakeTheRestOfTheLine)
         {"CLAYER my own layer \nU",      "c CLAYER|t my own layer |c U"          },
         {"SAVEAS \"a b.dxf\"\n",         "c SAVEAS|t \"a b.dxf\"|c <end>"        },
         {"0,0 10,10\nyes\nA\n",          "p 0,0|p 10,10|b yes|k A"               },
+        {"5,5 yes please\nA\n",          "p 5,5|b yes please|k A"                },
         {"S set 138 x = \nclick 1\n1,1", "p S|d set 138 x = |d click 1|p 1,1"    },
         {"CLAYER \nS\n\n0,0",            "c CLAYER|t <Enter>|p S|d <Enter>|p 0,0"},
     });
