@@ -11,7 +11,7 @@ namespace
 // Nothing for Enter and for Esc. Quotes, as names with blanks have them, do not count.
 std::optional<std::filesystem::path> askFile(Editor& editor, const wchar_t* prompt)
 {
-    auto name = askLine(editor, Question::Kind::text, prompt);
+    auto name = askLine(editor, Question::Kind::name, prompt);
     if (name)
     {
         std::erase(*name, L'"');

@@ -23,6 +23,7 @@ struct Question
         corner,
         distance,
         keyword,
+        name,  // one word, or several between double quotes
         text,
         messageBox,
         dialog

@@ -17,7 +17,7 @@ std::wstring theName;
 // Nothing for Enter and for Esc.
 std::optional<std::wstring> askName(Editor& editor)
 {
-    while (const auto name = askLine(editor, Question::Kind::text, L"Enter variable name: "))
+    while (const auto name = askLine(editor, Question::Kind::name, L"Enter variable name: "))
     {
         if (name->empty())
         {
@@ -130,9 +130,10 @@ void setvarCommand()
         return;
     }
     const VariableInfo info = *variableInfo(*name);
+    const auto kind = info.type == VariableType::text ? Question::Kind::text : Question::Kind::name;
     for (;;)
     {
-        const auto text = askLine(editor, Question::Kind::text, valuePrompt(info));
+        const auto text = askLine(editor, kind, valuePrompt(info));
         if (!text)
         {
             return;

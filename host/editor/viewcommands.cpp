@@ -55,7 +55,7 @@ void usePlanOf(const AcGeMatrix3d& frame)
 // Coordinate systems get no names here, so there is none to be found.
 void planOfNamedUcs(Editor& editor)
 {
-    const auto name = askLine(editor, Question::Kind::text, L"Enter name of UCS: ");
+    const auto name = askLine(editor, Question::Kind::name, L"Enter name of UCS: ");
     if (name && !name->empty())
     {
         editor.printLine(L"Cannot find UCS " + *name + L".");
@@ -87,7 +87,7 @@ void dviewCommand()
 {
     Editor& editor = *Editor::current();
     const wchar_t* const select = L"Select objects or <use DVIEWBLOCK>: ";
-    const auto selected = askLine(editor, Question::Kind::text, select);
+    const auto selected = askLine(editor, Question::Kind::name, select);
     if (!selected)
     {
         return;

@@ -15,7 +15,7 @@ std::optional<std::filesystem::path> askPath(Editor& editor, const Document& doc
 {
     const std::wstring shown =
         document.path().empty() ? L"" : L" <" + std::wstring(document.fileName()) + L">";
-    auto name = askLine(editor, Question::Kind::text, L"Save drawing as" + shown + L": ");
+    auto name = askLine(editor, Question::Kind::name, L"Save drawing as" + shown + L": ");
     if (!name)
     {
         return std::nullopt;

@@ -245,6 +245,17 @@ def a_script_file_of_the_CAD_program_works_the_dialog_by_lines():
 
 
 @check
+def host_commands_take_their_answers_from_one_line_of_a_script_file():
+    with Desk() as desk:
+        (desk / "all.scr").write_text('SETVAR UCSICON 1 DVIEW  TW 30  SAVEAS "a b.dxf" VIEWTWIST \n')
+        run = desk.run("--script", "all.scr")
+        expect_equal((run.status, run.errors), (0, ""), "result")
+        for line in ("UCSICON = 1", "VIEWTWIST = 30"):
+            expect(line in run.said.split("\n"), f"no line {line!r} in {run.said!r}")
+        expect((desk / "a b.dxf").exists(), "the drawing was not saved under its name")
+
+
+@check
 def a_quiet_run_prints_nothing_and_does_the_same():
     with Desk() as desk:
         desk.bring(PLAN)
