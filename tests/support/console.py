@@ -9,6 +9,8 @@ import struct
 import termios
 import time
 
+from report import Skipped
+
 PATIENCE = 20  # seconds; only a broken program lets them pass
 SEQUENCE = re.compile(rb"\x1b\[[0-9;?]*[A-Za-z]|\x1b[()][A-Z0-9]")
 
@@ -20,7 +22,10 @@ class Console:
         self.raw = b""    # all that was shown
         self._read = 0    # how much of the plain text has been waited for
         self.status = None
-        self._process, self._terminal = pty.fork()
+        try:
+            self._process, self._terminal = pty.fork()
+        except OSError as error:
+            raise Skipped(f"no pseudo-terminal: {error}") from error
         if self._process == 0:
             try:
                 os.chdir(folder)
