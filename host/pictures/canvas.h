@@ -6,17 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "host/pictures/color.h"
+
 namespace host
 {
-struct Color
-{
-    double red;
-    double green;
-    double blue;
-};
-
-inline constexpr Color black{0, 0, 0};
-inline constexpr Color white{1, 1, 1};
 inline constexpr Color face{0.941, 0.941, 0.941};
 inline constexpr Color shadow{0.627, 0.627, 0.627};
 inline constexpr Color edge{0.478, 0.478, 0.478};

@@ -1,7 +1,7 @@
 // The colours of the host's palette on paper.
 #pragma once
 
-#include "host/pictures/canvas.h"
+#include "host/pictures/color.h"
 
 namespace host
 {

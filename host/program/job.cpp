@@ -9,6 +9,8 @@
 #include "host/editor/editor.h"
 #include "host/editor/hostcommands.h"
 #include "host/pictures/dialogpicture.h"
+#include "host/plot/plot.h"
+#include "host/program/plotcommand.h"
 #include "host/program/saveas.h"
 #include "host/runtime/linker.h"
 #include "host/runtime/locale.h"
@@ -74,6 +76,24 @@ bool save(const Options& options, FrontEnd& frontEnd)
     return true;
 }
 
+bool plot(const Options& options, FrontEnd& frontEnd)
+{
+    if (options.plot.empty())
+    {
+        return true;
+    }
+    const Plotted plotted = plotDrawing(*documents().document()->database(), options.plot);
+    if (!plotted.error.empty())
+    {
+        frontEnd.report(plotted.error);
+    }
+    else if (!plotted.leftOut.empty())
+    {
+        frontEnd.report(options.plot + ": not drawn: " + plotted.leftOut);
+    }
+    return plotted.error.empty();
+}
+
 // Draws every dialog over the one before, so that the last one stays.
 bool runInputAndDraw(Editor& editor, const std::string& picture)
 {
@@ -99,6 +119,7 @@ bool runDocument(const Options& options, FrontEnd& frontEnd)
                                              : runInputAndDraw(editor, options.dialogPicture);
         // A run that was cut short has still drawn what it has drawn.
         done = save(options, frontEnd) && done;
+        done = plot(options, frontEnd) && done;
     }
     documents().close();
     linker().unloadAll();
@@ -112,6 +133,7 @@ int runJob(const Options& options, FrontEnd& frontEnd)
     setProductLocale(options.locale);
     registerHostCommands();
     registerSaveAs();
+    registerPlot();
     const bool done = openDocument(options, frontEnd) && runDocument(options, frontEnd);
     return done ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <map>
 
+#include "host/plot/plot.h"
 #include "host/runtime/locale.h"
 
 namespace host
@@ -42,6 +43,14 @@ void describe(CLI::App& app, Options& options, std::string& locale)
         ->default_str("en-US");
     app.add_option("--save", options.save, "save the drawing as DXF after the input has ended")
         ->type_name("FILE");
+    app.add_option("--plot", options.plot,
+                   "draw model space, all of it and looked at as in the drawing's view, after the "
+                   "input has ended")
+        ->type_name("FILE.png|pdf|svg")
+        ->check(CLI::Validator(
+            [](const std::string& file)
+            { return isPlotFile(file) ? "" : file + ": expected .png, .pdf or .svg"; },
+            ""));
     app.add_option("--dialog-picture", options.dialogPicture,
                    "draw the last dialog shown as it stood when it closed; without --script the "
                    "module's settings dialog is opened for it")

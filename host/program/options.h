@@ -15,6 +15,7 @@ struct Options
     std::filesystem::path module;
     std::string script;  // empty: the terminal or standard input as it is; "-" is standard input
     std::string save;    // empty: do not save
+    std::string plot;    // empty: do not plot
     LCID locale;
     std::string dialogPicture;  // empty: none
     bool trace = false;

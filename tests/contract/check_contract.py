@@ -4,6 +4,7 @@ import answers  # noqa: F401
 import badfiles  # noqa: F401
 import dialog  # noqa: F401
 import files  # noqa: F401
+import plot  # noqa: F401
 import session  # noqa: F401
 import terminal  # noqa: F401
 from common import need_built, run_all

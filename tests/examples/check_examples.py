@@ -40,6 +40,10 @@ def the_example_draws_two_grids_and_says_where():
     results = re.findall(r"^saved: (.*)$", run.stdout, re.M)
     wanted = [str(ROOT / "out" / name) for name in ("site-lines.dxf", "site-grid.dxf")]
     expect_equal(results, wanted, "results")
+    plots = re.findall(r"^plotted: (.*)$", run.stdout, re.M)
+    expect_equal(plots, [result.replace(".dxf", ".png") for result in results], "plots")
+    for plot in plots:
+        expect(Path(plot).read_bytes().startswith(b"\x89PNG"), plot)
     doc = ezdxf.readfile(results[1])
     audit = doc.audit()
     expect_equal((len(audit.errors), len(audit.fixes)), (0, 0), "the auditor's errors and fixes")

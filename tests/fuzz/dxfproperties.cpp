@@ -10,6 +10,8 @@
 #include "host/database/drawing.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/save_atomic.h"
+#include "host/plot/paper.h"
+#include "host/plot/scene.h"
 
 using namespace host::dxf;
 
@@ -119,8 +121,17 @@ std::string complaintAboutChanges(AcDbDatabase& database)
                : "saved with changes it has another number of entities";
 }
 
+// Looks at all that a plot would show.
+void look(const TagFile& file)
+{
+    host::plot::Scene scene(file, 2000);
+    host::plot::Extents extents(AcGeMatrix3d::kIdentity);
+    scene.draw(extents);
+}
+
 std::string complaintAboutSaving(std::string_view bytes, AcDbDatabase& database)
 {
+    look(sourceOf(database.core()).file);
     const std::string unchanged = saved(database);
     if (sourceOf(database.core()).file.repairedRecords().empty() && unchanged != bytes)
         return "saved unchanged it has other bytes";

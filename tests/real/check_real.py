@@ -183,6 +183,15 @@ def a_cancelled_run_saves_the_opened_file(drawing):
         expect(same, "the saved file differs from the opened one")
 
 
+def a_plot_leaves_out_only_what_has_no_lines_of_its_own(drawing):
+    with Desk() as desk:
+        desk.bring(drawing.path)
+        run = desk.run("drawing.dxf", "--plot", "plot.png", script="")
+        expect_equal(run.status, 0, f"exit status ({run.errors.strip()})")
+        left_out = set(re.findall(r"\d+ ([A-Z_0-9]+)", run.errors.partition("not drawn: ")[2]))
+        expect_equal(left_out - {"ACAD_TABLE", "IMAGE", "MESH", "PDFUNDERLAY", "SHAPE", "WIPEOUT"}, set(), "left out")
+
+
 def is_repaired(path):
     """Records that share handles get new ones, it is told, and the result has fewer faults than the file."""
     with Desk() as desk:
@@ -231,7 +240,8 @@ def main():
     for path in readable:
         drawing = Drawing(path)
         tests = [the_old_content_is_unchanged, the_new_content_is_what_the_transcript_tells,
-                 no_rule_of_the_tags_is_broken_that_was_not, a_cancelled_run_saves_the_opened_file]
+                 no_rule_of_the_tags_is_broken_that_was_not, a_cancelled_run_saves_the_opened_file,
+                 a_plot_leaves_out_only_what_has_no_lines_of_its_own]
         if not is_binary(path):  # which neither of the two reads
             tests.append(gdal_and_dxflib_see_the_grid)
         if can_be_read_by_ezdxf(path):

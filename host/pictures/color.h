@@ -1,0 +1,16 @@
+// A colour as pictures have it.
+#pragma once
+
+namespace host
+{
+// Each part from 0 to 1.
+struct Color
+{
+    double red;
+    double green;
+    double blue;
+};
+
+inline constexpr Color black{0, 0, 0};
+inline constexpr Color white{1, 1, 1};
+}  // namespace host

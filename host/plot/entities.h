@@ -1,0 +1,25 @@
+// Each kind of entity as shapes. What its tags do not make is drawn as nothing.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "host/dxf/codepage.h"
+#include "host/plot/entitytags.h"
+#include "host/plot/pen.h"
+
+namespace host::plot
+{
+// Whether the kind of entity is one that is drawn. Not for what is made of several records or of
+// a block. The pen draws in the coordinates of the space or block that holds the entity.
+bool drawEntity(const EntityTags& entity, const dxf::CodePage& codePage, const Pen& pen);
+
+// A POLYLINE with the vertices that follow it.
+void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertices, const Pen& pen);
+
+void drawLightPolyline(const EntityTags& polyline, const Pen& pen);
+void drawHatch(const EntityTags& hatch, const Pen& pen);
+void drawText(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen);
+void drawAttributeDefinition(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen);
+void drawParagraphs(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen);
+}  // namespace host::plot

@@ -1,0 +1,94 @@
+#include "host/plot/plot.h"
+
+#include <array>
+#include <filesystem>
+
+#include "host/database/drawing.h"
+#include "host/dxf/filesource.h"
+#include "host/dxf/save_atomic.h"
+#include "host/editor/view.h"
+#include "host/plot/paper.h"
+#include "host/plot/scene.h"
+
+namespace host
+{
+namespace
+{
+using namespace plot;
+
+std::optional<FileKind> kindOf(const std::string& path)
+{
+    const std::array<std::pair<const char*, FileKind>, 3> kinds{
+        {{".png", FileKind::png}, {".pdf", FileKind::pdf}, {".svg", FileKind::svg}}
+    };
+    std::string extension = std::filesystem::path(path).extension().string();
+    for (char& letter : extension)
+    {
+        letter = letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
+    }
+    for (const auto& [name, kind] : kinds)
+    {
+        if (extension == name)
+        {
+            return kind;
+        }
+    }
+    return std::nullopt;
+}
+
+// What the drawing's file would be by now.
+dxf::TagFile asSaved(AcDbDatabase& database)
+{
+    std::string text;
+    dxf::withChanges(database.core(),
+                     [&text](const dxf::Edits& edits)
+                     {
+                         dxf::TagWriter writer([&text](std::string_view bytes) { text += bytes; },
+                                               edits.file().style());
+                         edits.write(writer);
+                         writer.flush();
+                     });
+    return dxf::TagFile::fromText(text, "drawing");
+}
+
+std::string plotted(Scene& scene, const View& view, FileKind kind)
+{
+    const AcGeMatrix3d toView = viewFrame(view).inverse();
+    Extents extents(toView);
+    scene.draw(extents);
+    Paper paper(kind, toView, extents.window());
+    scene.draw(paper);
+    return paper.finish();
+}
+}  // namespace
+
+bool isPlotFile(const std::string& path)
+{
+    return kindOf(path).has_value();
+}
+
+Plotted plotDrawing(AcDbDatabase& database, const std::string& path)
+{
+    const auto kind = kindOf(path);
+    if (!kind)
+    {
+        return {path + ": expected a name that ends in .png, .pdf or .svg", {}};
+    }
+    try
+    {
+        const dxf::TagFile file = asSaved(database);
+        Scene scene(file);
+        const std::string bytes = plotted(scene, database.core().state.view, *kind);
+        if (bytes.empty())
+        {
+            return {path + ": cannot be drawn: out of memory", {}};
+        }
+        dxf::saveAtomically(path, {}, [&](dxf::TagWriter& writer) { writer.raw(bytes); });
+        return {{}, scene.leftOut()};
+    }
+    catch (const std::exception& error)
+    {
+        return {error.what(), {}};
+    }
+}
+}  // namespace host

@@ -1,0 +1,23 @@
+// Drawings on paper.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "dbmain.h"
+
+namespace host
+{
+struct Plotted
+{
+    std::string error;    // one line with the file's name; empty when the file was written
+    std::string leftOut;  // "1 IMAGE, 2 MESH": what could not be drawn
+};
+
+// Whether the name ends in ".png", ".pdf" or ".svg", in either case.
+bool isPlotFile(const std::string& path);
+
+// Model space as it would be saved, looked at as in the drawing's view, all of it, on white paper.
+// Writes the whole file or nothing.
+Plotted plotDrawing(AcDbDatabase& database, const std::string& path);
+}  // namespace host

@@ -1,0 +1,214 @@
+#include <algorithm>
+#include <cmath>
+
+#include "host/plot/curves.h"
+#include "host/plot/entities.h"
+
+namespace host::plot
+{
+namespace
+{
+enum PolylineFlag
+{
+    closedFlag = 1,
+    flag3d = 8,
+    meshFlag = 16,
+    closedAcrossFlag = 32,
+    facesFlag = 64
+};
+
+enum VertexFlag
+{
+    splineFrameFlag = 16,
+    meshVertexFlag = 64,
+    faceFlag = 128
+};
+
+AcGeVector3d unitLeft(const AcGePoint3d& from, const AcGePoint3d& to)
+{
+    const double length = std::hypot(to.x - from.x, to.y - from.y);
+    return length > 0 ? AcGeVector3d(from.y - to.y, to.x - from.x, 0) / length : AcGeVector3d();
+}
+
+// A ribbon along the chords of one segment, its width going evenly from one to the other.
+void drawWide(const Points& points, double startWidth, double endWidth, const Pen& pen)
+{
+    const std::size_t last = points.size() - 1;
+    Points left, right;
+    for (std::size_t i = 0; i <= last; ++i)
+    {
+        const AcGeVector3d before = unitLeft(points[i > 0 ? i - 1 : 0], points[i > 0 ? i : 1]);
+        const AcGeVector3d after =
+            unitLeft(points[i < last ? i : last - 1], points[i < last ? i + 1 : last]);
+        const double width = startWidth + (endWidth - startWidth) * double(i) / double(last);
+        const AcGeVector3d side = (before + after) * (width / 4);
+        left.push_back(points[i] + side);
+        right.push_back(points[i] - side);
+    }
+    left.insert(left.end(), right.rbegin(), right.rend());
+    pen.area({left});
+}
+
+void drawFlat(const std::vector<Vertex>& vertices, bool closed, const Pen& pen)
+{
+    pen.path(chain(vertices, closed), closed);
+    for (std::size_t i = 0; i + (closed ? 0 : 1) < vertices.size(); ++i)
+    {
+        const Vertex& from = vertices[i];
+        if (from.startWidth > 0 || from.endWidth > 0)
+        {
+            const AcGePoint3d to = vertices[(i + 1) % vertices.size()].point;
+            Points points = segment(from, to);
+            points.push_back(to);
+            drawWide(points, from.startWidth, from.endWidth, pen);
+        }
+    }
+}
+
+// `count` points across, in rows one after the other.
+void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
+{
+    const int flags = mesh.integer(70);
+    const auto rows =
+        std::size_t(std::max(mesh.integer(73) ? mesh.integer(73) : mesh.integer(71), 1));
+    const std::size_t across = points.size() / rows;
+    for (std::size_t row = 0; row < rows && across > 0; ++row)
+    {
+        const auto first = points.begin() + std::ptrdiff_t(row * across);
+        pen.path(Points(first, first + std::ptrdiff_t(across)), (flags & closedAcrossFlag) != 0);
+    }
+    for (std::size_t column = 0; column < across; ++column)
+    {
+        Points line;
+        for (std::size_t row = 0; row < rows; ++row)
+        {
+            line.push_back(points[row * across + column]);
+        }
+        pen.path(line, (flags & closedFlag) != 0);
+    }
+}
+
+// A face names up to four vertices from 1, with a minus where the edge that begins there is hidden.
+void drawFaceOf(const EntityTags& face, const Points& points, const Pen& pen)
+{
+    std::vector<int> corners;
+    for (int code = 71; code <= 74; ++code)
+    {
+        const int corner = face.integer(code);
+        if (corner != 0 && std::size_t(std::abs(corner)) <= points.size())
+        {
+            corners.push_back(corner);
+        }
+    }
+    const auto at = [&](std::size_t i)
+    { return points[std::size_t(std::abs(corners[i % corners.size()])) - 1]; };
+    for (std::size_t i = 0; i < corners.size(); ++i)
+    {
+        if (corners[i] > 0)
+        {
+            pen.path({at(i), at(i + 1)});
+        }
+    }
+}
+
+void drawFaces(std::span<const EntityTags> vertices, const Pen& pen)
+{
+    Points points;
+    for (const EntityTags& vertex : vertices)
+    {
+        const int flags = vertex.integer(70);
+        if ((flags & faceFlag) == 0 || (flags & meshVertexFlag) != 0)
+        {
+            points.push_back(vertex.point(10));
+        }
+        else
+        {
+            drawFaceOf(vertex, points, pen);
+        }
+    }
+}
+
+bool isOfFrame(const EntityTags& vertex)
+{
+    return (vertex.integer(70) & splineFrameFlag) != 0;
+}
+}  // namespace
+
+void drawLightPolyline(const EntityTags& polyline, const Pen& pen)
+{
+    const double elevation = polyline.real(38);
+    const double width = polyline.real(43);
+    std::vector<Vertex> vertices;
+    for (const dxf::Tag& tag : polyline.all())
+    {
+        if (tag.code == 10)
+        {
+            vertices.push_back({
+                {polyline.real(tag), 0, elevation},
+                0, width, width
+            });
+            continue;
+        }
+        if (vertices.empty())
+        {
+            continue;
+        }
+        Vertex& vertex = vertices.back();
+        double* const field = tag.code == 20   ? &vertex.point.y
+                              : tag.code == 40 ? &vertex.startWidth
+                              : tag.code == 41 ? &vertex.endWidth
+                              : tag.code == 42 ? &vertex.bulge
+                                               : nullptr;
+        if (field != nullptr)
+        {
+            *field = polyline.real(tag);
+        }
+    }
+    const bool closed = (polyline.integer(70) & closedFlag) != 0;
+    drawFlat(vertices, closed, pen.withinPlane(polyline.normal()));
+}
+
+void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertices, const Pen& pen)
+{
+    const int flags = polyline.integer(70);
+    if ((flags & facesFlag) != 0)
+    {
+        drawFaces(vertices, pen);
+        return;
+    }
+    const bool spatial = (flags & (flag3d | meshFlag)) != 0;
+    const double elevation = polyline.point(10).z;
+    const double startWidth = polyline.real(40);
+    const double endWidth = polyline.real(41);
+    std::vector<Vertex> flat;
+    Points points;
+    for (const EntityTags& vertex : vertices)
+    {
+        if (isOfFrame(vertex))
+        {
+            continue;
+        }
+        const AcGePoint3d point = vertex.point(10);
+        points.push_back(point);
+        flat.push_back({
+            {point.x, point.y, elevation},
+            vertex.real(42),
+            vertex.real(40, startWidth),
+            vertex.real(41, endWidth)
+        });
+    }
+    const bool closed = (flags & closedFlag) != 0;
+    if ((flags & meshFlag) != 0)
+    {
+        drawMesh(polyline, points, pen);
+    }
+    else if (spatial)
+    {
+        pen.path(points, closed);
+    }
+    else
+    {
+        drawFlat(flat, closed, pen.withinPlane(polyline.normal()));
+    }
+}
+}  // namespace host::plot

@@ -1,0 +1,41 @@
+// What takes the shapes of a drawing, one after the other.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "gepnt3d.h"
+#include "gevec3d.h"
+#include "host/pictures/color.h"
+
+namespace host::plot
+{
+using Points = std::vector<AcGePoint3d>;
+
+// One line of text. The vectors are the size of one capital's height: `along` the line, stretched
+// by the width factor, and `up` a capital.
+struct TextLine
+{
+    AcGePoint3d origin;
+    AcGeVector3d along;
+    AcGeVector3d up;
+    double across = 0;  // what of the text's width lies before the origin: 0 left, 1 right
+    double above = 0;   // what of a capital's height lies below it: 0 on the line, 1 hanging
+    std::wstring text;
+};
+
+// Everything is in WCS and finite.
+class Sink
+{
+public:
+    virtual ~Sink() = default;
+    virtual void path(const Points& points, bool closed, Color color) = 0;
+    // Filled between its loops: what lies within an even number of them is a hole.
+    virtual void area(const std::vector<Points>& loops, Color color) = 0;
+    virtual void dot(const AcGePoint3d& point, Color color) = 0;
+    // Without end; to both sides when `both`.
+    virtual void ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both,
+                     Color color) = 0;
+    virtual void text(const TextLine& line, Color color) = 0;
+};
+}  // namespace host::plot

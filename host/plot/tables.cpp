@@ -1,0 +1,103 @@
+#include "host/plot/tables.h"
+
+#include <cstdlib>
+
+#include "host/pictures/indexcolors.h"
+#include "host/plot/entitytags.h"
+#include "host/runtime/foldcase.h"
+
+namespace host::plot
+{
+namespace
+{
+// The CAD program never plots it: dimensions keep their points there.
+bool isDefpoints(std::string_view name)
+{
+    return equalNoCase(std::wstring(name.begin(), name.end()), L"Defpoints");
+}
+
+std::optional<int> trueColor(const EntityTags& tags)
+{
+    return tags.has(420) ? std::optional(tags.integer(420)) : std::nullopt;
+}
+}  // namespace
+
+OwnColor ownColor(int index, std::optional<int> rgb)
+{
+    if (rgb)
+    {
+        const auto part = [&](int shift) { return (*rgb >> shift & 255) / 255.0; };
+        return {
+            false, false, {part(16), part(8), part(0)}
+        };
+    }
+    return {index == 256, index == 0, indexColor(std::abs(index))};
+}
+
+Tables::Tables(const dxf::TagFile& file, const dxf::CodePage& codePage) : m_codePage(codePage)
+{
+    for (const dxf::Record& record : file.records("TABLES"))
+    {
+        if (file.typeName(record) == "LAYER")
+        {
+            readLayer(file, record);
+        }
+    }
+    readBlocks(file);
+}
+
+std::wstring Tables::key(std::string_view name) const
+{
+    return foldCase(m_codePage.decode(dxf::trimmed(name)));
+}
+
+void Tables::readLayer(const dxf::TagFile& file, const dxf::Record& record)
+{
+    const EntityTags tags(file, record);
+    const int index = tags.integer(62, 7);
+    Layer layer;
+    layer.color = ownColor(std::abs(index), trueColor(tags)).color;
+    layer.frozen = (tags.integer(70) & 1) != 0;
+    layer.shown = index >= 0 && tags.integer(290, 1) != 0 && !isDefpoints(tags.text(2));
+    m_layers[key(tags.text(2))] = layer;
+}
+
+void Tables::readBlocks(const dxf::TagFile& file)
+{
+    const std::span<const dxf::Record> records = file.records("BLOCKS");
+    for (std::size_t i = 0; i < records.size(); ++i)
+    {
+        if (file.typeName(records[i]) != "BLOCK")
+        {
+            continue;
+        }
+        const EntityTags head(file, records[i]);
+        const std::size_t first = i + 1;
+        while (i + 1 < records.size() && file.typeName(records[i + 1]) != "ENDBLK")
+        {
+            ++i;
+        }
+        m_blocks[key(head.text(2))] = {head.point(10), records.subspan(first, i + 1 - first)};
+    }
+}
+
+const Layer& Tables::layer(std::string_view name) const
+{
+    static const Layer usual;
+    const auto known = m_layersAsWritten.find(name);
+    if (known != m_layersAsWritten.end())
+    {
+        return *known->second;
+    }
+    const auto found = m_layers.find(key(name));
+    const Layer& layer = found != m_layers.end() ? found->second : usual;
+    m_layersAsWritten.emplace(name, &layer);
+    return layer;
+}
+
+const Block* Tables::block(std::string_view name) const
+{
+    const auto found = m_blocks.find(key(name));
+    return found != m_blocks.end() ? &found->second : nullptr;
+}
+}  // namespace host::plot

@@ -1,0 +1,192 @@
+#include <algorithm>
+#include <cmath>
+
+#include "host/geometry/ocs.h"
+#include "host/plot/entities.h"
+#include "host/plot/plaintext.h"
+#include "host/plot/typeface.h"
+
+namespace host::plot
+{
+namespace
+{
+enum HorizontalMode
+{
+    leftMode,
+    centerMode,
+    rightMode,
+    alignedMode,
+    middleMode,
+    fitMode
+};
+
+enum VerticalMode
+{
+    baselineMode,
+    bottomMode,
+    middleVertically,
+    topMode
+};
+
+enum TextFlag
+{
+    invisibleAttribute = 1,
+    backwards = 2,
+    upsideDown = 4
+};
+
+const double descent = 0.3;  // how far letters reach below the line
+
+// Of the height of a capital, 0 on the line.
+double aboveLine(int horizontal, int vertical)
+{
+    if (horizontal == middleMode || vertical == middleVertically)
+    {
+        return 0.5;
+    }
+    return vertical == bottomMode ? -descent : vertical == topMode ? 1 : 0;
+}
+
+// Between two points: stretched to lie from the one to the other.
+void stretch(TextLine& line, const AcGeVector3d& between, bool heightToo)
+{
+    const double width = textWidth(line.text);
+    if (width == 0 || between.lengthSqrd() == 0)
+    {
+        return;
+    }
+    const double height = heightToo ? between.length() / width : line.up.length();
+    line.along = between / width;
+    line.up = AcGeVector3d(-between.y, between.x, 0) * (height / between.length());
+}
+
+void place(TextLine& line, const EntityTags& text)
+{
+    const int horizontal = text.integer(72);
+    const int vertical = text.integer(text.type() == "TEXT" ? 73 : 74);
+    line.origin = text.point(10);
+    if (horizontal == alignedMode || horizontal == fitMode)
+    {
+        stretch(line, text.point(11) - text.point(10), horizontal == alignedMode);
+        return;
+    }
+    if (horizontal != leftMode || vertical != baselineMode)
+    {
+        line.origin = text.has(11) ? text.point(11) : text.point(10);
+    }
+    line.across = horizontal == rightMode                                ? 1
+                  : horizontal == centerMode || horizontal == middleMode ? 0.5
+                                                                         : 0;
+    line.above = aboveLine(horizontal, vertical);
+}
+
+void drawWords(const EntityTags& text, std::wstring words, const Pen& pen)
+{
+    const double height = text.real(40);
+    const double angle = text.radians(50);
+    TextLine line;
+    line.text = withoutPercentCodes(words);
+    line.along = AcGeVector3d(std::cos(angle), std::sin(angle), 0) * (height * text.real(41, 1));
+    line.up = AcGeVector3d(-std::sin(angle), std::cos(angle), 0) * height;
+    place(line, text);
+    line.up = line.up + line.along.normal() * (line.up.length() * std::tan(text.radians(51)));
+    const int flags = text.integer(71);
+    line.along = (flags & backwards) != 0 ? -line.along : line.along;
+    line.up = (flags & upsideDown) != 0 ? -line.up : line.up;
+    pen.withinPlane(text.normal()).text(line);
+}
+
+// Broken at blanks so that no line is wider, in heights of a capital; one word may be.
+std::vector<std::wstring> wrapped(const std::wstring& text, double width)
+{
+    std::vector<std::wstring> lines(1);
+    std::size_t at = 0;
+    while (at < text.size())
+    {
+        const std::size_t blank = std::min(text.find(L' ', at + 1), text.size());
+        const std::wstring word = text.substr(at, blank - at);
+        if (!lines.back().empty() && width > 0 && textWidth(lines.back() + word) > width)
+        {
+            lines.push_back(word.substr(word.find_first_not_of(L' ') == 1 ? 1 : 0));
+        }
+        else
+        {
+            lines.back() += word;
+        }
+        at = blank;
+    }
+    return lines;
+}
+
+std::wstring contents(const EntityTags& text, const dxf::CodePage& codePage)
+{
+    std::string bytes;  // a long text comes in pieces, which may part a character
+    for (const dxf::Tag& tag : text.all())
+    {
+        bytes += tag.code == 3 ? tag.value : std::string_view();
+    }
+    for (const dxf::Tag& tag : text.all())
+    {
+        bytes += tag.code == 1 ? tag.value : std::string_view();
+    }
+    return codePage.decode(bytes);
+}
+
+// In WCS; the angle counts only without a direction.
+AcGeVector3d directionOf(const EntityTags& text)
+{
+    const AcGeVector3d direction = text.point(11).asVector();
+    return text.has(11) && direction.lengthSqrd() > 0
+               ? direction / direction.length()
+               : Ocs(text.normal()).directionWcs(text.radians(50));
+}
+}  // namespace
+
+void drawText(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
+{
+    if (text.type() == "ATTRIB" && (text.integer(70) & invisibleAttribute) != 0)
+    {
+        return;
+    }
+    for (const dxf::Tag& tag : text.all())
+    {
+        if (tag.code == 1)
+        {
+            drawWords(text, codePage.decode(tag.value), pen);
+            return;
+        }
+    }
+}
+
+// Outside of blocks its tag is what is seen.
+void drawAttributeDefinition(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
+{
+    drawWords(text, codePage.decode(text.text(2)), pen);
+}
+
+void drawParagraphs(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
+{
+    const double height = text.real(40);
+    const double width = height > 0 ? text.real(41) / height : 0;
+    std::vector<std::wstring> lines;
+    for (const std::wstring& paragraph : paragraphs(contents(text, codePage)))
+    {
+        std::ranges::move(wrapped(paragraph, width), std::back_inserter(lines));
+    }
+    const int attachment = std::clamp(text.integer(71, 1), 1, 9) - 1;
+    const double spacing = 5.0 / 3.0 * text.real(44, 1);  // in heights, from line to line
+    const double all = spacing * double(lines.size() - 1) + 1;
+    TextLine line;
+    line.along = directionOf(text) * height;
+    line.up = Ocs(text.normal()).normal().crossProduct(line.along);
+    line.across = attachment % 3 / 2.0;
+    double down = 1 - all * (attachment / 3) / 2.0;  // from the given point to the first line
+    for (const std::wstring& words : lines)
+    {
+        line.text = words;
+        line.origin = text.point(10) - line.up * down;
+        down += spacing;
+        pen.text(line);
+    }
+}
+}  // namespace host::plot

@@ -1,0 +1,14 @@
+// The typeface of plots. Sizes are in heights of a capital.
+#pragma once
+
+#include <cairo.h>
+
+#include <string_view>
+
+namespace host::plot
+{
+double textWidth(std::wstring_view text);
+
+// At the origin of the context's coordinates, whose Y points upwards.
+void showText(cairo_t* cairo, std::wstring_view text);
+}  // namespace host::plot

@@ -1,0 +1,40 @@
+#include "host/program/plotcommand.h"
+
+#include "host/documents/documentmanager.h"
+#include "host/editor/commands.h"
+#include "host/editor/prompts.h"
+#include "host/plot/plot.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+void plotCommand()
+{
+    Editor& editor = *Editor::current();
+    auto name = askLine(editor, Question::Kind::name, L"Plot to file (.png, .pdf or .svg): ");
+    if (!name || name->empty())
+    {
+        return;
+    }
+    std::erase(*name, L'"');
+    const std::string path = toNativePath(*name);
+    const Plotted plotted = plotDrawing(*documents().document()->database(), path);
+    if (!plotted.error.empty())
+    {
+        editor.printLine(fromUtf8(plotted.error));
+    }
+    else if (!plotted.leftOut.empty())
+    {
+        editor.printLine(fromUtf8(path + ": not drawn: " + plotted.leftOut));
+    }
+}
+}  // namespace
+
+void registerPlot()
+{
+    commandStack().addCommand(L"ACAD", L"PLOT", L"PLOT", ACRX_CMD_NO_UNDO_MARKER, plotCommand,
+                              nullptr, -1, nullptr, nullptr);
+}
+}  // namespace host

@@ -1,0 +1,7 @@
+// The command PLOT.
+#pragma once
+
+namespace host
+{
+void registerPlot();
+}  // namespace host

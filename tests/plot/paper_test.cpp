@@ -1,0 +1,185 @@
+#include "host/plot/paper.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "gemat3d.h"
+#include "host/plot/plot.h"
+#include "host/plot/typeface.h"
+
+using namespace host::plot;
+
+namespace
+{
+const host::Color red{1, 0, 0};
+const AcGeMatrix3d plan;
+
+// A picture back as pixels.
+class Picture
+{
+public:
+    explicit Picture(std::string bytes) : m_bytes(std::move(bytes))
+    {
+        m_surface = cairo_image_surface_create_from_png_stream(
+            [](void* picture, unsigned char* data, unsigned length)
+            {
+                auto& self = *static_cast<Picture*>(picture);
+                if (self.m_bytes.copy(reinterpret_cast<char*>(data), length, self.m_at) < length)
+                {
+                    return CAIRO_STATUS_READ_ERROR;
+                }
+                self.m_at += length;
+                return CAIRO_STATUS_SUCCESS;
+            },
+            this);
+    }
+    ~Picture() { cairo_surface_destroy(m_surface); }
+
+    int width() const { return cairo_image_surface_get_width(m_surface); }
+    int height() const { return cairo_image_surface_get_height(m_surface); }
+    // From the lower left corner, parts of the sheet from 0 to 1.
+    unsigned at(double x, double y) const
+    {
+        const int column = std::min(int(x * width()), width() - 1);
+        const int row = std::min(int((1 - y) * height()), height() - 1);
+        const unsigned char* data = cairo_image_surface_get_data(m_surface) +
+                                    row * cairo_image_surface_get_stride(m_surface);
+        return reinterpret_cast<const unsigned*>(data)[column] & 0xFFFFFF;
+    }
+
+private:
+    std::string m_bytes;
+    std::size_t m_at = 0;
+    cairo_surface_t* m_surface;
+};
+
+const unsigned whitePixel = 0xFFFFFF, redPixel = 0xFF0000;
+}  // namespace
+
+TEST(Paper, showsTheWholeWindowWithAMarginUprightAndNotMirrored)
+{
+    Paper paper(FileKind::png, plan, {100, 200, 140, 220});
+    paper.area(
+        {
+            {{100, 200, 0}, {110, 200, 0}, {110, 205, 0}, {100, 205, 0}}
+    },
+        red);
+    const Picture picture(paper.finish());
+    EXPECT_EQ(picture.width(), 2400);
+    EXPECT_EQ(picture.height(), 1257);  // half as high, margins apart: 220 mm of 420
+    EXPECT_EQ(picture.at(0.1, 0.1), redPixel);
+    EXPECT_EQ(picture.at(0.9, 0.1), whitePixel);
+    EXPECT_EQ(picture.at(0.1, 0.9), whitePixel);
+    EXPECT_EQ(picture.at(0.01, 0.01), whitePixel) << "the margin";
+}
+
+TEST(Paper, theViewDecidesWhatIsUp)
+{
+    // Seen turned by a quarter: what lies at the right in the world is on top.
+    const AcGeMatrix3d quarter = AcGeMatrix3d::rotation(M_PI / 2, AcGeVector3d::kZAxis);
+    Extents extents(quarter);
+    extents.path(
+        {
+            {0,  0,  0},
+            {30, 0,  0},
+            {30, 10, 0}
+    },
+        false, red);
+    EXPECT_NEAR(extents.window().left, -10, 1e-9);
+    EXPECT_NEAR(extents.window().top, 30, 1e-9);
+    Paper paper(FileKind::png, quarter, extents.window());
+    paper.area(
+        {
+            {{20, 0, 0}, {30, 0, 0}, {30, 10, 0}, {20, 10, 0}}
+    },
+        red);
+    const Picture picture(paper.finish());
+    EXPECT_LT(picture.width(), picture.height());
+    EXPECT_EQ(picture.at(0.5, 0.9), redPixel);
+    EXPECT_EQ(picture.at(0.5, 0.3), whitePixel);
+}
+
+TEST(Paper, anAreaHasHoles)
+{
+    Paper paper(FileKind::png, plan, {0, 0, 10, 10});
+    paper.area(
+        {
+            {{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}},
+            {{3, 3, 0}, {7, 3, 0},  {7, 7, 0},   {3, 7, 0} }
+    },
+        red);
+    const Picture picture(paper.finish());
+    EXPECT_EQ(picture.at(0.5, 0.5), whitePixel);
+    EXPECT_EQ(picture.at(0.1, 0.5), redPixel);
+}
+
+TEST(Paper, endlessLinesReachTheEdgeOfTheSheet)
+{
+    const struct
+    {
+        const char* what;
+        AcGePoint3d from;
+        AcGeVector3d along;
+        bool both;
+        std::array<bool, 2> leftAndRight;
+    } rows[] = {
+        {"to the right",        {5, 5, 0},     {0.001, 0, 0}, false, {false, true} },
+        {"to the left",         {5, 5, 0},     {-7, 0, 0},    false, {true, false} },
+        {"both ways",           {5, 5, 0},     {1, 0, 0},     true,  {true, true}  },
+        {"from far away",       {-1e12, 5, 0}, {1, 0, 0},     false, {true, true}  },
+        {"away from the sheet", {1e12, 5, 0},  {1, 0, 0},     false, {false, false}},
+        {"far off",             {5, 1e12, 0},  {1, 0, 0},     true,  {false, false}},
+        {"towards the viewer",  {5, 5, 0},     {0, 0, 1},     true,  {false, false}},
+    };
+    for (const auto& row : rows)
+    {
+        Paper paper(FileKind::png, plan, {0, 0, 10, 10});
+        paper.ray(row.from, row.along, row.both, red);
+        const Picture picture(paper.finish());
+        EXPECT_EQ(picture.at(0, 0.5) != whitePixel, row.leftAndRight[0]) << row.what;
+        EXPECT_EQ(picture.at(1, 0.5) != whitePixel, row.leftAndRight[1]) << row.what;
+    }
+}
+
+TEST(Paper, aTextIsAsHighAsItsCapitalsAndLiesOnItsLine)
+{
+    const TextLine line{
+        {0,  0,  0},
+        {10, 0,  0},
+        {0,  10, 0},
+        0, 0, L"H"
+    };
+    Extents extents(plan);
+    extents.text(line, red);
+    EXPECT_NEAR(extents.window().height(), 10, 1e-9);
+    EXPECT_NEAR(extents.window().width(), textWidth(L"H") * 10, 1e-9);
+    Paper paper(FileKind::png, plan, {0, 0, 10, 10});
+    paper.text(line, red);
+    const Picture picture(paper.finish());
+    const double stem = 10.0 / 420 + 0.13 * 400 / 420;  // of the letter, within the sheet
+    EXPECT_EQ(picture.at(stem, 0.05), redPixel);
+    EXPECT_EQ(picture.at(stem, 0.95), redPixel);
+    EXPECT_EQ(picture.at(stem, 0.985), whitePixel);
+}
+
+TEST(Paper, anEmptyDrawingIsAnEmptySheet)
+{
+    for (const FileKind kind : {FileKind::png, FileKind::pdf, FileKind::svg})
+    {
+        EXPECT_FALSE(Paper(kind, plan, {}).finish().empty());
+    }
+    EXPECT_EQ(Picture(Paper(FileKind::png, plan, {}).finish()).at(0.5, 0.5), whitePixel);
+}
+
+TEST(Paper, theEndOfTheNameIsTheKindOfFile)
+{
+    for (const char* name : {"a.png", "A.PDF", "x/y.z/plan.Svg"})
+    {
+        EXPECT_TRUE(host::isPlotFile(name)) << name;
+    }
+    for (const char* name : {"", "png", "a.dxf", "a.png/", "a.png "})
+    {
+        EXPECT_FALSE(host::isPlotFile(name)) << name;
+    }
+}
