@@ -16,6 +16,19 @@ bool isDefpoints(std::string_view name)
     return equalNoCase(std::wstring(name.begin(), name.end()), L"Defpoints");
 }
 
+// A record whose numbers are none is as good as missing.
+template <class Read>
+void readable(const Read& read)
+{
+    try
+    {
+        read();
+    }
+    catch (const dxf::Error&)
+    {
+    }
+}
+
 std::optional<int> trueColor(const EntityTags& tags)
 {
     return tags.has(420) ? std::optional(tags.integer(420)) : std::nullopt;
@@ -40,7 +53,7 @@ Tables::Tables(const dxf::TagFile& file, const dxf::CodePage& codePage) : m_code
     {
         if (file.typeName(record) == "LAYER")
         {
-            readLayer(file, record);
+            readable([&] { readLayer(file, record); });
         }
     }
     readBlocks(file);
@@ -77,7 +90,9 @@ void Tables::readBlocks(const dxf::TagFile& file)
         {
             ++i;
         }
-        m_blocks[key(head.text(2))] = {head.point(10), records.subspan(first, i + 1 - first)};
+        Block& block = m_blocks[key(head.text(2))];
+        block.records = records.subspan(first, i + 1 - first);
+        readable([&] { block.base = head.point(10); });
     }
 }
 

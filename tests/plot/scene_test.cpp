@@ -63,6 +63,15 @@ TEST(PlotOfADrawing, anEntityHasItsOwnColourOrThatOfItsLayer)
     }
 }
 
+TEST(PlotOfADrawing, aLayerOrBlockWithoutNumbersIsAUsualOne)
+{
+    EXPECT_EQ(
+        drawn("0 SECTION 2 TABLES 0 TABLE 2 LAYER 0 LAYER 2 A 70 0 62 red 0 ENDTAB 0 ENDSEC " +
+              blocks(block("M", "0 POINT 8 A 10 1 20 1", "10 x 20 0")) +
+              entities("0 INSERT 8 0 2 M 10 0 20 0")),
+        "dot 1,1\n");
+}
+
 TEST(PlotOfADrawing, aBlockIsMovedTurnedScaledAndRepeated)
 {
     const std::string mark = blocks(block("Mark", "0 LINE 8 0 10 1 20 1 11 3 21 1", "10 1 20 1"));
