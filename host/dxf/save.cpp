@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <map>
+#include <optional>
 
 #include "host/database/access.h"
 #include "host/database/drawing.h"
@@ -15,30 +16,45 @@ namespace host::dxf
 {
 namespace
 {
-// The value of the record's first tag with that code; the tag is added if there is none.
-void setInteger(Edits& edits, const Record& record, int code, int value)
-{
-    for (const Tag& tag : edits.file().tags(record))
-    {
-        if (tag.code == code)
-        {
-            edits.setValue(tag, std::to_string(value));
-            return;
-        }
-    }
-    edits.insert(record.end, [=](TagWriter& writer) { writer.integer(code, value); });
-}
-
-int firstInteger(const TagFile& file, const Record& record, int code, int fallback)
+// The record's first tag with that code; applications' own data, from code 1001 on, is not asked.
+std::optional<Tag> firstTag(const TagFile& file, const Record& record, int code)
 {
     for (const Tag& tag : file.tags(record))
     {
         if (tag.code == code)
         {
-            return int(file.integer(tag));
+            return tag;
+        }
+        if (tag.code == 1001)
+        {
+            break;
         }
     }
-    return fallback;
+    return std::nullopt;
+}
+
+// Where what is added to a record goes: before applications' own data.
+std::size_t endOfOwnTags(const TagFile& file, const Record& record)
+{
+    const std::optional<Tag> data = firstTag(file, record, 1001);
+    return data ? data->begin : record.end;
+}
+
+void setInteger(Edits& edits, const Record& record, int code, int value)
+{
+    if (const std::optional<Tag> tag = firstTag(edits.file(), record, code))
+    {
+        edits.setValue(*tag, std::to_string(value));
+        return;
+    }
+    edits.insert(endOfOwnTags(edits.file(), record),
+                 [=](TagWriter& writer) { writer.integer(code, value); });
+}
+
+int firstInteger(const TagFile& file, const Record& record, int code, int fallback)
+{
+    const std::optional<Tag> tag = firstTag(file, record, code);
+    return tag ? int(file.integer(*tag)) : fallback;
 }
 
 void saveLayers(Edits& edits, const FileSource& source)
@@ -179,19 +195,6 @@ NewGroups newGroups(const DatabaseCore& core)
     return groups;
 }
 
-// Where a new entry goes: after the last tag that is not an application's own data.
-std::size_t endOfEntries(const TagFile& file, const Record& dictionary)
-{
-    for (const Tag& tag : file.tags(dictionary))
-    {
-        if (tag.code == 1001)
-        {
-            return tag.begin;
-        }
-    }
-    return dictionary.end;
-}
-
 void writeEntry(std::string_view key, std::uint64_t handle, TagWriter& writer)
 {
     writer.text(3, key);
@@ -261,11 +264,11 @@ void saveGroups(Edits& edits, DatabaseCore& core)
     const Producer rootEntry = [own](TagWriter& writer) { writeEntry("ACAD_GROUP", own, writer); };
     if (!isNew)
     {
-        edits.insert(endOfEntries(source.file, *source.groupDictionary), entries);
+        edits.insert(endOfOwnTags(source.file, *source.groupDictionary), entries);
     }
     else if (source.rootDictionary != nullptr)
     {
-        edits.insert(endOfEntries(source.file, *source.rootDictionary), rootEntry);
+        edits.insert(endOfOwnTags(source.file, *source.rootDictionary), rootEntry);
     }
     if (source.rootDictionary != nullptr)
     {

@@ -81,6 +81,12 @@ void Editor::traceLine(std::wstring_view line)
     }
 }
 
+void Editor::fail(std::wstring_view line)
+{
+    report(line);
+    m_failed = true;
+}
+
 void Editor::report(std::wstring_view line) const
 {
     m_frontEnd.report(toUtf8(line));

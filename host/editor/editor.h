@@ -36,6 +36,7 @@ public:
     void printLine(std::wstring_view line);  // on a line of its own
     void traceLine(std::wstring_view line);  // likewise, if events are to be told
     void report(std::wstring_view line) const;
+    void fail(std::wstring_view line);  // likewise, and the session ends with a failure
     void showMeter() { m_frontEnd.showMeter(meter); }  // whenever it has changed
 
     // Shows the prompt, waits for the answer, echoes it and ends the line.
@@ -52,6 +53,7 @@ public:
     // The input has ended, and it did so while a command was asking.
     bool inputEnded() const { return m_inputEnded; }
     bool endedInsideCommand() const { return m_unansweredQuestions > 0; }
+    bool failed() const { return m_failed; }
 
     std::vector<CommandPtr> active;  // outermost first
     std::wstring lastLine;           // what Enter at the command prompt starts again
@@ -76,6 +78,7 @@ private:
     std::optional<Answer> m_putBack;
     bool m_inputEnded = false;
     int m_unansweredQuestions = 0;
+    bool m_failed = false;
 };
 
 // Esc, or the end of the input, which counts as one.

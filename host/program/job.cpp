@@ -49,11 +49,11 @@ bool loadModule(const Options& options, FrontEnd& frontEnd)
     return !error;
 }
 
-// Whether the input ended where it may.
+// Whether the input ended where it may and all was done that it asked for.
 bool runInput(Editor& editor)
 {
     runCommands(editor);
-    return !editor.endedInsideCommand();
+    return !editor.endedInsideCommand() && !editor.failed();
 }
 
 bool save(const Options& options, FrontEnd& frontEnd)

@@ -24,12 +24,18 @@ fs::path programFolder()
     return error ? fs::current_path() : program.parent_path();
 }
 
+// An unset variable of a script must not pass for an option left out.
+const CLI::Validator someName([](const std::string& name)
+                              { return name.empty() ? "expected a file's name" : ""; },
+                              "");
+
 void describe(CLI::App& app, Options& options, std::string& locale)
 {
     app.name("arxhost");
     app.set_version_flag("--version", "arxhost " ARXHOST_VERSION);
     app.add_option("DRAWING", options.drawing,
-                   "DXF file to open; left out: a new, empty metric drawing");
+                   "DXF file to open; left out: a new, empty metric drawing")
+        ->check(someName);
     app.add_option("--module", options.module, "module to load")
         ->type_name("FILE")
         ->default_str("netrax.arx beside the program");
@@ -42,7 +48,8 @@ void describe(CLI::App& app, Options& options, std::string& locale)
         ->check(CLI::IsMember({"en-US", "ru-RU"}))
         ->default_str("en-US");
     app.add_option("--save", options.save, "save the drawing as DXF after the input has ended")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->check(someName);
     app.add_option("--plot", options.plot,
                    "draw model space, all of it and looked at as in the drawing's view, after the "
                    "input has ended")

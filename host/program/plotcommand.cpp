@@ -23,7 +23,7 @@ void plotCommand()
     const Plotted plotted = plotDrawing(*documents().document()->database(), path);
     if (!plotted.error.empty())
     {
-        editor.printLine(fromUtf8(plotted.error));
+        editor.fail(fromUtf8(plotted.error));
     }
     else if (!plotted.leftOut.empty())
     {

@@ -39,7 +39,7 @@ void saveAsCommand()
     linker().broadcast(AcRx::kSaveMsg);
     if (const auto error = saveDrawing(*document.database(), path->string()))
     {
-        editor.printLine(fromUtf8(*error));
+        editor.fail(fromUtf8(*error));
         return;
     }
     for (const std::string& loss : lossesOnSaving(*document.database()))

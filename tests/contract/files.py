@@ -31,7 +31,7 @@ def help_and_version_are_no_failure():
 def wrong_usage_ends_with_status_2():
     with Desk() as desk:
         for arguments in (["--nonsense"], ["a.dxf", "b.dxf"], ["--script"], ["--save"], ["--locale"],
-                          ["--locale", "fr-FR"]):
+                          ["--locale", "fr-FR"], [""], ["--save", ""], ["--plot", ""], ["--plot", "a.dxf"]):
             refused(desk, *arguments, status=2, script=None, module=None)
         expect_equal(sorted(p.name for p in desk.folder.iterdir()), ["netrax.arx"], "files")
 

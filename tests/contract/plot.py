@@ -31,5 +31,7 @@ def a_plot_that_cannot_be_written_fails_and_leaves_nothing():
         run = desk.run("--plot", "a.dxf", script="")
         expect_equal(run.status, 2, "exit status")
         run = desk.run(script="PLOT\na.dxf\nPLOT\n\n")
-        expect("a.dxf: expected a name that ends in .png, .pdf or .svg\n" in run.said, run.said)
+        expect_equal((run.status, run.errors),
+                     (1, "arxhost: a.dxf: expected a name that ends in .png, .pdf or .svg\n"), "result")
+        expect_equal(desk.run(script="PLOT\n\n").status, 0, "exit status without a name")
         expect_equal(sorted(path.name for path in desk.folder.glob("*.dxf")), [], "files")

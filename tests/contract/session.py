@@ -1,7 +1,7 @@
 """What a session prints, where the options are, and the host's own commands."""
 import re
 
-from common import CORNERS, GRID, PLAN, ROOT, SUMMARY, Desk, check, expect, expect_equal, options_text
+from common import CORNERS, GRID, PLAN, ROOT, SUMMARY, Desk, check, expect, expect_equal, options_text, one_line
 
 
 @check
@@ -108,6 +108,16 @@ def quit_ends_the_session():
     with Desk() as desk:
         run = desk.run(script="QUIT\nzv_netrax\n")
         expect_equal((run.status, "Specify first" in run.said), (0, False), "result")
+
+
+@check
+def saveas_that_fails_is_told_once_and_fails_the_run():
+    with Desk() as desk:
+        desk.bring(PLAN)
+        run = desk.run("drawing.dxf", script="SAVEAS\nmissing/named.dxf\nUCSICON\n\n")
+        expect_equal(run.status, 1, "exit status")
+        expect(one_line(run.errors) and "missing/named.dxf" in run.errors, run.errors)
+        expect("UCSICON" in run.said, "the session did not go on")
 
 
 @check

@@ -1,4 +1,6 @@
 """arxhost at a terminal, script files of the CAD program, and runs that print nothing."""
+import signal
+
 from common import CORNERS, GRID, PLAN, Desk, check, expect, expect_equal, one_line
 from console import Console
 
@@ -34,6 +36,17 @@ def a_line_can_be_edited_at_a_terminal():
         answer(terminal, "Command: ", "XШАГZ" + LEFT + BACKSPACE + "Ы" + ENTER)
         terminal.wait_for('Unknown command "XШАЫZ".')
         leave(terminal)
+
+
+@check
+def a_session_that_is_terminated_leaves_the_terminal_as_it_was():
+    for number in (signal.SIGTERM, signal.SIGHUP):
+        with Desk() as desk, console(desk) as terminal:
+            terminal.wait_for("Command: ")
+            expect(not terminal.echoes, "the terminal echoes while a line is edited")
+            terminal.send(number)
+            expect_equal(terminal.wait_for_end(), -number, "exit status")
+            expect(terminal.echoes, f"signal {number} leaves the terminal silent")
 
 
 @check
@@ -146,7 +159,7 @@ def ctrl_c_does_not_stop_a_command_that_computes():
     with Desk() as desk, console(desk, "--save", "saved.dxf") as terminal:
         draw_grid(terminal, "0,0", "5000,5000")
         terminal.wait_for("Progress: [")
-        terminal.interrupt()  # the terminal does so for Ctrl-C, unless a line is being edited
+        terminal.send(signal.SIGINT)  # the terminal does so for Ctrl-C, unless a line is being edited
         leave(terminal)
         expect("\nAcDbGroup\n" in (desk / "saved.dxf").read_text(), "the grid was not kept")
 

@@ -183,6 +183,26 @@ TEST_F(Drawing, aLayerThatWasThawedUnlockedAndSwitchedOnIsSavedSo)
     EXPECT_EQ(count(after, "\n 62\n-3\n"), 0u);
 }
 
+TEST_F(Drawing, whatALayerIsGivenStandsBeforeTheDataOfApplications)
+{
+    std::string text = host::dxf::emptyDrawing();
+    const std::size_t layer = text.find("\n  2\n0\n", text.find("AcDbLayerTableRecord"));
+    const std::size_t color = text.find("\n 62\n", layer);
+    text.erase(color, std::string("\n 62\n7").size());
+    const std::size_t end = text.find("\n  0\n", layer);
+    text.insert(end, "\n1001\nACAD\n1070\n62");
+    const auto database = opened(text);
+    {
+        AcDbSymbolTableRecordPointer<AcDbLayerTableRecord> zero(L"0", database.get(),
+                                                                AcDb::kForWrite);
+        ASSERT_EQ(zero.openStatus(), Acad::eOk);
+        zero->setIsOff(true);
+    }
+    const std::string after = saved(*database);
+    EXPECT_NE(after.find("\n 62\n-7\n1001\nACAD\n1070\n62\n"), after.npos)
+        << after.substr(after.rfind("AcDbLayerTableRecord"), 120);
+}
+
 TEST_F(Drawing, currentPropertiesComeFromTheHeader)
 {
     const auto database = changed("$CECOLOR\n 62\n256", "$CECOLOR\n 62\n3");

@@ -51,8 +51,13 @@ class Console:
     def type(self, text):
         os.write(self._terminal, text.encode())
 
-    def interrupt(self):
-        os.kill(self._process, signal.SIGINT)
+    def send(self, number):
+        os.kill(self._process, number)
+
+    @property
+    def echoes(self):
+        """Whether the terminal itself shows what is typed, as it does for a shell's ordinary programs."""
+        return bool(termios.tcgetattr(self._terminal)[3] & termios.ECHO)
 
     def resize(self, columns):
         fcntl.ioctl(self._terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 40, columns, 0, 0))
