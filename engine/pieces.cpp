@@ -1,5 +1,7 @@
 #include "engine/pieces.h"
 
+#include <vector>
+
 #include "engine/pointtests.h"
 #include "output/entities.h"
 #include "output/tolerance.h"
@@ -18,7 +20,34 @@ bool PieceClipper::meetOutline(const Piece& piece, AcDb::Intersect mode,
     return line.intersectWith(&m_boundary, mode, points) == Acad::eOk;
 }
 
-// Of the pieces of one line the first notes its ends.
+namespace
+{
+// One of the lines that the pieces make up.
+struct WholeLine
+{
+    Piece piece;
+    bool isNoted;  // its label points have been asked for
+};
+}  // namespace
+
+static std::vector<WholeLine> wholeLines(const GridRequest& request, const std::vector<double>& at,
+                                         int axis, double elevation)
+{
+    std::vector<WholeLine> lines(at.size());
+    for (std::size_t i = 0; i < at.size(); ++i)
+    {
+        Piece& piece = lines[i].piece;
+        piece.start = AcGePoint3d(request.corner1.x, request.corner1.y, elevation);
+        piece.end = AcGePoint3d(request.corner2.x, request.corner2.y, elevation);
+        piece.start[axis] = at[i];
+        piece.end[axis] = at[i];
+        lines[i].isNoted = false;
+    }
+    return lines;
+}
+
+// Of the pieces of one line the first that is drawn notes its ends; the others would find them
+// noted.
 static void noteLabelPoints(const PieceClipper& clipper, const Piece& wholeLine,
                             AcGePoint3dArray& labelPoints)
 {
@@ -33,41 +62,23 @@ static void noteLabelPoints(const PieceClipper& clipper, const Piece& wholeLine,
 // wholeLine stands for the piece where its line is carried on. A piece that was cut short gives its
 // direction to a few units of the last place over its own length; a thousand lengths away, at
 // survey coordinates, each piece of one line would end at a point of its own.
-static void drawPiece(const GridRequest& request, const PieceClipper& clipper, Piece piece,
-                      const AcGePoint3d& node, const Piece& wholeLine,
+static void drawPiece(const GridRequest& request, const PieceClipper& clipper,
+                      const AcGePoint3d& node, const AcGeVector3d& half, WholeLine& wholeLine,
                       AcGePoint3dArray& labelPoints, GridDrawing& drawing)
 {
+    Piece piece = {node - half, node + half};
     if (!clipper.clip(piece, node))
     {
         return;
     }
     const AcDbObjectId id = addLine(clipper.isInUcs, piece.start, piece.end, request.Color, nullptr,
                                     nullptr, ACDB_MODEL_SPACE);
-    if (request.needText && !id.isNull())
+    if (request.needText && !wholeLine.isNoted && !id.isNull())
     {
-        noteLabelPoints(clipper, wholeLine, labelPoints);
+        noteLabelPoints(clipper, wholeLine.piece, labelPoints);
+        wholeLine.isNoted = true;
     }
     addMade(drawing, id);
-}
-
-static void drawVerticalPiece(const GridRequest& request, const PieceClipper& clipper,
-                              const AcGePoint3d& node, double length, GridDrawing& drawing)
-{
-    const AcGeVector3d half(0, length / 2, 0);
-    const Piece piece = {node - half, node + half};
-    const Piece wholeLine = {AcGePoint3d(node.x, request.corner1.y, node.z),
-                             AcGePoint3d(node.x, request.corner2.y, node.z)};
-    drawPiece(request, clipper, piece, node, wholeLine, drawing.xLabelPoints, drawing);
-}
-
-static void drawHorizontalPiece(const GridRequest& request, const PieceClipper& clipper,
-                                const AcGePoint3d& node, double length, GridDrawing& drawing)
-{
-    const AcGeVector3d half(length / 2, 0, 0);
-    const Piece piece = {node - half, node + half};
-    const Piece wholeLine = {AcGePoint3d(request.corner1.x, node.y, node.z),
-                             AcGePoint3d(request.corner2.x, node.y, node.z)};
-    drawPiece(request, clipper, piece, node, wholeLine, drawing.yLabelPoints, drawing);
 }
 
 void drawPieces(const GridRequest& request, const GridLines& lines, const PieceClipper& clipper,
@@ -81,13 +92,18 @@ void drawPieces(const GridRequest& request, const GridLines& lines, const PieceC
     }
     const double up = isContinuous ? request.VertStep : request.crossSize;
     const double across = isContinuous ? request.HorStep : request.crossSize;
+    const AcGeVector3d halfUp(0, up / 2, 0);
+    const AcGeVector3d halfAcross(across / 2, 0, 0);
+    std::vector<WholeLine> vertical = wholeLines(request, lines.x, 0, clipper.elevation);
+    std::vector<WholeLine> horizontal = wholeLines(request, lines.y, 1, clipper.elevation);
     for (std::size_t i = 0; i < lines.x.size(); ++i)
     {
         for (std::size_t j = 0; j < lines.y.size(); ++j)
         {
             const AcGePoint3d node(lines.x[i], lines.y[j], clipper.elevation);
-            drawVerticalPiece(request, clipper, node, up, drawing);
-            drawHorizontalPiece(request, clipper, node, across, drawing);
+            drawPiece(request, clipper, node, halfUp, vertical[i], drawing.xLabelPoints, drawing);
+            drawPiece(request, clipper, node, halfAcross, horizontal[j], drawing.yLabelPoints,
+                      drawing);
         }
     }
 }

@@ -90,6 +90,11 @@ CurveArea::CurveArea(const AcDbCurve& curve) : m_curve(curve), m_isPolyline(fals
     }
 }
 
+double CurveArea::widestTolerance()
+{
+    return (std::max)(listTolerance, AcGeContext::gTol.equalPoint());
+}
+
 int CurveArea::locate(const AcGePoint3d& P) const
 {
     const double largest = largestCoordinate(P);

@@ -30,6 +30,9 @@ public:
     // As pointInCurve.
     int locate(const AcGePoint3d& P) const;
 
+    // The largest of the tolerances that decide, drawing units; rounding apart.
+    static double widestTolerance();
+
 private:
     CurveArea(const CurveArea&);
     CurveArea& operator=(const CurveArea&);

@@ -1,5 +1,6 @@
 #include "engine/ucsgrid.h"
 
+#include "engine/cleararea.h"
 #include "engine/gridlabels.h"
 #include "engine/pieces.h"
 #include "engine/pointtests.h"
@@ -13,15 +14,28 @@ namespace
 class UcsClipper : public PieceClipper
 {
 public:
-    UcsClipper(const AcDbEntity& boundary, const AcDbCurve& rectangle)
-        : PieceClipper(boundary, true, currentUcs(), 0), m_area(rectangle)
+    // rectangle  [borrowed], open for read while this lives, from corner1 to corner2
+    UcsClipper(const AcDbEntity& boundary, const AcDbCurve& rectangle, const AcGePoint3d& corner1,
+               const AcGePoint3d& corner2)
+        : PieceClipper(boundary, true, currentUcs(), 0),
+          m_area(rectangle),
+          m_clear(AcGePoint3d(corner1.x, corner1.y, 0), AcGePoint3d(corner2.x, corner1.y, 0),
+                  AcGePoint3d(corner2.x, corner2.y, 0), AcGePoint3d(corner1.x, corner2.y, 0),
+                  CurveArea::widestTolerance())
     {
     }
 
     virtual bool clip(Piece& piece, const AcGePoint3d& node) const override;
 
 private:
+    bool isInside(const AcGePoint3d& point) const
+    {
+        const int place = m_clear.locate(point);
+        return (place != 0 ? place : m_area.locate(point)) == 1;
+    }
+
     const CurveArea m_area;
+    const ClearArea m_clear;
 };
 }  // namespace
 
@@ -29,8 +43,8 @@ private:
 // grid. Kept for the drawings that are checked against earlier ones.
 bool UcsClipper::clip(Piece& piece, const AcGePoint3d&) const
 {
-    const bool startIsInside = m_area.locate(piece.start) == 1;
-    const bool endIsInside = m_area.locate(piece.end) == 1;
+    const bool startIsInside = isInside(piece.start);
+    const bool endIsInside = isInside(piece.end);
     if (startIsInside == endIsInside)
     {
         return startIsInside;
@@ -81,7 +95,7 @@ static bool drawPiecesWithin(AcDbObjectId rectangleId, const GridRequest& reques
     }
     const GridLines lines = gridLines(request.corner1, request.corner2, request.basePoint,
                                       request.HorStep, request.VertStep);
-    const UcsClipper clipper(boundary, *rectangle.object());
+    const UcsClipper clipper(boundary, *rectangle.object(), request.corner1, request.corner2);
     drawPieces(request, lines, clipper, drawing);
     return true;
 }

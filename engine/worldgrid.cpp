@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/cleararea.h"
 #include "engine/pieces.h"
 #include "engine/pointtests.h"
 #include "engine/worldlabels.h"
@@ -15,20 +16,30 @@ namespace
 class WorldClipper : public PieceClipper
 {
 public:
+    // outline  [borrowed], at least four points
     WorldClipper(const AcDbEntity& boundary, const AcGePoint3dArray& outline, double elevation)
-        : PieceClipper(boundary, false, AcGeMatrix3d(), elevation), m_outline(outline)
+        : PieceClipper(boundary, false, AcGeMatrix3d(), elevation),
+          m_outline(outline),
+          m_clear(outline[0], outline[1], outline[2], outline[3], widestTolerance())
     {
     }
 
     virtual bool clip(Piece& piece, const AcGePoint3d& node) const override;
 
 private:
+    static double widestTolerance()
+    {
+        return (std::max)(AcGeContext::gTol.equalPoint(), AcGeContext::gTol.equalVector());
+    }
+
     bool isInside(const AcGePoint3d& point) const
     {
-        return pointInOutlinePoints(point, m_outline) == 1;
+        const int place = m_clear.locate(point);
+        return place != 0 ? place == 1 : pointInOutlinePoints(point, m_outline) == 1;
     }
 
     const AcGePoint3dArray& m_outline;
+    const ClearArea m_clear;
 };
 }  // namespace
 
@@ -112,6 +123,10 @@ void drawWorldGrid(GridRequest request, const AcDbEntity& boundary, GridDrawing&
     const FrameEdges edges = frameEdges(request);
     AcGePoint3dArray outline;
     boundary.getStretchPoints(outline);
+    if (outline.length() < 4)
+    {
+        return;
+    }
     widenTo(outline, request.corner1, request.corner2);
     const GridLines lines = gridLines(request.corner1, request.corner2, request.basePoint,
                                       request.HorStep, request.VertStep);
