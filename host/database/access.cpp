@@ -94,13 +94,20 @@ AcRxClass* typeOf(const AcDbStub* stub)
     return stub->object ? stub->object->isA() : nullptr;
 }
 
+// A line is one without being asked.
+static AcDbEntity* entityOf(const AcDbStub* stub)
+{
+    return stub->flags & AcDbStub::isLine ? static_cast<AcDbEntity*>(stub->object)
+                                          : AcDbEntity::cast(stub->object);
+}
+
 AcDbStub* layerOf(const AcDbStub* stub)
 {
     if (stub->packed())
     {
         return coreOf(stub).lineStyles[stub->style].layer;
     }
-    const AcDbEntity* entity = AcDbEntity::cast(stub->object);
+    const AcDbEntity* entity = entityOf(stub);
     return entity ? ObjectAccess::layer(*entity) : nullptr;
 }
 
@@ -119,7 +126,7 @@ std::uint32_t reactorsOf(const AcDbStub* stub)
     {
         return coreOf(stub).lineStyles[stub->style].reactors;
     }
-    AcDbEntity* entity = AcDbEntity::cast(stub->object);
+    AcDbEntity* entity = entityOf(stub);
     return entity ? ObjectAccess::reactors(*entity) : 0;
 }
 

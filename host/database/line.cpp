@@ -1,3 +1,6 @@
+#include <cmath>
+#include <cstring>
+
 #include "host/database/intersections.h"
 #include "dbents.h"
 
@@ -18,9 +21,29 @@ Acad::ErrorStatus AcDbLine::setEndPoint(const AcGePoint3d& point)
     return Acad::eOk;
 }
 
+namespace
+{
+bool isIdentity(const AcGeMatrix3d& matrix)
+{
+    return std::memcmp(matrix.entry, AcGeMatrix3d::kIdentity.entry, sizeof matrix.entry) == 0;
+}
+
+bool isFinite(const AcGePoint3d& point)
+{
+    return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z);
+}
+}  // namespace
+
 Acad::ErrorStatus AcDbLine::transformBy(const AcGeMatrix3d& matrix)
 {
     assertWriteEnabled("AcDbLine::transformBy");
+    if (isIdentity(matrix) && isFinite(m_start) && isFinite(m_end))
+    {
+        // What the product would give: no negative zero.
+        m_start += AcGeVector3d();
+        m_end += AcGeVector3d();
+        return Acad::eOk;
+    }
     if (!host::keepsAngles(matrix))
     {
         return Acad::eCannotScaleNonUniformly;

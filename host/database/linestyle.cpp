@@ -44,6 +44,16 @@ std::uint32_t LineStyles::intern(const LineStyle& style)
 
 std::uint32_t ReactorLists::with(std::uint32_t number, AcDbStub* reactor)
 {
+    if (m_last.reactor == reactor && m_last.from == number)
+    {
+        return m_last.result;
+    }
+    m_last = {number, reactor, find(number, reactor)};
+    return m_last.result;
+}
+
+std::uint32_t ReactorLists::find(std::uint32_t number, AcDbStub* reactor)
+{
     std::vector<AcDbStub*> list = m_lists[number];
     list.push_back(reactor);
     // Groups are few, and the list looked for is nearly always the newest.

@@ -55,6 +55,15 @@ public:
     bool contains(std::uint32_t number, const AcDbStub* reactor) const;
 
 private:
+    std::uint32_t find(std::uint32_t number, AcDbStub* reactor);
+
     std::deque<std::vector<AcDbStub*>> m_lists;
+    // The members of a group come one after the other.
+    struct
+    {
+        std::uint32_t from = 0;
+        AcDbStub* reactor = nullptr;
+        std::uint32_t result = 0;
+    } m_last;
 };
 }  // namespace host

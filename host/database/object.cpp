@@ -155,7 +155,8 @@ Acad::ErrorStatus AcDbObject::close()
         --m_readers;
         return Acad::eOk;
     }
-    if (AcDbText* text = m_forWrite ? AcDbText::cast(this) : nullptr)
+    const bool isLine = (m_stub->flags & AcDbStub::isLine) != 0;
+    if (AcDbText* text = m_forWrite && !isLine ? AcDbText::cast(this) : nullptr)
     {
         text->adjustAlignment();
     }
@@ -163,7 +164,7 @@ Acad::ErrorStatus AcDbObject::close()
     m_forWrite = false;
     m_refused = false;
     noteClosed(this);
-    if (m_stub->flags & AcDbStub::isLine)
+    if (isLine)
     {
         host::pack(this);
     }

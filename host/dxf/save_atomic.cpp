@@ -56,7 +56,8 @@ public:
 
     void takeOwnerAndMode(const struct stat& old);
     void write(std::string_view bytes);
-    void replace(const fs::path& target);
+    void onDisk();  // waits until a power cut cannot take it
+    void takePlaceOf(const fs::path& target);
 
 private:
     const std::string& m_nameInMessages;
@@ -108,10 +109,14 @@ void TemporaryFile::write(std::string_view bytes)
     }
 }
 
-void TemporaryFile::replace(const fs::path& target)
+void TemporaryFile::onDisk()
 {
     // Some disks only tell when they are asked to have it all.
     require(::fsync(m_file) == 0, m_nameInMessages);
+}
+
+void TemporaryFile::takePlaceOf(const fs::path& target)
+{
     require(::close(std::exchange(m_file, -1)) == 0, m_nameInMessages);
     require(::rename(m_path.c_str(), target.c_str()) == 0, m_nameInMessages);
     m_exists = false;
@@ -197,8 +202,12 @@ try
     if (old)
         file.takeOwnerAndMode(*old);
     writeTags(style, produce, [&](std::string_view bytes) { file.write(bytes); });
-    file.replace(target);
-    syncFolder(folderOf(target));
+    // An old drawing is given up only for one that is safe; a new name puts nothing at risk.
+    if (old)
+        file.onDisk();
+    file.takePlaceOf(target);
+    if (old)
+        syncFolder(folderOf(target));
 }
 catch (const std::domain_error& noTagCanHoldIt)
 {

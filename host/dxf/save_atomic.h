@@ -9,8 +9,9 @@
 namespace host::dxf
 {
 // Writes beside the file and then takes its place, so that at no moment a part of a drawing bears
-// the name. A symbolic link is followed; an old file's mode is kept. Any failure throws an Error,
-// leaves no other file behind and the old one whole.
+// the name. A symbolic link is followed; an old file's mode is kept, and the old file itself until
+// the disk has all of the new one. Any failure throws an Error, leaves no other file behind and
+// the old one whole.
 //
 // Errors and exceptions of `produce` pass through with the same promise.
 void saveAtomically(const std::string& path, const TagStyle& style, const Producer& produce);

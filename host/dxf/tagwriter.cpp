@@ -1,6 +1,7 @@
 #include "host/dxf/tagwriter.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
@@ -53,7 +54,8 @@ TagWriter::TagWriter(Drain drain, const TagStyle& style)
     : m_drain(std::move(drain)),
       m_newline(style.newline),
       m_buffer(std::make_unique_for_overwrite<char[]>(bufferSize + slack)),
-      m_at(m_buffer.get())
+      m_at(m_buffer.get()),
+      m_realTexts(std::size_t(1) << realTextBits)
 {
     for (std::size_t code = 0; code < m_codes.size(); ++code)
     {
@@ -88,17 +90,36 @@ void TagWriter::integer(int code, std::int64_t value)
 
 void TagWriter::handle(int code, std::uint64_t value)
 {
-    char* at = begin(code);
-    char* last = std::to_chars(at, at + slack, value, 16).ptr;
-    for (; at != last; ++at)
-        if (*at >= 'a')
-            *at -= 'a' - 'A';
-    end(last);
+    char* const at = begin(code);
+    const int digits = std::max(1, int(std::bit_width(value) + 3) / 4);
+    for (int i = digits - 1; i >= 0; --i, value >>= 4)
+        at[i] = "0123456789ABCDEF"[value & 15];
+    end(at + digits);
 }
 
 void TagWriter::real(int code, double value)
 {
-    end(appendReal(begin(code), value));
+    end(appendKnownReal(begin(code), value));
+}
+
+char* TagWriter::appendKnownReal(char* at, double value)
+{
+    const auto bits = std::bit_cast<std::uint64_t>(value);
+    RealText& known = m_realTexts[(bits * 0x9E3779B97F4A7C15u) >> (64 - realTextBits)];
+    if (known.bits != bits || known.length == 0)
+    {
+        char* const last = appendReal(at, value);
+        if (last - at > static_cast<std::ptrdiff_t>(sizeof known.text))
+        {
+            return last;
+        }
+        known.bits = bits;
+        known.length = static_cast<unsigned char>(last - at);
+        std::copy(at, last, known.text);
+        return last;
+    }
+    std::memcpy(at, known.text, sizeof known.text);
+    return at + known.length;
 }
 
 void TagWriter::point(int code, double x, double y)

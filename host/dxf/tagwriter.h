@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/dxf/tag.h"
 
@@ -47,8 +48,18 @@ private:
         unsigned char integerWidth;
     };
 
+    // A number as it was written before; whole sheets of lines have a few thousand of them.
+    struct RealText
+    {
+        std::uint64_t bits = 0;
+        unsigned char length = 0;  // 0: none yet
+        char text[23];
+    };
+    static constexpr unsigned realTextBits = 13;
+
     char* begin(int code);
     void end(char* at);
+    char* appendKnownReal(char* at, double value);
     void copy(std::string_view bytes);
 
     Drain m_drain;
@@ -56,5 +67,6 @@ private:
     std::array<CodeLine, 1072> m_codes;
     std::unique_ptr<char[]> m_buffer;
     char* m_at;
+    std::vector<RealText> m_realTexts;
 };
 }  // namespace host::dxf

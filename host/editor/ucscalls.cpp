@@ -10,14 +10,24 @@
 #include "host/editor/ucs.h"
 #include "host/editor/view.h"
 
-Acad::ErrorStatus acedGetCurrentUCS(AcGeMatrix3d& mat)
+namespace
+{
+// Null without a drawing.
+const AcGeMatrix3d* currentUcs()
 {
     const host::Document* document = host::documents().document();
-    if (document == nullptr)
+    return document != nullptr ? &host::stateOf(*document->database()).ucs().toWorld : nullptr;
+}
+}  // namespace
+
+Acad::ErrorStatus acedGetCurrentUCS(AcGeMatrix3d& mat)
+{
+    const AcGeMatrix3d* const ucs = currentUcs();
+    if (ucs == nullptr)
     {
         return Acad::eNoDatabase;
     }
-    mat = host::stateOf(*document->database()).ucs().toWorld;
+    mat = *ucs;
     return Acad::eOk;
 }
 
@@ -39,33 +49,33 @@ bool acedRestorePreviousUCS()
 
 bool acdbWcs2Ucs(ads_point p, ads_point q, bool vec)
 {
-    AcGeMatrix3d ucs;
-    if (p == nullptr || q == nullptr || acedGetCurrentUCS(ucs) != Acad::eOk)
+    const AcGeMatrix3d* const ucs = currentUcs();
+    if (p == nullptr || q == nullptr || ucs == nullptr)
     {
         return false;
     }
     if (vec)
     {
-        asVec3d(q) = host::worldToUcs(ucs, asVec3d(p));
+        asVec3d(q) = host::worldToUcs(*ucs, asVec3d(p));
         return true;
     }
-    asPnt3d(q) = host::worldToUcs(ucs, asPnt3d(p));
+    asPnt3d(q) = host::worldToUcs(*ucs, asPnt3d(p));
     return true;
 }
 
 bool acdbUcs2Wcs(ads_point p, ads_point q, bool vec)
 {
-    AcGeMatrix3d ucs;
-    if (p == nullptr || q == nullptr || acedGetCurrentUCS(ucs) != Acad::eOk)
+    const AcGeMatrix3d* const ucs = currentUcs();
+    if (p == nullptr || q == nullptr || ucs == nullptr)
     {
         return false;
     }
     if (vec)
     {
-        asVec3d(q) = host::ucsToWorld(ucs, asVec3d(p));
+        asVec3d(q) = host::ucsToWorld(*ucs, asVec3d(p));
         return true;
     }
-    asPnt3d(q) = host::ucsToWorld(ucs, asPnt3d(p));
+    asPnt3d(q) = host::ucsToWorld(*ucs, asPnt3d(p));
     return true;
 }
 
