@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <span>
 
+#include "host/database/access.h"
 #include "host/database/drawing.h"
 #include "tests/command/scriptededitor.h"
 
@@ -125,15 +127,15 @@ TEST(GridCommand, asksForTheFirstCornerUntilItGetsOneOrIsStopped)
         bool opensDialog = false;
     };
     const Row rows[] = {
-        {enter,         true        },
-        {text(RTKWORD,  L"x"),        true},
-        {text(RTKWORD,             L"S"),              true, true},
-        {text(RTKWORD,         L"Settings"),        true, true},
-        {text(RTKWORD, L"settings"), true},
-        {text(RTKWORD,L""),true},
-        {code(RTREJ),  true                 },
-        {esc,             false              },
-        {code(RTERROR),             false     },
+        {enter,         true               },
+        {text(RTKWORD,  L"x"),               true},
+        {text(RTKWORD,             L"S"),                     true, true},
+        {text(RTKWORD,         L"Settings"),    true, true},
+        {text(RTKWORD,  L"settings"), true},
+        {text(RTKWORD,         L""),                            true},
+        {code(RTREJ),true              },
+        {esc,  false        },
+        {code(RTERROR),             false                     },
     };
     for (const Row& row : rows)
     {
@@ -141,7 +143,8 @@ TEST(GridCommand, asksForTheFirstCornerUntilItGetsOneOrIsStopped)
         const std::deque<ScriptedAnswer> once = {row.answer};
         const std::deque<ScriptedAnswer> again = {row.answer, row.answer, esc};
         editor.run(row.asksAgain ? again : once);
-        const auto round = together(times(1, askedFirst), times(row.opensDialog ? 1 : 0, L"dialog"));
+        const auto round =
+            together(times(1, askedFirst), times(row.opensDialog ? 1 : 0, L"dialog"));
         const auto asked = row.asksAgain ? together(round, round, times(1, askedFirst)) : round;
         EXPECT_EQ(editor.log, together(borrowed, asked, givenBack));
         EXPECT_EQ(editor.contents(), Contents());
@@ -214,6 +217,29 @@ TEST(GridCommand, anyOtherAnswerRebuildsTheGrid)
         EXPECT_GT(first.lines, 0);
         EXPECT_EQ(editor.contents(), Contents());
         EXPECT_EQ(editor.settings.read(), "");
+    }
+}
+
+TEST(GridCommand, onlyTheWholeKeywordOpensTheSettingsOfAGrid)
+{
+    struct Row
+    {
+        const wchar_t* text;
+        bool opensDialog;
+    };
+    const Row rows[] = {
+        {L"S",        true },
+        {L"s",        false},
+        {L"Settings", false}, // its first letter is enough at the first corner alone
+        {L"S ",       false},
+        {L"",         false},
+        {L"AS",       false},
+    };
+    for (const Row& row : rows)
+    {
+        ScriptedEditor editor;
+        editor.run({point(0, 0), point(300, 200), text(RTNORM, row.text), esc});
+        EXPECT_EQ(std::ranges::count(editor.log, L"dialog"), row.opensDialog) << row.text;
     }
 }
 
@@ -304,6 +330,59 @@ TEST(GridCommand, keepsTheGridWhenTheSettingsCannotBeSaved)
     }
 }
 
+// Whatever goes wrong later, the settings are kept; and the outline is no member of the group.
+TEST(GridCommand, acceptanceSavesThenErasesTheOutlineThenGroups)
+{
+    const std::string wanted = "[GRID]\nHorStep=50\nVertStep=50\ndelCont=1\n";
+    ScriptedEditor saving;
+    saving.settings.write(wanted);
+    int failures = 0;
+    saving.hear = [&](const std::wstring& said)
+    {
+        if (said.find(L"failed to save") != std::wstring::npos)
+        {
+            ++failures;
+            EXPECT_EQ(saving.contents().outlines, 1);
+            EXPECT_THAT(saving.contents().groups, testing::IsEmpty());
+        }
+    };
+    saving.run({point(0, 0), point(100, 100), looking(enter, [&] { saving.settings.block(); })});
+    EXPECT_EQ(failures, 1);
+
+    ScriptedEditor grouping;
+    grouping.settings.write(wanted);
+    grouping.meter.look = [&]
+    {
+        EXPECT_THAT(grouping.settings.read(), HasSubstr("\r\nHorStep=50.0000\r\n"));
+        EXPECT_EQ(grouping.contents().outlines, 0);
+    };
+    grouping.run({point(0, 0), point(100, 100), enter});
+    EXPECT_EQ(grouping.meter.started, 1);
+}
+
+TEST(GridCommand, escErasesTheGridInItsOrderAndThenTheOutline)
+{
+    ScriptedEditor editor;
+    std::vector<AcDbStub*> standing;
+    const auto note = [&]
+    {
+        host::StubArena& stubs = editor.database->core().stubs;
+        for (std::size_t i = 0; i < stubs.size(); ++i)
+        {
+            if (host::typeOf(&stubs[i]) == AcDbLine::desc())
+            {
+                standing.push_back(&stubs[i]);
+            }
+        }
+    };
+    editor.run({point(0, 0), point(300, 200), looking(esc, note)});
+    const std::vector<AcDbStub*>& erased = editor.database->core().erasedLog;
+    ASSERT_GT(standing.size(), 1u);
+    ASSERT_GT(erased.size(), standing.size());
+    EXPECT_TRUE(std::ranges::equal(standing, std::span(erased).first(standing.size())));
+    EXPECT_EQ(host::typeOf(erased[standing.size()]), AcDb2dPolyline::desc());
+}
+
 TEST(GridCommand, savesTheOtherSectionsOfItsFileToo)
 {
     ScriptedEditor editor;
@@ -331,13 +410,26 @@ std::set<std::wstring> textStyles(const AcDbDatabase& database)
 // The command says the style by name, also where the drawing has none to be read.
 TEST(GridCommand, labelsAreDrawnInTheDrawingsTextStyle)
 {
-    for (const bool hasCurrentStyle : {true, false})
+    struct Row
+    {
+        const wchar_t* currentStyle;  // null: none
+        const wchar_t* labelStyle;
+    };
+    for (const Row& row : {
+             Row{L"Sheet", L"Sheet"   },
+             {L"",      L"Standard"}, // the record of a shape file has no name
+             {nullptr,  L"Standard"}
+    })
     {
         ScriptedEditor editor;
         host::DatabaseCore& core = editor.database->core();
-        auto* style =
-            core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, L"Sheet", 0x7777);
-        core.current.textStyle = hasCurrentStyle ? style->objectId().stub() : nullptr;
+        core.current.textStyle = nullptr;
+        if (row.currentStyle != nullptr)
+        {
+            auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable,
+                                                                         row.currentStyle, 0x7777);
+            core.current.textStyle = style->objectId().stub();
+        }
         editor.settings.write(
             "[GRID]\nHorStep=100\nVertStep=100\nneedText=2\nheightText=2\nbXTopScribe=1\n"
             "bXBottomScribe=1\nbYLeftScribe=1\nbYRightScribe=1\ntextXScribe=\ntextYScribe=\n");
@@ -345,8 +437,7 @@ TEST(GridCommand, labelsAreDrawnInTheDrawingsTextStyle)
         const Contents contents = editor.contents();
         EXPECT_EQ(contents.texts, 8);
         EXPECT_THAT(contents.groups, ElementsAre(contents.lines + contents.texts));
-        EXPECT_THAT(textStyles(*editor.database),
-                    ElementsAre(hasCurrentStyle ? L"Sheet" : L"Standard"));
+        EXPECT_THAT(textStyles(*editor.database), ElementsAre(row.labelStyle));
     }
 }
 

@@ -331,6 +331,10 @@ int acutPrintf(const ACHAR* format, ...)
         return original<int(const ACHAR*, ...)>("_Z10acutPrintfPKwz")(L"%s", text.c_str());
     }
     current->said += text;
+    if (current->hear)
+    {
+        current->hear(text);
+    }
     return RTNORM;
 }
 

@@ -48,9 +48,10 @@ public:
     void run(std::deque<ScriptedAnswer> answers);
     Contents contents() const;
 
-    std::vector<std::wstring> log;  // calls, in their order
-    std::wstring said;              // by acutPrintf
-    TemporaryFile settings;         // the module seems to lie in its folder
+    std::vector<std::wstring> log;                       // calls, in their order
+    std::wstring said;                                   // by acutPrintf
+    std::function<void(const std::wstring&)> hear = {};  // called with each text that is said
+    TemporaryFile settings;                              // the module seems to lie in its folder
     bool settingsFolderIsMissing = false;
 
     std::deque<int> boxAnswers;  // buttons of the message boxes

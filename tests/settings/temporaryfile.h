@@ -24,6 +24,13 @@ public:
 
     void write(const std::string& bytes) const { std::ofstream(file(), std::ios::binary) << bytes; }
 
+    // A folder takes its place, which nobody can write as a file.
+    void block() const
+    {
+        std::filesystem::remove(file());
+        std::filesystem::create_directory(file());
+    }
+
     std::string read() const
     {
         std::ifstream stream(file(), std::ios::binary);

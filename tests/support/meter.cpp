@@ -40,6 +40,10 @@ int acedSetStatusBarProgressMeter(const ACHAR* label, int minimum, int maximum)
     current->minimum = minimum;
     current->maximum = maximum;
     ++current->started;
+    if (current->look)
+    {
+        current->look();
+    }
     return 0;
 }
 

@@ -1,6 +1,7 @@
 // The progress meter of the status bar, written down.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,5 +22,6 @@ public:
     int started = 0;
     std::vector<int> positions;
     int restored = 0;
+    std::function<void()> look = {};  // called when the meter starts
 };
 }  // namespace tests
