@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/documents/documentmanager.h"
+#include "host/runtime/linker.h"
 #include "tests/app/hostcalls.h"
+#include "tests/support/session.h"
 
 namespace
 {
@@ -21,6 +24,23 @@ TEST(DocumentData, isHeardByTheDocumentManagerAsLongAsItLives)
         EXPECT_THAT(host.reactors, ElementsAre(&manager));
     }
     EXPECT_THAT(host.reactors, IsEmpty());
+}
+
+// It is the only listener of the module, and a static one: no message has to come before it is
+// there, and none takes it away.
+TEST(DocumentData, comesAndGoesWithTheModule)
+{
+    support::Session session;
+    const auto module =
+        std::filesystem::read_symlink("/proc/self/exe").replace_filename("netrax.arx");
+    const std::vector<const void*> before = host::linker().listeners();
+    for (int loads = 0; loads < 2; ++loads)
+    {
+        session.run([&] { EXPECT_EQ(host::linker().load(module), std::nullopt); });
+        EXPECT_EQ(host::linker().listeners().size(), before.size() + 1);
+        session.run([&] { EXPECT_EQ(host::linker().unload(module), std::nullopt); });
+        EXPECT_EQ(host::linker().listeners(), before);
+    }
 }
 
 TEST(DocumentData, livesWithoutADocumentManager)
