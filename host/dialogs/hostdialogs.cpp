@@ -5,6 +5,7 @@
 #include "host/dialogs/modalloop.h"
 #include "host/dialogs/wnd.h"
 #include "host/runtime/breach.h"
+#include "host/windows/resources.h"
 
 BEGIN_MESSAGE_MAP(CAdUiBaseDialog, CDialog)
 END_MESSAGE_MAP()
@@ -18,6 +19,10 @@ END_MESSAGE_MAP()
 CAdUiBaseDialog::CAdUiBaseDialog(UINT templateId, CWnd* parent, HINSTANCE resources)
     : CDialog(templateId, parent), m_resources(resources)
 {
+    if (!host::isDialogLibraryLinked())
+    {
+        host::breach("CAdUiBaseDialog", "made before InitAcUiDLL");
+    }
 }
 
 INT_PTR CAdUiBaseDialog::DoModal()

@@ -73,6 +73,12 @@ std::vector<CDynLinkLibrary*>& chain()
     return libraries;
 }
 
+AFX_EXTENSION_MODULE& dialogLibrary()
+{
+    static AFX_EXTENSION_MODULE state = {nullptr, nullptr};
+    return state;
+}
+
 HINSTANCE& currentHandle()
 {
     static HINSTANCE handle = host::programInstance();
@@ -213,6 +219,11 @@ void AfxSetResourceHandle(HINSTANCE module)
     currentHandle() = module;
 }
 
+bool host::isDialogLibraryLinked()
+{
+    return dialogLibrary().hModule != nullptr;
+}
+
 // The library stays linked for good; the host offers no call to take it out.
 void InitAcUiDLL()
 {
@@ -220,7 +231,7 @@ void InitAcUiDLL()
     {
         host::breach("InitAcUiDLL", "called before the module joined the resource chain");
     }
-    static AFX_EXTENSION_MODULE state = {nullptr, nullptr};
+    AFX_EXTENSION_MODULE& state = dialogLibrary();
     if (state.hModule == nullptr)
     {
         AfxInitExtensionModule(state, host::instanceHolding(&state));
