@@ -6,6 +6,7 @@
 #include "dbapserv.h"
 #include "host/runtime/breach.h"
 #include "host/runtime/linker.h"
+#include "host/windows/modules.h"
 
 ACRX_DEFINE_MEMBERS(AcApDocManager, AcRxObject)
 ACRX_DEFINE_MEMBERS(AcApDocManagerReactor, AcRxObject)
@@ -102,6 +103,10 @@ void DocumentManager::pushResourceHandle(HINSTANCE resources)
     if (!m_document)
     {
         breach("pushResourceHandle", "there is no document");
+    }
+    if (!isModule(resources))
+    {
+        breach("pushResourceHandle", "the handle is that of no loaded module");
     }
     m_document->resources.push(resources);
 }

@@ -76,6 +76,11 @@ HINSTANCE attachLoadedModule()
     return module;
 }
 
+bool isModule(HINSTANCE handle)
+{
+    return handle == programInstance() || registry().modules.contains(handle);
+}
+
 HINSTANCE registerModule(const void* address, AttachModule attach)
 {
     const HINSTANCE module = instanceHolding(address);

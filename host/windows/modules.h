@@ -26,6 +26,9 @@ HINSTANCE attachLoadedModule();
 // Path of a module's file as it was named, the program's for null; empty for an unknown one.
 std::filesystem::path modulePath(HINSTANCE module);
 
+// Whether the handle is the program's or that of a module that is in the process.
+bool isModule(HINSTANCE handle);
+
 // The program itself.
 HINSTANCE programInstance();
 

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <utility>
 
+#include "app/entry.h"
+#include "app/gridapp.h"
 #include "command/gridcommand.h"
 #include "host/database/access.h"
 #include "host/database/strict.h"
@@ -65,6 +67,7 @@ ScriptedAnswer code(int result)
 ScriptedEditor::ScriptedEditor()
     : database(host::documents().open(host::newDrawing()).database()), options(L"[]")
 {
+    gridApp().AcRxDbxApp::initApp(nullptr);  // the module learns its handle, as when it is loaded
     current = this;
 }
 
@@ -142,6 +145,7 @@ __attribute__((visibility("default"))) INT_PTR CDialog::DoModal()
     }
     current->log.push_back(L"dialog");
     EXPECT_EQ(host::documents().document()->resources.depth(), 1u);
+    EXPECT_EQ(AfxGetResourceHandle(), attachedModule());
     INT_PTR result = IDCANCEL;
     if (current->userOfDialog)
     {

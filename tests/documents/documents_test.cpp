@@ -5,6 +5,7 @@
 #include "dbapserv.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
+#include "host/windows/modules.h"
 #include "tests/support/session.h"
 
 namespace
@@ -111,14 +112,16 @@ TEST(Documents, lockOfAnotherDatabaseFails)
 TEST(Documents, resourceHandlesNest)
 {
     support::Session session;
-    char one, two;
+    const HINSTANCE program = host::programInstance();
+    host::ResourceStack& stack = session.document().resources;
+    char one;
     const HINSTANCE before = AfxGetResourceHandle();
-    acDocManager->pushResourceHandle(handle(one));
-    acDocManager->pushResourceHandle(handle(two));
-    EXPECT_EQ(AfxGetResourceHandle(), handle(two));
+    stack.push(handle(one));
+    acDocManager->pushResourceHandle(program);
+    EXPECT_EQ(AfxGetResourceHandle(), program);
     acDocManager->popResourceHandle();
     EXPECT_EQ(AfxGetResourceHandle(), handle(one));
-    acDocManager->popResourceHandle();
+    stack.pop();
     EXPECT_EQ(AfxGetResourceHandle(), before);
 }
 
@@ -144,8 +147,19 @@ TEST(DocumentsDeathTest, popWithoutPushStopsTheRun)
 TEST(DocumentsDeathTest, commandThatKeepsAResourceHandleStopsTheRun)
 {
     support::Session session;
-    EXPECT_EXIT(session.run([] { acDocManager->pushResourceHandle(nullptr); }),
+    EXPECT_EXIT(session.run([] { acDocManager->pushResourceHandle(host::programInstance()); }),
                 ::testing::ExitedWithCode(1), "pushResourceHandle: BODY did not leave");
+}
+
+TEST(DocumentsDeathTest, aHandleOfNoModuleStopsTheRun)
+{
+    support::Session session;
+    char nobody;
+    for (const HINSTANCE wrong : {HINSTANCE(nullptr), handle(nobody)})
+    {
+        EXPECT_EXIT(acDocManager->pushResourceHandle(wrong), ::testing::ExitedWithCode(1),
+                    "pushResourceHandle: the handle is that of no loaded module");
+    }
 }
 
 TEST(DocumentsDeathTest, commandThatPopsTheHostsResourceHandleStopsTheRun)
