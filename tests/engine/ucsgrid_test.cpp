@@ -288,4 +288,19 @@ TEST_F(UcsGrid, anyFlagButNoughtMeansTheUcs)
         erase(made);
     }
 }
+
+// Cut against an outline that is elsewhere: there is nothing to cut it at.
+TEST_F(UcsGrid, aPieceThatMeetsNoOutlineStaysWhole)
+{
+    pickSheet();
+    const AcGePoint3d farCorner(1030, 1020, 0);
+    AcGePoint3dArray elsewhere;
+    elsewhere.append(AcGePoint3d(1000, 1000, 0));
+    elsewhere.append(AcGePoint3d(1000, 1020, 0));
+    elsewhere.append(farCorner);
+    outline = addPolylineFrame(true, elsewhere, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
+    options.VertStep = 15;
+    build();
+    EXPECT_TRUE(hasLine({10, 7.5, 0}, {10, 22.5, 0}));
+}
 }  // namespace
