@@ -189,6 +189,10 @@ Acad::ErrorStatus AcDbEntity::setVisibility(AcDb::Visibility visibility, Adesk::
 
 Acad::ErrorStatus AcDbEntity::draw()
 {
+    if (AcDbStub* stub = host::ObjectAccess::stub(*this))
+    {
+        stub->flags |= AcDbStub::isDrawn;
+    }
     return Acad::eOk;
 }
 

@@ -16,7 +16,8 @@ public:
     {
         isLine = 1,
         isPacked = 2,  // the line is in `line`, with no object on the heap
-        isErasedFlag = 4
+        isErasedFlag = 4,
+        isDrawn = 8  // the module has asked for it to be shown
     };
 
     std::uint64_t handle;

@@ -133,7 +133,7 @@ public:
     virtual Acad::ErrorStatus setVisibility(AcDb::Visibility visibility,
                                             Adesk::Boolean doSubents = Adesk::kTrue);
 
-    // Shows the entity now. There is no screen here, so nothing is left to be seen.
+    // Shows the entity now. There is no screen here; the host only notes that it was asked.
     Acad::ErrorStatus draw();
 
     // eCannotScaleNonUniformly for a matrix that does not keep angles.

@@ -1,6 +1,7 @@
 #include "output/entities.h"
 
 #include "host/database/access.h"
+#include "output/labels.h"
 #include "tests/support/letgo.h"
 #include "tests/support/opendrawing.h"
 
@@ -288,6 +289,26 @@ TEST_F(Entities, anAppendedEntityIsClosedAndARefusedOneIsNot)
     AcDbLine refused({0, 0, 0}, {1, 0, 0});
     EXPECT_NE(appendToBlock(&refused, id, L"NoSuchBlock"), Acad::eOk);
     EXPECT_TRUE(refused.isWriteEnabled());
+}
+
+// A preview that came to the screen only at the end of the command would be none.
+TEST_F(Entities, everythingIsShownAtOnce)
+{
+    addPlainLine();
+    addFrame(true, corners({
+                       {0, 0, 0},
+                       {9, 0, 0}
+    }));
+    addLabelText(true, L"X=1", {0, 0, 0}, 1, 0, 0, L"Standard", AcDb::kTextLeft, AcDb::kTextBottom,
+                 ACDB_MODEL_SPACE);
+    AcDbObjectId unseen;
+    appendToBlock(new AcDbLine({0, 0, 0}, {1, 0, 0}), unseen, ACDB_MODEL_SPACE);
+    const AcDbObjectIdArray ids = entities();
+    ASSERT_EQ(ids.length(), 4);
+    for (int i = 0; i < ids.length(); ++i)
+    {
+        EXPECT_EQ((ids[i].stub()->flags & AcDbStub::isDrawn) != 0, ids[i] != unseen) << i;
+    }
 }
 
 TEST_F(Entities, anErasedEntityIsGoneAndCannotBeErasedAgain)
