@@ -331,4 +331,20 @@ TEST_F(Entities, anEntityOnALockedLayerStaysAndStaysOpen)
     EXPECT_TRUE(host::resolve(id.stub())->isReadEnabled());
     closeLeftOpen(id);
 }
+
+class Stubborn : public AcDbText
+{
+public:
+    Acad::ErrorStatus erase(Adesk::Boolean) override { return Acad::eWasErased; }
+};
+
+TEST_F(Entities, anEntityThatDoesNotLetItselfBeErasedStaysOpenForWrite)
+{
+    AcDbObjectId id;
+    ASSERT_EQ(appendToBlock(new Stubborn, id, ACDB_MODEL_SPACE), Acad::eOk);
+    EXPECT_EQ(eraseEntity(id), Acad::eWasErased);
+    EXPECT_FALSE(id.isErased());
+    EXPECT_TRUE(host::resolve(id.stub())->isWriteEnabled());
+    closeLeftOpen(id);
+}
 }  // namespace
