@@ -165,6 +165,23 @@ TEST(Open, aChangedLineIsStillChangedWhenOpenedAgain)
     EXPECT_EQ(line->colorIndex(), 3);
 }
 
+TEST(Open, aClosedEntityCanBeShownAndKnowsItsId)
+{
+    EmptyDrawing drawing;
+    AcDbEntity* const entities[] = {new AcDbLine(AcGePoint3d(), AcGePoint3d(1, 0, 0)),
+                                    new AcDbText};
+    for (AcDbEntity* entity : entities)
+    {
+        const AcDbObjectId id = drawing.add(entity);
+        EXPECT_EQ(entity->objectId(), id);
+        EXPECT_FALSE(id.stub()->flags & AcDbStub::isDrawn);
+        EXPECT_EQ(entity->draw(), Acad::eOk);
+        EXPECT_TRUE(id.stub()->flags & AcDbStub::isDrawn);
+        EXPECT_FALSE(entity->isReadEnabled());
+        EXPECT_EQ(entity->close(), Acad::eNotOpenForWrite);
+    }
+}
+
 TEST(Open, theSecondCloseAfterAnAppendGivesAStatusAndNothingElse)
 {
     EmptyDrawing drawing;
