@@ -136,12 +136,13 @@ Contents ScriptedEditor::contents() const
 
 // From here on: in the place of the host's functions. Without an editor they hand the call on.
 
-// Called from within the host's library, hence visible to it.
-__attribute__((visibility("default"))) INT_PTR CDialog::DoModal()
+// The dialog's own table of functions leads here. What the host's library calls within itself, such
+// as CDialog::DoModal, nobody outside can stand in for: the library is optimized as a whole.
+INT_PTR CAdUiBaseDialog::DoModal()
 {
     if (current == nullptr)
     {
-        return original<INT_PTR(CDialog*)>("_ZN7CDialog7DoModalEv")(this);
+        return original<INT_PTR(CAdUiBaseDialog*)>("_ZN15CAdUiBaseDialog7DoModalEv")(this);
     }
     current->log.push_back(L"dialog");
     EXPECT_EQ(host::documents().document()->resources.depth(), 1u);
