@@ -9,12 +9,28 @@ namespace
 class ModuleResources
 {
 public:
-    ModuleResources() { acDocManager->pushResourceHandle(gridApp().moduleHandle()); }
-    ~ModuleResources() { acDocManager->popResourceHandle(); }
+    ModuleResources() : m_manager(acDocManager)
+    {
+        if (areCurrent())
+        {
+            m_manager->pushResourceHandle(gridApp().moduleHandle());
+        }
+    }
+    ~ModuleResources()
+    {
+        if (areCurrent())
+        {
+            m_manager->popResourceHandle();
+        }
+    }
+
+    bool areCurrent() const { return m_manager != nullptr; }
 
 private:
     ModuleResources(const ModuleResources&);
     ModuleResources& operator=(const ModuleResources&);
+
+    AcApDocManager* m_manager;
 };
 }  // namespace
 
@@ -22,6 +38,10 @@ bool editSettings(GridSettings& settings, double gridWidth, double gridHeight,
                   const CString& localeName)
 {
     const ModuleResources resources;
+    if (!resources.areCurrent())
+    {
+        return false;
+    }
     CSettingsDlg dialog(settings, gridWidth, gridHeight, localeName, settings.textStyleName);
     if (dialog.DoModal() != IDOK)
     {

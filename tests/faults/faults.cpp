@@ -1,0 +1,202 @@
+#include "tests/faults/faults.h"
+
+#include <link.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+
+namespace faults
+{
+namespace
+{
+struct Range
+{
+    std::uintptr_t begin = 0;
+    std::uintptr_t end = 0;
+
+    bool holds(const void* address) const
+    {
+        const auto at = reinterpret_cast<std::uintptr_t>(address);
+        return begin <= at && at < end;
+    }
+};
+
+Range module;
+Plan plan;
+std::vector<Call> made;
+std::vector<int> failedCalls;
+
+int visit(dl_phdr_info* info, std::size_t, void* found)
+{
+    auto& range = *static_cast<Range*>(found);
+    Range whole{UINTPTR_MAX, 0};
+    for (int i = 0; i < info->dlpi_phnum; ++i)
+    {
+        const auto& segment = info->dlpi_phdr[i];
+        if (segment.p_type == PT_LOAD)
+        {
+            const std::uintptr_t begin = info->dlpi_addr + segment.p_vaddr;
+            whole.begin = std::min(whole.begin, begin);
+            whole.end = std::max(whole.end, begin + segment.p_memsz);
+        }
+    }
+    if (!whole.holds(reinterpret_cast<void*>(range.begin)))
+    {
+        return 0;
+    }
+    range = whole;
+    return 1;
+}
+
+bool isPlanned(int number, const char* name)
+{
+    return number == plan.first || number == plan.second ||
+           (plan.fromFirst && number > plan.first) ||
+           (plan.every != nullptr && std::strcmp(plan.every, name) == 0);
+}
+}  // namespace
+
+void watch(const void* addressInModule)
+{
+    module.begin = reinterpret_cast<std::uintptr_t>(addressInModule);
+    dl_iterate_phdr(visit, &module);
+}
+
+int outcomeOf(const char* name, unsigned outcomes, unsigned onceOnly, const void* caller)
+{
+    if (!module.holds(caller))
+    {
+        return -1;
+    }
+    const int number = int(made.size());
+    made.push_back({name, outcomes, onceOnly});
+    const bool once = !plan.fromFirst && plan.every == nullptr;
+    const unsigned possible = outcomes - (once ? 0 : onceOnly);
+    if (!isPlanned(number, name) || possible == 0)
+    {
+        return -1;
+    }
+    failedCalls.push_back(number);
+    return int(std::min(plan.outcome, possible - 1));
+}
+
+const std::vector<Call>& calls()
+{
+    return made;
+}
+
+bool failed(const char* name)
+{
+    return std::ranges::any_of(failedCalls, [name](int number)
+                               { return std::strcmp(made[std::size_t(number)].name, name) == 0; });
+}
+
+std::string failures()
+{
+    std::string list;
+    for (std::size_t i = 0; i < failedCalls.size() && i < 4; ++i)
+    {
+        const int number = failedCalls[i];
+        list += (i > 0 ? ", " : "") + std::string(made[std::size_t(number)].name) + " (call " +
+                std::to_string(number) + ")";
+    }
+    return failedCalls.size() > 4 ? list + " ..." : list;
+}
+
+namespace
+{
+// Stands before each block. The module's own hang together.
+struct alignas(16) Block
+{
+    std::size_t size;
+    int call;
+    bool isModules;
+    Block* before;
+    Block* after;
+};
+
+Block list{0, 0, false, &list, &list};
+
+void* allocate(std::size_t size, const void* caller)
+{
+    auto* block = static_cast<Block*>(std::malloc(sizeof(Block) + size));
+    if (block == nullptr)
+    {
+        std::abort();
+    }
+    *block = {size, 0, module.holds(caller), nullptr, nullptr};
+    if (block->isModules)
+    {
+        block->call = int(made.size());
+        block->before = list.before;
+        block->after = &list;
+        list.before->after = block;
+        list.before = block;
+    }
+    return block + 1;
+}
+
+void release(void* memory)
+{
+    if (memory == nullptr)
+    {
+        return;
+    }
+    Block* block = static_cast<Block*>(memory) - 1;
+    if (block->isModules)
+    {
+        block->before->after = block->after;
+        block->after->before = block->before;
+    }
+    std::free(block);
+}
+}  // namespace
+
+void begin(const Plan& chosen)
+{
+    plan = chosen;
+    made.clear();
+    failedCalls.clear();
+    list.before = list.after = &list;  // what was there before counts no more
+}
+
+std::vector<Leak> leaks()
+{
+    std::vector<Leak> found;
+    for (const Block* block = list.after; block != &list; block = block->after)
+    {
+        found.push_back({block->size, block->call});
+    }
+    return found;
+}
+}  // namespace faults
+
+#define EXPORTED __attribute__((visibility("default")))
+
+EXPORTED void* operator new(std::size_t size)
+{
+    return faults::allocate(size, __builtin_return_address(0));
+}
+EXPORTED void* operator new[](std::size_t size)
+{
+    return faults::allocate(size, __builtin_return_address(0));
+}
+EXPORTED void operator delete(void* memory) noexcept
+{
+    faults::release(memory);
+}
+EXPORTED void operator delete[](void* memory) noexcept
+{
+    faults::release(memory);
+}
+EXPORTED void operator delete(void* memory, std::size_t) noexcept
+{
+    faults::release(memory);
+}
+EXPORTED void operator delete[](void* memory, std::size_t) noexcept
+{
+    faults::release(memory);
+}
