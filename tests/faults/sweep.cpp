@@ -207,6 +207,7 @@ private:
 
 bool Worker::load()
 {
+    fs::current_path(m_folder);  // without its own path the module takes the current folder
     host::registerHostCommands();
     host::documents().open(host::newDrawing());
     support::Typist typist;
