@@ -1,0 +1,220 @@
+#include "tests/relations/gridcase.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <sstream>
+
+#include "engine/buildgrid.h"
+#include "output/entities.h"
+
+namespace relations
+{
+AcGeMatrix3d turnOfXY(double tangentOfHalf)
+{
+    const double square = tangentOfHalf * tangentOfHalf;
+    const double cosine = (1 - square) / (1 + square);
+    const double sine = 2 * tangentOfHalf / (1 + square);
+    AcGeMatrix3d turn;
+    turn.entry[0][0] = turn.entry[1][1] = cosine;
+    turn.entry[0][1] = -sine;
+    turn.entry[1][0] = sine;
+    return turn;
+}
+
+// About the X axis.
+static AcGeMatrix3d tilt(double tangentOfHalf)
+{
+    const AcGeMatrix3d turn = turnOfXY(tangentOfHalf);
+    AcGeMatrix3d about;
+    for (const int row : {0, 1})
+    {
+        for (const int column : {0, 1})
+        {
+            about.entry[row + 1][column + 1] = turn.entry[row][column];
+        }
+    }
+    return about;
+}
+
+AcGeMatrix3d turnInSpace(Chance& chance)
+{
+    return turnOfXY(chance.between(-1, 1)) * tilt(chance.between(-1, 1)) *
+           turnOfXY(chance.between(-1, 1));
+}
+
+namespace
+{
+// Numbers of one kind.
+struct Numbers
+{
+    Chance& chance;
+    int kind;
+    double largest = kind == 2 || (kind == 0 && chance.oneIn(3)) ? 1e7 : 1000;
+
+    double between(double low, double high) const
+    {
+        const double number = chance.between(low, high);
+        return kind == 0 ? std::floor(number) : number;
+    }
+    double anywhere() const { return between(-largest, largest); }
+};
+
+AcGeMatrix3d randomFrame(const Numbers& numbers, bool mayTilt)
+{
+    Chance& chance = numbers.chance;
+    const int quarters = chance.below(6);
+    const double tangents[] = {0, 1, -1};
+    AcGeMatrix3d frame = turnOfXY(quarters < 3 ? tangents[quarters] : chance.between(-1, 1));
+    if (mayTilt && chance.oneIn(2))
+    {
+        frame = turnInSpace(chance);
+    }
+    const AcGePoint3d origin(numbers.anywhere(), numbers.anywhere(), numbers.between(-200, 200));
+    return frame.setTranslation(origin.asVector());
+}
+
+AcGePoint3d carried(const AcGeMatrix3d& frame, double x, double y)
+{
+    return AcGePoint3d(x, y, 0).transformBy(frame);
+}
+
+// From 0 to about four lines each way.
+double randomStep(const Numbers& numbers, double size)
+{
+    const double step = size / numbers.chance.between(0.4, 4.5);
+    return numbers.kind == 0 ? std::ceil(step * 2) / 2 : step;
+}
+
+void shakeCorners(const Numbers& numbers, Shape shape, double width, double height,
+                  std::array<AcGePoint3d, 4>& outline)
+{
+    for (AcGePoint3d& corner : outline)
+    {
+        corner.x += numbers.between(-width / 4, width / 4);
+        corner.y += numbers.between(-height / 4, height / 4);
+    }
+    if (shape == Shape::concave)
+    {
+        const AcGeVector3d across = outline[1] - outline[3];
+        outline[3] += across * numbers.chance.between(0.6, 0.9);
+    }
+}
+}  // namespace
+
+GridCase randomCase(Chance& chance, Shape shape)
+{
+    // No whole numbers in a concave outline: the angles to its corners make a full turn on the
+    // diagonal that closes the notch too, where whole numbers put nodes.
+    const Numbers numbers{chance, shape == Shape::concave ? 1 + chance.below(2) : chance.below(3)};
+    GridCase asked;
+    asked.alongUcs = shape == Shape::rectangle && chance.oneIn(2);
+    asked.ucs = randomFrame(numbers, asked.alongUcs);
+
+    const double width = numbers.between(5, 100);
+    const double height = numbers.between(5, 100);
+    const double left = chance.oneIn(2) ? numbers.between(-50, 50) : numbers.anywhere();
+    const double low = numbers.between(-50, 50);
+    const double right = left + width;
+    const double high = low + height;
+    asked.outline = {carried(asked.ucs, left, low), carried(asked.ucs, left, high),
+                     carried(asked.ucs, right, high), carried(asked.ucs, right, low)};
+    if (chance.oneIn(2))
+    {
+        std::swap(asked.outline[0], asked.outline[1]);
+        std::swap(asked.outline[2], asked.outline[3]);
+    }
+    if (shape != Shape::rectangle)
+    {
+        shakeCorners(numbers, shape, width, height, asked.outline);
+    }
+    asked.base = carried(asked.ucs, left + numbers.between(-width, 2 * width),
+                         low + numbers.between(-height, 2 * height));
+    asked.steps = {randomStep(numbers, width), randomStep(numbers, height)};
+    if (chance.oneIn(3))
+    {
+        // Within two steps, see followsMirror: a longer bar reaches in from nodes further out than
+        // any that are looked at.
+        asked.crossSize = std::min(asked.steps[0], asked.steps[1]) * chance.between(0.1, 1.9);
+    }
+    for (int edge = 0; edge < 4 && shape == Shape::rectangle; ++edge)
+    {
+        asked.xEdges[edge] = !chance.oneIn(4);
+        asked.yEdges[edge] = !chance.oneIn(4);
+    }
+    return asked;
+}
+
+std::string describe(const GridCase& asked)
+{
+    std::ostringstream out;
+    out << std::hexfloat << (asked.alongUcs ? "along the UCS" : "along the world") << "\nucs";
+    for (const auto& row : asked.ucs.entry)
+    {
+        out << "\n ";
+        for (const double value : row)
+        {
+            out << ' ' << value;
+        }
+    }
+    const auto point = [&](const char* name, const AcGePoint3d& p)
+    {
+        out << '\n'
+            << name << ' ' << std::hexfloat << p.x << ' ' << p.y << ' ' << p.z << std::defaultfloat
+            << " = " << p.x << ' ' << p.y << ' ' << p.z << std::hexfloat;
+    };
+    for (const AcGePoint3d& corner : asked.outline)
+    {
+        point("corner", corner);
+    }
+    point("base", asked.base);
+    out << "\nsteps " << asked.steps[0] << ' ' << asked.steps[1] << std::defaultfloat << " = "
+        << asked.steps[0] << ' ' << asked.steps[1] << "\ncross "
+        << (asked.crossSize ? *asked.crossSize : 0) << '\n';
+    return out.str();
+}
+
+static std::optional<long long> fromEnvironment(const char* name)
+{
+    const char* const value = std::getenv(name);
+    return value == nullptr ? std::nullopt : std::optional(std::atoll(value));
+}
+
+int caseCount(int usual)
+{
+    return static_cast<int>(fromEnvironment("NETRAX_CASES").value_or(usual));
+}
+
+std::uint64_t caseSeed(std::uint64_t own)
+{
+    const auto moved = static_cast<std::uint64_t>(fromEnvironment("NETRAX_SEED").value_or(0));
+    return own + moved * 1000003;
+}
+
+AcDbObjectId Sheet::drawOutline(const GridCase& asked)
+{
+    // A drawing keeps what was in it, also what nobody looks at any more.
+    if (++m_drawn % 2000 == 0)
+    {
+        TearDown();
+        SetUp();
+    }
+    setUcs(asked.ucs);
+    AcGePoint3dArray points;
+    for (int i = 0; i <= 4; ++i)
+    {
+        points.append(asked.outline[i % 4]);
+    }
+    return addPolylineFrame(false, points, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
+}
+
+AcDbObjectIdArray Sheet::drawGrid(const AcDbObjectId& outline, const GridCase& asked)
+{
+    const auto& x = asked.xEdges;
+    const auto& y = asked.yEdges;
+    return buildGrid(outline, asked.outline[0], asked.outline[2], asked.steps[0], asked.steps[1],
+                     12, asked.crossSize.value_or(4), asked.crossSize ? 1 : 0,
+                     asked.alongUcs ? 1 : 0, asked.base, true, asked.heightText, asked.decimals,
+                     x[0], x[1], x[2], x[3], y[0], y[1], y[2], y[3], L"X=", L"Y=", L"Standard",
+                     L"en-US");
+}
+}  // namespace relations
