@@ -45,5 +45,10 @@ GridLines gridLines(const AcGePoint3d& low, const AcGePoint3d& high, const AcGeP
         const int left = maxNodes / static_cast<int>(lines.x.size());
         lines.y = linePositions(low.y, high.y, base.y, VertStep, left);
     }
+    // Millions of lines without one across would fill the memory for no node.
+    if (lines.y.empty())
+    {
+        lines.x.clear();
+    }
     return lines;
 }

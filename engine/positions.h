@@ -26,6 +26,6 @@ struct GridLines
 std::vector<double> linePositions(double low, double high, double base, double step, int limit);
 
 // Both directions, in the system of the points; low holds the smaller x and y, high the larger.
-// A direction without lines leaves the grid without nodes.
+// A direction without lines leaves the grid without nodes; then the other has none either.
 GridLines gridLines(const AcGePoint3d& low, const AcGePoint3d& high, const AcGePoint3d& base,
                     double HorStep, double VertStep);

@@ -136,6 +136,7 @@ TEST(Positions, aDirectionWithoutLinesLeavesNoNodes)
     EXPECT_EQ(both.y, (Positions{-20, 0, 20, 40}));
     EXPECT_TRUE(gridLines(low, high, low, 0, 20).y.empty());
     EXPECT_TRUE(gridLines(low, high, low, 10, 0).y.empty());
+    EXPECT_TRUE(gridLines(low, high, low, 10, 0).x.empty());  // they may be millions
 }
 
 TEST(Positions, thereAreNeverMoreNodesThanAMachineCanHold)
