@@ -38,8 +38,9 @@ static AcGeMatrix3d tilt(double tangentOfHalf)
 
 AcGeMatrix3d turnInSpace(Chance& chance)
 {
-    return turnOfXY(chance.between(-1, 1)) * tilt(chance.between(-1, 1)) *
-           turnOfXY(chance.between(-1, 1));
+    const AcGeMatrix3d first = turnOfXY(chance.between(-1, 1));
+    const AcGeMatrix3d second = tilt(chance.between(-1, 1));
+    return first * second * turnOfXY(chance.between(-1, 1));
 }
 
 namespace
@@ -69,7 +70,8 @@ AcGeMatrix3d randomFrame(const Numbers& numbers, bool mayTilt)
     {
         frame = turnInSpace(chance);
     }
-    const AcGePoint3d origin(numbers.anywhere(), numbers.anywhere(), numbers.between(-200, 200));
+    // In braces, which are read from the left; between parentheses each compiler has its own order.
+    const AcGePoint3d origin{numbers.anywhere(), numbers.anywhere(), numbers.between(-200, 200)};
     return frame.setTranslation(origin.asVector());
 }
 
@@ -127,8 +129,9 @@ GridCase randomCase(Chance& chance, Shape shape)
     {
         shakeCorners(numbers, shape, width, height, asked.outline);
     }
-    asked.base = carried(asked.ucs, left + numbers.between(-width, 2 * width),
-                         low + numbers.between(-height, 2 * height));
+    const double baseX = left + numbers.between(-width, 2 * width);
+    const double baseY = low + numbers.between(-height, 2 * height);
+    asked.base = carried(asked.ucs, baseX, baseY);
     asked.steps = {randomStep(numbers, width), randomStep(numbers, height)};
     if (chance.oneIn(3))
     {

@@ -77,12 +77,13 @@ struct Extent
 {
     explicit Extent(const GridCase& asked, const AcGePoint3dArray& drawn)
     {
-        const AcGeMatrix3d toGrid = asked.alongUcs ? asked.ucs.inverse() : AcGeMatrix3d();
-        take(asked.outline[0], toGrid);
-        take(asked.outline[2], toGrid);
+        for (AcGePoint3d corner : {asked.outline[0], asked.outline[2]})
+        {
+            take(asked.alongUcs ? corner.transformBy(asked.ucs.inverse()) : corner);
+        }
         for (int i = 0; i < drawn.length() && !asked.alongUcs; ++i)
         {
-            take(drawn[i], toGrid);
+            take(drawn[i]);
         }
     }
 
@@ -97,10 +98,9 @@ struct Extent
     double high[2] = {-infinity, -infinity};
 
 private:
-    void take(AcGePoint3d point, const AcGeMatrix3d& toGrid)
+    void take(const AcGePoint3d& point)
     {
-        point.transformBy(toGrid);
-        for (const unsigned axis : {0u, 1u})
+        for (unsigned axis = 0; axis < 2; ++axis)
         {
             low[axis] = std::fmin(low[axis], point[axis]);
             high[axis] = std::fmax(high[axis], point[axis]);
