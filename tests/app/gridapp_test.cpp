@@ -7,6 +7,8 @@
 #include "command/gridcommand.h"
 #include "tests/app/hostcalls.h"
 
+extern "C" BOOL APIENTRY DllMain(HINSTANCE module, DWORD reason, LPVOID);
+
 namespace
 {
 using testing::ElementsAre;
@@ -55,6 +57,38 @@ TEST(GridApp, asksNothingOfTheHostAtTheOtherMessages)
     {
         EXPECT_THAT(sent(host, static_cast<AcRx::AppMsgCode>(code)), IsEmpty()) << code;
     }
+    gridApp().registerComponents();
+    EXPECT_THAT(host.take(), IsEmpty());
+}
+
+class Stay : public AcRxArxApp
+{
+public:
+    Stay(bool unlock, bool mdiAware)
+    {
+        m_unlock = unlock;
+        m_mdiAware = mdiAware;
+    }
+    void registerComponents() override {}
+};
+
+TEST(ApplicationObject, tellsTheHostOnlyWhatItIs)
+{
+    HostCalls host;
+    void* const packet = reinterpret_cast<void*>(0x80);
+    Stay(false, true).initApp(packet);
+    EXPECT_THAT(host.take(), ElementsAre(L"registerAppMDIAware 0x80", gridCommandAdded()));
+    Stay(true, false).initApp(packet);
+    EXPECT_THAT(host.take(), ElementsAre(L"unlockApplication 0x80", gridCommandAdded()));
+}
+
+TEST(EntryPoint, doesNotAttachWithoutTheRuntimesConsent)
+{
+    HostCalls host;
+    host.extensionModulesAreRefused = true;
+    const DWORD threadStarts = 2;
+    EXPECT_TRUE(DllMain(attachedModule(), threadStarts, nullptr));
+    EXPECT_FALSE(DllMain(attachedModule(), DLL_PROCESS_ATTACH, nullptr));
 }
 
 TEST(GridApp, loadsIntoAHostThatLacksItsServices)

@@ -188,6 +188,16 @@ AcApDocManager* acDocManagerPtr()
     return current->documentManagerIsMissing ? nullptr : &manager;
 }
 
+BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module)
+{
+    if (current != nullptr && current->extensionModulesAreRefused)
+    {
+        return FALSE;
+    }
+    return original<BOOL(AFX_EXTENSION_MODULE&, HMODULE)>(
+        "_Z22AfxInitExtensionModuleR20AFX_EXTENSION_MODULEP11HINSTANCE__")(state, module);
+}
+
 int WINAPI LoadStringW(HINSTANCE module, UINT id, LPWSTR text, int size)
 {
     if (current == nullptr)

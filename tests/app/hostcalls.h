@@ -25,6 +25,7 @@ public:
     std::map<unsigned, std::wstring> strings;      // of LoadStringW
     std::vector<AcApDocManagerReactor*> reactors;  // of the document manager
     bool documentManagerIsMissing = false;
+    bool extensionModulesAreRefused = false;
 
 private:
     std::vector<std::wstring> m_calls;

@@ -151,6 +151,14 @@ TEST(GridCommand, asksForTheFirstCornerUntilItGetsOneOrIsStopped)
     }
 }
 
+TEST(GridCommand, asksForTheFirstCornerAgainWhenItCannotReadWhatWasTyped)
+{
+    ScriptedEditor editor;
+    editor.inputCannotBeRead = true;
+    editor.run({text(RTKWORD, L"S"), esc});
+    EXPECT_EQ(editor.log, together(borrowed, times(2, askedFirst), givenBack));
+}
+
 TEST(GridCommand, endsWithoutAnOtherCornerAndLeavesNothing)
 {
     for (const ScriptedAnswer& answer : {enter, esc, code(RTERROR), text(RTKWORD, L"S")})

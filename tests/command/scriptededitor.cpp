@@ -217,7 +217,7 @@ int acedGetInput(ACHAR* text)
         return original<int(ACHAR*)>("_Z12acedGetInputPw")(text);
     }
     std::wcscpy(text, current->lastText.c_str());
-    return RTNORM;
+    return current->inputCannotBeRead ? RTERROR : RTNORM;
 }
 
 int acedGetVar(const ACHAR* name, resbuf* result)

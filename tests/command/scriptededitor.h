@@ -60,6 +60,7 @@ public:
     int follow = 1;
     std::set<std::wstring> unreadable;  // variables that acedGetVar refuses
     bool ucsCannotBeSet = false;
+    bool inputCannotBeRead = false;
     std::function<void(CDialog&)> userOfDialog;  // none: cancels
     AcGeMatrix3d ucs;
     std::vector<AcGeMatrix3d> formerUcs;

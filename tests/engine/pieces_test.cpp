@@ -20,14 +20,16 @@ class Pieces : public tests::Grid
 {
 protected:
     // One node in the middle of the sheet.
-    GridDrawing draw() const
+    GridDrawing draw() const { return draw({10}); }
+    // One node at each of these x.
+    GridDrawing draw(const std::vector<double>& x) const
     {
         GridRequest request = GridRequest();
         request.corner2 = corner2;
         request.HorStep = request.VertStep = 10;
         request.needText = true;
         GridLines lines;
-        lines.x.push_back(10);
+        lines.x = x;
         lines.y.push_back(10);
         GridDrawing drawing;
         AcDbObjectPointer<AcDbEntity> boundary(outline, AcDb::kForRead);
@@ -43,6 +45,13 @@ TEST_F(Pieces, noteTheEndsOfTheirLinesForTheLabels)
     EXPECT_EQ(drawing.made.length(), 2);
     EXPECT_EQ(drawing.xLabelPoints.length(), 2);
     EXPECT_EQ(drawing.yLabelPoints.length(), 2);
+}
+
+TEST_F(Pieces, ofLinesCloserThanAMillionthAreLabelledOnce)
+{
+    pickSheet();
+    EXPECT_EQ(draw({10, 10 + 9e-7}).xLabelPoints.length(), 2);
+    EXPECT_EQ(draw({10, 10 + 11e-7}).xLabelPoints.length(), 4);
 }
 
 TEST_F(Pieces, thatCannotBeDrawnGetNoLabels)

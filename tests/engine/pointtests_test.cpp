@@ -172,6 +172,22 @@ TEST(PointInCurve, refusesACurveThatIsNoPolyline)
     EXPECT_EQ(pointInCurve({50, 1, 0}, line), -99);
 }
 
+class Unmeasurable : public AcDbLine
+{
+public:
+    Acad::ErrorStatus getClosestPointTo(const AcGePoint3d& given, AcGePoint3d& onCurve,
+                                        Adesk::Boolean) const override
+    {
+        onCurve = given;
+        return Acad::eInvalidInput;
+    }
+};
+
+TEST(PointInCurve, refusesACurveThatTheHostCannotMeasure)
+{
+    EXPECT_EQ(pointInCurve({0, 0, 0}, Unmeasurable()), -99);
+}
+
 TEST(ContainsPoint, findsAPointThatLiesCloserThanAMillionth)
 {
     const AcGePoint3dArray list = points({

@@ -102,6 +102,8 @@ TEST(Positions, thereAreNoneForNumbersThatMakeNoRow)
         {1e17,      1e17 + 100, 1e17,     1        }, // too small to move the coordinate
         {1e300,     1e300,      1e300,    1        },
         {1e300,     2e300,      0,        1e299    }, // distances there cannot be taken
+        {0,         2e150,      0,        1e149    },
+        {-2e150,    0,          0,        1e149    },
         {0,         3e9,        0,        1        }, // too many lines
     };
     for (const Row& row : rows)
@@ -125,6 +127,9 @@ TEST(Positions, noListIsLongerThanItsLimit)
     EXPECT_EQ(linePositions(0, 20, 0, 10, 5).size(), 5u);
     EXPECT_TRUE(linePositions(0, 20, 0, 10, 4).empty());
     EXPECT_TRUE(linePositions(0, 20, 0, 10, 0).empty());
+    // The sum of seventeen tenths falls short of their product, and an eighteenth has room.
+    EXPECT_TRUE(linePositions(5, 6.5, 0, 0.1, 17).empty());
+    EXPECT_EQ(linePositions(5, 6.5, 0, 0.1, 18).size(), 18u);
 }
 
 TEST(Positions, aDirectionWithoutLinesLeavesNoNodes)

@@ -279,6 +279,26 @@ TEST_F(Entities, nothingIsMadeWithoutADrawingOrWithoutTheBlock)
                     .isNull());
 }
 
+TEST_F(Entities, nothingIsMadeWhileSomeoneWritesTheTableOfBlocks)
+{
+    const tests::LetGo letGo;
+    AcDbObjectPointer<AcDbBlockTable> writer(AcDbObjectId(database().core().blockTable),
+                                             AcDb::kForWrite);
+    AcDbObjectId id;
+    AcDbLine loose({0, 0, 0}, {1, 0, 0});
+    EXPECT_EQ(appendToBlock(&loose, id, ACDB_MODEL_SPACE), Acad::eWasOpenForWrite);
+    EXPECT_TRUE(addPlainLine().isNull());
+}
+
+TEST_F(Entities, anEntityOfTheDrawingIsNotTakenASecondTimeAndStaysOpen)
+{
+    AcDbObjectPointer<AcDbLine> line(addPlainLine(), AcDb::kForWrite);
+    AcDbObjectId id;
+    EXPECT_EQ(appendToBlock(line.object(), id, ACDB_MODEL_SPACE), Acad::eAlreadyInDb);
+    EXPECT_TRUE(id.isNull());
+    EXPECT_TRUE(line->isWriteEnabled());
+}
+
 TEST_F(Entities, anAppendedEntityIsClosedAndARefusedOneIsNot)
 {
     AcDbLine* const line = new AcDbLine({0, 0, 0}, {1, 0, 0});

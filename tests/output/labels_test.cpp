@@ -2,6 +2,7 @@
 
 #include "host/database/access.h"
 #include "output/numbers.h"
+#include "tests/output/unnamed.h"
 #include "tests/support/letgo.h"
 #include "tests/support/opendrawing.h"
 
@@ -95,6 +96,20 @@ TEST_F(Labels, anUnknownStyleGivesALabelWithoutSlant)
                       });
 }
 
+TEST_F(Labels, aStyleThatSomeoneWritesGivesItselfButNeitherSlantNorWidth)
+{
+    const AcDbObjectId slanted = addStyle(L"Slanted", 0.2, 0.8, 0);
+    AcDbObjectPointer<AcDbTextStyleTableRecord> writer(slanted, AcDb::kForWrite);
+    inspect<AcDbText>(addPlain(L"1", L"Slanted"),
+                      [&](const AcDbText& text)
+                      {
+                          EXPECT_EQ(text.textStyle(), slanted);
+                          EXPECT_EQ(text.oblique(), 0);
+                          EXPECT_EQ(text.widthFactor(), 1);
+                          return 0;
+                      });
+}
+
 TEST_F(Labels, colourNoughtLeavesTheDrawingsCurrentColour)
 {
     host::currentOf(database()).color = 3;
@@ -174,5 +189,16 @@ TEST_F(Labels, aTextStyleThatCannotBeReadHasNone)
     EXPECT_TRUE(name.IsEmpty());
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
     EXPECT_EQ(currentTextStyleName(name), Acad::eNoDatabase);
+}
+
+TEST_F(Labels, aTextStyleWhoseNameIsNotToldHasNone)
+{
+    for (const Acad::ErrorStatus status : {Acad::eOk, Acad::eOutOfMemory})
+    {
+        const tests::Unnamed unnamed(status);
+        CString name(L"left over");
+        EXPECT_EQ(currentTextStyleName(name), status);
+        EXPECT_TRUE(name.IsEmpty());
+    }
 }
 }  // namespace

@@ -195,6 +195,16 @@ TEST(SettingsPicks, declinedLaterTakeNoYesBack)
     EXPECT_EQ(run.settings.VertStep, 19);
 }
 
+TEST(SettingsPicks, leaveTheEditAsItIsWhenTheyAreCancelled)
+{
+    for (const Pick& row : picks)
+    {
+        DialogRun run = withEverythingEnabled(L"en-US", 1000);
+        const std::string set = "set " + std::to_string(row.edit) + " 33";
+        EXPECT_EQ(shownText(run.with({set, row.button, "^C", "show", "^C"}), row.edit), "\"33\"");
+    }
+}
+
 TEST(SettingsPicks, beginWithWhatIsTyped)
 {
     DialogRun run;

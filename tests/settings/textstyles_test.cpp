@@ -1,0 +1,74 @@
+#include "settings/textstyles.h"
+
+#include <gmock/gmock.h>
+
+#include "host/database/access.h"
+#include "tests/output/unnamed.h"
+#include "tests/support/opendrawing.h"
+
+namespace
+{
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class TextStyles : public tests::OpenDrawing
+{
+protected:
+    AcDbObjectId addStyle(const wchar_t* name)
+    {
+        host::DatabaseCore& core = database().core();
+        return core
+            .addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, name, core.nextHandle++)
+            ->objectId();
+    }
+    static std::vector<std::wstring> names()
+    {
+        std::vector<std::wstring> names;
+        for (const CString& name : textStyleNames())
+        {
+            names.emplace_back(name);
+        }
+        return names;
+    }
+};
+
+TEST_F(TextStyles, areNamedInTheOrderOfTheirTable)
+{
+    addStyle(L"Slanted");
+    addStyle(L"");  // of a shape file, which is no style to write with
+    addStyle(L"Narrow");
+    EXPECT_THAT(names(), ElementsAre(L"Standard", L"Slanted", L"Narrow"));
+}
+
+TEST_F(TextStyles, thatSomeoneWritesAreLeftOut)
+{
+    const AcDbObjectId slanted = addStyle(L"Slanted");
+    AcDbObjectPointer<AcDbTextStyleTableRecord> writer(slanted, AcDb::kForWrite);
+    EXPECT_THAT(names(), ElementsAre(L"Standard"));
+}
+
+TEST_F(TextStyles, whoseNamesAreNotToldAreLeftOut)
+{
+    for (const Acad::ErrorStatus status : {Acad::eOk, Acad::eOutOfMemory})
+    {
+        const tests::Unnamed unnamed(status);
+        EXPECT_THAT(names(), IsEmpty());
+    }
+}
+
+TEST_F(TextStyles, areNoneWithoutTheirTable)
+{
+    {
+        AcDbObjectPointer<AcDbTextStyleTable> writer(AcDbObjectId(database().core().textStyleTable),
+                                                     AcDb::kForWrite);
+        EXPECT_THAT(names(), IsEmpty());
+    }
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST(TextStylesWithoutADrawing, areNone)
+{
+    EXPECT_TRUE(textStyleNames().empty());
+}
+}  // namespace
