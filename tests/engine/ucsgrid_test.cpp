@@ -109,7 +109,7 @@ TEST_F(UcsGrid, aPieceWhoseCutFailsIsDroppedAndAWholeOneIsKept)
     EXPECT_EQ(build().length(), 4);
 }
 
-TEST_F(UcsGrid, theTestRectangleIsNeverSeen)
+TEST_F(UcsGrid, theTestRectangleIsNeverSeenAndLiesInThePlane)
 {
     pickSheet();
     build();
@@ -122,11 +122,11 @@ TEST_F(UcsGrid, theTestRectangleIsNeverSeen)
             continue;
         }
         ++seen;
-        AcDbEntity* rectangle = nullptr;
-        ASSERT_EQ(acdbOpenAcDbEntity(rectangle, AcDbObjectId(&stubs[i]), AcDb::kForRead, true),
-                  Acad::eOk);
+        AcDbObjectPointer<AcDb2dPolyline> rectangle(AcDbObjectId(&stubs[i]), AcDb::kForRead, true);
+        ASSERT_EQ(rectangle.openStatus(), Acad::eOk);
         EXPECT_EQ(rectangle->visibility(), AcDb::kInvisible);
-        rectangle->close();
+        EXPECT_TRUE(rectangle->isClosed());
+        EXPECT_EQ(rectangle->elevation(), 0);
     }
     EXPECT_EQ(seen, 1);
 }

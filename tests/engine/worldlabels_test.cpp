@@ -209,18 +209,19 @@ TEST_F(WorldLabels, turnOverUnderATwistInTheFirstAndThirdQuarterOnly)
     };
     const double pi = 3.14159265359;
     const Row rows[] = {
-        {0,           false},
-        {M_PI / 6,    true },
-        {pi / 2,      false},
-        {2,           false},
-        {pi,          false},
-        {M_PI,        false},
-        {pi + 1,      true },
-        {pi / 2 + pi, false},
-        {6,           false},
-        {-0.5,        false},
-        {M_PI / 2,    true }, // a little less than the quarter turn of twelve decimals
-        {3*M_PI/2,    true },
+        {0,            false},
+        {M_PI / 6,     true },
+        {pi / 2,       false},
+        {2,            false},
+        {pi,           false},
+        {M_PI,         false},
+        {pi + 1,       true },
+        {pi / 2 + pi,  false},
+        {6,            false},
+        {-0.5,         false},
+        {M_PI / 2,     true }, // a little less than the quarter
+  // turn of twelve decimals
+        {3 * M_PI / 2, true },
     };
     pickSheet();
     for (const Row& row : rows)
@@ -242,6 +243,18 @@ TEST_F(WorldLabels, turnOverUnderATwistInTheFirstAndThirdQuarterOnly)
             eraseEntity(made[i]);
         }
     }
+}
+
+// Where a twisted view turns a label over, and back the one that was turned over already.
+TEST_F(WorldLabels, halfTurnsOfLabelsHaveTwelveDigitsAndGoBackByAsMuch)
+{
+    pickSheet();
+    state().view.twist = 0.5;
+    build();
+    const std::vector<LabelSeen> seen = labels();
+    const double halfTurn = 3.14159265359;
+    EXPECT_NEAR(seen[0].rotation, M_PI / 2 + halfTurn - 2 * M_PI, 5e-14);
+    EXPECT_NEAR(seen[1].rotation, -M_PI / 2, 5e-14);
 }
 
 TEST_F(WorldLabels, withoutPrefixAndNumberThereIsNoText)
