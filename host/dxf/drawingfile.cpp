@@ -1,5 +1,7 @@
 #include "host/dxf/drawingfile.h"
 
+#include <new>
+
 #include "host/dxf/emptydrawing.h"
 #include "host/dxf/error.h"
 #include "host/dxf/filesource.h"
@@ -18,6 +20,10 @@ OpenedDrawing openDrawing(const std::string& path)
     catch (const dxf::Error& error)
     {
         return {nullptr, error.what()};
+    }
+    catch (const std::bad_alloc&)
+    {
+        return {nullptr, path + ": cannot be opened: not enough memory"};
     }
 }
 
@@ -39,6 +45,10 @@ std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string
     {
         dxf::save(database.core(), path);
         return std::nullopt;
+    }
+    catch (const std::bad_alloc&)
+    {
+        return path + ": cannot be saved: not enough memory";
     }
     catch (const std::exception& error)
     {

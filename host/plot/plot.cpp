@@ -81,10 +81,14 @@ Plotted plotDrawing(AcDbDatabase& database, const std::string& path)
         const std::string bytes = plotted(scene, database.core().state.view, *kind);
         if (bytes.empty())
         {
-            return {path + ": cannot be drawn: out of memory", {}};
+            return {path + ": cannot be drawn: not enough memory", {}};
         }
         dxf::saveAtomically(path, {}, [&](dxf::TagWriter& writer) { writer.raw(bytes); });
         return {{}, scene.leftOut()};
+    }
+    catch (const std::bad_alloc&)
+    {
+        return {path + ": cannot be drawn: not enough memory", {}};
     }
     catch (const std::exception& error)
     {

@@ -1,0 +1,18 @@
+// Memory and files that run out at a chosen moment.
+#pragma once
+
+namespace scarcity
+{
+enum class Of
+{
+    memory,      // every request for memory
+    files,       // every call that opens, reads, writes, renames or closes a file
+    fileLength,  // likewise, but writes and reads do a part of their work instead of failing
+};
+
+// From the start on, requests are counted; number `first`, from 1, is refused, and with `forGood`
+// all after it.
+void start(Of what, long first, bool forGood, int error = 0);
+// Ends that. Whether a request was refused.
+bool stop();
+}  // namespace scarcity

@@ -1,0 +1,191 @@
+// Opens and saves drawings while memory or the disk runs out, at every moment there is: a drawing
+// is read or refused in one line, and the old file is whole until the new one has its name.
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "dbents.h"
+#include "host/database/core.h"
+#include "host/dxf/drawingfile.h"
+#include "host/plot/plot.h"
+#include "tests/scarce/scarcity.h"
+
+namespace fs = std::filesystem;
+
+namespace
+{
+long tried = 0;
+long failed = 0;
+
+void expect(bool holds, const std::string& what)
+{
+    if (!holds)
+    {
+        ++failed;
+        std::printf("FAILED %s\n", what.c_str());
+    }
+}
+
+std::string contents(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
+
+bool isOneLineAbout(const std::string& line, const fs::path& path)
+{
+    return line.starts_with(path.string() + ": ") && line.find('\n') == line.npos;
+}
+
+// How things run out.
+struct Mode
+{
+    const char* name;
+    scarcity::Of what;
+    bool forGood;
+    int error;
+    bool mayFail;
+};
+
+const Mode modes[] = {
+    {"memory, once",         scarcity::Of::memory,     false, ENOMEM, true },
+    {"memory, from then on", scarcity::Of::memory,     true,  ENOMEM, true },
+    {"a full disk",          scarcity::Of::files,      false, ENOSPC, true },
+    {"a full disk for good", scarcity::Of::files,      true,  ENOSPC, true },
+    {"a broken disk",        scarcity::Of::files,      false, EIO,    true },
+    {"reads and writes cut", scarcity::Of::fileLength, false, 0,      false},
+    {"all of them cut",      scarcity::Of::fileLength, true,  0,      false},
+};
+
+// Calls `attempt` with every request refused in turn, until none is left to be.
+void sweep(const Mode& mode, const std::string& job,
+           const std::function<std::string(bool& done)>& attempt, const fs::path& path,
+           const std::function<void(bool done)>& check)
+{
+    long number = 1;
+    for (bool refused = true; refused; ++number)
+    {
+        bool done = false;
+        scarcity::start(mode.what, number, mode.forGood, mode.error);
+        std::string said;
+        try
+        {
+            said = attempt(done);
+        }
+        catch (const std::bad_alloc&)  // the program itself tells of it, in one line
+        {
+            refused = scarcity::stop();
+            said = path.string() + ": memory ran out while it was told";
+        }
+        refused = scarcity::stop();
+        tried += refused ? 1 : 0;
+        const std::string where = job + ", " + mode.name + ", request " + std::to_string(number);
+        expect(done || isOneLineAbout(said, path), where + ": said \"" + said + '"');
+        expect(done || (refused && mode.mayFail), where + ": failed: " + said);
+        check(done);
+    }
+}
+
+void sweepOpening(const fs::path& path)
+{
+    for (const Mode& mode : modes)
+    {
+        std::unique_ptr<AcDbDatabase> database;
+        const auto open = [&](bool& done)
+        {
+            host::OpenedDrawing drawing = host::openDrawing(path.string());
+            done = drawing.database != nullptr;
+            return drawing.error;
+        };
+        sweep(mode, "opening " + path.filename().string(), open, path, [](bool) {});
+    }
+}
+
+// The drawing with one line more.
+std::unique_ptr<AcDbDatabase> changed(const fs::path& path)
+{
+    auto database = host::openDrawing(path.string()).database;
+    AcDbBlockTable* blocks = nullptr;
+    AcDbBlockTableRecord* space = nullptr;
+    database->getBlockTable(blocks, AcDb::kForRead);
+    blocks->getAt(ACDB_MODEL_SPACE, space, AcDb::kForWrite);
+    auto* line = new AcDbLine(AcGePoint3d(0, 0, 0), AcGePoint3d(1.5, 2.5, 0));
+    space->appendAcDbEntity(line);
+    line->close();
+    space->close();
+    blocks->close();
+    return database;
+}
+
+// Over the old file, and once as a plot under a name that ends in .png.
+void sweepSaving(const fs::path& original, const fs::path& target)
+{
+    const std::string before = "an older file";
+    const auto database = changed(original);
+    const bool plots = target.extension() == ".png";
+    const auto write = [&]
+    {
+        return plots ? host::plotDrawing(*database, target.string()).error
+                     : host::saveDrawing(*database, target.string()).value_or("");
+    };
+    std::ofstream(target) << before;
+    expect(write().empty(), "saving without a fault");
+    const std::string after = contents(target);
+    for (const Mode& mode : modes)
+    {
+        // Drawing itself asks for memory hundreds of thousands of times, in the library as well.
+        if (plots && mode.what == scarcity::Of::memory)
+        {
+            continue;
+        }
+        std::ofstream(target) << before;
+        const auto save = [&](bool& done)
+        {
+            const std::string error = write();
+            done = error.empty();
+            return error;
+        };
+        const auto check = [&](bool done)
+        {
+            const std::string now = contents(target);
+            expect(now == (done ? after : before) || (!done && now == after),
+                   std::string(mode.name) + ": the file is neither the old nor the new one");
+            const auto files = std::distance(fs::directory_iterator(target.parent_path()), {});
+            expect(files == 1, std::string(mode.name) + ": other files are left");
+            std::ofstream(target) << before;
+        };
+        sweep(mode, (plots ? "plotting " : "saving ") + original.filename().string(), save, target,
+              check);
+    }
+}
+}  // namespace
+
+int main()
+{
+    std::string pattern = (fs::temp_directory_path() / "netrax-scarce-XXXXXX").string();
+    const fs::path folder = mkdtemp(pattern.data());
+    for (const char* name : {"entities-only.dxf", "r12-cyrillic.dxf", "plan-binary.dxf"})
+    {
+        const fs::path drawing = fs::path(TESTS_DIR) / "golden" / "drawings" / name;
+        sweepOpening(drawing);
+        sweepSaving(drawing, folder / "saved.dxf");
+        fs::remove(folder / "saved.dxf");
+        sweepSaving(drawing, folder / "plot.png");
+        fs::remove(folder / "plot.png");
+    }
+    fs::remove_all(folder);
+    std::printf("%ld requests refused\n%ld passed, %ld failed\n", tried, tried - failed, failed);
+    return failed == 0 && tried > 0 ? 0 : 1;
+}
