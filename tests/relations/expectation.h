@@ -54,6 +54,7 @@ struct Expectation
     double tolerance;  // of the ends of parts and of values
 };
 
-// None for a case in which the tolerances of the point tests decide, see `isDoubtful`.
+// None for a case in which the tolerances of the point tests decide, see Clipper::isBeyond, or an
+// edge is all but parallel to the lines.
 std::optional<Expectation> expectationOf(const GridCase& asked);
 }  // namespace relations

@@ -135,8 +135,8 @@ GridCase randomCase(Chance& chance, Shape shape)
     asked.steps = {randomStep(numbers, width), randomStep(numbers, height)};
     if (chance.oneIn(3))
     {
-        // Within two steps, see followsMirror: a longer bar reaches in from nodes further out than
-        // any that are looked at.
+        // Within two steps: a longer bar reaches in from nodes further out than one step, and of
+        // those more are looked at on one side than on the other.
         asked.crossSize = std::min(asked.steps[0], asked.steps[1]) * chance.between(0.1, 1.9);
     }
     for (int edge = 0; edge < 4 && shape == Shape::rectangle; ++edge)

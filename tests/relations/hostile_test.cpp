@@ -181,7 +181,7 @@ double processorSeconds()
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-// Half of it is a row of millions of lines that is given up, with the sanitizers built in.
+// Ten times what the slowest of a million took, also with the sanitizers built in.
 const double longest = 0.5;  // seconds of the processor
 
 class HostileInput : public relations::Sheet
