@@ -109,6 +109,38 @@ TEST_F(UcsGrid, aPieceWhoseCutFailsIsDroppedAndAWholeOneIsKept)
     EXPECT_EQ(build().length(), 4);
 }
 
+// Two millionths off an edge, where the host's own tests decide.
+TEST_F(UcsGrid, linesBesideAnEdgeAreDrawnInsideAndDroppedOutside)
+{
+    struct Row
+    {
+        double x, y;  // of a node
+        bool across;  // its horizontal line is looked for
+        bool drawn;
+    };
+    const double off = 2e-6;
+    const Row rows[] = {
+        {0 + off,  10,       false, true },
+        {0 - off,  10,       false, false},
+        {30 - off, 10,       false, true },
+        {30 + off, 10,       false, false},
+        {10,       0 + off,  true,  true },
+        {10,       0 - off,  true,  false},
+        {10,       20 - off, true,  true },
+        {10,       20 + off, true,  false},
+    };
+    pickSheet();
+    for (const Row& row : rows)
+    {
+        options.basePoint.set(row.x, row.y, 0);
+        const AcDbObjectIdArray made = build();
+        const AcGeVector3d half = row.across ? AcGeVector3d(5, 0, 0) : AcGeVector3d(0, 5, 0);
+        const AcGePoint3d node(row.x, row.y, 0);
+        EXPECT_EQ(hasLine(node - half, node + half), row.drawn) << row.x << ' ' << row.y;
+        erase(made);
+    }
+}
+
 TEST_F(UcsGrid, theTestRectangleIsNeverSeenAndLiesInThePlane)
 {
     pickSheet();

@@ -98,6 +98,45 @@ TEST(SettingsDialog, showsTheDefaultsInBothLanguages)
     EXPECT_TRUE(russian.starts_with(openedRu)) << russian;
 }
 
+// Writes down the banners of the two prefixes as soon as the dialog is set up.
+class Bannered : public CSettingsDlg
+{
+public:
+    explicit Bannered(const CString& locale) : CSettingsDlg(GridSettings(), -1, -1, locale, L"") {}
+    std::wstring banners;
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        const BOOL result = CSettingsDlg::OnInitDialog();
+        for (const int edit : {138, 142})
+        {
+            wchar_t banner[32] = L"";
+            SendDlgItemMessage(edit, EM_GETCUEBANNER, reinterpret_cast<WPARAM>(banner), 32);
+            banners += banner;
+        }
+        return result;
+    }
+};
+
+TEST(SettingsDialog, saysInBothLanguagesWhatGoesIntoAnEmptyPrefix)
+{
+    const auto banners = [](const wchar_t* locale)
+    {
+        std::wstring said;
+        const auto show = [&]
+        {
+            Bannered dialog(locale);
+            dialog.DoModal();
+            said = dialog.banners;
+        };
+        support::Session().run(show, {"^C"});
+        return said;
+    };
+    EXPECT_EQ(banners(L"en-US"), L"<X prefix><Y prefix>");
+    EXPECT_EQ(banners(L"ru-RU"), L"<префикс X><префикс Y>");
+}
+
 struct Field
 {
     const char* name;

@@ -236,7 +236,8 @@ TEST(SettingsFile, liesInTheFolderOfTheModule)
         std::wstring module;
         std::wstring file;
     };
-    const std::wstring deep(506, L'x');  // so that the module's path has 520 characters
+    const std::wstring deep(506, L'x');     // so that the module's path has 520 characters
+    const std::wstring tooDeep(517, L'x');  // the path is cut there, before its last folder ends
     const Row rows[] = {
         {L"C:\\Plug-ins\\netrax.arx",                   L"C:\\Plug-ins\\properties.ini"     },
         {L"\\netrax.arx",                               L"\\properties.ini"                 },
@@ -245,6 +246,7 @@ TEST(SettingsFile, liesInTheFolderOfTheModule)
         {L"netrax.arx",                                 L"properties.ini"                   }, // no folder: the working one
         {L"",                                           L"properties.ini"                   },
         {L"C:\\" + deep + L"\\netrax.arx",              L"C:\\" + deep + L"\\properties.ini"},
+        {L"C:\\" + tooDeep + L"\\netrax.arx",           L"C:\\properties.ini"               },
     };
     for (const Row& row : rows)
     {

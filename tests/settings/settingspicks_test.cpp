@@ -158,13 +158,16 @@ TEST(SettingsPicks, sayInRussianWhatIsWrongWithAStep)
               std::string::npos);
 }
 
-TEST(SettingsPicks, checkNoStepWhileTheGridIsNotKnown)
+TEST(SettingsPicks, checkNoStepWhileTheGridIsNotKnownOrHasNoSize)
 {
     for (const char* typed : {"0", "1e9", "0.001"})
     {
-        DialogRun run;
-        const std::string said = run.with({"click 110", typed, "^C"});
-        EXPECT_EQ(between(said), "\nVertical step <100.0000>: " + std::string(typed) + "\n");
+        for (const double side : {-1.0, 0.0})
+        {
+            DialogRun run{.gridWidth = side, .gridHeight = side};
+            const std::string said = run.with({"click 110", typed, "^C"});
+            EXPECT_EQ(between(said), "\nVertical step <100.0000>: " + std::string(typed) + "\n");
+        }
     }
 }
 
