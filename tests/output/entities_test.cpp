@@ -24,6 +24,14 @@ protected:
         host::DatabaseCore& core = database().core();
         return core.addLoadedRecord<AcDbLayerTableRecord>(core.layerTable, name, core.nextHandle++);
     }
+    template <class Record>
+    void addErased(AcDbStub* table, const wchar_t* name)
+    {
+        host::DatabaseCore& core = database().core();
+        const AcDbObjectId id =
+            core.addLoadedRecord<Record>(table, name, core.nextHandle++)->objectId();
+        AcDbObjectPointer<Record>(id, AcDb::kForWrite)->erase();
+    }
     AcDbObjectId addPlainLine()
     {
         return addLine(true, {0, 0, 0}, {10, 0, 0}, 0, nullptr, nullptr, ACDB_MODEL_SPACE);
@@ -114,6 +122,8 @@ TEST_F(Entities, linetypesAreFoundOnlyWhenTheyAreLoaded)
     EXPECT_FALSE(linetypeExists(nullptr));
     EXPECT_FALSE(linetypeExists(L"NoSuchDashes"));
     EXPECT_TRUE(linetypeExists(L"Continuous"));
+    addErased<AcDbLinetypeTableRecord>(database().core().linetypeTable, L"Dashed");
+    EXPECT_FALSE(linetypeExists(L"Dashed"));
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
     EXPECT_FALSE(linetypeExists(L"Continuous"));
 }
@@ -216,6 +226,7 @@ TEST_F(Entities, aFrameIsClosedWhenItsEndsCoincideAndNoCornerIsDoubled)
          true                                                                                  }, // a frame without any size is tried all the same
         {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 0, 0}}),                        3, true },
         {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {5e-11, 0, 0}}),                    3, true },
+        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 0, 1e-10}}),                    4, false}, // the tolerance itself
         {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {1e-9, 0, 0}}),                     4, false},
         {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}, {0, 0, 0}}),             4, true },
         {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}}),                        4, false},
@@ -267,6 +278,8 @@ TEST_F(Entities, nothingIsMadeWithoutADrawingOrWithoutTheBlock)
     AcDbLine loose({0, 0, 0}, {1, 0, 0});
     EXPECT_EQ(appendToBlock(&loose, id, L"NoSuchBlock"), Acad::eKeyNotFound);
     EXPECT_TRUE(addLine(true, {0, 0, 0}, {1, 0, 0}, 1, nullptr, nullptr, L"NoSuchBlock").isNull());
+    addErased<AcDbBlockTableRecord>(database().core().blockTable, L"Gone");
+    EXPECT_EQ(appendToBlock(&loose, id, L"Gone"), Acad::eWasErased);
     EXPECT_EQ(entities().length(), 0);
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
     EXPECT_EQ(appendToBlock(&loose, id, ACDB_MODEL_SPACE), Acad::eNoDatabase);

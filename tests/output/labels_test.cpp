@@ -110,6 +110,19 @@ TEST_F(Labels, aStyleThatSomeoneWritesGivesItselfButNeitherSlantNorWidth)
                       });
 }
 
+TEST_F(Labels, anErasedStyleIsAnUnknownOne)
+{
+    const AcDbObjectId slanted = addStyle(L"Slanted", 0.2, 0.8, 0);
+    AcDbObjectPointer<AcDbTextStyleTableRecord>(slanted, AcDb::kForWrite)->erase();
+    inspect<AcDbText>(addPlain(L"1", L"Slanted"),
+                      [](const AcDbText& text)
+                      {
+                          EXPECT_EQ(host::recordName(text.textStyle()), L"Standard");
+                          EXPECT_EQ(text.oblique(), 0);
+                          return 0;
+                      });
+}
+
 TEST_F(Labels, colourNoughtLeavesTheDrawingsCurrentColour)
 {
     host::currentOf(database()).color = 3;

@@ -464,6 +464,7 @@ const Large larges[] = {
     {-1,   -1,   "set 107 1 | set 109 1 | click 1",                               "ok"                  }, // sizes not known
     {1000, 1000, "set 107 20 | set 109 20 | click 1",                             "ok"                  }, // exactly 50
     {1000, 1000, "set 107 19 | click 1 | yes",                                    "vertical:yes | ok"   },
+    {0.5,  0.5,  "set 107 0.009 | set 109 0.1 | click 1 | yes",                   "vertical:yes | ok"   },
     {1000, 1000, "set 109 19 | click 1 | yes",                                    "horizontal:yes | ok" },
     {100,  1000, "set 107 19 | set 109 19 | click 1 | yes",
      "vertical:yes | ok"                                                                                }, // height and vertical

@@ -84,6 +84,14 @@ TEST(SettingsPicks, refuseZeroAndKeepTheEdit)
     }
 }
 
+TEST(SettingsPicks, takeALengthOfTheToleranceItself)
+{
+    DialogRun run = withEverythingEnabled(L"en-US", 1000);
+    const std::string said = run.with({"click 118", "0.0000000001", "show", "^C"});
+    EXPECT_EQ(said.find("[alert]"), std::string::npos) << said;
+    EXPECT_EQ(shownText(said, 117), "\"0.0000\"");
+}
+
 struct Outcome
 {
     const char* lines;  // after "click 110"
@@ -143,6 +151,13 @@ TEST(SettingsPicks, checkTheHorizontalStepAgainstTheWidth)
     EXPECT_NE(said.find("Large number of horizontal lines in grid. Proceed? (Yes/No) -> no"),
               std::string::npos);
     EXPECT_EQ(shownText(said, 109), "\"100.0000\"");
+}
+
+TEST(SettingsPicks, checkAStepAgainstAGridSmallerThanAUnitToo)
+{
+    DialogRun run{.gridWidth = 0.5, .gridHeight = 0.5};
+    const std::string said = run.with({"click 110", "0.6", "^C"});
+    EXPECT_NE(said.find("[alert] Vertical step cant be bigger"), std::string::npos) << said;
 }
 
 TEST(SettingsPicks, sayInRussianWhatIsWrongWithAStep)
