@@ -109,6 +109,24 @@ TEST(PointInQuad, findsEdgesAndCornersAtSurveyCoordinates)
     }
 }
 
+// An edge is as uncertain along all its length as at its furthest end.
+TEST(PointInQuad, takesTheRoundingOfTheFurthestCorner)
+{
+    const AcGePoint3d q[] = {
+        {16777216, 0,   0},
+        {1048576,  100, 0},
+        {0,        100, 0},
+        {0,        0,   0}
+    };
+    for (int i = 0; i < 4; ++i)
+    {
+        const auto place = [&](const AcGePoint3d& P)
+        { return pointInQuad(P, q[i], q[(i + 1) % 4], q[(i + 2) % 4], q[(i + 3) % 4]); };
+        EXPECT_EQ(place({2097152, 5e-8, 0}), 0) << i;
+        EXPECT_EQ(place({2097152, 7e-8, 0}), 1) << i;
+    }
+}
+
 TEST(PointInOutlinePoints, countsTheFirstFourPointsOnly)
 {
     AcGePoint3dArray outline = sheet();
