@@ -1,6 +1,9 @@
 #include "tests/faults/faults.h"
 
+#include <dlfcn.h>
 #include <link.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -83,6 +86,51 @@ int outcomeOf(const char* name, unsigned outcomes, unsigned onceOnly, const void
     return int(std::min(plan.outcome, possible - 1));
 }
 
+static std::vector<const char*>& names()
+{
+    static std::vector<const char*> all;
+    return all;
+}
+
+const std::vector<const char*>& listed()
+{
+    return names();
+}
+
+static void replaceVirtual(const char* table, void* host, void* own)
+{
+    void* const start = dlsym(RTLD_DEFAULT, table);
+    Dl_info info;
+    ElfW(Sym)* symbol = nullptr;
+    if (start == nullptr || host == nullptr ||
+        dladdr1(start, &info, reinterpret_cast<void**>(&symbol), RTLD_DL_SYMENT) == 0)
+    {
+        return;
+    }
+    auto** const slots = static_cast<void**>(start);
+    const std::size_t page = std::size_t(sysconf(_SC_PAGESIZE));
+    for (std::size_t i = 0; i < symbol->st_size / sizeof(void*); ++i)
+    {
+        if (slots[i] == host)
+        {
+            const auto at = reinterpret_cast<std::uintptr_t>(slots + i);
+            mprotect(reinterpret_cast<void*>(at / page * page), page, PROT_READ | PROT_WRITE);
+            slots[i] = own;
+        }
+    }
+}
+
+bool list(const char* name, const char* symbol, void* own)
+{
+    names().push_back(name);
+    void* const host = dlsym(RTLD_NEXT, symbol);
+    for (const char* table : {"_ZTV8AcDbLine", "_ZTV8AcDbText", "_ZTV14AcDb2dPolyline"})
+    {
+        replaceVirtual(table, host, own);
+    }
+    return true;
+}
+
 const std::vector<Call>& calls()
 {
     return made;
@@ -118,7 +166,7 @@ struct alignas(16) Block
     Block* after;
 };
 
-Block list{0, 0, false, &list, &list};
+Block blocks{0, 0, false, &blocks, &blocks};
 
 void* allocate(std::size_t size, const void* caller)
 {
@@ -131,10 +179,10 @@ void* allocate(std::size_t size, const void* caller)
     if (block->isModules)
     {
         block->call = int(made.size());
-        block->before = list.before;
-        block->after = &list;
-        list.before->after = block;
-        list.before = block;
+        block->before = blocks.before;
+        block->after = &blocks;
+        blocks.before->after = block;
+        blocks.before = block;
     }
     return block + 1;
 }
@@ -160,13 +208,13 @@ void begin(const Plan& chosen)
     plan = chosen;
     made.clear();
     failedCalls.clear();
-    list.before = list.after = &list;  // what was there before counts no more
+    blocks.before = blocks.after = &blocks;  // what was there before counts no more
 }
 
 std::vector<Leak> leaks()
 {
     std::vector<Leak> found;
-    for (const Block* block = list.after; block != &list; block = block->after)
+    for (const Block* block = blocks.after; block != &blocks; block = block->after)
     {
         found.push_back({block->size, block->call});
     }

@@ -36,6 +36,13 @@ const std::vector<Call>& calls();  // since `begin`
 bool failed(const char* name);     // whether a call of that name was failed
 std::string failures();            // what was failed, with numbers
 
+// Names of all calls that can be failed.
+const std::vector<const char*>& listed();
+
+// Adds one and gives true. Entities are called through their tables of virtual functions: where
+// these hold the host's function of that symbol, `own` takes its place.
+bool list(const char* name, const char* symbol, void* own);
+
 // For the functions that stand in place of the host's: the outcome to fail with, or -1.
 int outcomeOf(const char* name, unsigned outcomes, unsigned onceOnly, const void* caller);
 

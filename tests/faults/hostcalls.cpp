@@ -42,7 +42,9 @@ using faults::outcomeOf;
         }                                                                                     \
         CLEAR;                                                                                \
         return outcomes[outcome];                                                             \
-    }
+    }                                                                                         \
+    [[maybe_unused]] const bool NAME##IsListed =                                              \
+        faults::list(TITLE, SYMBOL, reinterpret_cast<void*>(NAME));
 
 #define STATUS_CALL(NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ...) \
     CALL_THAT_FAILS(ErrorStatus, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, 0, __VA_ARGS__)
@@ -120,9 +122,6 @@ STATUS_CALL(failAppend, "_ZN20AcDbBlockTableRecord16appendAcDbEntityER12AcDbObje
             id.setNull(), Acad::eOutOfMemory, Acad::eAlreadyInDb)
 STATUS_CALL(failDraw, "_ZN10AcDbEntity4drawEv", "AcDbEntity::draw", (AcDbEntity * self), (self),
             NOTHING, Acad::eInvalidInput)
-STATUS_CALL(failSetLayer, "_ZN10AcDbEntity8setLayerEPKwib", "AcDbEntity::setLayer",
-            (AcDbEntity * self, const ACHAR* name, Adesk::Boolean subents, bool hidden),
-            (self, name, subents, hidden), NOTHING, Acad::eKeyNotFound, Acad::eInvalidLayer)
 STATUS_CALL(failSetLinetype, "_ZN10AcDbEntity11setLinetypeEPKwi", "AcDbEntity::setLinetype",
             (AcDbEntity * self, const ACHAR* name, Adesk::Boolean subents), (self, name, subents),
             NOTHING, Acad::eKeyNotFound)
@@ -132,6 +131,14 @@ STATUS_CALL(failSetColor, "_ZN10AcDbEntity13setColorIndexEti", "AcDbEntity::setC
 STATUS_CALL(failSetWeight, "_ZN10AcDbEntity13setLineWeightEN4AcDb10LineWeightEi",
             "AcDbEntity::setLineWeight",
             (AcDbEntity * self, AcDb::LineWeight weight, Adesk::Boolean subents),
+            (self, weight, subents), NOTHING, Acad::eInvalidInput)
+STATUS_CALL(failPolylineColor, "_ZN14AcDb2dPolyline13setColorIndexEti",
+            "AcDb2dPolyline::setColorIndex",
+            (AcDb2dPolyline * self, Adesk::UInt16 color, Adesk::Boolean subents),
+            (self, color, subents), NOTHING, Acad::eInvalidInput)
+STATUS_CALL(failPolylineWeight, "_ZN14AcDb2dPolyline13setLineWeightEN4AcDb10LineWeightEi",
+            "AcDb2dPolyline::setLineWeight",
+            (AcDb2dPolyline * self, AcDb::LineWeight weight, Adesk::Boolean subents),
             (self, weight, subents), NOTHING, Acad::eInvalidInput)
 STATUS_CALL(failTransformLine, "_ZN8AcDbLine11transformByERK12AcGeMatrix3d",
             "AcDbLine::transformBy", (AcDbLine * self, const AcGeMatrix3d& matrix), (self, matrix),
@@ -235,9 +242,6 @@ CALL_THAT_FAILS(BOOL, failAutoLoad, "_ZN20CAdUiOwnerDrawButton8AutoLoadEv",
 CALL_THAT_FAILS(int, failMessageBox, "MessageBoxW", "MessageBox",
                 (HWND owner, LPCWSTR text, LPCWSTR caption, UINT type),
                 (owner, text, caption, type), NOTHING, 0, 0)
-CALL_THAT_FAILS(int, failLoadString, "LoadStringW", "LoadString",
-                (HINSTANCE module, UINT id, LPWSTR text, int room), (module, id, text, room),
-                NOTHING, 0, 0)
 CALL_THAT_FAILS(DWORD, failModuleName, "GetModuleFileNameW", "GetModuleFileName",
                 (HINSTANCE module, LPWSTR name, DWORD room), (module, name, room), NOTHING, 0, 0)
 CALL_THAT_FAILS(int, failLocaleName, "LCIDToLocaleName", "LCIDToLocaleName",

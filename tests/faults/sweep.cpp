@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -192,6 +193,7 @@ public:
 private:
     bool load();
     void sweep(const Script& script, bool pairs);
+    void requireAllSeen();
     void attempt(const Script& script, const faults::Plan& plan);
     bool attemptHere(const Script& script, const faults::Plan& plan);
     std::vector<faults::Call> callsOf(const Script& script);
@@ -201,6 +203,7 @@ private:
     unsigned m_number;
     unsigned m_workers;
     long m_plan = 0;
+    std::set<std::string> m_seen;       // names of calls
     std::vector<faults::Call> m_calls;  // of the script in hand, without a fault
     Board* m_board;
 };
@@ -335,6 +338,7 @@ void Worker::sweep(const Script& script, bool pairs)
     std::map<std::string, faults::Call> names;
     for (int i = 0; i < int(calls.size()); ++i)
     {
+        m_seen.insert(calls[std::size_t(i)].name);
         names.emplace(calls[std::size_t(i)].name, calls[std::size_t(i)]);
         for (unsigned outcome = 0; outcome < calls[std::size_t(i)].outcomes; ++outcome)
         {
@@ -363,6 +367,21 @@ void Worker::sweep(const Script& script, bool pairs)
     }
 }
 
+// A call that no script makes is one that the module makes no more, or one that never came here.
+void Worker::requireAllSeen()
+{
+    for (const char* name : faults::listed())
+    {
+        if (!m_seen.contains(name))
+        {
+            ++failed;
+            std::printf("FAILED no script makes the call %s\n", name);
+        }
+    }
+    std::printf("%zu kinds of calls\n", m_seen.size());
+    std::fflush(stdout);
+}
+
 int Worker::run()
 {
     if (!load())
@@ -373,6 +392,10 @@ int Worker::run()
     {
         const bool isShort = i < 2;
         sweep(scripts[i], isShort);
+    }
+    if (m_number == 0)
+    {
+        requireAllSeen();
     }
     return 0;
 }
