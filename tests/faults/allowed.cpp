@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <string_view>
 
+#include "dbents.h"
+#include "dbgroup.h"
+
 namespace
 {
 struct Row
@@ -64,9 +67,13 @@ bool mayLeave(const std::string& left)
     }
 }
 
-bool mayLeak(const faults::Leak&)
+bool mayLeak(const faults::Leak& leak)
 {
-    return std::ranges::any_of(refusals, [](const char* call) { return faults::failed(call); });
+    const std::size_t sizes[] = {sizeof(AcDbLine), sizeof(AcDbText), sizeof(AcDb2dPolyline),
+                                 sizeof(AcDbGroup)};
+    const bool isEntityOrGroup = std::ranges::find(sizes, leak.size) != std::end(sizes);
+    return isEntityOrGroup &&
+           std::ranges::any_of(refusals, [](const char* call) { return faults::failed(call); });
 }
 
 bool mayStop(const std::string& report, const std::string& call)

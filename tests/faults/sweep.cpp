@@ -213,6 +213,11 @@ bool Worker::load()
     fs::current_path(m_folder);  // without its own path the module takes the current folder
     host::registerHostCommands();
     host::documents().open(host::newDrawing());
+    // Neither is what a run sets, so one that is not given back is seen.
+    host::DrawingState& state = host::documents().document()->database()->core().state;
+    state.modelUcs.toWorld =
+        AcGeMatrix3d::rotation(0.5, AcGeVector3d::kZAxis, AcGePoint3d(3, 4, 0));
+    state.ucsFollow = 1;
     support::Typist typist;
     host::Editor editor(typist, false);
     if (const auto error = host::linker().load(m_folder / "netrax.arx"))
