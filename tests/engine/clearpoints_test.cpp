@@ -1,0 +1,85 @@
+// The quick look and the point tests that it spares.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "engine/cleararea.h"
+#include "engine/pointtests.h"
+
+namespace
+{
+// A point at a random distance from an edge, from far off down to the last place.
+AcGePoint3d pointNear(const AcGePoint3d& a, const AcGePoint3d& b, std::mt19937_64& random)
+{
+    std::uniform_real_distribution<double> along(-0.2, 1.2), power(-14, 1);
+    const AcGeVector3d edge = b - a;
+    const double side = random() % 2 == 0 ? 1 : -1;
+    const double off = side * std::pow(10, power(random));
+    return a + edge * along(random) + AcGeVector3d(-edge.y, edge.x, 0) * off;
+}
+
+TEST(ClearPoints, whereTheQuickLookIsSureTheTestOfTheOutlineSaysTheSame)
+{
+    std::mt19937_64 random(20140321);
+    std::uniform_real_distribution<double> place(-1, 1);
+    long sure = 0;
+    for (int quad = 0; quad < 20000; ++quad)
+    {
+        const double size = std::pow(10, double(random() % 7));
+        const AcGePoint3d far(double(random() % 3) * 4e6, double(random() % 3) * 6e6, 0);
+        AcGePoint3d q[4];
+        for (AcGePoint3d& corner : q)
+        {
+            corner = far + AcGeVector3d(place(random), place(random), 0) * size;
+        }
+        if (quad % 2 == 0)  // the parallelograms that the command draws
+        {
+            q[2] = q[1] + (q[3] - q[0]);
+        }
+        const ClearArea clear(q[0], q[1], q[2], q[3], 1e-10);
+        for (int i = 0; i < 12; ++i)
+        {
+            const AcGePoint3d point = pointNear(q[i % 4], q[(i + 1) % 4], random);
+            const int quick = clear.locate(point);
+            const int tested = pointInQuad(point, q[0], q[1], q[2], q[3]);
+            sure += quick != 0;
+            ASSERT_TRUE(quick == 0 || quick == tested)
+                << quick << " and " << tested << " for quad " << quad << ", point " << i;
+        }
+    }
+    EXPECT_GT(sure, 50000) << "it is hardly ever sure";
+}
+
+TEST(ClearPoints, whereTheQuickLookIsSureTheTestOfTheCurveSaysTheSame)
+{
+    std::mt19937_64 random(20140322);
+    std::uniform_real_distribution<double> place(-1, 1);
+    long sure = 0;
+    for (int quad = 0; quad < 1000; ++quad)
+    {
+        const double size = std::pow(10, double(random() % 6));
+        const AcGePoint3d low(place(random) * size * 10, place(random) * size * 10, 0);
+        const AcGePoint3d high =
+            low + AcGeVector3d(1.1 + place(random), 1.1 + place(random), 0) * size;
+        AcGePoint3dArray corners;
+        corners.append(low);
+        corners.append(AcGePoint3d(high.x, low.y, 0));
+        corners.append(high);
+        corners.append(AcGePoint3d(low.x, high.y, 0));
+        corners.append(low);
+        const AcDb2dPolyline rectangle(AcDb::k2dSimplePoly, corners, 0.0, Adesk::kTrue);
+        const CurveArea curve(rectangle);
+        const ClearArea clear(corners[0], corners[1], corners[2], corners[3],
+                              CurveArea::widestTolerance());
+        for (int i = 0; i < 12; ++i)
+        {
+            const AcGePoint3d point = pointNear(corners[i % 4], corners[i % 4 + 1], random);
+            const int quick = clear.locate(point);
+            sure += quick != 0;
+            ASSERT_TRUE(quick == 0 || quick == curve.locate(point)) << quad << ", point " << i;
+        }
+    }
+    EXPECT_GT(sure, 2500) << "it is hardly ever sure";
+}
+}  // namespace
