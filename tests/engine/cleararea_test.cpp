@@ -148,5 +148,9 @@ TEST(ClearArea, isSureOfOutlinesThatAreJustConvexOrJustSmallEnough)
     };
     EXPECT_EQ(locate(huge, 1e-10, {1e69, 0, 0}), 1);
     EXPECT_EQ(locate(huge, 1e-10, {1e70, 0, 0}), -1);
+    const Quad tooHuge = {
+        {{-1e70, -1e70, 0}, {1e70, -1e70, 0}, {1e70, 1e70, 0}, {-1e70, 1e70, 0}}
+    };
+    EXPECT_EQ(locate(tooHuge, 1e-10, {1e69, 0, 0}), 0);
 }
 }  // namespace
