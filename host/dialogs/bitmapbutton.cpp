@@ -1,5 +1,6 @@
 #include "host/dialogs/bitmapbutton.h"
 
+#include "host/dialogs/ownerdraw.h"
 #include "host/dialogs/wnd.h"
 
 namespace
@@ -50,6 +51,7 @@ BOOL CAdUiBitmapButton::OnAutoLoad()
         }
         m_bitmapName = text.Left(bar);
         SetWindowText(text.Mid(bar + 1));
+        host::setTooltip(m_hWnd, text.Mid(bar + 1));
     }
     const bool drawsItself = (GetWindowLongW(m_hWnd, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW;
     HINSTANCE module = nullptr;

@@ -6,7 +6,7 @@ namespace
 LRESULT send(const CComboBox& list, const char* call, UINT message, WPARAM wParam = 0,
              LPARAM lParam = 0)
 {
-    return SendMessageW(host::windowOf(list, call), message, wParam, lParam);
+    return ::SendMessageW(host::windowOf(list, call), message, wParam, lParam);
 }
 
 LPARAM asParameter(LPCWSTR text)

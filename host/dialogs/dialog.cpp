@@ -2,6 +2,7 @@
 
 #include "afxwin.h"
 #include "host/dialogs/modalloop.h"
+#include "host/dialogs/ownerdraw.h"
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
 
@@ -17,8 +18,11 @@ struct DialogProcedure
             return dialog->OnInitDialog();
         }
         auto* dialog = static_cast<CDialog*>(host::objectOf(window));
-        return message == WM_COMMAND && dialog != nullptr ? dialog->OnCommand(wParam, lParam)
-                                                          : FALSE;
+        if (message == WM_COMMAND && dialog != nullptr)
+        {
+            return dialog->OnCommand(wParam, lParam);
+        }
+        return host::answerDrawing(message, lParam);
     }
 };
 
@@ -27,7 +31,8 @@ namespace
 LPCDLGTEMPLATEW findTemplate(LPCWSTR name)
 {
     const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
-    return LockResource(LoadResource(module, FindResourceW(module, name, RT_DIALOG)));
+    return static_cast<LPCDLGTEMPLATEW>(
+        LockResource(LoadResource(module, FindResourceW(module, name, RT_DIALOG))));
 }
 
 void reportNotShown(UINT templateId)

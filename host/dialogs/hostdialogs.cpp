@@ -5,7 +5,7 @@
 #include "host/dialogs/modalloop.h"
 #include "host/dialogs/wnd.h"
 #include "host/runtime/breach.h"
-#include "host/windows/resources.h"
+#include "host/windows/resourcechain.h"
 
 BEGIN_MESSAGE_MAP(CAdUiBaseDialog, CDialog)
 END_MESSAGE_MAP()

@@ -8,6 +8,7 @@
 #include "host/editor/editor.h"
 #include "host/editor/numbertext.h"
 #include "host/runtime/breach.h"
+#include "host/windows/pendingmessages.h"
 
 namespace host
 {
@@ -125,12 +126,19 @@ void runModalLoop(HWND dialog, const bool& ended)
     while (!ended)
     {
         requireVisible(dialog);
-        const Answer answer = editor->askSilently(viewer.question());
+        Question question = viewer.question();
+        question.isWithdrawn = [&] { return ended; };
+        const Answer answer = editor->askSilently(question);
+        if (answer.kind == Answer::Kind::withdrawn)
+        {
+            break;
+        }
         if (answer.visible)
         {
             editor->echo(answer, {});
         }
         take(*editor, dialog, answer);
+        dispatchPendingMessages();  // some of what a message leads to is posted
         requireBack(dialog, editor->shownDialogs == shown);
     }
     --editor->shownDialogs;

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "windows.h"
 #include "winuser.h"
 
 namespace host

@@ -59,7 +59,7 @@ void host::dropGoneWindows()
 std::wstring host::windowText(HWND window)
 {
     std::wstring text(std::size_t(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(std::size_t(GetWindowTextW(window, text.data(), int(text.size()))));
+    text.resize(std::size_t(::GetWindowTextW(window, text.data(), int(text.size()))));
     return text;
 }
 
@@ -144,7 +144,7 @@ CWnd* CWnd::GetDlgItem(int id) const
 
 void CWnd::SetWindowText(LPCWSTR text)
 {
-    SetWindowTextW(host::windowOf(*this, "CWnd::SetWindowText"), text);
+    ::SetWindowTextW(host::windowOf(*this, "CWnd::SetWindowText"), text);
 }
 
 void CWnd::GetWindowText(CString& text) const
@@ -154,7 +154,7 @@ void CWnd::GetWindowText(CString& text) const
 
 void CWnd::SetDlgItemText(int id, LPCWSTR text)
 {
-    SetWindowTextW(::GetDlgItem(host::windowOf(*this, "CWnd::SetDlgItemText"), id), text);
+    ::SetWindowTextW(::GetDlgItem(host::windowOf(*this, "CWnd::SetDlgItemText"), id), text);
 }
 
 int CWnd::GetDlgItemText(int id, CString& text) const
@@ -186,25 +186,25 @@ BOOL CWnd::IsWindowVisible() const
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return SendMessageW(host::windowOf(*this, "CWnd::SendMessage"), message, wParam, lParam);
+    return ::SendMessageW(host::windowOf(*this, "CWnd::SendMessage"), message, wParam, lParam);
 }
 
 LRESULT CWnd::SendDlgItemMessage(int id, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const HWND control = ::GetDlgItem(host::windowOf(*this, "CWnd::SendDlgItemMessage"), id);
-    return SendMessageW(control, message, wParam, lParam);
+    return ::SendMessageW(control, message, wParam, lParam);
 }
 
 void CWnd::CheckDlgButton(int id, UINT check)
 {
     const HWND button = ::GetDlgItem(host::windowOf(*this, "CWnd::CheckDlgButton"), id);
-    SendMessageW(button, BM_SETCHECK, check, 0);
+    ::SendMessageW(button, BM_SETCHECK, check, 0);
 }
 
 UINT CWnd::IsDlgButtonChecked(int id) const
 {
     const HWND control = ::GetDlgItem(host::windowOf(*this, "CWnd::IsDlgButtonChecked"), id);
-    return UINT(SendMessageW(control, BM_GETCHECK, 0, 0));
+    return UINT(::SendMessageW(control, BM_GETCHECK, 0, 0));
 }
 
 void CWnd::CheckRadioButton(int first, int last, int checked)

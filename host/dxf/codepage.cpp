@@ -10,15 +10,13 @@ namespace host::dxf
 {
 namespace
 {
-static_assert(sizeof(wchar_t) == 4, "a character is one wchar_t here");
+constexpr char32_t rawBytes = 0xDC00;  // plus a byte: one that means nothing in the code page
 
-constexpr wchar_t rawBytes = 0xDC00;  // plus a byte: one that means nothing in the code page
-
-bool isHigh(wchar_t c)
+bool isHigh(char32_t c)
 {
     return 0xD800 <= c && c <= 0xDBFF;
 }
-bool isLow(wchar_t c)
+bool isLow(char32_t c)
 {
     return 0xDC00 <= c && c <= 0xDFFF;
 }
@@ -26,7 +24,7 @@ bool isRawByte(char32_t c)
 {
     return rawBytes + 0x80 <= c && c <= rawBytes + 0xFF;
 }
-wchar_t joined(wchar_t high, wchar_t low)
+char32_t joined(char32_t high, char32_t low)
 {
     return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
 }
@@ -46,9 +44,9 @@ std::string converterName(const Release& release, std::string_view codePage)
     return name.starts_with("ISO8859-") ? name : "unknown";
 }
 
-bool parseHex(std::wstring_view digits, unsigned& value)
+bool parseHex(std::u32string_view digits, unsigned& value)
 {
-    for (const wchar_t c : digits)
+    for (const char32_t c : digits)
     {
         if (c > 'f' || !std::isxdigit(static_cast<int>(c)))
             return false;
@@ -58,61 +56,54 @@ bool parseHex(std::wstring_view digits, unsigned& value)
 }
 
 // The character that "\U+XXXX" stands for, 0 if that is not what is at `at`.
-wchar_t escaped(std::wstring_view text, std::size_t at)
+char32_t escaped(std::u32string_view text, std::size_t at)
 {
     unsigned value = 0;
-    if (text.substr(at, 3) != L"\\U+" || text.size() - at < 7 ||
+    if (text.substr(at, 3) != U"\\U+" || text.size() - at < 7 ||
         !parseHex(text.substr(at + 3, 4), value))
         return 0;
-    return static_cast<wchar_t>(value);
+    return value;
 }
 
 // As `escaped`, and two escapes may make one character; a half of such a pair is none.
-wchar_t escapedCharacter(std::wstring_view text, std::size_t at, std::size_t& length)
+char32_t escapedCharacter(std::u32string_view text, std::size_t at, std::size_t& length)
 {
-    const wchar_t first = escaped(text, at);
+    const char32_t first = escaped(text, at);
     length = 7;
     if (!isHigh(first))
         return isLow(first) ? 0 : first;
-    const wchar_t second = escaped(text, std::min(at + length, text.size()));
+    const char32_t second = escaped(text, std::min(at + length, text.size()));
     length = 14;
     return isLow(second) ? joined(first, second) : 0;
 }
 
 struct MultibytePage
 {
-    wchar_t digit;
+    char32_t digit;
     const char* name;
 };
 
 constexpr MultibytePage multibytePages[] = {
-    {L'1', "CP932" },
-    {L'2', "CP950" },
-    {L'3', "CP949" },
-    {L'4', "JOHAB" },
-    {L'5', "CP936" },
+    {U'1', "CP932"},
+    {U'2', "CP950"},
+    {U'3', "CP949"},
+    {U'4', "JOHAB"},
+    {U'5', "CP936"},
 };
 
-wchar_t convertedFrom(const char* codePage, std::string bytes)
+char32_t convertedFrom(const char* codePage, const std::string& bytes)
 {
-    const iconv_t converter = ::iconv_open("WCHAR_T", codePage);
-    if (converter == iconv_t(-1))
-        return 0;
-    wchar_t character = 0;
-    char* in = bytes.data();
-    std::size_t inLeft = bytes.size();
-    char* out = reinterpret_cast<char*>(&character);
-    std::size_t outLeft = sizeof character;
-    const bool done = ::iconv(converter, &in, &inLeft, &out, &outLeft) == 0 && outLeft == 0;
-    ::iconv_close(converter);
-    return done ? character : 0;
+    const std::unique_ptr<ByteConverter> converter = ByteConverter::open(codePage);
+    std::u32string character;
+    const bool done = converter && converter->decode(bytes, character) == bytes.size();
+    return done && character.size() == 1 ? character[0] : 0;
 }
 
 // The character of an East Asian code page that "\M+nXXXX" stands for, 0 if that is not what is at
 // `at`.
-wchar_t multibyteCharacter(std::wstring_view text, std::size_t at)
+char32_t multibyteCharacter(std::u32string_view text, std::size_t at)
 {
-    if (text.substr(at, 3) != L"\\M+" || text.size() - at < 8)
+    if (text.substr(at, 3) != U"\\M+" || text.size() - at < 8)
         return 0;
     const auto page = std::ranges::find(multibytePages, text[at + 3], &MultibytePage::digit);
     unsigned code = 0;
@@ -125,22 +116,22 @@ wchar_t multibyteCharacter(std::wstring_view text, std::size_t at)
 }
 
 // The character that "^J" stands for, 0 if that is not what is at `at`.
-wchar_t caretCharacter(std::wstring_view text, std::size_t at)
+char32_t caretCharacter(std::u32string_view text, std::size_t at)
 {
     if (text[at] != '^' || at + 1 == text.size())
         return 0;
-    const wchar_t next = text[at + 1];
+    const char32_t next = text[at + 1];
     if (next == ' ')
         return '^';
     return 'A' <= next && next <= '_' ? next - '@' : 0;
 }
 
-std::wstring unescaped(std::wstring_view text)
+std::u32string unescaped(std::u32string_view text)
 {
-    std::wstring result;
+    std::u32string result;
     for (std::size_t at = 0, length = 1; at < text.size(); at += length)
     {
-        wchar_t character = escapedCharacter(text, at, length);
+        char32_t character = escapedCharacter(text, at, length);
         if (character == 0)
         {
             character = multibyteCharacter(text, at);
@@ -154,6 +145,22 @@ std::wstring unescaped(std::wstring_view text)
         result += character == 0 ? text[at] : character;
     }
     return result;
+}
+
+// Where a wchar_t holds no more than sixteen bits, a character may take two.
+std::wstring wide(std::u32string_view text)
+{
+    if (sizeof(wchar_t) == sizeof(char32_t))
+        return {text.begin(), text.end()};
+    std::wstring units;
+    for (const char32_t character : text)
+    {
+        const char32_t rest = character - 0x10000;
+        if (character > 0xFFFF)
+            units += static_cast<wchar_t>(0xD800 + (rest >> 10));
+        units += static_cast<wchar_t>(character > 0xFFFF ? 0xDC00 + (rest & 0x3FF) : character);
+    }
+    return units;
 }
 
 void appendEscape(std::string& bytes, char32_t character)
@@ -183,49 +190,31 @@ catch (const Error&)
 
 CodePage::CodePage(const Release& release, std::string_view codePageName)
 {
-    const std::string name = converterName(release, codePageName);
-    m_toWide = ::iconv_open("WCHAR_T", name.c_str());
-    m_fromWide = ::iconv_open(name.c_str(), "WCHAR_T");
-    if (m_toWide == iconv_t(-1) || m_fromWide == iconv_t(-1))
+    m_converter = ByteConverter::open(converterName(release, codePageName));
+    if (!m_converter)
         throw Error("expected a known code page, found \"" + std::string(codePageName) + '"');
-}
-
-CodePage::~CodePage()
-{
-    ::iconv_close(m_toWide);
-    ::iconv_close(m_fromWide);
 }
 
 std::wstring CodePage::decode(std::string_view bytes) const
 {
-    const std::wstring text = toWide(bytes);
-    return text.find_first_of(L"\\^") == text.npos ? text : unescaped(text);
+    const bool isAscii =
+        std::ranges::all_of(bytes, [](char c) { return static_cast<signed char>(c) >= 0; });
+    if (isAscii && bytes.find_first_of("\\^") == bytes.npos)
+        return {bytes.begin(), bytes.end()};
+    return wide(unescaped(isAscii ? std::u32string(bytes.begin(), bytes.end()) : converted(bytes)));
 }
 
-std::wstring CodePage::toWide(std::string_view bytes) const
+std::u32string CodePage::converted(std::string_view bytes) const
 {
-    if (std::ranges::all_of(bytes, [](char c) { return static_cast<signed char>(c) >= 0; }))
-        return {bytes.begin(), bytes.end()};
-
-    std::wstring text(bytes.size(), L'\0');
-    char* in = const_cast<char*>(bytes.data());
-    std::size_t inLeft = bytes.size();
-    char* out = reinterpret_cast<char*>(text.data());
-    std::size_t outLeft = text.size() * sizeof(wchar_t);
-    while (inLeft > 0)
+    std::u32string text;
+    for (;;)
     {
-        ::iconv(m_toWide, &in, &inLeft, &out, &outLeft);
-        // Some code pages keep a letter back until they know whether an accent follows.
-        ::iconv(m_toWide, nullptr, nullptr, &out, &outLeft);
-        if (inLeft == 0)
-            break;
-        const wchar_t rawByte = rawBytes + static_cast<unsigned char>(*in++);
-        --inLeft;
-        out = std::copy_n(reinterpret_cast<const char*>(&rawByte), sizeof rawByte, out);
-        outLeft -= sizeof rawByte;
+        bytes.remove_prefix(m_converter->decode(bytes, text));
+        if (bytes.empty())
+            return text;
+        text += rawBytes + static_cast<unsigned char>(bytes[0]);
+        bytes.remove_prefix(1);
     }
-    text.resize(text.size() - outLeft / sizeof(wchar_t));
-    return text;
 }
 
 std::string CodePage::encode(std::wstring_view text) const
@@ -261,14 +250,8 @@ void CodePage::append(std::string& bytes, char32_t character) const
 
 void CodePage::appendConverted(std::string& bytes, char32_t character) const
 {
-    char converted[8];
-    char* in = reinterpret_cast<char*>(&character);
-    std::size_t inLeft = sizeof character;
-    char* out = converted;
-    std::size_t outLeft = sizeof converted;
-    const bool done = ::iconv(m_fromWide, &in, &inLeft, &out, &outLeft) == 0;
-    if (done)
-        bytes.append(converted, out);
+    if (const auto converted = m_converter->encode(character))
+        bytes += *converted;
     else
         appendEscape(bytes, character);
 }

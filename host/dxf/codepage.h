@@ -1,11 +1,11 @@
 // Texts of a DXF file as wide text, and back.
 #pragma once
 
-#include <iconv.h>
-
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "host/dxf/byteconverter.h"
 #include "host/dxf/release.h"
 
 namespace host::dxf
@@ -21,12 +21,9 @@ public:
     // constructor throws an Error.
     static bool isKnown(const Release& release, std::string_view codePageName);
     CodePage(const Release& release, std::string_view codePageName);
-    ~CodePage();
-    CodePage(const CodePage&) = delete;
-    CodePage& operator=(const CodePage&) = delete;
 
-    // One wchar_t a character, also beyond the basic plane. "\U+XXXX", "\M+nXXXX" and "^J" are
-    // taken for the characters they stand for.
+    // One wchar_t a character, two where it does not fit into one. "\U+XXXX", "\M+nXXXX" and "^J"
+    // are taken for the characters they stand for.
     //
     // A byte that means nothing in the code page becomes U+DC00 plus the byte, which stands for
     // nothing else and which `encode` turns back: a name with such a byte can be written again.
@@ -37,11 +34,10 @@ public:
     std::string encode(std::wstring_view text) const;
 
 private:
-    std::wstring toWide(std::string_view bytes) const;
+    std::u32string converted(std::string_view bytes) const;
     void append(std::string& bytes, char32_t character) const;
     void appendConverted(std::string& bytes, char32_t character) const;
 
-    iconv_t m_toWide;
-    iconv_t m_fromWide;
+    std::unique_ptr<ByteConverter> m_converter;
 };
 }  // namespace host::dxf

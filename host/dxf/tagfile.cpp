@@ -1,16 +1,12 @@
 #include "host/dxf/tagfile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <cmath>
 
 #include "host/dxf/binaryform.h"
 #include "host/dxf/tagscanner.h"
+#include "host/dxf/wholefile.h"
 
 namespace host::dxf
 {
@@ -19,30 +15,6 @@ namespace
 [[noreturn]] void fail(const std::string& path, const std::string& what)
 {
     throw Error(path + ": " + what);
-}
-
-struct Descriptor
-{
-    ~Descriptor() { ::close(number); }
-    int number;
-};
-
-// Reads up to `size` bytes; fewer if the file ends before.
-std::size_t readFully(const Descriptor& file, char* bytes, std::size_t size,
-                      const std::string& path)
-{
-    std::size_t done = 0;
-    while (done < size)
-    {
-        const ssize_t got = ::read(file.number, bytes + done, size - done);
-        if (got == 0)
-            break;
-        if (got > 0)
-            done += got;
-        else if (errno != EINTR)
-            fail(path, std::string("cannot be read: ") + std::strerror(errno));
-    }
-    return done;
 }
 
 template <class Number, class... Base>
@@ -69,19 +41,8 @@ std::string quoted(std::string_view value)
 // drawing under our feet.
 TagFile TagFile::read(const std::string& path)
 {
-    // Not to hang at a pipe that nobody writes to.
-    const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
-    struct stat status;
-    if (file.number < 0 || ::fstat(file.number, &status) != 0)
-        fail(path, std::string("cannot be opened: ") + std::strerror(errno));
-    if (S_ISDIR(status.st_mode))
-        fail(path, "expected a file, found a directory");
-    if (!S_ISREG(status.st_mode))
-        fail(path, "expected a file, found a device or pipe");
-
-    auto bytes = std::make_unique_for_overwrite<char[]>(status.st_size + 1);
-    const std::size_t size = readFully(file, bytes.get(), status.st_size, path);
-    return TagFile(path, std::move(bytes), size);
+    WholeFile file = readWholeFile(path);
+    return TagFile(path, std::move(file.bytes), file.size);
 }
 
 TagFile TagFile::fromText(std::string_view text, std::string name)

@@ -5,6 +5,7 @@
 // its own for the input meets the command in a Rendezvous.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,6 +36,8 @@ struct Question
     std::optional<AcGePoint3d> base{};     // UCS; where a rubber band starts
     std::wstring caption{};                // of a box or dialog
     std::wstring text{};                   // of a box
+    // Whether it was answered otherwise, by a click on a window; asked on the command's thread.
+    std::function<bool()> isWithdrawn{};
 };
 
 struct Answer
@@ -44,7 +47,8 @@ struct Answer
         line,
         enter,
         cancel,
-        endOfInput
+        endOfInput,
+        withdrawn
     };
 
     Kind kind = Kind::endOfInput;

@@ -1,6 +1,5 @@
 #include "host/editor/messageboxes.h"
 
-#include "acedads.h"
 #include "host/editor/editor.h"
 #include "host/editor/numbertext.h"
 #include "host/runtime/foldcase.h"
@@ -85,11 +84,15 @@ const Button* pressed(const Box& box, const Answer& answer, unsigned type)
     return nullptr;
 }
 
-int askBox(Editor& editor, const std::wstring& text, const std::wstring& caption, unsigned type)
+int askBox(Editor& editor, const ShownBox& shown)
 {
-    const Box box = boxOf(type);
-    Question question{.kind = Question::Kind::messageBox, .caption = caption, .text = text};
-    question.prompt = L"[message box] " + caption + L": " + text + L" (" + labels(box) + L") -> ";
+    const Box box = boxOf(shown.type);
+    Question question{.kind = Question::Kind::messageBox,
+                      .caption = shown.caption,
+                      .text = shown.text,
+                      .isWithdrawn = shown.isGone};
+    question.prompt =
+        L"[message box] " + shown.caption + L": " + shown.text + L" (" + labels(box) + L") -> ";
     for (const Button& button : box.buttons)
     {
         question.keywords.push_back(button.label);
@@ -97,7 +100,12 @@ int askBox(Editor& editor, const std::wstring& text, const std::wstring& caption
     for (;;)
     {
         const Answer answer = editor.askSilently(question);
-        if (const Button* button = pressed(box, answer, type))
+        if (answer.kind == Answer::Kind::withdrawn)
+        {
+            editor.printLine(L"");
+            return 0;
+        }
+        if (const Button* button = pressed(box, answer, shown.type))
         {
             editor.echo(answer, foldCase(button->label));
             return button->id;
@@ -115,14 +123,6 @@ void answerMessageBoxes(Editor* editor)
         setMessageBoxHandler({});
         return;
     }
-    setMessageBoxHandler([editor](std::wstring text, std::wstring caption, unsigned type)
-                         { return askBox(*editor, text, caption, type); });
+    setMessageBoxHandler([editor](const ShownBox& box) { return askBox(*editor, box); });
 }
 }  // namespace host
-
-HWND adsw_acadMainWnd()
-{
-    // Only ever compared and handed back; no window stands behind it.
-    static char window;
-    return reinterpret_cast<HWND>(&window);
-}

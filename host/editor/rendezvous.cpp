@@ -1,6 +1,9 @@
 #include "host/editor/rendezvous.h"
 
+#include <chrono>
 #include <utility>
+
+#include "host/windows/pendingmessages.h"
 
 namespace host
 {
@@ -9,6 +12,25 @@ Rendezvous::Rendezvous(std::function<void()> onQuestion) : m_onQuestion(std::mov
 Answer Rendezvous::ask(const Question& question)
 {
     std::unique_lock lock(m_mutex);
+    // The owner may be at a question that was withdrawn: what it brings is the answer to this one.
+    if (!std::exchange(m_isOwed, false))
+    {
+        post(question, lock);
+    }
+    while (!m_answer)
+    {
+        waitALittle(lock);
+        if (!m_answer && question.isWithdrawn && question.isWithdrawn())
+        {
+            m_isOwed = !std::exchange(m_question, std::nullopt);
+            return {.kind = Answer::Kind::withdrawn};
+        }
+    }
+    return *std::exchange(m_answer, std::nullopt);
+}
+
+void Rendezvous::post(const Question& question, std::unique_lock<std::mutex>& lock)
+{
     m_question = question;
     m_changed.notify_all();
     if (m_onQuestion)
@@ -18,8 +40,23 @@ Answer Rendezvous::ask(const Question& question)
         m_onQuestion();
         lock.lock();
     }
-    m_changed.wait(lock, [this] { return m_answer.has_value(); });
-    return *std::exchange(m_answer, std::nullopt);
+}
+
+// Windows of the command's thread live on meanwhile.
+void Rendezvous::waitALittle(std::unique_lock<std::mutex>& lock)
+{
+    const auto isAnswered = [this] { return m_answer.has_value(); };
+    lock.unlock();
+    const bool hasWindows = dispatchPendingMessages();
+    lock.lock();
+    if (hasWindows)
+    {
+        m_changed.wait_for(lock, std::chrono::milliseconds(10), isAnswered);
+    }
+    else
+    {
+        m_changed.wait(lock, isAnswered);
+    }
 }
 
 void Rendezvous::finish()

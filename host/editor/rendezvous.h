@@ -18,7 +18,8 @@ public:
     // command's thread, and the owner then takes the question with waitForQuestion.
     explicit Rendezvous(std::function<void()> onQuestion = {});
 
-    // The command's side: blocks until the owner has answered.
+    // The command's side: blocks until the owner has answered, or the question is withdrawn. Then
+    // the answer to it, when it comes, is that of the next question.
     Answer ask(const Question& question);
     // The command's side: nothing more will be asked.
     void finish();
@@ -29,11 +30,15 @@ public:
     void answer(Answer answer);
 
 private:
+    void post(const Question& question, std::unique_lock<std::mutex>& lock);
+    void waitALittle(std::unique_lock<std::mutex>& lock);
+
     std::function<void()> m_onQuestion;
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::optional<Question> m_question;
     std::optional<Answer> m_answer;
+    bool m_isOwed = false;  // an answer to a question that was withdrawn
     bool m_finished = false;
 };
 }  // namespace host

@@ -1,7 +1,7 @@
 #include "host/headless/dialogtemplate.h"
 #include "host/headless/messages.h"
 #include "host/headless/windowclasses.h"
-#include "host/windows/resources.h"
+#include "host/windows/emulated/moduleresources.h"
 
 namespace host
 {

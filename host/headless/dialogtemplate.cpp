@@ -1,7 +1,7 @@
 #include "host/headless/dialogtemplate.h"
 
 #include "host/headless/windowclasses.h"
-#include "host/windows/resourcereader.h"
+#include "host/windows/emulated/resourcereader.h"
 
 namespace host
 {

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "commctrl.h"
 #include "host/headless/messages.h"
 
 namespace host

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "windows.h"
 #include "winuser.h"
 
 namespace host

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/pictures/color.h"
+#include "host/dialogs/color.h"
 
 namespace host
 {

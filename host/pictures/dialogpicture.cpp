@@ -7,7 +7,7 @@
 #include "host/dialogs/wnd.h"
 #include "host/pictures/bitmap.h"
 #include "host/pictures/canvas.h"
-#include "host/pictures/indexcolors.h"
+#include "host/dialogs/indexcolors.h"
 #include "host/runtime/foldcase.h"
 
 namespace host

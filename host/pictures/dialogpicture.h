@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "windows.h"
 #include "winuser.h"
 
 namespace host

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "host/pictures/indexcolors.h"
+#include "host/dialogs/indexcolors.h"
 #include "host/plot/entitytags.h"
 #include "host/runtime/foldcase.h"
 

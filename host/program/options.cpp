@@ -2,11 +2,14 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cstdio>
-#include <map>
+#include <filesystem>
+#include <utility>
 
 #include "host/plot/plot.h"
 #include "host/runtime/locale.h"
+#include "host/windows/modules.h"
 
 namespace host
 {
@@ -15,14 +18,6 @@ namespace
 namespace fs = std::filesystem;
 
 const int wrongUsage = 2;
-
-// Links to the program are followed: the module lies beside the program itself.
-fs::path programFolder()
-{
-    std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    return error ? fs::current_path() : program.parent_path();
-}
 
 // An unset variable of a script must not pass for an option left out.
 const CLI::Validator someName([](const std::string& name)
@@ -85,7 +80,7 @@ bool scriptIsMissing(const Options& options)
 }
 }  // namespace
 
-std::optional<Options> parseOptions(int count, char** arguments, int& status)
+std::optional<Options> parseOptions(std::vector<std::string> arguments, int& status)
 {
     CLI::App app("Opens a drawing, loads a module, feeds it input and saves the drawing.");
     Options options{};
@@ -93,7 +88,10 @@ std::optional<Options> parseOptions(int count, char** arguments, int& status)
     describe(app, options, locale);
     try
     {
-        app.parse(count, arguments);
+        // The last one first, and without the program.
+        arguments.erase(arguments.begin());
+        std::ranges::reverse(arguments);
+        app.parse(std::move(arguments));
     }
     catch (const CLI::ParseError& error)
     {
@@ -109,7 +107,7 @@ std::optional<Options> parseOptions(int count, char** arguments, int& status)
     options.locale = locale == "ru-RU" ? russianLocale : englishLocale;
     if (options.module.empty())
     {
-        options.module = programFolder() / "netrax.arx";
+        options.module = modulePath(nullptr).parent_path() / "netrax.arx";
     }
     return options;
 }

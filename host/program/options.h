@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "windows.h"
 
@@ -22,7 +23,7 @@ struct Options
     bool quiet = false;
 };
 
-// Nothing when there is nothing to run: `status` is what the program ends with then, and the text
-// to show has been printed.
-std::optional<Options> parseOptions(int count, char** arguments, int& status);
+// Arguments with the program's name first. Nothing when there is nothing to run: `status` is what
+// the program ends with then, and the text to show has been printed.
+std::optional<Options> parseOptions(std::vector<std::string> arguments, int& status);
 }  // namespace host

@@ -1,28 +1,18 @@
 #include "host/runtime/foldcase.h"
 
 #include <algorithm>
-#include <clocale>
-#include <cwctype>
+
+#include "host/windows/lettercase.h"
 
 namespace host
 {
-namespace
-{
-locale_t unicodeLocale()
-{
-    static const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", locale_t(0));
-    return locale;
-}
-}  // namespace
-
 wchar_t foldCase(wchar_t letter)
 {
     if (letter < 0x80)
     {
         return letter >= L'A' && letter <= L'Z' ? wchar_t(letter + 32) : letter;
     }
-    const locale_t locale = unicodeLocale();
-    return locale ? wchar_t(towlower_l(wint_t(letter), locale)) : letter;
+    return smallLetter(letter);
 }
 
 std::wstring foldCase(std::wstring_view text)
@@ -39,8 +29,7 @@ wchar_t upperCase(wchar_t letter)
     {
         return letter >= L'a' && letter <= L'z' ? wchar_t(letter - 32) : letter;
     }
-    const locale_t locale = unicodeLocale();
-    return locale ? wchar_t(towupper_l(wint_t(letter), locale)) : letter;
+    return capitalLetter(letter);
 }
 
 std::wstring upperCase(std::wstring_view text)

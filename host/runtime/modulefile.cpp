@@ -1,23 +1,11 @@
 #include "host/runtime/modulefile.h"
 
-#include <dlfcn.h>
-
 #include <utility>
 
 #include "host/windows/modules.h"
 
 namespace host
 {
-namespace
-{
-// Start of the file that the address was loaded from.
-const void* baseOf(const void* address)
-{
-    Dl_info info{};
-    return dladdr(address, &info) != 0 ? info.dli_fbase : nullptr;
-}
-}  // namespace
-
 std::unique_ptr<ModuleFile> ModuleFile::open(const std::filesystem::path& path, std::string& error)
 {
     if (!std::filesystem::exists(path))
@@ -25,21 +13,18 @@ std::unique_ptr<ModuleFile> ModuleFile::open(const std::filesystem::path& path, 
         error = path.string() + ": there is no such module";
         return nullptr;
     }
-    nameLoadingModule(path);
-    void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    const HINSTANCE instance = attachLoadedModule();
-    if (handle == nullptr)
+    const LoadedFile loaded = loadFile(path);
+    if (loaded.handle == nullptr && !loaded.isRefused)
     {
-        const char* reason = dlerror();
-        error = path.string() + ": not a module: " + (reason ? reason : "");
+        error = path.string() + ": not a module: " + loaded.reason;
         return nullptr;
     }
-    std::unique_ptr<ModuleFile> file(new ModuleFile(path, handle));
-    if (!file->check(error))
+    std::unique_ptr<ModuleFile> file(new ModuleFile(path, loaded.handle));
+    if (loaded.handle != nullptr && !file->check(error))
     {
         return nullptr;
     }
-    if (instance == nullptr)
+    if (loaded.isRefused)
     {
         error = path.string() + ": the module does not start";
         return nullptr;
@@ -54,14 +39,17 @@ ModuleFile::ModuleFile(std::filesystem::path path, void* handle)
 
 ModuleFile::~ModuleFile()
 {
-    dlclose(m_handle);
+    if (m_handle != nullptr)
+    {
+        unloadFile(m_handle);
+    }
 }
 
 bool ModuleFile::check(std::string& error)
 {
     using VersionQuery = decltype(&acrxGetApiVersion);
-    const auto version = reinterpret_cast<VersionQuery>(dlsym(m_handle, "acrxGetApiVersion"));
-    m_entryPoint = reinterpret_cast<EntryPoint>(dlsym(m_handle, "acrxEntryPoint"));
+    const auto version = reinterpret_cast<VersionQuery>(exportOf(m_handle, "acrxGetApiVersion"));
+    m_entryPoint = reinterpret_cast<EntryPoint>(exportOf(m_handle, "acrxEntryPoint"));
     if (version == nullptr || m_entryPoint == nullptr)
     {
         error = m_path.string() + ": not a module: it does not show its entry points";
@@ -77,7 +65,7 @@ bool ModuleFile::check(std::string& error)
 
 bool ModuleFile::holds(const void* address) const
 {
-    const void* base = baseOf(reinterpret_cast<const void*>(m_entryPoint));
-    return base != nullptr && baseOf(address) == base;
+    const HINSTANCE own = instanceHolding(reinterpret_cast<const void*>(m_entryPoint));
+    return own != nullptr && instanceHolding(address) == own;
 }
 }  // namespace host

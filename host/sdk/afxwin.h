@@ -2,10 +2,13 @@
 // windows and dialogs.
 #pragma once
 
+#include <cstdio>
+#include <cstdlib>
+
 #include "windows.h"
 #include "winuser.h"
+#include "commctrl.h"
 #include "tchar.h"
-#include "crt.h"
 #include "afxstr.h"
 #include "afxmsg_.h"
 #include "afxdd_.h"

@@ -4,7 +4,7 @@
 #include <cstdarg>
 #include <cwchar>
 
-#include "crt.h"
+#include "tchar.h"
 #include "host/windows/format.h"
 
 namespace

@@ -6,9 +6,16 @@
 
 namespace host
 {
-// Returns the id of the button, 0 when the user cannot be asked. `type` is that of MessageBoxW.
-using MessageBoxHandler =
-    std::function<int(std::wstring text, std::wstring caption, unsigned type)>;
+struct ShownBox
+{
+    std::wstring text;
+    std::wstring caption;
+    unsigned type = 0;               // as MessageBoxW has it
+    std::function<bool()> isGone{};  // the user has answered with the mouse
+};
+
+// Returns the id of the button, 0 when the user cannot be asked or has answered already.
+using MessageBoxHandler = std::function<int(const ShownBox& box)>;
 
 // The editor answers from now on; an empty handler takes it away. Without one MessageBoxW gives 0.
 void setMessageBoxHandler(MessageBoxHandler handler);

@@ -1,27 +1,26 @@
-// Module files in the process: their names and their start and end.
-//
-// The loader opens a module in three steps:
-//     nameLoadingModule(path);
-//     void* library = dlopen(path.c_str(), RTLD_NOW);
-//     HINSTANCE module = attachLoadedModule();   // also when dlopen failed
-// and closes it with dlclose, which runs DllMain with DLL_PROCESS_DETACH first, then the
-// destructors of the module's static objects.
+// Module files in the process: loading, names, and what lies in which.
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "windows.h"
 
 namespace host
 {
-// Tells under which name the next module comes. It must be known before dlopen, since static
-// objects of the module may ask for it. A relative path is made absolute, a symbolic link is kept.
-void nameLoadingModule(const std::filesystem::path& path);
+struct LoadedFile
+{
+    void* handle = nullptr;
+    std::string reason{};    // why there is no handle
+    bool isRefused = false;  // by the module's own start
+};
 
-// Runs DllMain of the module that came in since nameLoadingModule; its static objects are made by
-// now. Null when DllMain refused or no module came (a file without start-up code, or one that was
-// open already); the library then is to be closed.
-HINSTANCE attachLoadedModule();
+// Loads a module file and starts it. A file with a handle is to be unloaded, refused or not.
+LoadedFile loadFile(const std::filesystem::path& path);
+// Ends the module first, and its static objects.
+void unloadFile(void* handle);
+// Null for a name that the file does not export.
+void* exportOf(void* handle, const char* name);
 
 // Path of a module's file as it was named, the program's for null; empty for an unknown one.
 std::filesystem::path modulePath(HINSTANCE module);
@@ -32,19 +31,6 @@ bool isModule(HINSTANCE handle);
 // The program itself.
 HINSTANCE programInstance();
 
-// The next two are for the start-up code that every module holds.
-
-// Calls the module's DllMain; false when that refuses.
-using AttachModule = bool (*)(HINSTANCE module);
-
-// Puts the module that holds `address` on record. One that no loader has named (it is linked into
-// the program, or opened by hand) attaches at once, maybe before the last of its static objects is
-// made, and its refusal ends the process.
-HINSTANCE registerModule(const void* address, AttachModule attach);
-
-// After detach. A module that is still in the resource chain then breaks the rules.
-void forgetModule(HINSTANCE module);
-
-// The module, program or library that holds an address of this process.
+// The module, program or library that holds an address of this process; null for none.
 HINSTANCE instanceHolding(const void* address);
 }  // namespace host

@@ -1,6 +1,7 @@
 // What all controls have in common, and edits.
 #include <gtest/gtest.h>
 
+#include "commctrl.h"
 #include "tests/headless/testdialog.h"
 
 using support::TemplateBuilder;

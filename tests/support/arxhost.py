@@ -54,7 +54,7 @@ class Desk:
 
     def run(self, *arguments, script=None, module="netrax.arx", timeout=300, **environment):
         """Runs arxhost in the folder; `script` is the text handed to it on standard input."""
-        command = [str(self.build / "arxhost"), *map(str, arguments)]
+        command = [*program(self.build), *map(str, arguments)]
         if module:
             command += ["--module", module]
         if script is not None:
@@ -65,7 +65,13 @@ class Desk:
                    done.stderr.decode("utf-8", "backslashreplace"))
 
 
+def program(build):
+    """The command that starts arxhost; a build for Windows runs under Wine."""
+    windows = Path(build) / "arxhost.exe"
+    return ["wine", str(windows)] if windows.exists() else [str(Path(build) / "arxhost")]
+
+
 def need_built(build=ROOT / "build"):
-    for name in ("arxhost", "netrax.arx"):
-        if not (Path(build) / name).exists():
-            raise SystemExit(f"{build}/{name} is missing: build first")
+    for path in (Path(program(build)[-1]), Path(build) / "netrax.arx"):
+        if not path.exists():
+            raise SystemExit(f"{path} is missing: build first")

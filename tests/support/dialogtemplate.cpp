@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "host/windows/resources.h"
+#include "host/windows/emulated/moduleresources.h"
 
 namespace support
 {

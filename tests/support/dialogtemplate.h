@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "windows.h"
 #include "winuser.h"
 
 namespace support

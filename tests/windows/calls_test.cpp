@@ -80,9 +80,9 @@ TEST(WindowsCalls, aMessageBoxIsAnsweredByWhoeverWasInstalled)
 {
     std::wstring asked;
     host::setMessageBoxHandler(
-        [&](std::wstring text, std::wstring caption, unsigned type)
+        [&](const host::ShownBox& box)
         {
-            asked = caption + L": " + text + L" " + std::to_wstring(type);
+            asked = box.caption + L": " + box.text + L" " + std::to_wstring(box.type);
             return IDNO;
         });
     EXPECT_EQ(MessageBoxW(nullptr, L"Proceed?", L"Attention", MB_YESNO | MB_ICONQUESTION), IDNO);

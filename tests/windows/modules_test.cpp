@@ -14,7 +14,8 @@
 #include "afxwin.h"
 #include "acui.h"
 #include "host/windows/messagebox.h"
-#include "host/windows/resources.h"
+#include "host/windows/emulated/registration.h"
+#include "host/windows/resourcechain.h"
 #include "host/windows/text.h"
 #include "rxdefs.h"
 
@@ -43,10 +44,10 @@ protected:
     Modules()
     {
         host::setMessageBoxHandler(
-            [this](std::wstring text, std::wstring, unsigned)
+            [this](const host::ShownBox& box)
             {
-                m_told.push_back(text);
-                return text == m_answeredNo ? IDNO : IDYES;
+                m_told.push_back(box.text);
+                return box.text == m_answeredNo ? IDNO : IDYES;
             });
     }
     ~Modules() override { host::setMessageBoxHandler(nullptr); }
@@ -156,9 +157,9 @@ TEST_F(Modules, detachWhenTheProcessEndsWithThemInIt)
     {
         load(probe());
         host::setMessageBoxHandler(
-            [](std::wstring text, std::wstring, unsigned)
+            [](const host::ShownBox& box)
             {
-                fprintf(stderr, "%s;", host::toUtf8(text).c_str());
+                fprintf(stderr, "%s;", host::toUtf8(box.text).c_str());
                 return IDYES;
             });
         std::exit(7);

@@ -1,10 +1,10 @@
-#include "host/windows/resources.h"
+#include "host/windows/emulated/moduleresources.h"
 
 #include <gtest/gtest.h>
 
 #include "afxwin.h"
 #include "host/windows/modules.h"
-#include "host/windows/resfile.h"
+#include "host/windows/emulated/resfile.h"
 #include "tests/support/dialogtemplate.h"
 
 namespace

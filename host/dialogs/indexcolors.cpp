@@ -1,0 +1,64 @@
+#include "host/dialogs/indexcolors.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace host
+{
+namespace
+{
+Color gray(double level)
+{
+    return {level, level, level};
+}
+
+// A pure colour by its place on a circle of 24: red at 0, green at 8, blue at 16.
+Color hue(int place)
+{
+    const auto part = [place](int center)
+    {
+        const int turn = std::abs(place - center) % 24;
+        const int distance = std::min(turn, 24 - turn);
+        return std::clamp(2 - distance / 4.0, 0.0, 1.0);
+    };
+    return {part(0), part(8), part(16)};
+}
+
+// 10 to 249 go by tens around the circle; in each ten, pairs of a full and a pale colour get
+// darker.
+Color wheelColor(int index)
+{
+    const std::array<double, 5> brightness{1, 0.65, 0.5, 0.3, 0.15};
+    const Color pure = hue((index - 10) / 10);
+    const double bright = brightness[std::size_t(index % 10 / 2)];
+    const bool pale = index % 2 != 0;
+    const auto tone = [&](double part) { return bright * (pale ? 0.5 + part / 2 : part); };
+    return {tone(pure.red), tone(pure.green), tone(pure.blue)};
+}
+}  // namespace
+
+Color indexColor(int index)
+{
+    const std::array<Color, 10> first{
+        {black,
+         {1, 0, 0},
+         {1, 1, 0},
+         {0, 1, 0},
+         {0, 1, 1},
+         {0, 0, 1},
+         {1, 0, 1},
+         black, gray(0.5),
+         gray(0.75)}
+    };
+    if (index < 0 || index > 255)
+    {
+        return black;
+    }
+    if (index < 10)
+    {
+        return first[std::size_t(index)];
+    }
+    return index < 250 ? wheelColor(index) : gray(0.2 + 0.16 * (index - 250));
+}
+}  // namespace host

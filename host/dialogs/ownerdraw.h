@@ -1,0 +1,15 @@
+// Controls that the system leaves to their owner to draw.
+#pragma once
+
+#include "windows.h"
+#include "winuser.h"
+
+namespace host
+{
+// The dialog's answer to a message that asks for drawing: TRUE when something was drawn. Without a
+// screen nobody asks.
+INT_PTR answerDrawing(UINT message, LPARAM lParam);
+
+// Shows the text when the pointer rests on the control.
+void setTooltip(HWND control, const wchar_t* text);
+}  // namespace host

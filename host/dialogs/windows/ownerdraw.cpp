@@ -1,0 +1,152 @@
+#include "host/dialogs/ownerdraw.h"
+
+#include <string>
+
+#include "commctrl.h"
+#include "host/dialogs/bitmapbutton.h"
+#include "host/dialogs/indexcolors.h"
+
+namespace host
+{
+namespace
+{
+COLORREF ofIndex(int index)
+{
+    const Color color = indexColor(index);
+    return RGB(255 * color.red + 0.5, 255 * color.green + 0.5, 255 * color.blue + 0.5);
+}
+
+void fill(HDC device, const RECT& box, COLORREF color)
+{
+    const HBRUSH brush = CreateSolidBrush(color);
+    FillRect(device, &box, brush);
+    DeleteObject(brush);
+}
+
+void drawSwatch(HDC device, const RECT& box, int index)
+{
+    fill(device, box, ofIndex(index));
+    FrameRect(device, &box, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+}
+
+std::wstring itemText(const DRAWITEMSTRUCT& item)
+{
+    const LRESULT length = SendMessageW(item.hwndItem, CB_GETLBTEXTLEN, item.itemID, 0);
+    std::wstring text(length > 0 ? length : 0, L'\0');
+    SendMessageW(item.hwndItem, CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()));
+    return text;
+}
+
+bool isIndex(ULONG_PTR cargo)
+{
+    return cargo >= 1 && cargo <= 255;
+}
+
+// An item of the colour list: its colour where it is one, and its name.
+void drawColor(const DRAWITEMSTRUCT& item)
+{
+    const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
+    const bool isGrey = (item.itemState & ODS_DISABLED) != 0;
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    if (item.itemID == UINT(-1))
+    {
+        return;
+    }
+    const LONG side = item.rcItem.bottom - item.rcItem.top - 4;
+    RECT box = {item.rcItem.left + 2, item.rcItem.top + 2, item.rcItem.left + 2 + side,
+                item.rcItem.top + 2 + side};
+    if (isIndex(item.itemData))
+    {
+        drawSwatch(item.hDC, box, int(item.itemData));
+    }
+    const int ink = isGrey ? COLOR_GRAYTEXT : isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
+    SetTextColor(item.hDC, GetSysColor(ink));
+    SetBkMode(item.hDC, TRANSPARENT);
+    RECT rest = {box.right + 4, item.rcItem.top, item.rcItem.right, item.rcItem.bottom};
+    DrawTextW(item.hDC, itemText(item).c_str(), -1, &rest, DT_SINGLELINE | DT_VCENTER);
+}
+
+const void* pixelsOf(const BITMAPINFOHEADER& header)
+{
+    const DWORD colors = header.biClrUsed != 0    ? header.biClrUsed
+                         : header.biBitCount <= 8 ? 1u << header.biBitCount
+                                                  : 0;
+    return reinterpret_cast<const BYTE*>(&header) + header.biSize + colors * sizeof(RGBQUAD);
+}
+
+// The light grey of the picture is the face of the button.
+void drawPicture(HDC device, const RECT& box, const BITMAPINFOHEADER& header)
+{
+    const int width = header.biWidth;
+    const int height = header.biHeight;
+    const HDC memory = CreateCompatibleDC(device);
+    const HBITMAP bitmap = CreateCompatibleBitmap(device, width, height);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    SetDIBitsToDevice(memory, 0, 0, width, height, 0, 0, 0, height, pixelsOf(header),
+                      reinterpret_cast<const BITMAPINFO*>(&header), DIB_RGB_COLORS);
+    TransparentBlt(device, (box.left + box.right - width) / 2, (box.top + box.bottom - height) / 2,
+                   width, height, memory, 0, 0, width, height, RGB(192, 192, 192));
+    SelectObject(memory, before);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+}
+
+void drawPickButton(const DRAWITEMSTRUCT& item)
+{
+    const bool isPressed = (item.itemState & ODS_SELECTED) != 0;
+    const bool isGrey = (item.itemState & ODS_DISABLED) != 0;
+    RECT box = item.rcItem;
+    DrawFrameControl(
+        item.hDC, &box, DFC_BUTTON,
+        DFCS_BUTTONPUSH | (isPressed ? DFCS_PUSHED : 0) | (isGrey ? DFCS_INACTIVE : 0));
+    OffsetRect(&box, isPressed, isPressed);
+    const std::span<const std::byte> bytes = bitmapOfButton(item.hwndItem);
+    if (!isGrey && bytes.size() > sizeof(BITMAPINFOHEADER))
+    {
+        drawPicture(item.hDC, box, *reinterpret_cast<const BITMAPINFOHEADER*>(bytes.data()));
+    }
+    if ((item.itemState & ODS_FOCUS) != 0)
+    {
+        InflateRect(&box, -3, -3);
+        DrawFocusRect(item.hDC, &box);
+    }
+}
+
+HWND tooltipsOf(HWND dialog)
+{
+    static const wchar_t property[] = L"arxhost.tooltips";
+    if (const HANDLE known = GetPropW(dialog, property))
+    {
+        return static_cast<HWND>(known);
+    }
+    const HWND tooltips =
+        CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0,
+                        0, dialog, nullptr, GetModuleHandleW(nullptr), nullptr);
+    SetPropW(dialog, property, tooltips);
+    return tooltips;
+}
+}  // namespace
+
+INT_PTR answerDrawing(UINT message, LPARAM lParam)
+{
+    if (message != WM_DRAWITEM)
+    {
+        return FALSE;
+    }
+    const DRAWITEMSTRUCT& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+    item.CtlType == ODT_COMBOBOX ? drawColor(item) : drawPickButton(item);
+    return TRUE;
+}
+
+void setTooltip(HWND control, const wchar_t* text)
+{
+    const HWND dialog = GetParent(control);
+    TTTOOLINFOW tool = {};
+    tool.cbSize = sizeof tool;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = dialog;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = const_cast<wchar_t*>(text);
+    SendMessageW(tooltipsOf(dialog), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+}  // namespace host

@@ -1,0 +1,217 @@
+#include "host/dxf/replacement.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <filesystem>
+#include <optional>
+#include <tuple>
+#include <utility>
+
+namespace host::dxf
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(const std::string& path, const std::string& why)
+{
+    throw Error(path + ": cannot be saved: " + why);
+}
+
+// With the reason the last call has left.
+void require(bool done, const std::string& path)
+{
+    if (!done)
+        fail(path, std::strerror(errno));
+}
+
+// Beyond the process's limit for file sizes a write is to fail instead of ending the run.
+class SizeLimitAsFailure
+{
+public:
+    SizeLimitAsFailure() : m_before(std::signal(SIGXFSZ, SIG_IGN)) {}
+    ~SizeLimitAsFailure() { std::signal(SIGXFSZ, m_before); }
+    SizeLimitAsFailure(const SizeLimitAsFailure&) = delete;
+    SizeLimitAsFailure& operator=(const SizeLimitAsFailure&) = delete;
+
+private:
+    void (*m_before)(int);
+};
+
+// The new drawing until it takes the old one's place; gone on every way out before that.
+class TemporaryFile
+{
+public:
+    TemporaryFile(const fs::path& folder, const std::string& nameInMessages);
+    ~TemporaryFile();
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    void takeOwnerAndMode(const struct stat& old);
+    void write(std::string_view bytes);
+    void onDisk();  // waits until a power cut cannot take it
+    void takePlaceOf(const fs::path& target);
+
+private:
+    const std::string& m_nameInMessages;
+    fs::path m_path;
+    int m_file = -1;
+    bool m_exists = false;
+};
+
+TemporaryFile::TemporaryFile(const fs::path& folder, const std::string& nameInMessages)
+    : m_nameInMessages(nameInMessages)
+{
+    // Another run may be saving here, or may have ended in the middle of it.
+    for (int attempt = 0; attempt < 100 && m_file < 0; ++attempt)
+    {
+        m_path = folder / (".arxhost-" + std::to_string(::getpid()) + "-" +
+                           std::to_string(attempt) + ".tmp");
+        m_file = ::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (m_file < 0 && errno != EEXIST)
+            break;
+    }
+    require(m_file >= 0, m_nameInMessages);
+    m_exists = true;
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    if (m_file >= 0)
+        ::close(m_file);
+    if (m_exists)
+        ::unlink(m_path.c_str());
+}
+
+void TemporaryFile::takeOwnerAndMode(const struct stat& old)
+{
+    // Only the administrator may give files away; for anyone else the new owner is who saves.
+    std::ignore = ::fchown(m_file, old.st_uid, old.st_gid);
+    require(::fchmod(m_file, old.st_mode & 07777) == 0, m_nameInMessages);
+}
+
+void TemporaryFile::write(std::string_view bytes)
+{
+    while (!bytes.empty())
+    {
+        const ssize_t written = ::write(m_file, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        require(written >= 0, m_nameInMessages);
+        bytes.remove_prefix(written);
+    }
+}
+
+void TemporaryFile::onDisk()
+{
+    // Some disks only tell when they are asked to have it all.
+    require(::fsync(m_file) == 0, m_nameInMessages);
+}
+
+void TemporaryFile::takePlaceOf(const fs::path& target)
+{
+    require(::close(std::exchange(m_file, -1)) == 0, m_nameInMessages);
+    require(::rename(m_path.c_str(), target.c_str()) == 0, m_nameInMessages);
+    m_exists = false;
+}
+
+// So that the new name outlives a power cut. A folder that cannot do this is no reason to report a
+// failure: the drawing is saved.
+void syncFolder(const fs::path& folder)
+{
+    const int file = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (file < 0)
+        return;
+    ::fsync(file);
+    ::close(file);
+}
+
+// The file that `path` names in the end; it need not exist.
+fs::path followed(const std::string& path)
+{
+    fs::path target = path;
+    for (int links = 0; links < 40; ++links)
+    {
+        std::error_code isNoLink;
+        const fs::path next = fs::read_symlink(target, isNoLink);
+        if (isNoLink)
+            return target;
+        target = target.parent_path() / next;
+    }
+    errno = ELOOP;
+    fail(path, std::strerror(errno));
+}
+
+// The old file, if there is one; it must be one that the user could write to.
+std::optional<struct stat> oldFile(const fs::path& target, const std::string& path)
+{
+    struct stat old;
+    if (::stat(target.c_str(), &old) != 0)
+    {
+        require(errno == ENOENT, path);
+        return std::nullopt;
+    }
+    if (S_ISDIR(old.st_mode))
+        fail(path, "a directory has this name");
+    if (!S_ISREG(old.st_mode))
+        fail(path, "a device or pipe has this name");
+    require(::access(target.c_str(), W_OK) == 0, path);
+    return old;
+}
+
+fs::path folderOf(const fs::path& target)
+{
+    return target.has_parent_path() ? target.parent_path() : fs::path(".");
+}
+}  // namespace
+
+class Replacement::Files
+{
+public:
+    explicit Files(const std::string& path)
+        : m_path(path),
+          m_target(followed(path)),
+          m_old(oldFile(m_target, m_path)),
+          m_new(folderOf(m_target), m_path)
+    {
+        if (m_old)
+            m_new.takeOwnerAndMode(*m_old);
+    }
+
+    void write(std::string_view bytes) { m_new.write(bytes); }
+    void takePlace()
+    {
+        if (m_old)
+            m_new.onDisk();
+        m_new.takePlaceOf(m_target);
+        if (m_old)
+            syncFolder(folderOf(m_target));
+    }
+
+private:
+    const SizeLimitAsFailure m_sizeLimitAsFailure;
+    const std::string m_path;
+    const fs::path m_target;
+    const std::optional<struct stat> m_old;
+    TemporaryFile m_new;
+};
+
+Replacement::Replacement(const std::string& path) : m_files(std::make_unique<Files>(path)) {}
+
+Replacement::~Replacement() = default;
+
+void Replacement::write(std::string_view bytes)
+{
+    m_files->write(bytes);
+}
+
+void Replacement::takePlace()
+{
+    m_files->takePlace();
+}
+}  // namespace host::dxf

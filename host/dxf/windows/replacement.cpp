@@ -1,0 +1,141 @@
+#include "host/dxf/replacement.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <process.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstring>
+#include <filesystem>
+#include <utility>
+
+#include "windows.h"
+
+namespace host::dxf
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(const std::string& path, const std::string& why)
+{
+    throw Error(path + ": cannot be saved: " + why);
+}
+
+// With the reason the last call of the C runtime has left.
+void require(bool done, const std::string& path)
+{
+    if (!done)
+        fail(path, std::strerror(errno));
+}
+
+// The file that `path` names in the end; it need not exist.
+fs::path followed(const fs::path& path)
+{
+    std::error_code isNoLink;
+    const fs::path end = fs::canonical(path, isNoLink);
+    return isNoLink ? path : end;
+}
+
+// Whether there is an old file; it must be one that the user could write to.
+bool hasOldFile(const fs::path& target, const std::string& path)
+{
+    std::error_code ignored;
+    if (fs::is_directory(target, ignored))
+        fail(path, "a directory has this name");
+    if (::_waccess(target.c_str(), 0) != 0)
+    {
+        require(errno == ENOENT, path);
+        return false;
+    }
+    const int canWrite = 2;
+    require(::_waccess(target.c_str(), canWrite) == 0, path);
+    return true;
+}
+}  // namespace
+
+class Replacement::Files
+{
+public:
+    explicit Files(const std::string& path);
+    ~Files();
+
+    void write(std::string_view bytes);
+    void takePlace();
+
+private:
+    const std::string m_path;
+    const fs::path m_target;
+    const bool m_hasOld;
+    fs::path m_temporary;
+    int m_file = -1;
+    bool m_exists = false;
+};
+
+Replacement::Files::Files(const std::string& path)
+    : m_path(path), m_target(followed(path)), m_hasOld(hasOldFile(m_target, path))
+{
+    // Another run may be saving here, or may have ended in the middle of it.
+    for (int attempt = 0; attempt < 100 && m_file < 0; ++attempt)
+    {
+        m_temporary = m_target.parent_path() / (".arxhost-" + std::to_string(::_getpid()) + "-" +
+                                                std::to_string(attempt) + ".tmp");
+        m_file = ::_wopen(m_temporary.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY,
+                          _S_IREAD | _S_IWRITE);
+        if (m_file < 0 && errno != EEXIST)
+            break;
+    }
+    require(m_file >= 0, m_path);
+    m_exists = true;
+}
+
+Replacement::Files::~Files()
+{
+    if (m_file >= 0)
+        ::_close(m_file);
+    if (m_exists)
+        ::_wunlink(m_temporary.c_str());
+}
+
+void Replacement::Files::write(std::string_view bytes)
+{
+    while (!bytes.empty())
+    {
+        const auto count = unsigned(std::min<std::size_t>(bytes.size(), INT_MAX));
+        const int written = ::_write(m_file, bytes.data(), count);
+        require(written >= 0, m_path);
+        bytes.remove_prefix(written);
+    }
+}
+
+// The system keeps the old file's owner, rights and date of birth.
+void Replacement::Files::takePlace()
+{
+    require(!m_hasOld || ::_commit(m_file) == 0, m_path);
+    require(::_close(std::exchange(m_file, -1)) == 0, m_path);
+    const BOOL done =
+        m_hasOld ? ReplaceFileW(m_target.c_str(), m_temporary.c_str(), nullptr,
+                                REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
+                 : MoveFileExW(m_temporary.c_str(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING);
+    if (!done)
+        fail(m_path, std::error_code(int(GetLastError()), std::system_category()).message());
+    m_exists = false;
+}
+
+Replacement::Replacement(const std::string& path) : m_files(std::make_unique<Files>(path)) {}
+
+Replacement::~Replacement() = default;
+
+void Replacement::write(std::string_view bytes)
+{
+    m_files->write(bytes);
+}
+
+void Replacement::takePlace()
+{
+    m_files->takePlace();
+}
+}  // namespace host::dxf

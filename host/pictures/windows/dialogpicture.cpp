@@ -1,0 +1,80 @@
+#include "host/pictures/dialogpicture.h"
+
+#include <filesystem>
+#include <memory>
+
+#include <objidl.h>
+
+#include <gdiplus.h>
+
+namespace host
+{
+namespace
+{
+const CLSID pngEncoder = {
+    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}
+};
+
+// The system's drawing library, for as long as it is needed.
+class Drawing
+{
+public:
+    Drawing()
+    {
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&m_token, &input, nullptr);
+    }
+    ~Drawing() { Gdiplus::GdiplusShutdown(m_token); }
+    Drawing(const Drawing&) = delete;
+    Drawing& operator=(const Drawing&) = delete;
+
+private:
+    ULONG_PTR m_token = 0;
+};
+
+// What waits to be drawn is drawn before.
+void paintAll(HWND dialog)
+{
+    RedrawWindow(dialog, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
+    {
+        DispatchMessageW(&message);
+    }
+}
+
+// With its frame, as it stands on the screen.
+HBITMAP photograph(HWND dialog)
+{
+    RECT frame;
+    GetWindowRect(dialog, &frame);
+    const int width = frame.right - frame.left;
+    const int height = frame.bottom - frame.top;
+    const HDC screen = GetWindowDC(dialog);
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, screen, 0, 0, SRCCOPY);
+    SelectObject(memory, before);
+    DeleteDC(memory);
+    ReleaseDC(dialog, screen);
+    return bitmap;
+}
+}  // namespace
+
+std::optional<std::string> drawDialog(HWND dialog, const std::string& file)
+{
+    const Drawing drawing;
+    paintAll(dialog);
+    const HBITMAP bitmap = photograph(dialog);
+    const std::unique_ptr<Gdiplus::Bitmap> image(Gdiplus::Bitmap::FromHBITMAP(bitmap, nullptr));
+    const Gdiplus::Status status =
+        image->Save(std::filesystem::path(file).c_str(), &pngEncoder, nullptr);
+    DeleteObject(bitmap);
+    if (status != Gdiplus::Ok)
+    {
+        return file + ": cannot be written";
+    }
+    return std::nullopt;
+}
+}  // namespace host

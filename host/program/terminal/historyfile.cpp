@@ -1,0 +1,41 @@
+#include "host/program/terminal/historyfile.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace host
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+fs::path pathFrom(const char* variable)
+{
+    const char* const value = std::getenv(variable);
+    return value ? fs::path(value) : fs::path();
+}
+
+fs::path stateFolder()
+{
+    const fs::path state = pathFrom("XDG_STATE_HOME");
+    if (state.is_absolute())  // others do not count, by the convention behind the variable
+    {
+        return state;
+    }
+    const fs::path home = pathFrom("HOME");
+    return home.is_absolute() ? home / ".local" / "state" : fs::path();
+}
+}  // namespace
+
+std::string historyFile()
+{
+    const fs::path state = stateFolder();
+    if (state.empty())
+    {
+        return {};
+    }
+    std::error_code ignored;
+    fs::create_directories(state / "arxhost", ignored);
+    return (state / "arxhost" / "history").string();
+}
+}  // namespace host

@@ -1,0 +1,232 @@
+#include "host/program/terminal/lineeditor.h"
+
+#include <locale.h>
+#include <signal.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+#include <utility>
+
+#include "host/program/terminal/completion.h"
+#include "host/program/terminal/historyfile.h"
+#include "host/program/terminal/keys.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+const int rememberedLines = 500;
+const char unseen = '\1';  // around what takes no room on the line
+
+termios terminalBefore;
+
+// Ends the program as it would without a handler, with the terminal as it was found.
+void endTidily(int signal)
+{
+    tcsetattr(STDIN_FILENO, TCSANOW, &terminalBefore);
+    ::signal(signal, SIG_DFL);
+    raise(signal);
+}
+
+void leaveTheTerminalAsItWas()
+{
+    if (tcgetattr(STDIN_FILENO, &terminalBefore) == 0)
+    {
+        ::signal(SIGTERM, endTidily);
+        ::signal(SIGHUP, endTidily);
+    }
+}
+
+EditLine* openTerminal()
+{
+    leaveTheTerminalAsItWas();
+    // For this thread only: a command's own has no business with the terminal's letters.
+    uselocale(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr));
+    return el_init("arxhost", stdin, stdout, stderr);
+}
+
+bool colored()
+{
+    const char* const refused = std::getenv("NO_COLOR");
+    return refused == nullptr || *refused == '\0';
+}
+
+// Only lets the wait for a key be interrupted, where the new size is looked at.
+void noticeResizing()
+{
+    struct sigaction action = {};
+    action.sa_handler = [](int) {};
+    sigaction(SIGWINCH, &action, nullptr);
+}
+
+// Dim but for the last letter, mostly a blank: the library shows no sequence that nothing follows.
+std::string dimmed(const std::string& prompt)
+{
+    const std::size_t last = prompt.size() - 1;
+    const bool plain = prompt.size() < 2 || (prompt[last] & 0x80) != 0;
+    if (plain || !colored())
+    {
+        return prompt;
+    }
+    return unseen + std::string("\x1b[2m") + unseen + prompt.substr(0, last) + unseen + "\x1b[0m" +
+           unseen + prompt.substr(last);
+}
+
+void list(const std::vector<std::wstring>& choices)
+{
+    std::string line = "\n";
+    for (const std::wstring& choice : choices)
+    {
+        line += toUtf8(choice) + "  ";
+    }
+    std::fprintf(stdout, "%s\n", line.c_str());
+}
+}  // namespace
+
+LineEditor::LineEditor(Screen& screen)
+    : m_screen(screen),
+      m_editLine(openTerminal(), el_end),
+      m_history(history_init(), history_end),
+      m_historyFile(historyFile())
+{
+    HistEvent event;
+    history(m_history.get(), &event, H_SETSIZE, rememberedLines);
+    history(m_history.get(), &event, H_SETUNIQUE, 1);
+    history(m_history.get(), &event, H_LOAD, m_historyFile.c_str());
+    bindKeys();
+    noticeResizing();
+}
+
+// The lines are a convenience: nothing is said when they cannot be kept.
+LineEditor::~LineEditor()
+{
+    HistEvent event;
+    history(m_history.get(), &event, H_SAVE, m_historyFile.c_str());
+}
+
+void LineEditor::bindKeys()
+{
+    EditLine* const editLine = m_editLine.get();
+    el_set(editLine, EL_CLIENTDATA, this);
+    el_set(editLine, EL_PROMPT_ESC, promptOf, unseen);
+    el_set(editLine, EL_HIST, history, m_history.get());
+    el_set(editLine, EL_GETCFN, readKey);
+    el_set(editLine, EL_EDITOR, "emacs");
+    // Ctrl-C and Ctrl-Z come as keys while a line is edited.
+    el_set(editLine, EL_SETTY, "-d", "-isig", nullptr);
+    el_set(editLine, EL_ADDFN, "cancel", "Cancel the question", onCancel);
+    el_set(editLine, EL_ADDFN, "complete", "Complete a name", onComplete);
+    el_set(editLine, EL_ADDFN, "suspend", "Give the terminal back to the shell", onSuspend);
+    el_set(editLine, EL_BIND, "^C", "cancel", nullptr);
+    el_set(editLine, EL_BIND, "^Z", "suspend", nullptr);
+    el_set(editLine, EL_BIND, "^I", "complete", nullptr);
+    el_set(editLine, EL_BIND, "^R", "em-inc-search-prev", nullptr);
+    el_set(editLine, EL_BIND, "\\e[3~", "ed-delete-next-char", nullptr);
+}
+
+LineEditor& LineEditor::of(EditLine* editLine)
+{
+    void* editor = nullptr;
+    el_get(editLine, EL_CLIENTDATA, &editor);
+    return *static_cast<LineEditor*>(editor);
+}
+
+char* LineEditor::promptOf(EditLine* editLine)
+{
+    return of(editLine).m_prompt.data();
+}
+
+unsigned char LineEditor::onCancel(EditLine* editLine, wint_t)
+{
+    const LineInfo* const line = el_line(editLine);
+    // What stands behind the cursor is shown once more, which brings the cursor to the end.
+    of(editLine).m_cancelled = std::string(line->cursor, line->lastchar) + "^C\n";
+    return CC_EOF;
+}
+
+unsigned char LineEditor::onComplete(EditLine* editLine, wint_t)
+{
+    const LineInfo* const line = el_line(editLine);
+    const std::wstring before = fromUtf8(std::string_view(line->buffer, line->cursor));
+    const Completion found = complete(*of(editLine).m_question, before);
+    if (found.text.empty() && found.choices.empty())
+    {
+        return CC_REFRESH_BEEP;
+    }
+    el_deletestr(editLine, int(found.replaced));
+    el_insertstr(editLine, toUtf8(found.text).c_str());
+    if (found.choices.empty())
+    {
+        return CC_REFRESH;
+    }
+    list(found.choices);
+    return CC_REDISPLAY;
+}
+
+unsigned char LineEditor::onSuspend(EditLine* editLine, wint_t)
+{
+    el_set(editLine, EL_PREP_TERM, 0);
+    kill(0, SIGTSTP);  // the shell's whole job; goes on from here later
+    el_set(editLine, EL_PREP_TERM, 1);
+    return CC_REDISPLAY;
+}
+
+Answer LineEditor::next(const Question& question)
+{
+    if (m_ended)
+    {
+        return {.kind = Answer::Kind::endOfInput};
+    }
+    m_question = &question;
+    m_prompt = dimmed(m_screen.takePrompt());
+    return read();
+}
+
+Answer LineEditor::read()
+{
+    std::string_view line;
+    do
+    {
+        m_cancelled.reset();
+        // Before the prompt shows, so that a key pressed at once is a key already.
+        el_set(m_editLine.get(), EL_PREP_TERM, 1);
+        int length = 0;
+        const char* const typed = el_gets(m_editLine.get(), &length);
+        if (typed == nullptr || length <= 0)
+        {
+            return unfinished();
+        }
+        line = std::string_view(typed, std::size_t(length));
+        line.remove_suffix(line.ends_with('\n'));
+    } while (line.starts_with(';'));
+    m_screen.promptEnded(true);
+    remember(std::string(line).c_str());
+    return answerOf(line, true);
+}
+
+Answer LineEditor::unfinished()
+{
+    m_screen.promptEnded(m_cancelled.has_value());
+    if (!m_cancelled)
+    {
+        m_ended = true;
+        return {.kind = Answer::Kind::endOfInput};
+    }
+    std::fputs(m_cancelled->c_str(), stdout);
+    std::fflush(stdout);
+    return {.kind = Answer::Kind::cancel, .visible = true};
+}
+
+void LineEditor::remember(const char* line)
+{
+    if (*line != '\0')
+    {
+        HistEvent event;
+        history(m_history.get(), &event, H_ENTER, line);
+    }
+}
+}  // namespace host

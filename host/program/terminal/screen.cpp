@@ -1,0 +1,113 @@
+#include "host/program/terminal/screen.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+#include "host/editor/numbertext.h"
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+const int widestBar = 40;
+
+int columns()
+{
+    winsize size{};
+    const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return known ? size.ws_col : 80;
+}
+
+int percentOf(const Meter& meter)
+{
+    const double length = double(meter.most) - meter.least;
+    const double done = double(meter.position) - meter.least;
+    return length > 0 ? int(100 * std::clamp(done / length, 0.0, 1.0)) : 100;
+}
+
+// Stays clear of the last column, where a terminal would begin a new line.
+std::string barText(const Meter& meter)
+{
+    const std::wstring label(trimmed(meter.label));
+    const int percent = percentOf(meter);
+    const int width = std::min(widestBar, columns() - 1 - int(label.size()) - 8);
+    if (width <= 0)
+    {
+        return std::to_string(percent) + "%";
+    }
+    const int full = width * percent / 100;
+    return toUtf8(label) + " [" + std::string(full, '#') + std::string(width - full, '.') + "] " +
+           std::to_string(percent) + "%";
+}
+}  // namespace
+
+void Screen::print(std::string_view text)
+{
+    m_waiting += text;
+    const std::size_t end = m_waiting.rfind('\n');
+    if (end == std::string::npos)
+    {
+        return;
+    }
+    show(m_waiting.substr(0, end + 1));
+    m_waiting.erase(0, end + 1);
+}
+
+void Screen::report(std::string_view line)
+{
+    finish();
+    if (std::exchange(m_promptOpen, false))
+    {
+        show("\n");
+    }
+    std::fprintf(stderr, "arxhost: %.*s\n", int(line.size()), line.data());
+}
+
+void Screen::showMeter(const std::optional<Meter>& meter)
+{
+    const std::string bar = meter ? barText(*meter) : "";
+    if (bar != m_bar)
+    {
+        showBar(bar);
+    }
+}
+
+std::string Screen::takePrompt()
+{
+    return std::exchange(m_waiting, {});
+}
+
+void Screen::finish()
+{
+    if (!m_waiting.empty())
+    {
+        print("\n");
+    }
+}
+
+// Whole lines.
+void Screen::show(std::string_view text)
+{
+    const std::string bar = m_bar;
+    showBar("");
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    m_promptOpen = false;
+    showBar(bar);
+    std::fflush(stdout);
+}
+
+void Screen::showBar(const std::string& bar)
+{
+    if (!m_bar.empty() || !bar.empty())
+    {
+        std::fprintf(stdout, "\r%s\x1b[K", bar.c_str());
+        std::fflush(stdout);
+    }
+    m_bar = bar;
+}
+}  // namespace host

@@ -1,0 +1,67 @@
+#include "host/windows/emulated/decimal.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace host
+{
+namespace
+{
+// Digits with the point after the first `point` of them.
+struct Decimal
+{
+    std::string digits;
+    std::size_t point;
+};
+
+// No double has more decimals than 1074 nor more digits before them than 309, so nothing is lost.
+Decimal exactDecimal(double size)
+{
+    char text[309 + 1 + 1074 + 1];
+    std::snprintf(text, sizeof text, "%.1074f", size);
+    std::string digits = text;
+    const std::size_t point = digits.find_first_not_of("0123456789");
+    return {digits.erase(point, 1), point};
+}
+
+void addOneToLastDigit(Decimal& number)
+{
+    for (auto digit = number.digits.rbegin(); digit != number.digits.rend(); ++digit)
+    {
+        if (*digit != '9')
+        {
+            ++*digit;
+            return;
+        }
+        *digit = '0';
+    }
+    number.digits.insert(0, 1, '1');
+    ++number.point;
+}
+
+// The digits are all there, so a five behind the last one kept is half a unit of it or more.
+void roundTo(Decimal& number, std::size_t count)
+{
+    if (count >= number.digits.size())
+    {
+        return;
+    }
+    const bool up = number.digits[count] >= '5';
+    number.digits.resize(count);
+    if (up)
+    {
+        addOneToLastDigit(number);
+    }
+}
+}  // namespace
+
+std::string fixedDigits(double size, int decimals)
+{
+    constexpr std::size_t significant = 17;
+    Decimal number = exactDecimal(size);
+    const std::size_t first = std::min(number.digits.find_first_not_of('0'), number.digits.size());
+    roundTo(number, std::min(number.point + decimals, first + significant));
+    number.digits.resize(number.point + decimals, '0');
+    return decimals == 0 ? number.digits : number.digits.insert(number.point, ".");
+}
+}  // namespace host

@@ -1,0 +1,73 @@
+// Linked into every module: what Windows' linker takes from the host's import library (the answer
+// to the host's version query) and from the C runtime (the way into DllMain and out).
+#include <cstdlib>
+#include <utility>
+
+#include "rxdefs.h"
+#include "windows.h"
+
+#include "../../modules.h"
+#include "../moduleresources.h"
+#include "../registration.h"
+
+// Hidden, so that it is always the module's own, whatever the program exports.
+extern "C" __attribute__((visibility("hidden"))) int APIENTRY DllMain(HINSTANCE, DWORD, LPVOID);
+
+// For a module that brings none.
+extern "C" __attribute__((weak)) int APIENTRY DllMain(HINSTANCE, DWORD, LPVOID)
+{
+    return TRUE;
+}
+
+extern "C" int acrxGetApiVersion()
+{
+    return ACRX_API_VERSION;
+}
+
+// The module's compiled resources; both null in a module that has none.
+extern "C" __attribute__((weak, visibility("hidden"))) const std::byte arxResources[];
+extern "C" __attribute__((weak, visibility("hidden"))) const std::byte arxResourcesEnd[];
+
+namespace
+{
+HINSTANCE s_module = nullptr;
+bool s_attachCalled = false;
+
+// Windows calls a module that has refused to attach once more, to detach.
+void leave()
+{
+    const HINSTANCE module = std::exchange(s_module, nullptr);
+    if (module == nullptr)
+    {
+        return;
+    }
+    if (s_attachCalled)
+    {
+        DllMain(module, DLL_PROCESS_DETACH, nullptr);
+    }
+    host::forgetModule(module);
+}
+
+bool attach(HINSTANCE module)
+{
+    // Registered when all static objects stand, hence run before any of them goes. This serves a
+    // process that ends with the module in it; dlclose calls the destructor function below first.
+    std::atexit(leave);
+    s_module = module;
+    s_attachCalled = true;
+    return DllMain(module, DLL_PROCESS_ATTACH, nullptr) != 0;
+}
+
+// Runs somewhere among the constructors of the module's static objects, so it leaves attaching to
+// the loader where there is one.
+__attribute__((constructor)) void enter()
+{
+    host::setModuleResources(host::instanceHolding(&s_module), {arxResources, arxResourcesEnd});
+    s_module = host::registerModule(&s_module, attach);
+}
+
+__attribute__((destructor)) void unload()
+{
+    leave();
+}
+}  // namespace

@@ -1,0 +1,235 @@
+#include <algorithm>
+#include <cerrno>
+#include <cstdarg>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "crt.h"
+#include "host/windows/format.h"
+#include "host/windows/text.h"
+#include "host/windows/emulated/textfile.h"
+
+namespace
+{
+struct Mode
+{
+    char access = 0;  // r w a
+    bool binary = false;
+    std::optional<host::Encoding> encoding;
+};
+
+std::optional<host::Encoding> encodingNamed(const wchar_t* name)
+{
+    if (_wcsicmp(name, L"UTF-8") == 0)
+    {
+        return host::Encoding::utf8;
+    }
+    if (_wcsicmp(name, L"UTF-16LE") == 0 || _wcsicmp(name, L"UNICODE") == 0)
+    {
+        return host::Encoding::utf16;
+    }
+    return std::nullopt;
+}
+
+std::optional<Mode> parseMode(std::wstring text)
+{
+    std::erase(text, L' ');
+    Mode mode;
+    if (text.find_first_of(L"rwa") != 0)
+    {
+        return std::nullopt;
+    }
+    mode.access = char(text[0]);
+    text.erase(0, 1);
+    if (text.find_first_of(L"bt") == 0)
+    {
+        mode.binary = text[0] == L'b';
+        text.erase(0, 1);
+    }
+    if (text.empty())
+    {
+        return mode;
+    }
+    if (text.starts_with(L",ccs=") && mode.access == 'r' && !mode.binary)
+    {
+        mode.encoding = encodingNamed(text.c_str() + 5);
+    }
+    return mode.encoding ? std::optional(mode) : std::nullopt;
+}
+
+struct CloseFile
+{
+    void operator()(FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<FILE, CloseFile>;
+
+std::optional<std::string> contentOf(const std::string& path)
+{
+    const File file(std::fopen(path.c_str(), "rb"));
+    if (file == nullptr)
+    {
+        return std::nullopt;
+    }
+    std::string content;
+    char block[4096];
+    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get()))
+    {
+        content.append(block, count);
+    }
+    return std::ferror(file.get()) == 0 ? std::optional(content) : std::nullopt;
+}
+
+// Streams that hold units of two bytes instead of characters of one.
+std::set<FILE*>& unitStreams()
+{
+    static std::set<FILE*> streams;
+    return streams;
+}
+
+// A stream opened for text reading: the whole file, already translated.
+struct Reader
+{
+    std::string content;
+    std::size_t at = 0;
+    FILE* stream = nullptr;
+};
+
+ssize_t readText(void* cookie, char* buffer, std::size_t size)
+{
+    Reader& reader = *static_cast<Reader*>(cookie);
+    const std::size_t count = reader.content.copy(buffer, size, reader.at);
+    reader.at += count;
+    return ssize_t(count);
+}
+
+int closeReader(void* cookie)
+{
+    const std::unique_ptr<Reader> reader(static_cast<Reader*>(cookie));
+    unitStreams().erase(reader->stream);
+    return 0;
+}
+
+FILE* openReader(const std::string& path, std::optional<host::Encoding> encoding)
+{
+    std::optional<std::string> content = contentOf(path);
+    if (!content)
+    {
+        return nullptr;
+    }
+    content = encoding ? host::decodedUnits(*content, *encoding) : host::asText(*content);
+    if (!content)
+    {
+        errno = EINVAL;
+        return nullptr;
+    }
+    auto* reader = new Reader{*content};
+    reader->stream = fopencookie(reader, "r", {readText, nullptr, nullptr, closeReader});
+    if (encoding)
+    {
+        unitStreams().insert(reader->stream);
+    }
+    return reader->stream;
+}
+
+// The cookie is the stream of the file itself.
+ssize_t writeText(void* cookie, const char* bytes, std::size_t size)
+{
+    FILE* file = static_cast<FILE*>(cookie);
+    std::string text;
+    for (const char byte : std::string_view(bytes, size))
+    {
+        text += byte == '\n' ? "\r\n" : std::string(1, byte);
+    }
+    const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+    return written ? ssize_t(size) : 0;
+}
+
+int closeWriter(void* cookie)
+{
+    return std::fclose(static_cast<FILE*>(cookie));
+}
+
+FILE* openWriter(const std::string& path, char access)
+{
+    const char mode[] = {access, '\0'};
+    FILE* file = std::fopen(path.c_str(), mode);
+    return file == nullptr ? nullptr
+                           : fopencookie(file, "w", {nullptr, writeText, nullptr, closeWriter});
+}
+
+// "C" locale of that runtime.
+std::string narrowed(std::wstring_view units)
+{
+    std::string bytes;
+    for (const wchar_t unit : units)
+    {
+        char byte = '?';
+        crtWctomb(&byte, unit);
+        bytes += byte;
+    }
+    return bytes;
+}
+}  // namespace
+
+FILE* _wfopen(const wchar_t* path, const wchar_t* modeText)
+{
+    const std::optional<Mode> mode = parseMode(modeText);
+    if (!mode)
+    {
+        errno = EINVAL;
+        return nullptr;
+    }
+    const std::string native = host::toNativePath(path);
+    if (mode->binary)
+    {
+        const char access[] = {mode->access, 'b', '\0'};
+        return std::fopen(native.c_str(), access);
+    }
+    return mode->access == 'r' ? openReader(native, mode->encoding)
+                               : openWriter(native, mode->access);
+}
+
+wint_t crtFgetwc(FILE* stream)
+{
+    if (!unitStreams().contains(stream))
+    {
+        const int byte = std::getc(stream);
+        return byte == EOF ? WEOF : wint_t(byte);
+    }
+    unsigned char bytes[2];
+    if (std::fread(bytes, 1, sizeof bytes, stream) != sizeof bytes)
+    {
+        return WEOF;
+    }
+    // U+FFFF has the number of that platform's WEOF and cannot be told from it.
+    const wint_t unit = bytes[0] | bytes[1] << 8;
+    return unit == 0xFFFF ? WEOF : unit;
+}
+
+int crtFwprintf(FILE* stream, const wchar_t* format, ...)
+{
+    std::va_list arguments;
+    va_start(arguments, format);
+    const std::wstring text = host::formatWide(format, arguments);
+    va_end(arguments);
+    const std::string bytes = narrowed(text);
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), stream) == bytes.size();
+    return written ? int(text.size()) : -1;
+}
+
+int crtWctomb(char* bytes, wchar_t unit)
+{
+    if (bytes == nullptr)
+    {
+        return 0;
+    }
+    if (static_cast<unsigned>(unit) > 0xFF)
+    {
+        errno = EILSEQ;
+        return -1;
+    }
+    *bytes = char(unit);
+    return 1;
+}

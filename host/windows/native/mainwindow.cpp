@@ -1,0 +1,10 @@
+#include "acedads.h"
+
+// Never shown: it owns what the module shows.
+HWND adsw_acadMainWnd()
+{
+    static const HWND window =
+        CreateWindowExW(0, L"Static", L"arxhost", WS_OVERLAPPED, 0, 0, 0, 0, nullptr, nullptr,
+                        GetModuleHandleW(nullptr), nullptr);
+    return window;
+}

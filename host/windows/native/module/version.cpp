@@ -1,0 +1,8 @@
+// Linked into every module: the answer to the host's version query, which the linker takes from the
+// host's import library.
+#include "rxdefs.h"
+
+extern "C" int acrxGetApiVersion()
+{
+    return ACRX_API_VERSION;
+}
