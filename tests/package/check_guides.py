@@ -1,0 +1,121 @@
+#!/usr/bin/python3
+"""The guides name everything that the user meets, in the words of the dialog, the prompts and the file."""
+import re
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
+from arxhost import DEFAULTS, ROOT, need_built  # noqa: E402
+from report import add, check, expect, expect_equal, run_all  # noqa: E402
+
+SAMPLE = "(-1000000.0000,-1000000.0000)"  # makes room for the point that is shown there
+PROMPTS = 3  # of the command; a first line of each set of messages
+
+
+def text_of(*path):
+    return (ROOT.joinpath(*path)).read_text(encoding="utf-8-sig")
+
+
+def guide(language):
+    return text_of("docs", f"guide-{language}.md")
+
+
+def words(caption):
+    """A caption without the name of a button's picture, its colon and the blanks around it."""
+    return caption.split("|")[-1].strip().rstrip(":")
+
+
+def captions(language):
+    template = text_of("resources", "netrax.rc")
+    russian = [found for found in re.findall(r'^\s*(?:CAPTION|GROUPBOX|LTEXT|CONTROL)\s+"([^"]+)"', template, re.M)
+               if found != SAMPLE]
+    if language == "ru":
+        return {words(caption) for caption in russian}
+    sources = text_of("settings", "settingstexts.cpp")
+    table = re.search(r"const Caption captions\[\] = \{(.*?)\};", sources, re.S)[1]
+    kept = {caption for caption in russian if caption.isascii()}  # no other stands in their place
+    title = re.search(r'englishTitle\(\)\s*\{\s*return L"([^"]+)"', sources)[1]
+    return {words(caption) for caption in kept | {title} | set(re.findall(r'L"([^"]+)"', table))}
+
+
+def named(language):
+    """The words in bold, and the headings."""
+    text = re.sub(r"`[^`]*`", "", guide(language))
+    return set(re.findall(r"\*\*([^*]+)\*\*", text)), set(re.findall(r"^#+ (.*)$", text, re.M))
+
+
+def banners(language):
+    return re.findall(r'L"(<\w+ \w+>)"', text_of("settings", "settingstexts.cpp"))[2 * (language == "ru"):][:2]
+
+
+def messages(language):
+    found = re.findall(r'L"\\n([^"]+)"', text_of("command", "messages.cpp"))
+    ours = found[:len(found) // 2] if language == "en" else found[len(found) // 2:]
+    return [*ours[:PROMPTS], ours[-1]]
+
+
+def keys():
+    return set(re.findall(r'\{L"(\w+)",', text_of("settings", "settingsfile.cpp")))
+
+
+def captions_are_named(language):
+    expect(len(captions(language)) > 20, f"captions: {captions(language)}")
+    bold, headings = named(language)
+    expect_equal(captions(language) - bold - headings, set(), "captions that the guide does not name")
+
+
+def nothing_else_is_printed_bold(language):
+    expect_equal(named(language)[0] - captions(language), set(), "words that are no caption")
+
+
+def prompts_are_quoted(language):
+    texts = [*banners(language), *(message.strip() for message in messages(language))]
+    expect_equal(len(texts), 6, "texts")
+    expect_equal([text for text in texts if f"`{text}`" not in guide(language)], [], "texts that are not quoted")
+
+
+def keys_are_listed_with_their_defaults(language):
+    listed = {}
+    for cells in re.findall(r"^\| (`.*)\|$", guide(language), re.M):
+        names, default = [cell.strip() for cell in cells.split("|")[:2]]
+        listed |= dict.fromkeys(re.findall(r"`(\w+)`", names), default)
+    expect_equal(set(listed), keys(), "keys")
+    wrong = {key: (value, DEFAULTS[key]) for key, value in listed.items()
+             if value and float(value) != float(DEFAULTS[key]) or bool(value) != bool(DEFAULTS[key])}
+    expect_equal(wrong, {}, "defaults")
+
+
+def what_it_shows_is_there(language):
+    shown = re.findall(r"\]\(([^)]+)\)", guide(language))
+    expect_equal(len(shown), 4, "pictures")
+    expect_equal([name for name in shown if not (ROOT / "docs" / name).is_file()], [], "pictures not there")
+
+
+for rule in (captions_are_named, nothing_else_is_printed_bold, prompts_are_quoted,
+             keys_are_listed_with_their_defaults, what_it_shows_is_there):
+    for tongue in ("en", "ru"):
+        add(f"{rule.__name__.replace('_', ' ')} in {tongue}", rule, tongue)
+
+
+@check
+def both_guides_have_the_same_parts():
+    shape = [re.findall(r"^(#+|\d\.|- |!\[|\|)", guide(language), re.M) for language in ("en", "ru")]
+    expect(len(shape[0]) > 40, f"only {len(shape[0])} parts")
+    expect_equal(shape[1], shape[0], "headings, lists, pictures and tables")
+
+
+@check
+def the_pictures_are_what_the_command_draws():
+    with tempfile.TemporaryDirectory() as folder:
+        subprocess.run([ROOT / "scripts" / "guide-pictures", folder], check=True)
+        drawn = sorted(Path(folder).iterdir())
+        expect_equal(len(drawn), 3, "pictures")
+        stale = [path.name for path in drawn if path.read_bytes() != (ROOT / "docs" / path.name).read_bytes()]
+    expect_equal(stale, [], "pictures to be drawn again")
+
+
+if __name__ == "__main__":
+    need_built()
+    run_all()
