@@ -24,7 +24,7 @@ BOOL CAdUiOwnerDrawButton::OnAutoLoad()
 }
 
 CAdUiBitmapButton::CAdUiBitmapButton(LPCWSTR bitmapName)
-    : m_bitmapName(bitmapName), m_autoSize(TRUE), m_bitmap(nullptr)
+    : m_bitmapName(bitmapName), m_autoSize(TRUE), m_bitmap(nullptr), m_bitmapModule(nullptr)
 {
 }
 
@@ -54,15 +54,18 @@ BOOL CAdUiBitmapButton::OnAutoLoad()
         host::setTooltip(m_hWnd, text.Mid(bar + 1));
     }
     const bool drawsItself = (GetWindowLongW(m_hWnd, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW;
-    HINSTANCE module = nullptr;
-    m_bitmap = drawsItself ? findBitmap(m_bitmapName, module) : nullptr;
+    m_bitmap = drawsItself ? findBitmap(m_bitmapName, m_bitmapModule) : nullptr;
     return m_bitmap != nullptr;
 }
 
 std::span<const std::byte> host::bitmapOfButton(HWND button)
 {
     const auto* object = dynamic_cast<const CAdUiBitmapButton*>(objectOf(button));
-    const HRSRC bitmap = object != nullptr ? object->bitmap() : nullptr;
-    return {static_cast<const std::byte*>(LockResource(LoadResource(nullptr, bitmap))),
-            SizeofResource(nullptr, bitmap)};
+    if (object == nullptr || object->bitmap() == nullptr)
+    {
+        return {};
+    }
+    const HINSTANCE module = object->bitmapModule();
+    return {static_cast<const std::byte*>(LockResource(LoadResource(module, object->bitmap()))),
+            SizeofResource(module, object->bitmap())};
 }

@@ -33,15 +33,16 @@ bool openDocument(const Options& options, FrontEnd& frontEnd)
     {
         frontEnd.report(drawing.warning);
     }
-    documents().open(std::move(drawing.database), options.drawing);
+    documents().open(std::move(drawing.database), pathOf(options.drawing));
     return true;
 }
 
 bool loadModule(const Options& options, FrontEnd& frontEnd)
 {
-    linker().searchFolder = options.module.parent_path();
+    const std::filesystem::path module = pathOf(options.module);
+    linker().searchFolder = module.parent_path();
     // Made absolute first: the name alone would be looked for in other folders as well.
-    const Linker::Error error = linker().load(std::filesystem::absolute(options.module));
+    const Linker::Error error = linker().load(std::filesystem::absolute(module));
     if (error)
     {
         frontEnd.report(*error);

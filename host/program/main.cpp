@@ -1,7 +1,6 @@
 // arxhost: opens a drawing, loads a module, feeds it input and saves the drawing.
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -11,6 +10,7 @@
 #include "host/program/platform.h"
 #include "host/program/session.h"
 #include "host/runtime/locale.h"
+#include "host/windows/text.h"
 
 namespace
 {
@@ -31,13 +31,13 @@ int runStandardInput(const host::Options& options)
 
 int runScript(const host::Options& options)
 {
-    std::ifstream script(std::filesystem::path(options.script), std::ios::binary);
+    std::ifstream script(host::pathOf(options.script), std::ios::binary);
     if (!script)
     {
         printError(options.script + ": cannot be read");
         return EXIT_FAILURE;
     }
-    if (host::isHostScript(options.script))
+    if (host::isHostScript(host::pathOf(options.script)))
     {
         host::ScriptReader reader(script);
         return host::runSession(options, reader);

@@ -10,6 +10,7 @@
 #include "host/plot/plot.h"
 #include "host/runtime/locale.h"
 #include "host/windows/modules.h"
+#include "host/windows/text.h"
 
 namespace host
 {
@@ -76,7 +77,7 @@ int reportUsage(CLI::App& app, const CLI::ParseError& error)
 bool scriptIsMissing(const Options& options)
 {
     return !options.script.empty() && options.script != "-" &&
-           (!fs::exists(options.script) || fs::is_directory(options.script));
+           (!fs::exists(pathOf(options.script)) || fs::is_directory(pathOf(options.script)));
 }
 }  // namespace
 
@@ -107,7 +108,7 @@ std::optional<Options> parseOptions(std::vector<std::string> arguments, int& sta
     options.locale = locale == "ru-RU" ? russianLocale : englishLocale;
     if (options.module.empty())
     {
-        options.module = modulePath(nullptr).parent_path() / "netrax.arx";
+        options.module = (modulePath(nullptr).parent_path() / "netrax.arx").string();
     }
     return options;
 }

@@ -13,7 +13,7 @@ namespace host
 struct Options
 {
     std::string drawing;  // empty: a new one
-    std::filesystem::path module;
+    std::string module;
     std::string script;  // empty: the terminal or standard input as it is; "-" is standard input
     std::string save;    // empty: do not save
     std::string plot;    // empty: do not plot

@@ -19,7 +19,7 @@ void plotCommand()
         return;
     }
     std::erase(*name, L'"');
-    const std::string path = toNativePath(*name);
+    const std::string path = toNativePath(*name).string();
     const Plotted plotted = plotDrawing(*documents().document()->database(), path);
     if (!plotted.error.empty())
     {

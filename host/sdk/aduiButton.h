@@ -26,7 +26,9 @@ public:
     BOOL GetAutoSizeToBitmap() const;
     void SetAutoSizeToBitmap(BOOL size);
 
-    HRSRC bitmap() const { return m_bitmap; }  // the host's own; null before AutoLoad
+    // The host's own; both null before AutoLoad.
+    HRSRC bitmap() const { return m_bitmap; }
+    HINSTANCE bitmapModule() const { return m_bitmapModule; }
 
 protected:
     virtual BOOL OnAutoLoad() override;
@@ -35,4 +37,5 @@ private:
     CString m_bitmapName;
     BOOL m_autoSize;
     HRSRC m_bitmap;
+    HINSTANCE m_bitmapModule;
 };

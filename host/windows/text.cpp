@@ -126,11 +126,16 @@ std::wstring fromUtf8(std::string_view bytes)
     return text;
 }
 
-std::string toNativePath(std::wstring_view path)
+std::filesystem::path pathOf(std::string_view utf8)
+{
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
+std::filesystem::path toNativePath(std::wstring_view path)
 {
     std::string native = toUtf8(path);
     std::ranges::replace(native, '\\', '/');
-    return native;
+    return pathOf(native);
 }
 
 std::wstring fromNativePath(std::string_view path)

@@ -4,7 +4,7 @@ import shutil
 import subprocess
 import time
 
-from common import GRID, PLAN, Desk, check, expect, expect_equal, one_line
+from common import GRID, PLAN, Desk, check, expect, expect_equal, not_on_windows, one_line
 
 LINE = "  0\nLINE\n  5\n%X\n330\n1F\n100\nAcDbEntity\n  8\n0\n100\nAcDbLine\n" \
        " 10\n%d.5\n 20\n0.0\n 30\n0.0\n 11\n1.0\n 21\n1.0\n 31\n0.0\n"
@@ -39,6 +39,7 @@ def start(desk, *arguments):
 
 
 @check
+@not_on_windows("signals and mounts of Unix")
 def a_run_killed_while_it_saves_leaves_a_whole_drawing():
     old = large_drawing(20).encode()
     save = ("drawing.dxf", "--save", "drawing.dxf")
@@ -56,6 +57,7 @@ def a_run_killed_while_it_saves_leaves_a_whole_drawing():
 
 
 @check
+@not_on_windows("signals and mounts of Unix")
 def what_killed_runs_left_behind_is_not_in_the_way():
     with Desk() as desk:
         (desk / "drawing.dxf").write_bytes(large_drawing(20).encode())
@@ -84,6 +86,7 @@ def on_a_small_disk(desk, kilobytes, commands):
 
 
 @check
+@not_on_windows("signals and mounts of Unix")
 def on_a_full_disk_the_old_drawing_is_whole_and_nothing_else_is_left():
     if not can_mount():
         print("skipped: a full disk, because nothing can be mounted here")

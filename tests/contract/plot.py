@@ -1,8 +1,9 @@
 """Drawings on paper: the option --plot and the command PLOT."""
-from common import GRID, Desk, check, expect, expect_equal, one_line
+from common import GRID, Desk, check, expect, expect_equal, not_on_windows, one_line
 
 
 @check
+@not_on_windows("arxhost for Windows does not plot")
 def a_plot_is_a_file_of_the_kind_its_name_says():
     for name, beginning in (("a.png", b"\x89PNG\r\n"), ("b.pdf", b"%PDF-"), ("c.SVG", b"<?xml")):
         with Desk() as desk:
@@ -12,6 +13,7 @@ def a_plot_is_a_file_of_the_kind_its_name_says():
 
 
 @check
+@not_on_windows("arxhost for Windows does not plot")
 def the_command_plots_what_the_option_plots():
     with Desk() as desk:
         script = GRID + "PLOT\nfirst.png\n"
@@ -23,6 +25,7 @@ def the_command_plots_what_the_option_plots():
 
 
 @check
+@not_on_windows("arxhost for Windows does not plot")
 def a_plot_that_cannot_be_written_fails_and_leaves_nothing():
     with Desk() as desk:
         run = desk.run("--plot", "missing/a.png", script="")

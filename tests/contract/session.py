@@ -1,7 +1,7 @@
 """What a session prints, where the options are, and the host's own commands."""
 import re
 
-from common import CORNERS, GRID, PLAN, ROOT, SUMMARY, Desk, check, expect, expect_equal, options_text, one_line
+from common import BUILD, CORNERS, GRID, PLAN, ROOT, SUMMARY, Desk, check, expect, expect_equal, options_text, one_line
 
 
 @check
@@ -61,7 +61,7 @@ def setvar_prints_the_value():
 
 @check
 def options_are_read_and_written_beside_the_link_as_it_was_named():
-    beside_the_module = ROOT / "build" / "properties.ini"
+    beside_the_module = BUILD / "properties.ini"
     kept = beside_the_module.exists() and beside_the_module.read_bytes()
     with Desk(options=options_text(HorStep="50.0000", Color="3")) as desk:
         (desk / "other").mkdir()

@@ -1,7 +1,7 @@
 """arxhost at a terminal, script files of the CAD program, and runs that print nothing."""
 import signal
 
-from common import CORNERS, GRID, PLAN, Desk, check, expect, expect_equal, one_line
+from common import CORNERS, GRID, PLAN, Desk, check, expect, expect_equal, not_on_windows, one_line
 from console import Console
 
 ENTER, TAB, ESC, UP, LEFT, BACKSPACE = "\r", "\t", "\x1b", "\x1b[A", "\x1b[D", "\x7f"
@@ -31,6 +31,7 @@ def leave(terminal):
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_line_can_be_edited_at_a_terminal():
     with Desk() as desk, console(desk) as terminal:
         answer(terminal, "Command: ", "XШАГZ" + LEFT + BACKSPACE + "Ы" + ENTER)
@@ -39,6 +40,7 @@ def a_line_can_be_edited_at_a_terminal():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_session_that_is_terminated_leaves_the_terminal_as_it_was():
     for number in (signal.SIGTERM, signal.SIGHUP):
         with Desk() as desk, console(desk) as terminal:
@@ -50,6 +52,7 @@ def a_session_that_is_terminated_leaves_the_terminal_as_it_was():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_line_survives_the_resizing_of_its_window():
     with Desk() as desk, console(desk) as terminal:
         answer(terminal, "Command: ", "ABC")
@@ -62,6 +65,7 @@ def a_line_survives_the_resizing_of_its_window():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def each_prompt_is_shown_once_and_each_answer_ends_its_line():
     with Desk() as desk, console(desk) as terminal:
         draw_grid(terminal)
@@ -74,6 +78,7 @@ def each_prompt_is_shown_once_and_each_answer_ends_its_line():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def arrow_up_brings_earlier_lines_back_also_in_the_next_session():
     with Desk() as desk:
         with console(desk) as terminal:
@@ -90,6 +95,7 @@ def arrow_up_brings_earlier_lines_back_also_in_the_next_session():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def the_history_is_kept_where_the_user_keeps_such_things():
     with Desk() as desk:
         with console(desk, XDG_STATE_HOME=str(desk / "state")) as terminal:
@@ -99,6 +105,7 @@ def the_history_is_kept_where_the_user_keeps_such_things():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_history_that_cannot_be_kept_is_no_reason_for_a_word():
     with Desk() as desk:
         (desk / "state").write_text("no folder")
@@ -111,6 +118,7 @@ def a_history_that_cannot_be_kept_is_no_reason_for_a_word():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def tab_completes_commands_variables_and_keywords():
     with Desk() as desk, console(desk) as terminal:
         answer(terminal, "Command: ", "ucsi" + TAB + ENTER)
@@ -127,6 +135,7 @@ def tab_completes_commands_variables_and_keywords():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def tab_goes_as_far_as_the_names_agree_and_then_lists_them():
     names = "VIEWCTR  VIEWDIR  VIEWSIZE  VIEWTWIST"
     with Desk() as desk, console(desk) as terminal:
@@ -142,6 +151,7 @@ def tab_goes_as_far_as_the_names_agree_and_then_lists_them():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def ctrl_c_and_esc_cancel_the_command_but_not_the_program():
     with Desk() as desk, console(desk) as terminal:
         for key in (CTRL_C, ESC, "half a word" + CTRL_C, "half" + ESC, "front" + LEFT + CTRL_C):
@@ -155,6 +165,7 @@ def ctrl_c_and_esc_cancel_the_command_but_not_the_program():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def ctrl_c_does_not_stop_a_command_that_computes():
     with Desk() as desk, console(desk, "--save", "saved.dxf") as terminal:
         draw_grid(terminal, "0,0", "5000,5000")
@@ -165,6 +176,7 @@ def ctrl_c_does_not_stop_a_command_that_computes():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def the_end_of_input_at_a_terminal_is_ctrl_d():
     with Desk() as desk, console(desk) as terminal:
         answer(terminal, "Command: ", "zv_netrax" + ENTER)
@@ -175,6 +187,7 @@ def the_end_of_input_at_a_terminal_is_ctrl_d():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def the_dialog_is_printed_at_a_terminal_and_worked_by_lines():
     with Desk() as desk, console(desk) as terminal:
         answer(terminal, "Command: ", "zv_netrax" + ENTER)
@@ -192,6 +205,7 @@ def the_dialog_is_printed_at_a_terminal_and_worked_by_lines():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def the_meter_is_a_bar_that_goes_away():
     with Desk() as desk:
         with console(desk) as terminal:
@@ -205,6 +219,7 @@ def the_meter_is_a_bar_that_goes_away():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_narrow_terminal_gets_a_narrow_bar():
     with Desk() as desk:
         command = [str(desk.build / "arxhost"), "--module", "netrax.arx"]
@@ -215,6 +230,7 @@ def a_narrow_terminal_gets_a_narrow_bar():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def prompts_are_dim_unless_the_user_wants_no_colour():
     dim = b"\x1b[2mCommand:\x1b[0m "
     with Desk() as desk:
@@ -225,6 +241,7 @@ def prompts_are_dim_unless_the_user_wants_no_colour():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_terminal_that_understands_nothing_gets_plain_lines():
     with Desk() as desk, console(desk, TERM="dumb") as terminal:
         answer(terminal, "Command: ", "zv_netrax\n")
@@ -234,6 +251,7 @@ def a_terminal_that_understands_nothing_gets_plain_lines():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_script_file_of_the_CAD_program_has_blanks_between_its_answers():
     with Desk() as desk:
         by_lines = desk.run("--save", "lines.dxf", script=GRID)
@@ -248,6 +266,7 @@ def a_script_file_of_the_CAD_program_has_blanks_between_its_answers():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_script_file_of_the_CAD_program_works_the_dialog_by_lines():
     with Desk() as desk:
         (desk / "grid.scr").write_text("zv_netrax S\nset 107 25\n\n10,20 260,170 \n")
@@ -258,6 +277,7 @@ def a_script_file_of_the_CAD_program_works_the_dialog_by_lines():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def host_commands_take_their_answers_from_one_line_of_a_script_file():
     with Desk() as desk:
         (desk / "all.scr").write_text('SETVAR UCSICON 1 DVIEW  TW 30  SAVEAS "a b.dxf" VIEWTWIST \n')
@@ -269,6 +289,7 @@ def host_commands_take_their_answers_from_one_line_of_a_script_file():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_quiet_run_prints_nothing_and_does_the_same():
     with Desk() as desk:
         desk.bring(PLAN)
@@ -281,6 +302,7 @@ def a_quiet_run_prints_nothing_and_does_the_same():
 
 
 @check
+@not_on_windows("a terminal of Unix")
 def a_quiet_run_still_tells_its_errors():
     with Desk() as desk:
         for arguments, script in ((["nowhere.dxf"], ""), ([], CORNERS)):

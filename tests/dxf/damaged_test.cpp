@@ -44,16 +44,16 @@ std::string table(const std::string& type, const std::string& records)
 
 const std::string header = section("HEADER", "9\n$ACADVER\n1\nAC1027\n");
 const std::string entities = section("ENTITIES", "0\nLINE\n5\nA\n");
-const std::string eof = "0\nEOF\n";
+const std::string endOfFile = "0\nEOF\n";
 
 std::string withVariable(const std::string& tags)
 {
-    return section("HEADER", "9\n$ACADVER\n1\nAC1027\n" + tags) + entities + eof;
+    return section("HEADER", "9\n$ACADVER\n1\nAC1027\n" + tags) + entities + endOfFile;
 }
 
 std::string withTables(const std::string& tables)
 {
-    return header + section("TABLES", tables) + eof;
+    return header + section("TABLES", tables) + endOfFile;
 }
 
 std::string withLayer(const std::string& tags)
@@ -73,12 +73,12 @@ std::string withView(const std::string& tags)
 
 std::string withEntities(const std::string& records)
 {
-    return header + section("ENTITIES", records) + eof;
+    return header + section("ENTITIES", records) + endOfFile;
 }
 
 std::string withRootDictionary(const std::string& records)
 {
-    return header + section("OBJECTS", "0\nDICTIONARY\n5\nC\n" + records) + eof;
+    return header + section("OBJECTS", "0\nDICTIONARY\n5\nC\n" + records) + endOfFile;
 }
 
 std::string binary(const std::string& tags)
@@ -182,11 +182,11 @@ TEST(DamagedDrawings, whatCanBeUnderstoodIsReadKeptAndAddedTo)
         {"a handle twice",             withEntities("0\nLINE\n5\nA\n0\nARC\n5\nA\n")},
         {"unknown codes",              withEntities("0\nLINE\n85\nx\n1071\nx\n")    },
         {"unknown records",            withEntities("0\nACME_WALL\n90\nx\n")        },
-        {"an unknown section",         header + unknown + entities + eof            },
-        {"sections out of order",      objects + entities + tables + header + eof   },
-        {"no header, with handles",    entities + eof                               },
-        {"no header, marked as UTF-8", "\xEF\xBB\xBF" + entities + eof              },
-        {"nothing",                    eof                                          },
+        {"an unknown section",         header + unknown + entities + endOfFile            },
+        {"sections out of order",      objects + entities + tables + header + endOfFile   },
+        {"no header, with handles",    entities + endOfFile                               },
+        {"no header, marked as UTF-8", "\xEF\xBB\xBF" + entities + endOfFile              },
+        {"nothing",                    endOfFile                                          },
     };
     for (const auto& [what, bytes] : rows)
     {
@@ -210,6 +210,6 @@ TEST(DamagedDrawings, whatThereIsTooMuchOfIsReadAllTheSame)
     const std::string entries =
         many([](const std::string& i) { return "3\nACAD_GROUP\n350\nF" + i + "\n"; });
     const std::string objects = many([](const std::string& i) { return "0\nX\n5\nA" + i + "\n"; });
-    EXPECT_EQ(opening(sections + eof), "read");
+    EXPECT_EQ(opening(sections + endOfFile), "read");
     EXPECT_EQ(opening(withRootDictionary(entries + objects)), "read");
 }

@@ -27,7 +27,7 @@ protected:
 
     std::string saved(AcDbDatabase& database)
     {
-        const auto error = host::saveDrawing(database, path);
+        const auto error = host::saveDrawing(database, path.string());
         EXPECT_FALSE(error) << *error;
         std::ifstream file(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});
@@ -46,7 +46,7 @@ protected:
     std::unique_ptr<AcDbDatabase> opened(const std::string& text)
     {
         std::ofstream(path, std::ios::binary) << text;
-        host::OpenedDrawing opened = host::openDrawing(path);
+        host::OpenedDrawing opened = host::openDrawing(path.string());
         EXPECT_EQ(opened.error, "");
         return std::move(opened.database);
     }

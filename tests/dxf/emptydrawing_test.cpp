@@ -1,5 +1,7 @@
 #include "host/dxf/emptydrawing.h"
 
+#include <cinttypes>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -67,7 +69,7 @@ TEST(EmptyDrawing, theNextHandleIsAboveAllHandles)
 {
     const TagFile file = TagFile::fromText(emptyDrawing(), "new");
     char next[32];
-    std::snprintf(next, sizeof next, "%lX", file.highestHandle() + 1);
+    std::snprintf(next, sizeof next, "%" PRIX64, file.highestHandle() + 1);
     EXPECT_EQ(headerValue(file, "$HANDSEED"), next);
 }
 

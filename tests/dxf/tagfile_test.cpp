@@ -1,8 +1,7 @@
 #include "host/dxf/tagfile.h"
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <cinttypes>
 
 #include "host/dxf/emptydrawing.h"
 #include "tests/dxf/smalldrawing.h"
@@ -151,7 +150,7 @@ TEST(TagFile, onlyTheRecordsOwnHandleCounts)
     {
         const TagFile file = TagFile::fromText(drawingWith(row.text), "FILE");
         char found[32];
-        std::snprintf(found, sizeof found, "%lX", file.records().front().handle);
+        std::snprintf(found, sizeof found, "%" PRIX64, file.records().front().handle);
         EXPECT_EQ(found, row.message) << row.text;
         EXPECT_EQ(file.highestHandle(), file.records().front().handle);
     }
@@ -327,18 +326,3 @@ TEST(TagFile, whatFollowsEofMayOnlyBeBlank)
     EXPECT_EQ(refusal(unended), "read");
 }
 
-TEST(TagFile, aPathThatIsNoFileIsRefused)
-{
-    const std::string pipe = testing::TempDir() + "pipe_" + std::to_string(::getpid());
-    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    const Refused rows[] = {
-        {pipe,                                 "expected a file, found a device or pipe"    },
-        {testing::TempDir() + "not_there.dxf", "cannot be opened: No such file or directory"},
-        {testing::TempDir(),                   "expected a file, found a directory"         },
-        {"/dev/null",                          "expected a file, found a device or pipe"    },
-    };
-    for (const Refused& row : rows)
-        EXPECT_THAT([&] { TagFile::read(row.text); },
-                    testing::ThrowsMessage<Error>(row.text + ": " + row.message));
-    ::unlink(pipe.c_str());
-}

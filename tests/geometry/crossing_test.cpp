@@ -17,14 +17,14 @@ using host::StraightPiece;
 
 namespace
 {
-struct Rectangle
+struct Box
 {
     double width, height;
     StraightPiece edges[4];
 };
 
 // As a drawing keeps it: in the coordinates of its own plane, at one elevation.
-Rectangle rectangleIn(const AcGeMatrix3d& frame, double width, double height)
+Box rectangleIn(const AcGeMatrix3d& frame, double width, double height)
 {
     const host::Ocs ocs(frame * AcGeVector3d::kZAxis);
     const double elevation = ocs.toObject(frame * AcGePoint3d()).z;
@@ -40,7 +40,7 @@ Rectangle rectangleIn(const AcGeMatrix3d& frame, double width, double height)
         p.z = elevation;
         return ocs.toWorld(p);
     };
-    Rectangle rectangle{width, height, {}};
+    Box rectangle{width, height, {}};
     for (int i = 0; i < 4; ++i)
     {
         rectangle.edges[i] = {stored(i), stored(i + 1)};
@@ -48,7 +48,7 @@ Rectangle rectangleIn(const AcGeMatrix3d& frame, double width, double height)
     return rectangle;
 }
 
-std::vector<Crossing> crossings(const StraightPiece& asking, const Rectangle& rectangle)
+std::vector<Crossing> crossings(const StraightPiece& asking, const Box& rectangle)
 {
     std::vector<Crossing> found;
     for (const StraightPiece& edge : rectangle.edges)
@@ -198,7 +198,7 @@ TEST(Crossings, ofAGridLineAndItsOutlineAreTwoInEveryFrame)
         const AcGeMatrix3d frame =
             i % 3 ? dice.tiltedFrame(far) : dice.frame(far, AcGeVector3d::kZAxis);
         const double size = i % 5 ? 10 : 5000;
-        const Rectangle outline =
+        const Box outline =
             rectangleIn(frame, dice.measured(size / 5, size), dice.measured(size / 5, size));
 
         // A short piece inside, made endless; every third run along an edge of the outline.
@@ -221,7 +221,7 @@ TEST(Crossings, ofAPieceEndingOnTheOutlineAreFoundInEveryFrame)
     for (int i = 0; i < 20000; ++i)
     {
         const AcGeMatrix3d frame = dice.tiltedFrame(i % 2 ? 1e7 : 1e3);
-        const Rectangle outline = rectangleIn(frame, dice.measured(10, 1000), 250.25);
+        const Box outline = rectangleIn(frame, dice.measured(10, 1000), 250.25);
         const double x = dice.measured(1, outline.width - 1);
         const StraightPiece piece{frame * AcGePoint3d(x, 240, 0),
                                   frame * AcGePoint3d(x, outline.height, 0)};
@@ -237,7 +237,7 @@ TEST(Crossings, throughACornerOfTheOutlineAreOne)
     for (int i = 0; i < 20000; ++i)
     {
         const AcGeMatrix3d frame = dice.tiltedFrame(i % 2 ? 1e7 : 1e3);
-        const Rectangle outline = rectangleIn(frame, dice.measured(10, 1000), 250.25);
+        const Box outline = rectangleIn(frame, dice.measured(10, 1000), 250.25);
         const AcGePoint3d corner(outline.width, outline.height, 0);
         const AcGeVector3d diagonal(3, 4, 0);
         const StraightPiece piece{frame * (corner - diagonal), frame * (corner + diagonal)};
@@ -251,7 +251,7 @@ TEST(Crossings, areNoneBetweenPlanesAMillimetreApart)
     for (int i = 0; i < 2000; ++i)
     {
         const AcGeMatrix3d frame = dice.tiltedFrame(1e7);
-        const Rectangle outline = rectangleIn(frame, 1000, 1000);
+        const Box outline = rectangleIn(frame, 1000, 1000);
         const StraightPiece line{frame * AcGePoint3d(500, 490, 1e-3),
                                  frame * AcGePoint3d(500, 510, 1e-3), true};
         ASSERT_TRUE(crossings(line, outline).empty()) << "run " << i;

@@ -24,7 +24,7 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
-from arxhost import ROOT, Desk, need_built  # noqa: E402
+from arxhost import BUILD, Desk, need_built  # noqa: E402
 from canonical import canonical, first_difference, written  # noqa: E402
 from dxftags import read_tags  # noqa: E402
 
@@ -106,7 +106,7 @@ class Case:
 
 def main():
     parser = argparse.ArgumentParser(description="Runs the golden drawings.")
-    parser.add_argument("--build", type=Path, default=ROOT / "build")
+    parser.add_argument("--build", type=Path, default=BUILD)
     parser.add_argument("--update", action="store_true")
     parser.add_argument("cases", nargs="*")
     arguments = parser.parse_args()

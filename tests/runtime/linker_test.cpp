@@ -155,7 +155,7 @@ TEST_F(Loading, wrongFilesAreRefusedByName)
         EXPECT_NE(error->find(row.reason), std::string::npos) << *error;
     }
     const Folder folder;
-    std::FILE* text = std::fopen((folder.path / "text.arx").c_str(), "w");
+    std::FILE* text = std::fopen((folder.path / "text.arx").string().c_str(), "w");
     std::fputs("not a module", text);
     std::fclose(text);
     load(folder.path / "text.arx");

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
 #include "app/host.h"
@@ -40,8 +41,9 @@ public:
 private:
     static std::filesystem::path makeFolder()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "settings-XXXXXX").string();
-        return mkdtemp(name.data());
+        const std::string name = "settings-" + std::to_string(std::random_device()());
+        std::filesystem::create_directory(std::filesystem::temp_directory_path() / name);
+        return std::filesystem::temp_directory_path() / name;
     }
 
     std::filesystem::path file() const { return m_folder / "properties.ini"; }

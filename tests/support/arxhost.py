@@ -7,6 +7,7 @@ from dataclasses import dataclass
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
+BUILD = Path(os.environ.get("NETRAX_BUILD", ROOT / "build"))
 KEYS = """bXBottomScribe bXLeftScribe bXRightScribe bXTopScribe bYBottomScribe bYLeftScribe bYRightScribe
 bYTopScribe Color crossSize delCont heightText HorStep iCountSigns LookType needText textXScribe
 textYScribe VertStep WCSBasePoint""".split()
@@ -31,7 +32,7 @@ class Run:
 class Desk:
     """A temporary folder holding the link netrax.arx and, when given, properties.ini."""
 
-    def __init__(self, build=ROOT / "build", options=None):
+    def __init__(self, build=BUILD, options=None):
         self.build = Path(build).resolve()
         self._folder = tempfile.TemporaryDirectory(prefix="netrax-")
         self.folder = Path(self._folder.name)
@@ -65,13 +66,18 @@ class Desk:
                    done.stderr.decode("utf-8", "backslashreplace"))
 
 
+def windows(build=BUILD):
+    """Whether this is a build for Windows."""
+    return (Path(build) / "arxhost.exe").exists()
+
+
 def program(build):
     """The command that starts arxhost; a build for Windows runs under Wine."""
-    windows = Path(build) / "arxhost.exe"
-    return ["wine", str(windows)] if windows.exists() else [str(Path(build) / "arxhost")]
+    build = Path(build)
+    return ["wine", str(build / "arxhost.exe")] if windows(build) else [str(build / "arxhost")]
 
 
-def need_built(build=ROOT / "build"):
+def need_built(build=BUILD):
     for path in (Path(program(build)[-1]), Path(build) / "netrax.arx"):
         if not path.exists():
             raise SystemExit(f"{path} is missing: build first")

@@ -3,6 +3,8 @@ import random
 import sys
 import traceback
 
+from arxhost import windows
+
 _checks = []
 
 
@@ -14,6 +16,18 @@ def check(function):
     """Marks a function as a test; its name is a sentence about the product."""
     _checks.append((function.__name__.replace("_", " "), function))
     return function
+
+
+def not_on_windows(why):
+    """Marks a test of what arxhost for Windows does not do, or does in its own way."""
+    def marked(function):
+        def run():
+            if windows():
+                raise Skipped(why)
+            function()
+        run.__name__ = function.__name__
+        return run
+    return marked
 
 
 def add(name, function, *arguments):

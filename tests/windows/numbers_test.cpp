@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "crt.h"
+#include "afxwin.h"
 #include "shlwapi.h"
 
 namespace

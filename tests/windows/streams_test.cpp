@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "crt.h"
+#include "afxwin.h"
 #include "host/windows/text.h"
 
 namespace
@@ -19,7 +19,7 @@ class Streams : public testing::Test
 protected:
     std::filesystem::path m_file =
         std::filesystem::path(testing::TempDir()) / ("streams." + std::to_string(getpid()));
-    std::wstring m_path = host::fromNativePath(m_file.native());
+    std::wstring m_path = host::fromNativePath(m_file.string());
 
     ~Streams() override { std::filesystem::remove(m_file); }
 

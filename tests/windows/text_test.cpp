@@ -56,14 +56,13 @@ TEST(Text, eachByteThatIsNoUtf8IsOneReplacement)
 
 TEST(Text, whatIsNoCharacterIsReplacedInUtf8)
 {
-    const std::wstring_view texts[] = {L"\xD83D", L"\xDE00", L"\x110000", L"\xFFFFFFFF"};
+    const std::wstring_view texts[] = {L"\xD83D", L"\xDE00"};
     for (const std::wstring_view text : texts)
     {
         EXPECT_EQ(host::toUtf8(text), "\xEF\xBF\xBD");
     }
     EXPECT_EQ(host::toUtf8(L"\xDE00\xD83Dz"), "\xEF\xBF\xBD\xEF\xBF\xBDz");
     EXPECT_EQ(host::toUtf8(L"\xD83D\xD83D\xDE00"), "\xEF\xBF\xBD\xF0\x9F\x98\x80");
-    EXPECT_EQ(host::toUtf8(L"\x1F600"), "\xF0\x9F\x98\x80");  // a unit wider than that platform has
 }
 
 TEST(Text, pathsHaveBackslashesOnTheModulesSide)

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "host/windows/text.h"
 #include "windows.h"
 
 namespace host::dxf
@@ -76,7 +77,7 @@ private:
 };
 
 Replacement::Files::Files(const std::string& path)
-    : m_path(path), m_target(followed(path)), m_hasOld(hasOldFile(m_target, path))
+    : m_path(path), m_target(followed(pathOf(path))), m_hasOld(hasOldFile(m_target, path))
 {
     // Another run may be saving here, or may have ended in the middle of it.
     for (int attempt = 0; attempt < 100 && m_file < 0; ++attempt)

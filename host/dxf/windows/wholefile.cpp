@@ -10,6 +10,8 @@
 #include <cstring>
 #include <filesystem>
 
+#include "host/windows/text.h"
+
 namespace host::dxf
 {
 namespace
@@ -46,7 +48,7 @@ std::size_t readFully(const Descriptor& file, char* bytes, std::size_t size,
 
 WholeFile readWholeFile(const std::string& path)
 {
-    const std::filesystem::path name(path);
+    const std::filesystem::path name = pathOf(path);
     if (std::error_code error; std::filesystem::is_directory(name, error))
         fail(path, "expected a file, found a directory");
     const Descriptor file{::_wopen(name.c_str(), _O_RDONLY | _O_BINARY)};

@@ -1,11 +1,12 @@
 #include "host/pictures/dialogpicture.h"
 
-#include <filesystem>
 #include <memory>
 
 #include <objidl.h>
 
 #include <gdiplus.h>
+
+#include "host/windows/text.h"
 
 namespace host
 {
@@ -68,8 +69,7 @@ std::optional<std::string> drawDialog(HWND dialog, const std::string& file)
     paintAll(dialog);
     const HBITMAP bitmap = photograph(dialog);
     const std::unique_ptr<Gdiplus::Bitmap> image(Gdiplus::Bitmap::FromHBITMAP(bitmap, nullptr));
-    const Gdiplus::Status status =
-        image->Save(std::filesystem::path(file).c_str(), &pngEncoder, nullptr);
+    const Gdiplus::Status status = image->Save(pathOf(file).c_str(), &pngEncoder, nullptr);
     DeleteObject(bitmap);
     if (status != Gdiplus::Ok)
     {

@@ -181,7 +181,7 @@ FILE* _wfopen(const wchar_t* path, const wchar_t* modeText)
         errno = EINVAL;
         return nullptr;
     }
-    const std::string native = host::toNativePath(path);
+    const std::string native = host::toNativePath(path).native();
     if (mode->binary)
     {
         const char access[] = {mode->access, 'b', '\0'};
