@@ -18,17 +18,20 @@ class AcApDataManager : public AcApDocManagerReactor
 public:
     AcApDataManager()
     {
-        if (acDocManager != nullptr)
+        AcApDocManager* manager = acDocManager;
+        if (manager != nullptr)
         {
-            acDocManager->addReactor(this);
+            manager->addReactor(this);
         }
     }
 
     ~AcApDataManager()
     {
-        if (acDocManager != nullptr)
+        // Asked anew: a session that ends may have none left.
+        AcApDocManager* manager = acDocManager;
+        if (manager != nullptr)
         {
-            acDocManager->removeReactor(this);
+            manager->removeReactor(this);
         }
     }
 
