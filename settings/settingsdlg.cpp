@@ -205,11 +205,21 @@ bool CSettingsDlg::isChecked(int button) const
     return IsDlgButtonChecked(button) == BST_CHECKED;
 }
 
+// A control that the host cannot give is left as it is.
+void CSettingsDlg::enable(int control, BOOL enabled)
+{
+    CWnd* window = GetDlgItem(control);
+    if (window != nullptr)
+    {
+        window->EnableWindow(enabled);
+    }
+}
+
 void CSettingsDlg::OnAppearanceChanged()
 {
     const BOOL crosses = isChecked(IDC_CROSSES);
-    GetDlgItem(IDC_CROSS_SIZE)->EnableWindow(crosses);
-    GetDlgItem(IDC_PICK_CROSS_SIZE)->EnableWindow(crosses);
+    enable(IDC_CROSS_SIZE, crosses);
+    enable(IDC_PICK_CROSS_SIZE, crosses);
 }
 
 void CSettingsDlg::OnModeChanged()
@@ -225,10 +235,10 @@ void CSettingsDlg::OnNeedTextChanged()
     const BOOL labels = isChecked(IDC_NEED_TEXT);
     for (auto control = std::begin(group); control != std::end(group); ++control)
     {
-        GetDlgItem(*control)->EnableWindow(labels);
+        enable(*control, labels);
     }
     for (const LabelFlag* flag = labelFlags(); flag->field != nullptr; ++flag)
     {
-        GetDlgItem(flag->button)->EnableWindow(labels);
+        enable(flag->button, labels);
     }
 }

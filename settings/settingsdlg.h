@@ -70,6 +70,7 @@ private:
     void loadPickButtons();
     double shownReal(int edit) const;
     bool isChecked(int button) const;
+    void enable(int control, BOOL enabled);
 
     // settingspicks.cpp: values picked in the drawing
     bool pickLength(Length& length, double& picked);
