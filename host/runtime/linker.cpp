@@ -42,24 +42,45 @@ void requireCommandsRemoved(const ModuleFile& file)
         }
     }
 }
+
+std::vector<const void*> allListeners(const Linker& linker)
+{
+    return linker.listeners ? linker.listeners() : std::vector<const void*>();
+}
+
 // Objects with virtual functions of this file.
 std::vector<const void*> listenersOf(const Linker& linker, const ModuleFile& file)
 {
-    std::vector<const void*> found =
-        linker.listeners ? linker.listeners() : std::vector<const void*>();
+    std::vector<const void*> found = allListeners(linker);
     std::erase_if(found, [&](const void* object)
                   { return !file.holds(*static_cast<const void* const*>(object)); });
     return found;
 }
 
+[[noreturn]] void breachOfListeners(const fs::path& path)
+{
+    breach("removeReactor", path.filename().string() + " left a document reactor behind");
+}
+
 void requireGone(const Linker& linker, const std::vector<const void*>& gone, const fs::path& path)
 {
-    const std::vector<const void*> left =
-        linker.listeners ? linker.listeners() : std::vector<const void*>();
+    const std::vector<const void*> left = allListeners(linker);
     if (std::ranges::find_first_of(left, gone) != left.end())
     {
-        breach("removeReactor", path.filename().string() + " left a document reactor behind");
+        breachOfListeners(path);
     }
+}
+
+// A file that is refused has been in the process for a moment: its static objects came and went.
+std::unique_ptr<ModuleFile> openFile(const Linker& linker, const fs::path& path, std::string& error)
+{
+    const std::size_t before = allListeners(linker).size();
+    std::unique_ptr<ModuleFile> file = ModuleFile::open(path, error);
+    if (!file && allListeners(linker).size() > before)
+    {
+        breachOfListeners(path);
+    }
+    return file;
 }
 }  // namespace
 
@@ -112,7 +133,7 @@ Linker::Error Linker::load(const fs::path& name)
         return std::nullopt;
     }
     std::string error;
-    std::unique_ptr<ModuleFile> file = ModuleFile::open(path, error);
+    std::unique_ptr<ModuleFile> file = openFile(*this, path, error);
     if (!file)
     {
         return error;

@@ -54,6 +54,7 @@ RULES = [
      "kUnloadAppMsg: leavescommand.arx did not remove a command that it had registered"),
     ("leavesreactor", ["ARX", "U", "leavesreactor"],
      "removeReactor: leavesreactor.arx left a document reactor behind"),
+    ("listensandrefuses", [], "removeReactor: listensandrefuses.arx left a document reactor behind"),
 ]
 
 
