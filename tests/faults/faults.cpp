@@ -10,49 +10,23 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <string_view>
 
 namespace faults
 {
 namespace
 {
-struct Range
+// Asked by address each time: a script that unloads the module may load it elsewhere.
+bool isInModule(const void* address)
 {
-    std::uintptr_t begin = 0;
-    std::uintptr_t end = 0;
+    dl_find_object found;
+    return _dl_find_object(const_cast<void*>(address), &found) == 0 &&
+           std::string_view(found.dlfo_link_map->l_name).ends_with("/netrax.arx");
+}
 
-    bool holds(const void* address) const
-    {
-        const auto at = reinterpret_cast<std::uintptr_t>(address);
-        return begin <= at && at < end;
-    }
-};
-
-Range module;
 Plan plan;
 std::vector<Call> made;
 std::vector<int> failedCalls;
-
-int visit(dl_phdr_info* info, std::size_t, void* found)
-{
-    auto& range = *static_cast<Range*>(found);
-    Range whole{UINTPTR_MAX, 0};
-    for (int i = 0; i < info->dlpi_phnum; ++i)
-    {
-        const auto& segment = info->dlpi_phdr[i];
-        if (segment.p_type == PT_LOAD)
-        {
-            const std::uintptr_t begin = info->dlpi_addr + segment.p_vaddr;
-            whole.begin = std::min(whole.begin, begin);
-            whole.end = std::max(whole.end, begin + segment.p_memsz);
-        }
-    }
-    if (!whole.holds(reinterpret_cast<void*>(range.begin)))
-    {
-        return 0;
-    }
-    range = whole;
-    return 1;
-}
 
 bool isPlanned(int number, const char* name)
 {
@@ -62,15 +36,9 @@ bool isPlanned(int number, const char* name)
 }
 }  // namespace
 
-void watch(const void* addressInModule)
-{
-    module.begin = reinterpret_cast<std::uintptr_t>(addressInModule);
-    dl_iterate_phdr(visit, &module);
-}
-
 int outcomeOf(const char* name, unsigned outcomes, unsigned onceOnly, const void* caller)
 {
-    if (!module.holds(caller))
+    if (!isInModule(caller))
     {
         return -1;
     }
@@ -86,15 +54,15 @@ int outcomeOf(const char* name, unsigned outcomes, unsigned onceOnly, const void
     return int(std::min(plan.outcome, possible - 1));
 }
 
-static std::vector<const char*>& names()
+static std::vector<Row>& rows()
 {
-    static std::vector<const char*> all;
+    static std::vector<Row> all;
     return all;
 }
 
-const std::vector<const char*>& listed()
+const std::vector<Row>& listed()
 {
-    return names();
+    return rows();
 }
 
 static void replaceVirtual(const char* table, void* host, void* own)
@@ -122,9 +90,10 @@ static void replaceVirtual(const char* table, void* host, void* own)
 
 bool list(const char* name, const char* symbol, void* own)
 {
-    names().push_back(name);
+    rows().push_back({name, symbol});
     void* const host = dlsym(RTLD_NEXT, symbol);
-    for (const char* table : {"_ZTV8AcDbLine", "_ZTV8AcDbText", "_ZTV14AcDb2dPolyline"})
+    for (const char* table : {"_ZTV8AcDbLine", "_ZTV8AcDbText", "_ZTV14AcDb2dPolyline",
+                              "_ZTVN4host6LinkerE", "_ZTVN4host12CommandStackE"})
     {
         replaceVirtual(table, host, own);
     }
@@ -175,7 +144,7 @@ void* allocate(std::size_t size, const void* caller)
     {
         std::abort();
     }
-    *block = {size, 0, module.holds(caller), nullptr, nullptr};
+    *block = {size, 0, isInModule(caller), nullptr, nullptr};
     if (block->isModules)
     {
         block->call = int(made.size());

@@ -28,19 +28,21 @@ struct Call
     unsigned onceOnly;  // the last so many of them only once in a run, see failsOnceOnly
 };
 
-// The code of the module lies here; only calls from there count.
-void watch(const void* addressInModule);
-
 void begin(const Plan& plan);
 const std::vector<Call>& calls();  // since `begin`
 bool failed(const char* name);     // whether a call of that name was failed
 std::string failures();            // what was failed, with numbers
 
-// Names of all calls that can be failed.
-const std::vector<const char*>& listed();
+// A call that can be failed.
+struct Row
+{
+    const char* name;
+    const char* symbol;  // as the linker knows it
+};
+const std::vector<Row>& listed();
 
-// Adds one and gives true. Entities are called through their tables of virtual functions: where
-// these hold the host's function of that symbol, `own` takes its place.
+// Adds one and gives true. Entities and services are called through their tables of virtual
+// functions: where these hold the host's function of that symbol, `own` takes its place.
 bool list(const char* name, const char* symbol, void* own);
 
 // For the functions that stand in place of the host's: the outcome to fail with, or -1.

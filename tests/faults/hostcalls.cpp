@@ -1,60 +1,16 @@
-// The host's calls that can fail, each with the ways in which it can.
-//
-// A function of a class is written as the plain function that it is to the linker: the object comes
-// first. A failed call leaves everything as it was, but for what it promises to clear.
-#include <cstdarg>
-#include <iterator>
-
-#include "accmd.h"
-#include "acdocman.h"
-#include "acuiDialog.h"
-#include "dbapserv.h"
-#include "aduiButton.h"
-#include "aced.h"
-#include "acedads.h"
-#include "crt.h"
+// Calls on drawings that can fail, each with the ways in which it can.
+#include "axlock.h"
 #include "dbMPolygon.h"
+#include "dbapserv.h"
 #include "dbdict.h"
 #include "dbents.h"
 #include "dbgroup.h"
 #include "dbsymtb.h"
 #include "host/database/access.h"
-#include "tests/app/original.h"
-#include "tests/faults/faults.h"
-
-using Acad::ErrorStatus;
-using faults::outcomeOf;
-
-#define CALLER __builtin_return_address(0)
-
-// RESULT NAME PARAMETERS, called SYMBOL by the linker and TITLE by people. CLEAR is done when it
-// fails; then it gives one of the outcomes. The last ONCE of these it gives once a run only.
-#define CALL_THAT_FAILS(RESULT, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ONCE, ...) \
-    extern "C" __attribute__((visibility("default"))) RESULT NAME PARAMETERS __asm__(SYMBOL); \
-    extern "C" RESULT NAME PARAMETERS                                                         \
-    {                                                                                         \
-        static auto* const next = original<RESULT PARAMETERS>(SYMBOL);                        \
-        static RESULT const outcomes[] = {__VA_ARGS__};                                       \
-        const int outcome = outcomeOf(TITLE, std::size(outcomes), ONCE, CALLER);              \
-        if (outcome < 0)                                                                      \
-        {                                                                                     \
-            return next ARGUMENTS;                                                            \
-        }                                                                                     \
-        CLEAR;                                                                                \
-        return outcomes[outcome];                                                             \
-    }                                                                                         \
-    [[maybe_unused]] const bool NAME##IsListed =                                              \
-        faults::list(TITLE, SYMBOL, reinterpret_cast<void*>(NAME));
-
-#define STATUS_CALL(NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ...) \
-    CALL_THAT_FAILS(ErrorStatus, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, 0, __VA_ARGS__)
-
-#define NOTHING ((void)0)
+#include "tests/faults/callthatfails.h"
 
 // Documents and databases.
 
-CALL_THAT_FAILS(AcApDocManager*, failDocManager, "_Z15acDocManagerPtrv", "acDocManager", (), (),
-                NOTHING, 0, nullptr)
 CALL_THAT_FAILS(AcDbHostApplicationServices*, failServices, "_Z27acdbHostApplicationServicesv",
                 "acdbHostApplicationServices", (), (), static AcDbHostApplicationServices none;
                 return &none, 0, nullptr)
@@ -71,7 +27,28 @@ STATUS_CALL(failSetAt, "_ZN14AcDbDictionary5setAtEPKwP10AcDbObjectR12AcDbObjectI
             (AcDbDictionary * self, const ACHAR* key, AcDbObject* value, AcDbObjectId& id),
             (self, key, value, id), id.setNull(), Acad::eInvalidKey, Acad::eOutOfMemory)
 
-// Opening.
+CALL_THAT_FAILS(AcDbObjectId, failStyle, "_ZNK12AcDbDatabase9textstyleEv",
+                "AcDbDatabase::textstyle", (const AcDbDatabase* self), (self), NOTHING, 0,
+                AcDbObjectId())
+
+// A lock that is refused. It stands in the caller's frame and is not ours to look into but by its
+// layout: the document, then the status.
+struct RefusedLock
+{
+    AcApDocument* document;
+    ErrorStatus status;
+};
+static_assert(sizeof(RefusedLock) == sizeof(AcAxDocLock), "the lock has these members");
+
+SILENT_CALL(failLock, "_ZN11AcAxDocLockC1ENS_11DocLockTypeE", "AcAxDocLock",
+            (RefusedLock * self, AcAxDocLock::DocLockType type), (self, type),
+            (*self = RefusedLock{nullptr, Acad::eNoDatabase}))
+
+// Opening and closing. A close can be told to have failed; the object is closed all the same, for
+// a failure of the real host means that it was no longer open.
+
+STATUS_CALL(failClose, "_ZN10AcDbObject5closeEv", "AcDbObject::close", (AcDbObject * self), (self),
+            next(self), Acad::eNotOpenForRead, Acad::eWasNotifying)
 
 STATUS_CALL(failOpenObject,
             "_ZN4host10openObjectERP10AcDbObject12AcDbObjectIdP9AcRxClassN4AcDb8OpenModeEbb",
@@ -169,6 +146,22 @@ STATUS_CALL(failLoop, "_ZN12AcDbMPolygon22appendLoopFromBoundaryEPK14AcDb2dPolyl
             "AcDbMPolygon::appendLoopFromBoundary",
             (AcDbMPolygon * self, const AcDb2dPolyline* boundary, bool cross, double tolerance),
             (self, boundary, cross, tolerance), NOTHING, Acad::eInvalidInput)
+CALL_THAT_FAILS(int, failInsidePolygon,
+                "_ZNK12AcDbMPolygon21isPointInsideMPolygonERK11AcGePoint3dR7AcArrayIiEd",
+                "AcDbMPolygon::isPointInsideMPolygon",
+                (const AcDbMPolygon* self, const AcGePoint3d& point, AcGeIntArray& loops,
+                 double tolerance),
+                (self, point, loops, tolerance), NOTHING, 0, -1, 0)
+STATUS_CALL(failClosestPoint, "_ZNK14AcDb2dPolyline17getClosestPointToERK11AcGePoint3dRS0_i",
+            "AcDb2dPolyline::getClosestPointTo",
+            (const AcDb2dPolyline* self, const AcGePoint3d& given, AcGePoint3d& onCurve,
+             Adesk::Boolean extend),
+            (self, given, onCurve, extend), NOTHING, Acad::eInvalidInput, Acad::eNotImplementedYet)
+STATUS_CALL(failMakeClosed, "_ZN14AcDb2dPolyline10makeClosedEv", "AcDb2dPolyline::makeClosed",
+            (AcDb2dPolyline * self), (self), NOTHING, Acad::eInvalidInput)
+STATUS_CALL(failGeneration, "_ZN14AcDb2dPolyline23setLinetypeGenerationOnEv",
+            "AcDb2dPolyline::setLinetypeGenerationOn", (AcDb2dPolyline * self), (self), NOTHING,
+            Acad::eInvalidInput)
 STATUS_CALL(failGroupAppend, "_ZN9AcDbGroup6appendERK12AcDbObjectId", "AcDbGroup::append",
             (AcDbGroup * self, const AcDbObjectId& id), (self, id), NOTHING, Acad::eAlreadyInGroup,
             Acad::eNotAnEntity)
@@ -192,62 +185,3 @@ TEXT_CALL(failHorizontal, "_ZN8AcDbText17setHorizontalModeEN4AcDb12TextHorzModeE
           "AcDbText::setHorizontalMode", AcDb::TextHorzMode)
 TEXT_CALL(failVertical, "_ZN8AcDbText15setVerticalModeEN4AcDb12TextVertModeE",
           "AcDbText::setVerticalMode", AcDb::TextVertMode)
-
-// The editor. A prompt that is refused is asked again, as often as it takes: once only. Without its
-// options a prompt is refused as well.
-
-CALL_THAT_FAILS(int, failInitGet, "_Z11acedInitGetiPKw", "acedInitGet",
-                (int bits, const ACHAR* keywords), (bits, keywords), NOTHING, 1, RTERROR)
-CALL_THAT_FAILS(int, failGetPoint, "_Z12acedGetPointPKdPKwPd", "acedGetPoint",
-                (const ads_point base, const ACHAR* prompt, ads_point result),
-                (base, prompt, result), NOTHING, 2, RTERROR, RTCAN, RTNONE, RTREJ)
-CALL_THAT_FAILS(int, failGetCorner, "_Z13acedGetCornerPKdPKwPd", "acedGetCorner",
-                (const ads_point base, const ACHAR* prompt, ads_point result),
-                (base, prompt, result), NOTHING, 2, RTERROR, RTCAN, RTNONE, RTREJ)
-CALL_THAT_FAILS(int, failGetDist, "_Z11acedGetDistPKdPKwPd", "acedGetDist",
-                (const ads_point base, const ACHAR* prompt, ads_real* result),
-                (base, prompt, result), NOTHING, 0, RTERROR, RTCAN, RTNONE)
-CALL_THAT_FAILS(int, failGetKword, "_Z12acedGetKwordPKwPw", "acedGetKword",
-                (const ACHAR* prompt, ACHAR* result), (prompt, result), NOTHING, 1, RTCAN, RTNONE,
-                RTERROR)
-CALL_THAT_FAILS(int, failGetInput, "_Z12acedGetInputPw", "acedGetInput", (ACHAR * text), (text),
-                NOTHING, 0, RTERROR)
-CALL_THAT_FAILS(int, failGetVar, "_Z10acedGetVarPKwP6resbuf", "acedGetVar",
-                (const ACHAR* name, resbuf* result), (name, result), NOTHING, 0, RTERROR)
-CALL_THAT_FAILS(int, failSetVar, "_Z10acedSetVarPKwPK6resbuf", "acedSetVar",
-                (const ACHAR* name, const resbuf* value), (name, value), NOTHING, 0, RTERROR)
-CALL_THAT_FAILS(bool, failToUcs, "_Z11acdbWcs2UcsPdS_b", "acdbWcs2Ucs",
-                (ads_point from, ads_point to, bool vector), (from, to, vector), NOTHING, 0, false)
-CALL_THAT_FAILS(bool, failToWcs, "_Z11acdbUcs2WcsPdS_b", "acdbUcs2Wcs",
-                (ads_point from, ads_point to, bool vector), (from, to, vector), NOTHING, 0, false)
-STATUS_CALL(failGetUcs, "_Z17acedGetCurrentUCSR12AcGeMatrix3d", "acedGetCurrentUCS",
-            (AcGeMatrix3d & matrix), (matrix), NOTHING, Acad::eNoDatabase)
-STATUS_CALL(failSetUcs, "_Z17acedSetCurrentUCSRK12AcGeMatrix3d", "acedSetCurrentUCS",
-            (const AcGeMatrix3d& matrix), (matrix), NOTHING, Acad::eInvalidInput)
-CALL_THAT_FAILS(bool, failPreviousUcs, "_Z22acedRestorePreviousUCSv", "acedRestorePreviousUCS", (),
-                (), NOTHING, 0, false)
-CALL_THAT_FAILS(int, failMeter, "_Z29acedSetStatusBarProgressMeterPKwii",
-                "acedSetStatusBarProgressMeter", (const ACHAR* label, int least, int most),
-                (label, least, most), NOTHING, 0, -1)
-CALL_THAT_FAILS(int, failMeterPosition, "_Z32acedSetStatusBarProgressMeterPosi",
-                "acedSetStatusBarProgressMeterPos", (int position), (position), NOTHING, 0, -1)
-
-// Windows and its C runtime.
-
-CALL_THAT_FAILS(INT_PTR, failDoModal, "_ZN15CAdUiBaseDialog7DoModalEv", "CAcUiDialog::DoModal",
-                (CAdUiBaseDialog * self), (self), NOTHING, 0, -1, IDCANCEL)
-CALL_THAT_FAILS(BOOL, failAutoLoad, "_ZN20CAdUiOwnerDrawButton8AutoLoadEv",
-                "CAdUiBitmapButton::AutoLoad", (CAdUiOwnerDrawButton * self), (self), NOTHING, 0,
-                FALSE)
-CALL_THAT_FAILS(int, failMessageBox, "MessageBoxW", "MessageBox",
-                (HWND owner, LPCWSTR text, LPCWSTR caption, UINT type),
-                (owner, text, caption, type), NOTHING, 0, 0)
-CALL_THAT_FAILS(DWORD, failModuleName, "GetModuleFileNameW", "GetModuleFileName",
-                (HINSTANCE module, LPWSTR name, DWORD room), (module, name, room), NOTHING, 0, 0)
-CALL_THAT_FAILS(int, failLocaleName, "LCIDToLocaleName", "LCIDToLocaleName",
-                (LCID locale, LPWSTR name, int room, DWORD flags), (locale, name, room, flags),
-                NOTHING, 0, 0)
-CALL_THAT_FAILS(FILE*, failOpenFile, "_wfopen", "_wfopen",
-                (const wchar_t* path, const wchar_t* mode), (path, mode), NOTHING, 0, nullptr)
-CALL_THAT_FAILS(wint_t, failReadChar, "crtFgetwc", "fgetwc", (FILE * stream), (stream), NOTHING, 0,
-                WEOF)

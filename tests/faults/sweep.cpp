@@ -1,5 +1,7 @@
 // Runs scripts again and again, each time with other calls of the host failing, and looks after
 // each run whether the module has left everything as it found it.
+//
+// usage: fault_sweep [--list]     (--list: prints the calls that can be failed, by symbol and name)
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/mman.h>
@@ -9,159 +11,24 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
-#include <sstream>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
-#include "host/documents/documentmanager.h"
-#include "host/dxf/drawingfile.h"
-#include "host/editor/commands.h"
-#include "host/editor/editor.h"
-#include "host/editor/hostcommands.h"
-#include "host/runtime/linker.h"
 #include "host/runtime/locale.h"
 #include "tests/faults/allowed.h"
-#include "tests/faults/faults.h"
-#include "tests/support/session.h"
+#include "tests/faults/run.h"
 
 namespace fs = std::filesystem;
 
 namespace
 {
 const unsigned secondsForARun = 5;
-
-struct Script
-{
-    const char* name;
-    const char* options;  // lines of properties.ini beside the steps, parted by blanks
-    const char* answers;  // parted by bars
-};
-
-#define GRID "zv_netrax|0,0|25,15|"
-#define LABELS                                                                  \
-    "needText=1 bXTopScribe=1 bXBottomScribe=1 bXLeftScribe=1 bXRightScribe=1 " \
-    "bYTopScribe=1 bYBottomScribe=1 bYLeftScribe=1 bYRightScribe=1 "
-
-// Two columns and one row of cells, so that every call has its turn and a run is short. Of the
-// first two all pairs of calls fail as well.
-const Script scripts[] = {
-    {"cancelled at the first corner",   "",                         "zv_netrax|^C"                     },
-    {"a large grid that is not wanted", "HorStep=0.2 VertStep=0.2", GRID "no"                          },
-    {"lines along the world",           "",                         GRID "A"                           },
-    {"lines along the UCS",             "WCSBasePoint=1",           GRID "A"                           },
-    {"crosses",                         "LookType=1 crossSize=4",   GRID "A"                           },
-    {"labels along the world",          LABELS,                     GRID "A"                           },
-    {"labels along the UCS",            LABELS "WCSBasePoint=1",    GRID "A"                           },
-    {"cancelled",                       "",                         GRID "^C"                          },
-    {"drawn again and accepted",        "",                         GRID "x|A"                         },
-    {"two grids",                       "",                         GRID "A|" GRID "A"                 },
-    {"a dialog with picks",             "",
-     "zv_netrax|S|click 110|0,0|10,0|click 124|5,5|set 107 12|click 1|0,0|25,15|A"                     },
-    {"a dialog that is cancelled",      "",                         "zv_netrax|S|set 107 12|click 2|^C"},
-};
-
-std::deque<std::string> parted(const std::string& text, char separator)
-{
-    std::deque<std::string> parts;
-    std::istringstream stream(text);
-    for (std::string part; std::getline(stream, part, separator);)
-    {
-        parts.push_back(part);
-    }
-    return parts;
-}
-
-// The module's options beside its file; every run finds them as the script has them.
-void writeOptions(const fs::path& folder, const Script& script)
-{
-    std::ofstream file(folder / "properties.ini", std::ios::binary);
-    file << "[GRID]\r\nHorStep=10.0000\r\nVertStep=10.0000\r\nColor=12\r\nheightText=2.0000\r\n";
-    for (const std::string& option : parted(script.options, ' '))
-    {
-        file << option << "\r\n";  // the last of two counts
-    }
-}
-
-struct State
-{
-    AcGeMatrix3d ucs;
-    int icon;
-    int follow;
-    double equalPoint;
-    double equalVector;
-    std::size_t resources;
-};
-
-State stateNow()
-{
-    const host::Document& document = *host::documents().document();
-    const host::DrawingState& drawing = document.database()->core().state;
-    return {drawing.modelUcs.toWorld,
-            drawing.ucsIcon,
-            drawing.ucsFollow,
-            AcGeContext::gTol.equalPoint(),
-            AcGeContext::gTol.equalVector(),
-            document.resources.depth()};
-}
-
-// What the run has left otherwise than it found it.
-std::string differences(const State& before, const State& after)
-{
-    const std::pair<const char*, bool> rows[] = {
-        {"UCS",                                                                            std::memcmp(&before.ucs, &after.ucs, sizeof before.ucs) != 0},
-        {"UCSICON",                                                         before.icon != after.icon                                                                               },
-        {"UCSFOLLOW",before.follow != after.follow},
-        {"tolerance",
-         before.equalPoint != after.equalPoint || before.equalVector != after.equalVector                                                                                                                                     },
-        {"resource handles", before.resources != after.resources},
-    };
-    std::string list;
-    for (const auto& [name, differs] : rows)
-    {
-        list += differs ? std::string(list.empty() ? "" : ", ") + name : "";
-    }
-    return list;
-}
-
-// Complaints of one run, a line each; empty when all is well.
-std::string runOnce(const Script& script, const faults::Plan& plan)
-{
-    const State before = stateNow();
-    faults::begin(plan);
-    std::optional<host::Meter> meter;
-    {
-        support::Typist typist;
-        typist.lines = parted(script.answers, '|');
-        host::Editor editor(typist, false);
-        host::runCommands(editor);
-        meter = editor.meter;
-    }
-    std::string complaints;
-    const std::string left = differences(before, stateNow());
-    if (!left.empty() && !mayLeave(left))
-    {
-        complaints += "left otherwise: " + left + "\n";
-    }
-    if (meter)
-    {
-        complaints += "the progress meter is still shown\n";
-    }
-    host::documents().close();
-    for (const faults::Leak& leak : faults::leaks())
-    {
-        if (!mayLeak(leak))
-        {
-            complaints += "a block of " + std::to_string(leak.size) + " bytes, made after call " +
-                          std::to_string(leak.call) + ", is lost\n";
-        }
-    }
-    return complaints;
-}
 
 // Shared by a worker and its runs.
 struct Board
@@ -191,13 +58,13 @@ public:
     long failed = 0;
 
 private:
-    bool load();
-    void sweep(const Script& script, bool pairs);
+    void sweep(const Script& script);
     void requireAllSeen();
     void attempt(const Script& script, const faults::Plan& plan);
     bool attemptHere(const Script& script, const faults::Plan& plan);
     std::vector<faults::Call> callsOf(const Script& script);
     const char* nameOf(const faults::Plan& plan) const;
+    std::set<std::string> failedBy(const faults::Plan& plan) const;
 
     fs::path m_folder;
     unsigned m_number;
@@ -207,33 +74,6 @@ private:
     std::vector<faults::Call> m_calls;  // of the script in hand, without a fault
     Board* m_board;
 };
-
-bool Worker::load()
-{
-    fs::current_path(m_folder);  // without its own path the module takes the current folder
-    host::registerHostCommands();
-    host::documents().open(host::newDrawing());
-    // Neither is what a run sets, so one that is not given back is seen.
-    host::DrawingState& state = host::documents().document()->database()->core().state;
-    state.modelUcs.toWorld =
-        AcGeMatrix3d::rotation(0.5, AcGeVector3d::kZAxis, AcGePoint3d(3, 4, 0));
-    state.ucsFollow = 1;
-    support::Typist typist;
-    host::Editor editor(typist, false);
-    if (const auto error = host::linker().load(m_folder / "netrax.arx"))
-    {
-        std::printf("%s\n", error->c_str());
-        return false;
-    }
-    const AcEdCommand* const command = host::commandStack().lookupCmd(L"ZV_NETRAX", true, true);
-    if (command == nullptr)
-    {
-        std::printf("the module has no command\n");
-        return false;
-    }
-    faults::watch(reinterpret_cast<const void*>(command->functionAddr()));
-    return true;
-}
 
 // What the host says as it stops a run.
 fs::path reportOf(const fs::path& folder)
@@ -283,6 +123,20 @@ const char* Worker::nameOf(const faults::Plan& plan) const
     return known ? m_calls[std::size_t(plan.first)].name : plan.every != nullptr ? plan.every : "";
 }
 
+// Names of the calls that the plan fails, as far as a run without a fault makes them.
+std::set<std::string> Worker::failedBy(const faults::Plan& plan) const
+{
+    std::set<std::string> names{nameOf(plan)};
+    for (std::size_t i = 0; i < m_calls.size(); ++i)
+    {
+        if (int(i) == plan.second || (plan.fromFirst && int(i) > plan.first))
+        {
+            names.insert(m_calls[i].name);
+        }
+    }
+    return names;
+}
+
 bool Worker::attemptHere(const Script& script, const faults::Plan& plan)
 {
     writeOptions(m_folder, script);
@@ -295,7 +149,7 @@ bool Worker::attemptHere(const Script& script, const faults::Plan& plan)
     int status = 0;
     waitpid(child, &status, 0);
     const bool stopped = WIFEXITED(status) && WEXITSTATUS(status) == EXIT_FAILURE;
-    if (status == 0 || (stopped && mayStop(report(m_folder), nameOf(plan))))
+    if (status == 0 || (stopped && mayStop(report(m_folder), failedBy(plan))))
     {
         return true;
     }
@@ -330,7 +184,7 @@ std::vector<faults::Call> Worker::callsOf(const Script& script)
     return {m_board->calls, m_board->calls + m_board->callCount};
 }
 
-void Worker::sweep(const Script& script, bool pairs)
+void Worker::sweep(const Script& script)
 {
     m_calls = callsOf(script);
     const std::vector<faults::Call>& calls = m_calls;
@@ -358,6 +212,7 @@ void Worker::sweep(const Script& script, bool pairs)
             attempt(script, {.every = call.name, .outcome = outcome});
         }
     }
+    const bool pairs = script.kind == Script::Kind::allPairs;
     for (int i = 0; pairs && i < int(calls.size()); ++i)
     {
         for (int k = i + 1; k < int(calls.size()); ++k)
@@ -375,12 +230,12 @@ void Worker::sweep(const Script& script, bool pairs)
 // A call that no script makes is one that the module makes no more, or one that never came here.
 void Worker::requireAllSeen()
 {
-    for (const char* name : faults::listed())
+    for (const faults::Row& row : faults::listed())
     {
-        if (!m_seen.contains(name))
+        if (!m_seen.contains(row.name))
         {
             ++failed;
-            std::printf("FAILED no script makes the call %s\n", name);
+            std::printf("FAILED no script makes the call %s\n", row.name);
         }
     }
     std::printf("%zu kinds of calls\n", m_seen.size());
@@ -389,14 +244,21 @@ void Worker::requireAllSeen()
 
 int Worker::run()
 {
-    if (!load())
+    fs::current_path(m_folder);  // without its own path the module takes the current folder
+    openDrawing();
+    bool loaded = false;
+    for (const Script& script : scripts())
     {
-        return 1;
-    }
-    for (std::size_t i = 0; i < std::size(scripts); ++i)
-    {
-        const bool isShort = i < 2;
-        sweep(scripts[i], isShort);
+        if (script.kind != Script::Kind::loads && !std::exchange(loaded, true))
+        {
+            const std::string error = loadModule();
+            if (!error.empty())
+            {
+                std::printf("%s\n", error.c_str());
+                return 1;
+            }
+        }
+        sweep(script);
     }
     if (m_number == 0)
     {
@@ -412,8 +274,17 @@ struct Totals
 };
 }  // namespace
 
-int main()
+int main(int count, char** arguments)
 {
+    if (count > 1 && std::string_view(arguments[1]) == "--list")
+    {
+        for (const faults::Row& row : faults::listed())
+        {
+            std::printf("%s %s\n", row.symbol, row.name);
+        }
+        return 0;
+    }
+    shareAllowances();
     host::setProductLocale(host::englishLocale);
     std::string pattern = (fs::temp_directory_path() / "netrax-faults-XXXXXX").string();
     const fs::path folder = mkdtemp(pattern.data());
@@ -444,6 +315,11 @@ int main()
     {
         all.tried += totals[number].tried;
         all.failed += totals[number].failed;
+    }
+    for (const std::string& allowance : unusedAllowances())
+    {
+        ++all.failed;
+        std::printf("FAILED no run needs the allowance for %s\n", allowance.c_str());
     }
     all.failed += ended || all.failed > 0 ? 0 : 1;
     std::printf("%ld faults tried\n%ld passed, %ld failed\n", all.tried, all.tried - all.failed,

@@ -1,0 +1,56 @@
+// How a call that fails on purpose is written.
+//
+// A function of a class is written as the plain function that it is to the linker: the object comes
+// first. A failed call leaves everything as it was, but for what it promises to clear.
+#pragma once
+
+#include <iterator>
+
+#include "acadstrc.h"
+#include "tests/app/original.h"
+#include "tests/faults/faults.h"
+
+using Acad::ErrorStatus;
+using faults::outcomeOf;
+
+#define CALLER __builtin_return_address(0)
+
+// RESULT NAME PARAMETERS, called SYMBOL by the linker and TITLE by people. CLEAR is done when it
+// fails; then it gives one of the outcomes. The last ONCE of these it gives once a run only.
+#define CALL_THAT_FAILS(RESULT, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ONCE, ...) \
+    extern "C" __attribute__((visibility("default"))) RESULT NAME PARAMETERS __asm__(SYMBOL); \
+    extern "C" RESULT NAME PARAMETERS                                                         \
+    {                                                                                         \
+        static auto* const next = original<RESULT PARAMETERS>(SYMBOL);                        \
+        static RESULT const outcomes[] = {__VA_ARGS__};                                       \
+        const int outcome = outcomeOf(TITLE, std::size(outcomes), ONCE, CALLER);              \
+        if (outcome < 0)                                                                      \
+        {                                                                                     \
+            return next ARGUMENTS;                                                            \
+        }                                                                                     \
+        CLEAR;                                                                                \
+        return outcomes[outcome];                                                             \
+    }                                                                                         \
+    [[maybe_unused]] const bool NAME##IsListed =                                              \
+        faults::list(TITLE, SYMBOL, reinterpret_cast<void*>(NAME));
+
+#define STATUS_CALL(NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ...) \
+    CALL_THAT_FAILS(ErrorStatus, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, 0, __VA_ARGS__)
+
+#define NOTHING ((void)0)
+
+// One that gives nothing: it fails by doing nothing, or what INSTEAD says.
+#define SILENT_CALL(NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, INSTEAD)                    \
+    extern "C" __attribute__((visibility("default"))) void NAME PARAMETERS __asm__(SYMBOL); \
+    extern "C" void NAME PARAMETERS                                                         \
+    {                                                                                       \
+        static auto* const next = original<void PARAMETERS>(SYMBOL);                        \
+        if (outcomeOf(TITLE, 1, 0, CALLER) < 0)                                             \
+        {                                                                                   \
+            next ARGUMENTS;                                                                 \
+            return;                                                                         \
+        }                                                                                   \
+        INSTEAD;                                                                            \
+    }                                                                                       \
+    [[maybe_unused]] const bool NAME##IsListed =                                            \
+        faults::list(TITLE, SYMBOL, reinterpret_cast<void*>(NAME));
