@@ -20,6 +20,11 @@ Answer answerOf(std::string_view line, bool visible)
     return {.kind = Answer::Kind::line, .text = fromUtf8(line), .visible = visible};
 }
 
+LineReader::LineReader(std::istream& input, bool visible) : m_input(input), m_visible(visible)
+{
+    m_input.exceptions(std::ios::badbit);
+}
+
 bool LineReader::read(std::string& line)
 {
     if (!std::getline(m_input, line))
@@ -87,7 +92,7 @@ void LineFrontEnd::serve(const std::function<void()>& job)
         });
     while (const std::optional<Question> question = m_rendezvous.waitForQuestion())
     {
-        m_rendezvous.answer(m_reader.next(*question));
+        m_rendezvous.answer(answerTo(*question));
     }
     command.join();
 }

@@ -32,7 +32,8 @@ Answer answerOf(std::string_view line, bool visible);
 class LineReader : public AnswerReader
 {
 public:
-    LineReader(std::istream& input, bool visible) : m_input(input), m_visible(visible) {}
+    // From here on the stream throws what goes wrong with it: it would take that for its end.
+    LineReader(std::istream& input, bool visible);
 
     Answer next(const Question& question) override;
     bool visible() const override { return m_visible; }
@@ -65,10 +66,13 @@ public:
     Answer ask(const Question& question) override { return m_rendezvous.ask(question); }
     bool interactive() const override { return m_reader.visible(); }
 
-    // Runs the job on a thread of its own and answers its questions on the calling one.
+    // Runs the job on a thread of its own and answers its questions on the calling one. What the
+    // reader throws ends the program: the job waits for an answer and cannot be told.
     void serve(const std::function<void()>& job);
 
 private:
+    Answer answerTo(const Question& question) noexcept { return m_reader.next(question); }
+
     AnswerReader& m_reader;
     LineOutput m_output;
     std::mutex m_printing;

@@ -1,6 +1,6 @@
 // arxhost: opens a drawing, loads a module, feeds it input and saves the drawing.
-#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -14,11 +14,6 @@
 
 namespace
 {
-void printError(std::string_view line)
-{
-    std::fprintf(stderr, "arxhost: %.*s\n", int(line.size()), line.data());
-}
-
 int runStandardInput(const host::Options& options)
 {
     if (const auto status = host::runEdited(options))
@@ -34,7 +29,7 @@ int runScript(const host::Options& options)
     std::ifstream script(host::pathOf(options.script), std::ios::binary);
     if (!script)
     {
-        printError(options.script + ": cannot be read");
+        host::printError(options.script + ": cannot be read");
         return EXIT_FAILURE;
     }
     if (host::isHostScript(host::pathOf(options.script)))
@@ -57,7 +52,7 @@ int run(const host::Options& options)
 {
     if (options.quiet && !host::silenceOutput())
     {
-        printError("standard output cannot be closed");
+        host::printError("standard output cannot be closed");
         return EXIT_FAILURE;
     }
     if (options.script.empty() && !options.dialogPicture.empty())
@@ -73,6 +68,7 @@ int run(const host::Options& options)
 
 int main(int count, char** arguments)
 {
+    std::set_terminate(host::endAtOnce);
     host::beginProcess();
     int status = EXIT_SUCCESS;
     const auto options = host::parseOptions(host::givenArguments(count, arguments), status);

@@ -1,11 +1,15 @@
 #include "host/program/session.h"
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <ios>
+#include <new>
 #include <utility>
 
 #include "host/program/job.h"
+#include "host/runtime/outofmemory.h"
 
 namespace host
 {
@@ -21,16 +25,18 @@ void printOut(std::string_view text)
     }
 }
 
-void printError(std::string_view line)
-{
-    std::fprintf(stderr, "arxhost: %.*s\n", int(line.size()), line.data());
-}
+std::atomic<bool> failureTold = false;
 
 int runGuarded(const Options& options, FrontEnd& frontEnd)
 {
     try
     {
         return runJob(options, frontEnd);
+    }
+    catch (const std::bad_alloc&)
+    {
+        frontEnd.report(notEnoughMemory);
+        return EXIT_FAILURE;
     }
     catch (const std::exception& failure)
     {
@@ -39,6 +45,12 @@ int runGuarded(const Options& options, FrontEnd& frontEnd)
     }
 }
 }  // namespace
+
+void printError(std::string_view line)
+{
+    failureTold = true;
+    std::fprintf(stderr, "arxhost: %.*s\n", int(line.size()), line.data());
+}
 
 LineOutput standardOutput()
 {
@@ -51,5 +63,35 @@ int runSession(const Options& options, AnswerReader& reader, LineOutput output)
     int status = EXIT_FAILURE;
     frontEnd.serve([&] { status = runGuarded(options, frontEnd); });
     return status;
+}
+
+void endAtOnce()
+{
+    std::fflush(stdout);
+    try
+    {
+        if (const std::exception_ptr thrown = std::current_exception())
+        {
+            std::rethrow_exception(thrown);
+        }
+        std::abort();
+    }
+    catch (const std::bad_alloc&)
+    {
+        // After a failure that was told this is but its last trace.
+        if (!failureTold)
+        {
+            printError(notEnoughMemory);
+        }
+    }
+    catch (const std::ios_base::failure&)
+    {
+        printError("the input cannot be read");
+    }
+    catch (const std::exception& failure)
+    {
+        printError(failure.what());
+    }
+    std::_Exit(EXIT_FAILURE);
 }
 }  // namespace host

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/runtime/outofmemory.h"
 #include "host/windows/modules.h"
 
 namespace host
@@ -13,7 +14,11 @@ std::unique_ptr<ModuleFile> ModuleFile::open(const std::filesystem::path& path, 
         error = path.string() + ": there is no such module";
         return nullptr;
     }
-    const LoadedFile loaded = loadFile(path);
+    const LoadedFile loaded = [&]
+    {
+        const NoThrowing loading;  // the module's static objects come, and go below
+        return loadFile(path);
+    }();
     if (loaded.handle == nullptr && !loaded.isRefused)
     {
         error = path.string() + ": not a module: " + loaded.reason;
@@ -41,6 +46,7 @@ ModuleFile::~ModuleFile()
 {
     if (m_handle != nullptr)
     {
+        const NoThrowing unloading;
         unloadFile(m_handle);
     }
 }

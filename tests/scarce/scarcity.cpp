@@ -19,6 +19,7 @@ namespace
 bool running = false;
 Of scarce;
 long left;
+long begun;
 bool always;
 int reason;
 bool refusedOne;
@@ -42,6 +43,7 @@ void start(Of what, long first, bool forGood, int error)
 {
     scarce = what;
     left = first;
+    begun = first;
     always = forGood;
     reason = error;
     refusedOne = false;
@@ -52,6 +54,11 @@ bool stop()
 {
     running = false;
     return refusedOne;
+}
+
+long requests()
+{
+    return begun - left;
 }
 }  // namespace scarcity
 
@@ -124,12 +131,22 @@ IN_PLACE int close(int file)
 
 namespace
 {
+// As the library's own: whoever stands ready for it comes first.
+[[noreturn]] void giveUp()
+{
+    if (const std::new_handler handler = std::get_new_handler())
+    {
+        handler();
+    }
+    throw std::bad_alloc();
+}
+
 void* allocate(std::size_t size)
 {
     void* const memory = refuse(scarcity::Of::memory) ? nullptr : std::malloc(size != 0 ? size : 1);
     if (memory == nullptr)
     {
-        throw std::bad_alloc();
+        giveUp();
     }
     return memory;
 }
@@ -150,7 +167,7 @@ EXPORTED void* operator new(std::size_t size, std::align_val_t alignment)
     void* memory = nullptr;
     if (refuse(scarcity::Of::memory) || posix_memalign(&memory, std::size_t(alignment), size) != 0)
     {
-        throw std::bad_alloc();
+        giveUp();
     }
     return memory;
 }

@@ -15,4 +15,6 @@ enum class Of
 void start(Of what, long first, bool forGood, int error = 0);
 // Ends that. Whether a request was refused.
 bool stop();
+// How many there were since the start, as far as they were counted.
+long requests();
 }  // namespace scarcity

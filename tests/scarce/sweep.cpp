@@ -18,6 +18,7 @@
 #include "host/database/core.h"
 #include "host/dxf/drawingfile.h"
 #include "host/plot/plot.h"
+#include "tests/scarce/run.h"
 #include "tests/scarce/scarcity.h"
 
 namespace fs = std::filesystem;
@@ -185,6 +186,9 @@ int main()
         sweepSaving(drawing, folder / "plot.png");
         fs::remove(folder / "plot.png");
     }
+    const Tried runs = tryRuns(folder);
+    tried += runs.requests;
+    failed += runs.failed;
     fs::remove_all(folder);
     std::printf("%ld requests refused\n%ld passed, %ld failed\n", tried, tried - failed, failed);
     return failed == 0 && tried > 0 ? 0 : 1;

@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdarg>
@@ -5,8 +7,10 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "crt.h"
+#include "host/runtime/outofmemory.h"
 #include "host/windows/format.h"
 #include "host/windows/text.h"
 #include "host/windows/emulated/textfile.h"
@@ -133,30 +137,48 @@ FILE* openReader(const std::string& path, std::optional<host::Encoding> encoding
     return reader->stream;
 }
 
-// The cookie is the stream of the file itself.
+// A stream opened for text writing. The file keeps what it holds until the stream is closed, so a
+// run that ends in between leaves no half of a text.
+struct Writer
+{
+    File file;
+    bool appends;
+    std::string content;
+};
+
+// The C library, which calls this, would leave the stream locked if something were thrown.
 ssize_t writeText(void* cookie, const char* bytes, std::size_t size)
 {
-    FILE* file = static_cast<FILE*>(cookie);
-    std::string text;
+    const host::NoThrowing writing;
+    std::string& content = static_cast<Writer*>(cookie)->content;
     for (const char byte : std::string_view(bytes, size))
     {
-        text += byte == '\n' ? "\r\n" : std::string(1, byte);
+        content.append(byte == '\n' ? "\r" : "").push_back(byte);
     }
-    const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
-    return written ? ssize_t(size) : 0;
+    return ssize_t(size);
 }
 
 int closeWriter(void* cookie)
 {
-    return std::fclose(static_cast<FILE*>(cookie));
+    const std::unique_ptr<Writer> writer(static_cast<Writer*>(cookie));
+    // A device cannot be made shorter and need not be.
+    const bool emptied =
+        writer->appends || ftruncate(fileno(writer->file.get()), 0) == 0 || errno == EINVAL;
+    const std::string& content = writer->content;
+    const bool written = emptied && std::fwrite(content.data(), 1, content.size(),
+                                                writer->file.get()) == content.size();
+    return std::fclose(writer->file.release()) == 0 && written ? 0 : EOF;
 }
 
 FILE* openWriter(const std::string& path, char access)
 {
-    const char mode[] = {access, '\0'};
-    FILE* file = std::fopen(path.c_str(), mode);
-    return file == nullptr ? nullptr
-                           : fopencookie(file, "w", {nullptr, writeText, nullptr, closeWriter});
+    File file(std::fopen(path.c_str(), "a"));
+    if (file == nullptr)
+    {
+        return nullptr;
+    }
+    auto* writer = new Writer{std::move(file), access == 'a', {}};
+    return fopencookie(writer, "w", {nullptr, writeText, nullptr, closeWriter});
 }
 
 // "C" locale of that runtime.
