@@ -1,7 +1,9 @@
 #include "host/dxf/entitywriter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
 #include "host/database/drawing.h"
 #include "host/geometry/ocs.h"
@@ -45,29 +47,45 @@ void EntityWriter::writeSubclass(std::string_view name, TagWriter& writer) const
 
 void EntityWriter::writeEntitiesOf(const AcDbStub* owner, TagWriter& writer)
 {
+    // Many lines in a row share one style; those of another owner have no form here.
+    std::uint32_t style = UINT32_MAX;
+    const RecordForm* form = nullptr;
     for (std::size_t i = 0; i < m_core.stubs.size(); ++i)
     {
         const AcDbStub& stub = m_core.stubs[i];
-        if (!stub.erased() && ownerOf(&stub) == owner)
+        if (stub.erased())
         {
-            writeStub(stub, writer);
+            continue;
+        }
+        if (!stub.packed())
+        {
+            writeUnpacked(stub, owner, writer);
+            continue;
+        }
+        if (stub.style != style)
+        {
+            style = stub.style;
+            form = m_core.lineStyles[style].owner == owner ? &lineForm(style) : nullptr;
+        }
+        if (form != nullptr)
+        {
+            writer.record(*form, stub.handle, stub.line);
         }
     }
 }
 
-void EntityWriter::writeStub(const AcDbStub& stub, TagWriter& writer)
+void EntityWriter::writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, TagWriter& writer)
 {
-    if (stub.packed())
+    if (ownerOf(&stub) != owner)
     {
-        writeLine(stub.handle, stub.line, lineText(stub.style), writer);
         return;
     }
     if (const AcDbLine* line = AcDbLine::cast(stub.object))
     {
         const AcGePoint3d a = line->startPoint();
         const AcGePoint3d b = line->endPoint();
-        const double points[] = {a.x, a.y, a.z, b.x, b.y, b.z};
-        writeLine(stub.handle, points, makeLineText(ObjectAccess::lineStyle(*line)), writer);
+        writer.record(makeLineForm(ObjectAccess::lineStyle(*line)), stub.handle,
+                      {a.x, a.y, a.z, b.x, b.y, b.z});
     }
     else if (const AcDbText* text = AcDbText::cast(stub.object))
     {
@@ -79,36 +97,47 @@ void EntityWriter::writeStub(const AcDbStub& stub, TagWriter& writer)
     }
 }
 
-void EntityWriter::writeLine(std::uint64_t handle, const double* points, const LineText& text,
-                             TagWriter& writer)
+const RecordForm& EntityWriter::lineForm(std::uint32_t style)
 {
-    writer.text(0, "LINE");
-    writeHandle(handle, writer);
-    writer.raw(text.head);
-    writer.point(10, points[0], points[1], points[2]);
-    writer.point(11, points[3], points[4], points[5]);
-    writer.raw(text.tail);
-}
-
-const EntityWriter::LineText& EntityWriter::lineText(std::uint32_t style)
-{
-    const auto found = m_lineTexts.find(style);
-    return found != m_lineTexts.end()
+    const auto found = m_lineForms.find(style);
+    return found != m_lineForms.end()
                ? found->second
-               : m_lineTexts.emplace(style, makeLineText(m_core.lineStyles[style])).first->second;
+               : m_lineForms.emplace(style, makeLineForm(m_core.lineStyles[style])).first->second;
 }
 
-EntityWriter::LineText EntityWriter::makeLineText(const LineStyle& style)
+RecordForm EntityWriter::makeLineForm(const LineStyle& style)
 {
-    LineText text;
-    TagWriter head([&text](std::string_view bytes) { text.head += bytes; }, m_style);
-    writeCommon(style, head);
-    writeSubclass("AcDbLine", head);
-    head.flush();
-    TagWriter tail([&text](std::string_view bytes) { text.tail += bytes; }, m_style);
-    writeNormal(style.normal, tail);
-    tail.flush();
-    return text;
+    std::string bytes;
+    TagWriter writer([&bytes](std::string_view written) { bytes += written; }, m_style);
+    const auto cut = [&]
+    {
+        writer.flush();
+        return std::exchange(bytes, {});
+    };
+    RecordForm form;
+    form.hasHandle = m_handles;
+    writer.text(0, "LINE");
+    if (m_handles)
+    {
+        writer.codeLine(5);
+        form.head = cut();
+        writer.lineEnd();
+    }
+    writeCommon(style, writer);
+    writeSubclass("AcDbLine", writer);
+    writer.codeLine(10);
+    form.common = cut();
+    std::ranges::transform(std::array{20, 30, 11, 21, 31}, form.gaps,
+                           [&](int code)
+                           {
+                               writer.lineEnd();
+                               writer.codeLine(code);
+                               return RecordForm::Gap(cut());
+                           });
+    writer.lineEnd();
+    writeNormal(style.normal, writer);
+    form.tail = cut();
+    return form;
 }
 
 std::string EntityWriter::nameOf(const AcDbStub* record) const

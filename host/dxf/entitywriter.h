@@ -21,20 +21,12 @@ public:
     void writeEntitiesOf(const AcDbStub* owner, TagWriter& writer);
 
 private:
-    struct LineText
-    {
-        std::string head;  // from the handle to the points
-        std::string tail;  // after them
-    };
-
-    void writeStub(const AcDbStub& stub, TagWriter& writer);
-    void writeLine(std::uint64_t handle, const double* points, const LineText& text,
-                   TagWriter& writer);
+    void writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, TagWriter& writer);
     void writeText(const AcDbText& text, TagWriter& writer);
     void writePolyline(AcDb2dPolyline& polyline, TagWriter& writer);
 
-    const LineText& lineText(std::uint32_t style);
-    LineText makeLineText(const LineStyle& style);
+    const RecordForm& lineForm(std::uint32_t style);
+    RecordForm makeLineForm(const LineStyle& style);
     void writeHandle(std::uint64_t handle, TagWriter& writer) const;
     void writeOwner(std::uint64_t handle, TagWriter& writer) const;
     void writeSubclass(std::string_view name, TagWriter& writer) const;
@@ -48,7 +40,7 @@ private:
     const TagStyle m_style;
     const Release& m_release;
     bool m_handles;
-    std::unordered_map<std::uint32_t, LineText> m_lineTexts;
+    std::unordered_map<std::uint32_t, RecordForm> m_lineForms;
 };
 
 // 210, 220, 230 when the entity does not lie in a plane parallel to the world's.

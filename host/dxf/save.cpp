@@ -7,6 +7,7 @@
 #include "host/database/drawing.h"
 #include "host/dxf/entitywriter.h"
 #include "host/dxf/filesource.h"
+#include "host/dxf/livestubs.h"
 #include "host/dxf/save_atomic.h"
 #include "host/dxf/savestate.h"
 #include "host/dxf/savetables.h"
@@ -104,19 +105,12 @@ std::size_t placeFor(const FileSource& source, const AcDbStub* owner)
     source.file.refuse(1, "a block for the new entities", "none of that name");
 }
 
-std::vector<const AcDbStub*> ownersOfNewEntities(const DatabaseCore& core)
+std::vector<const AcDbStub*> ownersOfNewEntities(const LiveStubs& live)
 {
     std::vector<const AcDbStub*> owners;
-    std::uint32_t lastStyle = UINT32_MAX;  // packed lines of one style have one owner
-    for (std::size_t i = 0; i < core.stubs.size(); ++i)
+    for (const AcDbStub* stub : live)
     {
-        const AcDbStub& stub = core.stubs[i];
-        if (stub.erased() || (stub.packed() && stub.style == lastStyle))
-        {
-            continue;
-        }
-        lastStyle = stub.packed() ? stub.style : lastStyle;
-        const AcDbStub* owner = ownerOf(&stub);
+        const AcDbStub* owner = ownerOf(stub);
         if (owner != nullptr && typeOf(owner) == AcDbBlockTableRecord::desc() &&
             std::find(owners.begin(), owners.end(), owner) == owners.end())
         {
@@ -134,10 +128,10 @@ void inSection(TagWriter& writer, std::string_view name, const Producer& content
     writer.text(0, "ENDSEC");
 }
 
-void saveEntities(Edits& edits, DatabaseCore& core, EntityWriter& entities)
+void saveEntities(Edits& edits, const FileSource& source, const LiveStubs& live,
+                  EntityWriter& entities)
 {
-    const FileSource& source = sourceOf(core);
-    for (const AcDbStub* owner : ownersOfNewEntities(core))
+    for (const AcDbStub* owner : ownersOfNewEntities(live))
     {
         const std::size_t place = placeFor(source, owner);
         const Producer produce = [&entities, owner](TagWriter& writer)
@@ -291,11 +285,11 @@ void saveGroups(Edits& edits, DatabaseCore& core)
 }
 
 // The seed goes up with the objects that are saved, so a drawing left as it was stays so.
-void saveHandleSeed(Edits& edits, const DatabaseCore& core)
+void saveHandleSeed(Edits& edits, const DatabaseCore& core, const LiveStubs& live)
 {
     const FileSource& source = sourceOf(core);
     const bool repaired = !source.file.repairedRecords().empty();
-    if (!repaired && ownersOfNewEntities(core).empty() && newGroups(core).empty())
+    if (!repaired && ownersOfNewEntities(live).empty() && newGroups(core).empty())
     {
         return;
     }
@@ -338,13 +332,14 @@ void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& ta
     const FileSource& source = sourceOf(core);
     Edits edits(source.file);
     EntityWriter entities(core, source);
-    saveTables(edits, core);
+    const LiveStubs live = liveStubs(core);
+    saveTables(edits, core, live);
     saveRepairs(edits);
     saveLayers(edits, source);
-    saveEntities(edits, core, entities);
+    saveEntities(edits, source, live, entities);
     saveGroups(edits, core);
     saveState(edits, core);
-    saveHandleSeed(edits, core);
+    saveHandleSeed(edits, core, live);
     take(edits);
 }
 

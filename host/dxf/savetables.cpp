@@ -13,31 +13,21 @@ namespace
 {
 using Stubs = std::set<const AcDbStub*>;
 
-void addStyle(Stubs& named, const LineStyle& style)
-{
-    named.insert({style.layer, style.linetype});
-}
-
-// Of everything made since the drawing was opened.
-Stubs namedRecords(const DatabaseCore& core)
+Stubs namedRecords(const DatabaseCore& core, const LiveStubs& live)
 {
     Stubs named;
-    std::uint32_t lastStyle = UINT32_MAX;  // many lines in a row share one
-    for (std::size_t i = 0; i < core.stubs.size(); ++i)
+    const auto add = [&named](const LineStyle& style) {
+        named.insert({style.layer, style.linetype});
+    };
+    for (const AcDbStub* stub : live)
     {
-        const AcDbStub& stub = core.stubs[i];
-        if (stub.erased() || (stub.packed() && stub.style == lastStyle))
+        if (stub->packed())
         {
-            continue;
+            add(core.lineStyles[stub->style]);
         }
-        if (stub.packed())
+        else if (const AcDbEntity* entity = AcDbEntity::cast(stub->object))
         {
-            lastStyle = stub.style;
-            addStyle(named, core.lineStyles[lastStyle]);
-        }
-        else if (const AcDbEntity* entity = AcDbEntity::cast(stub.object))
-        {
-            addStyle(named, ObjectAccess::lineStyle(*entity));
+            add(ObjectAccess::lineStyle(*entity));
             const AcDbText* text = AcDbText::cast(entity);
             named.insert(text != nullptr ? text->textStyle().stub() : nullptr);
         }
@@ -245,7 +235,7 @@ void insertTables(Edits& edits, const std::string& tables)
 }
 }  // namespace
 
-void saveTables(Edits& edits, DatabaseCore& core)
+void saveTables(Edits& edits, DatabaseCore& core, const LiveStubs& live)
 {
     const FileSource& source = sourceOf(core);
     if (source.added.empty())
@@ -253,7 +243,7 @@ void saveTables(Edits& edits, DatabaseCore& core)
         return;
     }
     const RecordWriter writes(source.file.release(), source.file.hasHandles());
-    const Stubs named = namedRecords(core);
+    const Stubs named = namedRecords(core, live);
     std::string tables;
     TagWriter newTables([&tables](std::string_view bytes) { tables += bytes; },
                         source.file.style());

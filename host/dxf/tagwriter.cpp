@@ -13,6 +13,8 @@ namespace
 constexpr std::size_t bufferSize = 1 << 20;
 // Room for any tag but a text: the code's line, a number and a line ending.
 constexpr std::size_t slack = 64;
+// Room for the six numbers of a record and what is between them.
+constexpr std::size_t numbersSlack = 6 * slack;
 
 // Columns of a padded integer; the blanks show how many bytes a reader needs for it.
 int integerWidth(int code)
@@ -42,6 +44,37 @@ char* appendReal(char* at, double value)
         return std::to_chars(at, at + slack, value, std::chars_format::fixed).ptr;
     return std::to_chars(at, at + slack, value, std::chars_format::scientific).ptr;
 }
+// Eight digits at once, a byte of `digits` each: the upper half of the number goes to the upper
+// half of the word, then the same with quarters and eighths.
+std::uint64_t eightDigits(std::uint32_t value)
+{
+    std::uint64_t digits = value;
+    digits = (digits | digits << 16) & 0x0000FFFF0000FFFF;
+    digits = (digits | digits << 8) & 0x00FF00FF00FF00FF;
+    digits = (digits | digits << 4) & 0x0F0F0F0F0F0F0F0F;
+    const std::uint64_t letters = ((digits + 0x0606060606060606) >> 4) & 0x0101010101010101;
+    return digits + 0x3030303030303030 + letters * ('A' - '9' - 1);
+}
+
+// Eight bytes are written, whatever the length.
+char* appendDigits(char* at, std::uint32_t value, int count)
+{
+    std::uint64_t digits = eightDigits(value) << (64 - 8 * count);
+    if constexpr (std::endian::native == std::endian::little)
+        digits = __builtin_bswap64(digits);
+    std::memcpy(at, &digits, sizeof digits);
+    return at + count;
+}
+
+// In hexadecimal capitals.
+char* appendHandle(char* at, std::uint64_t value)
+{
+    const int count = (std::bit_width(value | 1) + 3) / 4;
+    if (count <= 8) [[likely]]
+        return appendDigits(at, std::uint32_t(value), count);
+    at = appendDigits(at, std::uint32_t(value >> 32), count - 8);
+    return appendDigits(at, std::uint32_t(value), 8);
+}
 }  // namespace
 
 std::string realText(double value)
@@ -50,19 +83,46 @@ std::string realText(double value)
     return {text, appendReal(text, value)};
 }
 
+// Leaves room for a number and a line ending.
+inline void TagWriter::copy(std::string_view bytes)
+{
+    if (m_full - m_at < static_cast<std::ptrdiff_t>(bytes.size()))
+        return copyLong(bytes);
+    std::memcpy(m_at, bytes.data(), bytes.size());
+    m_at += bytes.size();
+}
+
+inline char* TagWriter::appendKnownReal(char* at, double value)
+{
+    const auto bits = std::bit_cast<std::uint64_t>(value);
+    RealText& known = m_realTexts[(bits * 0x9E3779B97F4A7C15u) >> (64 - realTextBits)];
+    if (known.bits != bits)
+        return appendNewReal(at, value, known);
+    std::memcpy(at, known.text, sizeof known.text);
+    return at + known.length;
+}
+
+RecordForm::Gap::Gap(std::string_view bytes)
+    : length(static_cast<unsigned char>(bytes.copy(text, sizeof text)))
+{
+}
+
 TagWriter::TagWriter(Drain drain, const TagStyle& style)
     : m_drain(std::move(drain)),
-      m_newline(style.newline),
-      m_buffer(std::make_unique_for_overwrite<char[]>(bufferSize + slack)),
+      m_newlineLength(style.newline.copy(m_newline, sizeof m_newline)),
+      m_buffer(std::make_unique_for_overwrite<char[]>(bufferSize + numbersSlack)),
       m_at(m_buffer.get()),
+      m_full(m_at + bufferSize),
       m_realTexts(std::size_t(1) << realTextBits)
 {
+    // Bits of 0 belong to the first place; in any other they find nothing.
+    appendNewReal(m_at, 0, m_realTexts[0]);
     for (std::size_t code = 0; code < m_codes.size(); ++code)
     {
         std::string line = std::to_string(code);
         if (line.size() < static_cast<std::size_t>(style.codeWidth))
             line.insert(0, style.codeWidth - line.size(), ' ');
-        line += m_newline;
+        line += style.newline;
         std::copy(line.begin(), line.end(), m_codes[code].text);
         m_codes[code].length = line.size();
         m_codes[code].integerWidth = style.padIntegers ? integerWidth(code) : 0;
@@ -90,11 +150,7 @@ void TagWriter::integer(int code, std::int64_t value)
 
 void TagWriter::handle(int code, std::uint64_t value)
 {
-    char* const at = begin(code);
-    const int digits = std::max(1, int(std::bit_width(value) + 3) / 4);
-    for (int i = digits - 1; i >= 0; --i, value >>= 4)
-        at[i] = "0123456789ABCDEF"[value & 15];
-    end(at + digits);
+    end(appendHandle(begin(code), value));
 }
 
 void TagWriter::real(int code, double value)
@@ -102,24 +158,16 @@ void TagWriter::real(int code, double value)
     end(appendKnownReal(begin(code), value));
 }
 
-char* TagWriter::appendKnownReal(char* at, double value)
+char* TagWriter::appendNewReal(char* at, double value, RealText& known)
 {
-    const auto bits = std::bit_cast<std::uint64_t>(value);
-    RealText& known = m_realTexts[(bits * 0x9E3779B97F4A7C15u) >> (64 - realTextBits)];
-    if (known.bits != bits || known.length == 0)
+    char* const last = appendReal(at, value);
+    if (last - at <= static_cast<std::ptrdiff_t>(sizeof known.text))
     {
-        char* const last = appendReal(at, value);
-        if (last - at > static_cast<std::ptrdiff_t>(sizeof known.text))
-        {
-            return last;
-        }
-        known.bits = bits;
+        known.bits = std::bit_cast<std::uint64_t>(value);
         known.length = static_cast<unsigned char>(last - at);
         std::copy(at, last, known.text);
-        return last;
     }
-    std::memcpy(at, known.text, sizeof known.text);
-    return at + known.length;
+    return last;
 }
 
 void TagWriter::point(int code, double x, double y)
@@ -139,6 +187,32 @@ void TagWriter::raw(std::string_view bytes)
     copy(bytes);
 }
 
+void TagWriter::record(const RecordForm& form, std::uint64_t handle, const double (&numbers)[6])
+{
+    copy(form.head);
+    if (form.hasHandle)
+        m_at = appendHandle(m_at, handle);
+    copy(form.common);
+    char* at = appendKnownReal(m_at, numbers[0]);
+    for (int i = 0; i < 5; ++i)
+    {
+        std::memcpy(at, form.gaps[i].text, sizeof form.gaps[i].text);
+        at = appendKnownReal(at + form.gaps[i].length, numbers[i + 1]);
+    }
+    m_at = at;
+    copy(form.tail);
+}
+
+void TagWriter::codeLine(int code)
+{
+    m_at = begin(code);
+}
+
+void TagWriter::lineEnd()
+{
+    end(m_at);
+}
+
 void TagWriter::flush()
 {
     const std::string_view filled(m_buffer.get(), m_at - m_buffer.get());
@@ -150,7 +224,7 @@ void TagWriter::flush()
 // Where the value goes, with room for a number and the line ending.
 char* TagWriter::begin(int code)
 {
-    if (m_at - m_buffer.get() > static_cast<std::ptrdiff_t>(bufferSize - slack))
+    if (m_full - m_at < static_cast<std::ptrdiff_t>(slack))
         flush();
     const CodeLine& line = m_codes.at(code);
     std::memcpy(m_at, line.text, sizeof line.text);
@@ -159,15 +233,13 @@ char* TagWriter::begin(int code)
 
 void TagWriter::end(char* at)
 {
-    m_at = std::copy(m_newline.begin(), m_newline.end(), at);
+    std::memcpy(at, m_newline, sizeof m_newline);
+    m_at = at + m_newlineLength;
 }
 
-// Leaves room for a line ending.
-void TagWriter::copy(std::string_view bytes)
+void TagWriter::copyLong(std::string_view bytes)
 {
-    const std::size_t filled = m_at - m_buffer.get();
-    if (filled + bytes.size() > bufferSize)
-        flush();
+    flush();
     if (bytes.size() > bufferSize)
         return m_drain(bytes);
     m_at = std::copy(bytes.begin(), bytes.end(), m_at);

@@ -17,6 +17,26 @@ namespace host::dxf
 // "100.0", "-0.5", "1e+20". -0 is written as 0.0. Throws std::domain_error if it is not finite.
 std::string realText(double value);
 
+// A kind of record with six numbers that is written a million times: all of it but its handle and
+// its numbers, as bytes.
+struct RecordForm
+{
+    struct Gap
+    {
+        Gap() = default;
+        explicit Gap(std::string_view bytes);  // 15 at most
+
+        unsigned char length;
+        char text[15];
+    };
+
+    std::string head;    // up to the handle
+    bool hasHandle;      // or none: all is in `common`
+    std::string common;  // from there to the first number
+    Gap gaps[5];         // between the numbers
+    std::string tail;
+};
+
 class TagWriter
 {
 public:
@@ -36,6 +56,11 @@ public:
     void point(int code, double x, double y);
 
     void raw(std::string_view bytes);  // as they are
+    void record(const RecordForm& form, std::uint64_t handle, const double (&numbers)[6]);
+
+    // A tag in two halves, for the parts of a form.
+    void codeLine(int code);
+    void lineEnd();
 
     // To be called at the end; a writer that goes out of scope before has lost its last megabyte.
     void flush();
@@ -52,21 +77,25 @@ private:
     struct RealText
     {
         std::uint64_t bits = 0;
-        unsigned char length = 0;  // 0: none yet
-        char text[23];
+        unsigned char length = 0;
+        char text[23] = {};
     };
     static constexpr unsigned realTextBits = 13;
 
     char* begin(int code);
     void end(char* at);
     char* appendKnownReal(char* at, double value);
+    char* appendNewReal(char* at, double value, RealText& known);
     void copy(std::string_view bytes);
+    void copyLong(std::string_view bytes);
 
     Drain m_drain;
-    std::string_view m_newline;
+    char m_newline[2] = {};
+    std::size_t m_newlineLength;
     std::array<CodeLine, 1072> m_codes;
     std::unique_ptr<char[]> m_buffer;
     char* m_at;
+    const char* m_full;  // further bytes are for the next megabyte, but for the rest of a tag
     std::vector<RealText> m_realTexts;
 };
 }  // namespace host::dxf
