@@ -55,6 +55,14 @@ void ObjectAccess::applyStyle(AcDbEntity& entity, const LineStyle& style)
     entity.m_given = allProperties;
 }
 
+void ObjectAccess::setPoints(AcDbLine& line, const AcGePoint3d& start, const AcGePoint3d& end)
+{
+    line.m_forWrite = true;
+    line.setStartPoint(start);
+    line.setEndPoint(end);
+    line.m_forWrite = false;
+}
+
 AcDbObject* resolve(AcDbStub* stub)
 {
     if (!stub->packed())
@@ -62,10 +70,13 @@ AcDbObject* resolve(AcDbStub* stub)
         return stub->object;
     }
     const double* at = stub->line;
-    auto* line = new AcDbLine(AcGePoint3d(at[0], at[1], at[2]), AcGePoint3d(at[3], at[4], at[5]));
+    DatabaseCore& core = coreOf(stub);
+    AcDbLine* const retired = core.retired.take();
+    AcDbLine* const line = retired != nullptr ? retired : new AcDbLine();
     ObjectAccess::stub(*line) = stub;
-    ObjectAccess::forWrite(*line) = false;
-    ObjectAccess::applyStyle(*line, coreOf(stub).lineStyles[stub->style]);
+    ObjectAccess::setPoints(*line, AcGePoint3d(at[0], at[1], at[2]),
+                            AcGePoint3d(at[3], at[4], at[5]));
+    ObjectAccess::applyStyle(*line, core.lineStyles[stub->style]);
     stub->flags &= ~AcDbStub::isPacked;
     stub->object = line;
     return line;
@@ -94,11 +105,9 @@ AcRxClass* typeOf(const AcDbStub* stub)
     return stub->object ? stub->object->isA() : nullptr;
 }
 
-// A line is one without being asked.
 static AcDbEntity* entityOf(const AcDbStub* stub)
 {
-    return stub->flags & AcDbStub::isLine ? static_cast<AcDbEntity*>(stub->object)
-                                          : AcDbEntity::cast(stub->object);
+    return stub->flags & AcDbStub::isEntity ? static_cast<AcDbEntity*>(stub->object) : nullptr;
 }
 
 AcDbStub* layerOf(const AcDbStub* stub)

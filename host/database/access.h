@@ -31,6 +31,10 @@ struct AcDbGroup::Members
     bool selectable = true;
     bool anonymous = false;
     std::vector<AcDbStub*> stubs;
+    // Of the line that joined last. The next is mostly like it: a line of that style is not in the
+    // group yet, as members have the group among their reactors.
+    std::uint32_t styleBefore = UINT32_MAX;
+    std::uint32_t styleWithin = 0;
 };
 
 namespace host
@@ -74,6 +78,7 @@ struct ObjectAccess
     // What nobody has set comes from the drawing's current properties.
     static void fillProperties(AcDbEntity& entity, const CurrentProperties& current);
     static AcDbStub* layer(const AcDbEntity& entity) { return entity.m_layer; }
+    static void setPoints(AcDbLine& line, const AcGePoint3d& start, const AcGePoint3d& end);
     static LineStyle lineStyle(const AcDbEntity& entity);
     static void applyStyle(AcDbEntity& entity, const LineStyle& style);
 

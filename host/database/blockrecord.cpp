@@ -18,6 +18,20 @@ void appendVertices(host::DatabaseCore& core, AcDb2dPolyline& polyline)
     }
     ObjectAccess::seqEnd(polyline) = core.addForeign(core.nextHandle++);
 }
+
+// What texts and polylines need beyond a line.
+void completeMembers(host::DatabaseCore& core, AcDbEntity& entity)
+{
+    AcDbText* text = AcDbText::cast(&entity);
+    if (text != nullptr && text->textStyle().isNull())
+    {
+        text->setTextStyle(AcDbObjectId(core.current.textStyle));
+    }
+    if (AcDb2dPolyline* polyline = AcDb2dPolyline::cast(&entity))
+    {
+        appendVertices(core, *polyline);
+    }
+}
 }  // namespace
 
 Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbEntity* entity)
@@ -35,16 +49,12 @@ Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbE
     AcDbStub* own = objectId().stub();
     host::DatabaseCore& core = host::coreOf(own);
     ObjectAccess::fillProperties(*entity, core.current);
-    AcDbText* text = AcDbText::cast(entity);
-    if (text != nullptr && text->textStyle().isNull())
-    {
-        text->setTextStyle(AcDbObjectId(core.current.textStyle));
-    }
-    id = AcDbObjectId(core.makeResident(entity, own));
+    const AcDbStub* stub = core.makeResident(entity, own);
+    id = entity->objectId();
     ObjectAccess::forgiveClose(*entity) = true;
-    if (AcDb2dPolyline* polyline = AcDb2dPolyline::cast(entity))
+    if ((stub->flags & AcDbStub::isLine) == 0)
     {
-        appendVertices(core, *polyline);
+        completeMembers(core, *entity);
     }
     return Acad::eOk;
 }

@@ -1,5 +1,8 @@
 #include "host/database/core.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "host/database/access.h"
 #include "host/runtime/foldcase.h"
 
@@ -21,26 +24,47 @@ void RetiredObjects::add(AcDbObject* object)
     place = object;
 }
 
+AcDbLine* RetiredObjects::take()
+{
+    return static_cast<AcDbLine*>(std::exchange(m_ring[m_next], nullptr));
+}
+
 DatabaseCore::DatabaseCore(AcDbDatabase& owner) : database(owner), stubs(*this) {}
 
 DatabaseCore::~DatabaseCore()
 {
-    for (std::size_t i = 0; i < stubs.size(); ++i)
+    for (AcDbObject* object : open)
     {
-        if (!stubs[i].packed())
+        if (AcDbLine::cast(object) != nullptr)
         {
-            ObjectAccess::destroy(stubs[i].object);
+            ObjectAccess::destroy(object);
         }
     }
+    std::ranges::for_each(objects, ObjectAccess::destroy);
 }
+
+namespace
+{
+// So that nobody has to ask the object again.
+std::uint32_t kindOf(const AcDbObject& object)
+{
+    const AcRxClass* type = object.isA();
+    if (type == AcDbLine::desc())
+    {
+        return AcDbStub::isEntity | AcDbStub::isLine;
+    }
+    return type->isDerivedFrom(AcDbEntity::desc()) ? std::uint32_t(AcDbStub::isEntity) : 0;
+}
+}  // namespace
 
 AcDbStub* DatabaseCore::makeResident(AcDbObject* object, AcDbStub* owner)
 {
     AcDbStub* stub = stubs.add(nextHandle++);
     stub->object = object;
-    if (object->isA() == AcDbLine::desc())
+    stub->flags = kindOf(*object);
+    if ((stub->flags & AcDbStub::isLine) == 0)
     {
-        stub->flags |= AcDbStub::isLine;
+        objects.push_back(object);
     }
     ObjectAccess::stub(*object) = stub;
     ObjectAccess::owner(*object) = owner;
@@ -53,6 +77,7 @@ AcDbStub* DatabaseCore::addLoaded(AcDbObject* object, AcDbStub* owner, std::uint
 {
     AcDbStub* stub = stubs.add(handle);
     stub->object = object;
+    objects.push_back(object);
     ObjectAccess::stub(*object) = stub;
     ObjectAccess::owner(*object) = owner;
     ObjectAccess::forWrite(*object) = false;

@@ -16,6 +16,8 @@
 #include "host/database/linestyle.h"
 #include "host/database/stub.h"
 
+class AcDbLine;
+
 namespace host
 {
 // Where the drawing was read from; known to the file service only.
@@ -42,6 +44,9 @@ class RetiredObjects
 public:
     ~RetiredObjects();
     void add(AcDbObject* object);
+    // The one that would go next, for another line to be opened in its place; null when there is
+    // none. All of them are lines.
+    AcDbLine* take();
 
 private:
     std::array<AcDbObject*, 8> m_ring{};
@@ -80,6 +85,7 @@ public:
     CurrentProperties current;
     RetiredObjects retired;
     std::vector<AcDbObject*> open;
+    std::vector<AcDbObject*> objects;  // all but lines, which have one only while they are open
     std::uint64_t nextHandle = 1;
 
     AcDbStub* blockTable = nullptr;

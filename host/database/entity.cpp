@@ -40,6 +40,10 @@ void AcDbEntity::setDatabaseDefaults(AcDbDatabase* database)
 
 void host::ObjectAccess::fillProperties(AcDbEntity& entity, const CurrentProperties& current)
 {
+    if (entity.m_given == allProperties)
+    {
+        return;
+    }
     const auto isOpen = [&entity](Property property) { return (entity.m_given & property) == 0; };
     entity.m_layer = isOpen(layerProperty) ? current.layer : entity.m_layer;
     entity.m_linetype = isOpen(linetypeProperty) ? current.linetype : entity.m_linetype;

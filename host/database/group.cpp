@@ -21,6 +21,12 @@ AcDbGroup::~AcDbGroup()
 
 namespace
 {
+bool isEntity(const AcDbStub* stub)
+{
+    const AcRxClass* type = host::typeOf(stub);
+    return type != nullptr && type->isDerivedFrom(AcDbEntity::desc());
+}
+
 void addReactor(AcDbStub* member, AcDbStub* group)
 {
     host::DatabaseCore& core = host::coreOf(member);
@@ -49,8 +55,13 @@ Acad::ErrorStatus AcDbGroup::append(const AcDbObjectId& id)
     {
         return Acad::eNullObjectId;
     }
-    const AcRxClass* type = host::typeOf(member);
-    if (type == nullptr || !type->isDerivedFrom(AcDbEntity::desc()))
+    if (member->packed() && member->style == m_members->styleBefore)
+    {
+        member->style = m_members->styleWithin;
+        m_members->stubs.push_back(member);
+        return Acad::eOk;
+    }
+    if (!isEntity(member))
     {
         return Acad::eNotAnEntity;
     }
@@ -59,8 +70,14 @@ Acad::ErrorStatus AcDbGroup::append(const AcDbObjectId& id)
     {
         return Acad::eAlreadyInGroup;
     }
+    const std::uint32_t before = member->style;
     addReactor(member, own);
     m_members->stubs.push_back(member);
+    if (member->packed())
+    {
+        m_members->styleBefore = before;
+        m_members->styleWithin = member->style;
+    }
     return Acad::eOk;
 }
 

@@ -5,14 +5,6 @@
 
 namespace host
 {
-bool LineStyle::operator==(const LineStyle& other) const
-{
-    return owner == other.owner && layer == other.layer && linetype == other.linetype &&
-           normal.x == other.normal.x && normal.y == other.normal.y && normal.z == other.normal.z &&
-           linetypeScale == other.linetypeScale && reactors == other.reactors &&
-           color == other.color && lineWeight == other.lineWeight && invisible == other.invisible;
-}
-
 std::size_t LineStyleHash::operator()(const LineStyle& style) const
 {
     const std::size_t parts[] = {std::hash<const void*>()(style.owner),
@@ -27,12 +19,8 @@ std::size_t LineStyleHash::operator()(const LineStyle& style) const
     return hash;
 }
 
-std::uint32_t LineStyles::intern(const LineStyle& style)
+std::uint32_t LineStyles::find(const LineStyle& style)
 {
-    if (m_last < m_styles.size() && m_styles[m_last] == style)
-    {
-        return m_last;
-    }
     const auto [found, isNew] = m_numbers.try_emplace(style, std::uint32_t(m_styles.size()));
     if (isNew)
     {

@@ -23,7 +23,14 @@ struct LineStyle
     std::int16_t lineWeight = -1;
     bool invisible = false;
 
-    bool operator==(const LineStyle& other) const;
+    bool operator==(const LineStyle& other) const
+    {
+        return owner == other.owner && layer == other.layer && linetype == other.linetype &&
+               normal.x == other.normal.x && normal.y == other.normal.y &&
+               normal.z == other.normal.z && linetypeScale == other.linetypeScale &&
+               reactors == other.reactors && color == other.color &&
+               lineWeight == other.lineWeight && invisible == other.invisible;
+    }
 };
 
 struct LineStyleHash
@@ -35,11 +42,16 @@ struct LineStyleHash
 class LineStyles
 {
 public:
-    std::uint32_t intern(const LineStyle& style);
+    std::uint32_t intern(const LineStyle& style)
+    {
+        return m_last < m_styles.size() && m_styles[m_last] == style ? m_last : find(style);
+    }
     const LineStyle& operator[](std::uint32_t number) const { return m_styles[number]; }
 
 private:
-    std::deque<LineStyle> m_styles;
+    std::uint32_t find(const LineStyle& style);
+
+    std::vector<LineStyle> m_styles;
     std::unordered_map<LineStyle, std::uint32_t, LineStyleHash> m_numbers;
     std::uint32_t m_last = UINT32_MAX;
 };

@@ -92,6 +92,11 @@ void noteClosed(AcDbObject* object)
 {
     std::vector<AcDbObject*>& open = host::coreOf(ObjectAccess::stub(*object)).open;
     // What was opened last is mostly closed first.
+    if (open.back() == object)
+    {
+        open.pop_back();
+        return;
+    }
     const auto found = std::find(open.rbegin(), open.rend(), object);
     open.erase(std::next(found).base());
 }
@@ -155,8 +160,9 @@ Acad::ErrorStatus AcDbObject::close()
         --m_readers;
         return Acad::eOk;
     }
-    const bool isLine = (m_stub->flags & AcDbStub::isLine) != 0;
-    if (AcDbText* text = m_forWrite && !isLine ? AcDbText::cast(this) : nullptr)
+    const std::uint32_t kind = m_stub->flags & (AcDbStub::isEntity | AcDbStub::isLine);
+    const bool mayBeText = m_forWrite && kind == AcDbStub::isEntity;
+    if (AcDbText* text = mayBeText ? AcDbText::cast(this) : nullptr)
     {
         text->adjustAlignment();
     }
@@ -164,7 +170,7 @@ Acad::ErrorStatus AcDbObject::close()
     m_forWrite = false;
     m_refused = false;
     noteClosed(this);
-    if (isLine)
+    if (kind & AcDbStub::isLine)
     {
         host::pack(this);
     }

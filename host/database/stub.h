@@ -17,7 +17,8 @@ public:
         isLine = 1,
         isPacked = 2,  // the line is in `line`, with no object on the heap
         isErasedFlag = 4,
-        isDrawn = 8  // the module has asked for it to be shown
+        isDrawn = 8,   // the module has asked for it to be shown
+        isEntity = 16  // made here; those of the file have no objects
     };
 
     std::uint64_t handle;
@@ -59,7 +60,7 @@ public:
     static std::size_t indexOf(const AcDbStub* stub);
 
 private:
-    static constexpr std::size_t blockBytes = std::size_t(1) << 20;
+    static constexpr std::size_t blockBytes = std::size_t(2) << 20;  // one large page
     static constexpr std::size_t perBlock = blockBytes / sizeof(AcDbStub) - 1;
 
     // Aligned to its own size, so that a stub finds its block, and with it the database, by
@@ -78,8 +79,12 @@ private:
                                               ~(blockBytes - 1));
     }
 
+    void addBlock();
+
     DatabaseCore& m_core;
     std::vector<Block*> m_blocks;
     std::size_t m_size = 0;
+    AcDbStub* m_next = nullptr;
+    AcDbStub* m_end = nullptr;  // of the last block
 };
 }  // namespace host

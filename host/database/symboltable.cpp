@@ -43,7 +43,7 @@ Acad::ErrorStatus AcDbSymbolTable::getAt(const ACHAR* name, AcDbObjectId& id,
     {
         return Acad::eInvalidInput;
     }
-    if (m_names->last == nullptr || m_names->lastName != name)
+    if (m_names->last == nullptr || std::wcscmp(m_names->lastName.c_str(), name) != 0)
     {
         const auto found = m_names->byFoldedName.find(host::foldCase(name));
         if (found == m_names->byFoldedName.end())
