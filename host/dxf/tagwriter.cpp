@@ -10,7 +10,6 @@ namespace host::dxf
 {
 namespace
 {
-constexpr std::size_t bufferSize = 1 << 20;
 // Room for any tag but a text: the code's line, a number and a line ending.
 constexpr std::size_t slack = 64;
 // Room for the six numbers of a record and what is between them.

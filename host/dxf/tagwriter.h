@@ -40,8 +40,10 @@ struct RecordForm
 class TagWriter
 {
 public:
-    // Takes the bytes, about a megabyte at a time; may throw.
-    using Drain = std::function<void(std::string_view)>;
+    // Bytes leave about so many at a time. More of them would no longer be near the processor when
+    // the system takes them over.
+    static constexpr std::size_t bufferSize = 1 << 18;
+    using Drain = std::function<void(std::string_view)>;  // may throw
 
     TagWriter(Drain drain, const TagStyle& style);
     TagWriter(const TagWriter&) = delete;
@@ -62,7 +64,7 @@ public:
     void codeLine(int code);
     void lineEnd();
 
-    // To be called at the end; a writer that goes out of scope before has lost its last megabyte.
+    // To be called at the end; a writer that goes out of scope before has lost its last bytes.
     void flush();
 
 private:
@@ -95,7 +97,7 @@ private:
     std::array<CodeLine, 1072> m_codes;
     std::unique_ptr<char[]> m_buffer;
     char* m_at;
-    const char* m_full;  // further bytes are for the next megabyte, but for the rest of a tag
+    const char* m_full;  // further bytes are for the next filling, but for the rest of a tag
     std::vector<RealText> m_realTexts;
 };
 }  // namespace host::dxf

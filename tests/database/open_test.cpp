@@ -89,6 +89,38 @@ TEST(Open, theSameHoldsForAnEntityThatIsNotALine)
     }
 }
 
+// The host makes one object of another; nothing of the former line may show.
+TEST(Open, amongManyLinesEachOneThatIsOpenedIsItself)
+{
+    EmptyDrawing drawing;
+    AcDbObjectIdArray ids;
+    for (int i = 0; i < 40; ++i)
+    {
+        auto* line = new AcDbLine(AcGePoint3d(i, 0, i), AcGePoint3d(i, 1, -i));
+        line->setColorIndex(Adesk::UInt16(i));
+        line->setVisibility(i % 3 == 0 ? AcDb::kInvisible : AcDb::kVisible);
+        ids.append(drawing.add(line));
+    }
+    for (int i = 0; i < 80; ++i)
+    {
+        const int one = i % 40, other = i * 7 % 40;
+        AcDbObjectPointer<AcDbLine> line(ids[one], AcDb::kForRead);
+        ASSERT_EQ(line->objectId(), ids[one]);
+        ASSERT_EQ(line->startPoint().x, one);
+        ASSERT_EQ(line->endPoint().z, -one);
+        ASSERT_EQ(line->colorIndex(), one);
+        ASSERT_EQ(line->visibility(), one % 3 == 0 ? AcDb::kInvisible : AcDb::kVisible);
+        ASSERT_FALSE(line->isWriteEnabled());
+        if (other != one)
+        {
+            AcDbObjectPointer<AcDbLine> second(ids[other], AcDb::kForWrite);
+            ASSERT_EQ(second->startPoint().x, other);
+            ASSERT_EQ(second->setEndPoint(AcGePoint3d(other, 2, -other)), Acad::eOk);
+            ASSERT_EQ(line->endPoint().z, -one);
+        }
+    }
+}
+
 TEST(Open, twoHundredAndFiftySixReadersAreTheMost)
 {
     EmptyDrawing drawing;

@@ -117,7 +117,7 @@ TEST(TagWriter, theWidestTagsFitWhereverTheBufferIsFull)
         w.integer(1071, INT64_MIN);
     };
     const std::string expected = written(wide, tags);
-    const std::string before((1 << 20) + 3, 'x');
+    const std::string before(TagWriter::bufferSize + 3, 'x');
     std::string text;
     TagWriter writer([&text](std::string_view bytes) { text += bytes; }, wide);
     for (std::size_t filled = before.size() - 300; filled <= before.size(); ++filled)
@@ -127,6 +127,88 @@ TEST(TagWriter, theWidestTagsFitWhereverTheBufferIsFull)
         writer.flush();
         EXPECT_EQ(std::string_view(text).substr(filled), expected) << filled;
         text.clear();
+    }
+}
+
+TEST(TagWriter, handlesOfAnyLengthAreHexadecimalCapitals)
+{
+    for (const std::uint64_t handle :
+         {0x1ull, 0x9ull, 0xAull, 0x1Full, 0xFEDCBAull, 0x12345678ull, 0x90ABCDEFull,
+          0x123456789ull, 0xFFFFFFFFFFull, 0x8000000000000000ull, 0xFEDCBA9876543210ull})
+    {
+        char expected[40];
+        std::snprintf(expected, sizeof expected, "  5\n%llX\n",
+                      static_cast<unsigned long long>(handle));
+        EXPECT_EQ(written({}, [=](TagWriter& w) { w.handle(5, handle); }), expected);
+    }
+}
+
+namespace
+{
+const double numbers[] = {0, -0.5, 123456.789, -2.2250738585072014e-308, 1e20, 0.1};
+
+RecordForm formOf(const TagStyle& style, bool hasHandle, const std::string& layer)
+{
+    const auto piece = [&](const auto& write) { return written(style, write); };
+    RecordForm form;
+    form.hasHandle = hasHandle;
+    form.head = hasHandle ? piece([](TagWriter& w) { w.text(0, "LINE"), w.codeLine(5); }) : "";
+    form.common = piece(
+        [&](TagWriter& w)
+        {
+            hasHandle ? w.lineEnd() : w.text(0, "LINE");
+            w.text(8, layer);
+            w.codeLine(10);
+        });
+    const int codes[] = {20, 30, 11, 21, 31};
+    for (int i = 0; i < 5; ++i)
+        form.gaps[i] =
+            RecordForm::Gap(piece([&](TagWriter& w) { w.lineEnd(), w.codeLine(codes[i]); }));
+    form.tail = piece([](TagWriter& w) { w.lineEnd(), w.text(210, "tail"); });
+    return form;
+}
+
+std::string tagsOneByOne(const TagStyle& style, bool hasHandle, const std::string& layer,
+                         std::uint64_t handle)
+{
+    return written(style,
+                   [&](TagWriter& w)
+                   {
+                       w.text(0, "LINE");
+                       if (hasHandle)
+                           w.handle(5, handle);
+                       w.text(8, layer);
+                       w.point(10, numbers[0], numbers[1], numbers[2]);
+                       w.point(11, numbers[3], numbers[4], numbers[5]);
+                       w.text(210, "tail");
+                   });
+}
+}  // namespace
+
+TEST(TagWriter, aRecordIsItsTagsOneByOneWhereverTheBufferIsFull)
+{
+    const std::uint64_t handle = 0xFEDCBA9876543210;
+    const std::string before(TagWriter::bufferSize + 3, 'x');
+    const TagStyle wide{.newline = "\r\n", .codeWidth = 6, .padIntegers = true};
+    for (const TagStyle& style : {TagStyle{}, wide})
+    {
+        for (const auto& [hasHandle, layer] :
+             {std::pair(true, std::string("0")), std::pair(false, std::string("0")),
+              std::pair(true, before)})
+        {
+            const RecordForm form = formOf(style, hasHandle, layer);
+            const std::string expected = tagsOneByOne(style, hasHandle, layer, handle);
+            std::string text;
+            TagWriter writer([&text](std::string_view bytes) { text += bytes; }, style);
+            for (std::size_t filled = before.size() - 500; filled <= before.size(); ++filled)
+            {
+                writer.raw(std::string_view(before).substr(0, filled));
+                writer.record(form, handle, numbers);
+                writer.flush();
+                ASSERT_TRUE(std::string_view(text).substr(filled) == expected) << filled;
+                text.clear();
+            }
+        }
     }
 }
 
@@ -152,14 +234,15 @@ TEST(TagWriter, manyTagsAndLongTextsArriveInOrder)
     EXPECT_TRUE(text == expected);
 }
 
-TEST(TagWriter, theBytesLeaveInPiecesOfAboutAMegabyte)
+TEST(TagWriter, theBytesLeaveInPiecesOfTheBuffersSize)
 {
     std::size_t pieces = 0;
     TagWriter writer([&](std::string_view) { ++pieces; }, {});
-    for (int i = 0; i < 1000000; ++i)
+    for (std::size_t i = 0; i < TagWriter::bufferSize; ++i)
         writer.text(1, "12345");  // ten bytes a tag
     writer.flush();
-    EXPECT_EQ(pieces, 10u);
+    EXPECT_NEAR(double(pieces), 10, 1);
+    const std::size_t before = pieces;
     writer.flush();
-    EXPECT_EQ(pieces, 10u);
+    EXPECT_EQ(pieces, before);
 }
