@@ -35,6 +35,8 @@ struct AcDbGroup::Members
     // group yet, as members have the group among their reactors.
     std::uint32_t styleBefore = UINT32_MAX;
     std::uint32_t styleWithin = 0;
+
+    bool addLikeTheLast(AcDbStub* member);
 };
 
 namespace host

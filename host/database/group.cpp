@@ -55,10 +55,8 @@ Acad::ErrorStatus AcDbGroup::append(const AcDbObjectId& id)
     {
         return Acad::eNullObjectId;
     }
-    if (member->packed() && member->style == m_members->styleBefore)
+    if (m_members->addLikeTheLast(member))
     {
-        member->style = m_members->styleWithin;
-        m_members->stubs.push_back(member);
         return Acad::eOk;
     }
     if (!isEntity(member))
@@ -79,6 +77,17 @@ Acad::ErrorStatus AcDbGroup::append(const AcDbObjectId& id)
         m_members->styleWithin = member->style;
     }
     return Acad::eOk;
+}
+
+bool AcDbGroup::Members::addLikeTheLast(AcDbStub* member)
+{
+    if (!member->packed() || member->style != styleBefore)
+    {
+        return false;
+    }
+    member->style = styleWithin;
+    stubs.push_back(member);
+    return true;
 }
 
 const ACHAR* AcDbGroup::description() const
