@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/app/hostcalls.h"
+#include "tests/command/scriptededitor.h"
 
 namespace
 {
@@ -13,5 +14,14 @@ TEST(EditSettings, showNoDialogWhereItsTemplateCannotBeFound)
     GridSettings settings;
     EXPECT_FALSE(editSettings(settings, -1, -1, L"en-US"));
     EXPECT_EQ(settings.HorStep, 100);
+}
+
+TEST(EditSettings, tellWhetherTheUserTookThem)
+{
+    GridSettings settings;
+    ScriptedEditor editor;
+    EXPECT_FALSE(editSettings(settings, -1, -1, L"en-US"));
+    editor.userOfDialog = [](CDialog&) {};
+    EXPECT_TRUE(editSettings(settings, -1, -1, L"en-US"));
 }
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/command/scriptededitor.h"
+
 namespace
 {
 TEST(Messages, areRussianForTheRussianProductWhateverTheCaseOfItsName)
@@ -23,6 +25,24 @@ TEST(Messages, areRussianForTheRussianProductWhateverTheCaseOfItsName)
     for (const Row& row : rows)
     {
         EXPECT_STREQ(messagesFor(row.locale).settingsKeyword, row.settingsKeyword) << row.locale;
+    }
+}
+TEST(Messages, areInTheLanguageOfTheProductAndInEnglishWhereItHasNone)
+{
+    struct Row
+    {
+        LCID locale;
+        const wchar_t* name;
+    };
+    for (const Row row : {
+             Row{0x0419, L"ru-RU"},
+             {0x0407, L"de-DE"},
+             {0xFFFE, L"en-US"}
+    })
+    {
+        ScriptedEditor editor;
+        editor.locale = row.locale;
+        EXPECT_STREQ(productLocaleName(), row.name);
     }
 }
 }  // namespace

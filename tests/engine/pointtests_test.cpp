@@ -85,6 +85,7 @@ TEST(PointInQuad, usesTheTolerancesOfTheHostAsTheyStand)
     EXPECT_EQ(pointInQuad({50, 1.1, 0}, q[0], q[1], q[2], q[3]), 1);
     AcGeContext::gTol.setEqualVector(2);
     EXPECT_EQ(pointInQuad({1.5, 1, 0}, q[0], q[1], q[2], q[3]), 2);
+    EXPECT_EQ(pointInQuad({2, 0, 0}, q[0], q[1], q[2], q[3]), 2);
     AcGeContext::gTol = former;
 }
 
@@ -156,6 +157,15 @@ TEST(PointInCurve, tellsInsideOnAndOutside)
     EXPECT_EQ(pointInCurve({50, 5e-11, 0}, frame), 0);
     EXPECT_EQ(pointInCurve({-1, 25, 0}, frame), -1);
     EXPECT_EQ(pointInCurve({150, 50, 0}, frame), -1);
+}
+
+TEST(PointInCurve, usesTheToleranceOfTheHostAsItStands)
+{
+    AcGePoint3dArray corners = sheet();
+    const AcDb2dPolyline frame(AcDb::k2dSimplePoly, corners, 0, true);
+    const BorrowedTolerance tolerance(1);
+    EXPECT_EQ(pointInCurve({50, 1, 0}, frame), 0);
+    EXPECT_EQ(pointInCurve({50, 1.1, 0}, frame), 1);
 }
 
 TEST(PointInCurve, takesACurveOfAnyShape)

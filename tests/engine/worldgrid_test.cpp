@@ -82,6 +82,16 @@ TEST_F(WorldGrid, linesOnTheOutlineAreNotDrawn)
     EXPECT_EQ(levels(lines()).count(20), 0u);
 }
 
+TEST_F(WorldGrid, aLineThatAFarBasePutsOnTheOutlineIsNotDrawn)
+{
+    pick({0.3, 0, 0}, {30, 20, 0});
+    options.basePoint.x = 1e7 + 0.3;  // comes out 7e-10 to the right of the edge
+    build();
+    const auto lefts = uprights(lines());
+    ASSERT_EQ(lefts.size(), 2u);
+    EXPECT_NEAR(lefts.begin()->first, 10.3, 1e-8);
+}
+
 TEST_F(WorldGrid, cornersPickedInAnyOrderGiveTheSameGrid)
 {
     const AcGePoint3d picks[][2] = {

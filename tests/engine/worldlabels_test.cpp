@@ -1,6 +1,8 @@
 #include <cmath>
 
 #include "engine/gridlabels.h"
+#include "engine/worldlabels.h"
+#include "output/tolerance.h"
 #include "tests/engine/gridtest.h"
 
 using tests::LabelSeen;
@@ -139,6 +141,34 @@ TEST_F(WorldLabels, inATurnedFrameEveryFlagHasItsEdge)
         {
             eraseEntity(made[k]);
         }
+    }
+}
+
+TEST_F(WorldLabels, belongToAnEdgeThatIsAsFarAsTheTolerance)
+{
+    struct Row
+    {
+        bool LabelRequest::*flag;
+        AcGePoint3d end;
+    };
+    const Row rows[] = {
+        {&LabelRequest::top,    {10, 21, 0}},
+        {&LabelRequest::bottom, {10, -1, 0}},
+        {&LabelRequest::left,   {-1, 10, 0}},
+        {&LabelRequest::right,  {31, 10, 0}},
+    };
+    const BorrowedTolerance tolerance(1);
+    for (const Row& row : rows)
+    {
+        GridRequest request = {};
+        request.corner2 = AcGePoint3d(30, 20, 0);
+        request.heightText = 1;
+        request.xLabels.*row.flag = true;
+        GridDrawing drawing;
+        drawing.xLabelPoints.append(row.end);
+        drawing.xLabelPoints.append(AcGePoint3d(10, 10, 0));
+        addWorldLabels(request, frameEdges(request), drawing);
+        EXPECT_EQ(drawing.made.length(), 1) << row.end.x << ' ' << row.end.y;
     }
 }
 
