@@ -82,6 +82,8 @@ TEST_F(Labels, withoutAStyleTheCurrentOneIsTaken)
     const auto style = [](const AcDbText& text) { return host::recordName(text.textStyle()); };
     EXPECT_EQ(inspect<AcDbText>(addPlain(L"1", nullptr), style), L"Slanted");
     EXPECT_EQ(inspect<AcDbText>(addPlain(L"1", L"Standard"), style), L"Standard");
+    const auto slant = [](const AcDbText& text) { return text.oblique(); };
+    EXPECT_EQ(inspect<AcDbText>(addPlain(L"1", nullptr), slant), 0.2);
 }
 
 TEST_F(Labels, anUnknownStyleGivesALabelWithoutSlant)

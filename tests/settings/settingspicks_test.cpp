@@ -186,6 +186,13 @@ TEST(SettingsPicks, checkNoStepWhileTheGridIsNotKnownOrHasNoSize)
     }
 }
 
+TEST(SettingsPicks, giveAStepWhileTheGridIsNotKnown)
+{
+    DialogRun run{.gridWidth = -1, .gridHeight = -1};
+    const std::string said = run.with({"click 110", "25.25", "show", "^C"});
+    EXPECT_EQ(shownText(said, 107), "\"25.2500\"");
+}
+
 TEST(SettingsPicks, answeredYesAreNotAskedAboutAgainOnOk)
 {
     DialogRun run{.gridWidth = 1000, .gridHeight = 1000};
