@@ -67,7 +67,8 @@ TEST(Text, whatIsNoCharacterIsReplacedInUtf8)
 
 TEST(Text, pathsHaveBackslashesOnTheModulesSide)
 {
-    EXPECT_EQ(host::toNativePath(L"\\home\\\x0448/netrax.arx"), "/home/\xD1\x88/netrax.arx");
+    EXPECT_EQ(host::toNativePath(L"\\home\\\x0448/netrax.arx"),
+              host::pathOf("/home/\xD1\x88/netrax.arx"));
     EXPECT_EQ(host::fromNativePath("/home/\xD1\x88/netrax.arx"), L"\\home\\\x0448\\netrax.arx");
 }
 }  // namespace
