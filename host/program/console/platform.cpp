@@ -20,15 +20,15 @@ bool isConsole(DWORD which)
     return GetConsoleMode(GetStdHandle(which), &mode) != 0;
 }
 
-// Lines that the console edits, as it does for every program.
+// Lines that the console edits, as it does for every program. One that begins with ";" is a comment.
 class ConsoleReader : public AnswerReader
 {
 public:
-    Answer next(const Question&) override;
+    Answer next(const Question& question) override;
     bool visible() const override { return true; }
 };
 
-Answer ConsoleReader::next(const Question&)
+Answer ConsoleReader::next(const Question& question)
 {
     std::wstring line;
     while (line.empty() || line.back() != L'\n')
@@ -43,7 +43,8 @@ Answer ConsoleReader::next(const Question&)
         line.append(units, count);
     }
     line.resize(line.find_last_not_of(L"\r\n") + 1);
-    return answerOf(toUtf8(line), true);
+    const bool isComment = line.starts_with(L';');
+    return isComment ? next(question) : answerOf(toUtf8(line), true);
 }
 }  // namespace
 
