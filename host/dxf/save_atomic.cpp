@@ -4,6 +4,7 @@
 
 #include "host/dxf/binaryform.h"
 #include "host/dxf/replacement.h"
+#include "host/dxf/savefailed.h"
 
 namespace host::dxf
 {
@@ -37,7 +38,7 @@ try
 }
 catch (const std::domain_error& noTagCanHoldIt)
 {
-    throw Error(path + ": cannot be saved: " + noTagCanHoldIt.what());
+    failSaving(path, noTagCanHoldIt.what());
 }
 
 void saveAtomically(const std::string& path, const Edits& edits)

@@ -12,23 +12,13 @@
 #include <tuple>
 #include <utility>
 
+#include "host/dxf/savefailed.h"
+
 namespace host::dxf
 {
 namespace
 {
 namespace fs = std::filesystem;
-
-[[noreturn]] void fail(const std::string& path, const std::string& why)
-{
-    throw Error(path + ": cannot be saved: " + why);
-}
-
-// With the reason the last call has left.
-void require(bool done, const std::string& path)
-{
-    if (!done)
-        fail(path, std::strerror(errno));
-}
 
 // Beyond the process's limit for file sizes a write is to fail instead of ending the run.
 class SizeLimitAsFailure
@@ -76,7 +66,7 @@ TemporaryFile::TemporaryFile(const fs::path& folder, const std::string& nameInMe
         if (m_file < 0 && errno != EEXIST)
             break;
     }
-    require(m_file >= 0, m_nameInMessages);
+    requireSaved(m_file >= 0, m_nameInMessages);
     m_exists = true;
 }
 
@@ -92,7 +82,7 @@ void TemporaryFile::takeOwnerAndMode(const struct stat& old)
 {
     // Only the administrator may give files away; for anyone else the new owner is who saves.
     std::ignore = ::fchown(m_file, old.st_uid, old.st_gid);
-    require(::fchmod(m_file, old.st_mode & 07777) == 0, m_nameInMessages);
+    requireSaved(::fchmod(m_file, old.st_mode & 07777) == 0, m_nameInMessages);
 }
 
 void TemporaryFile::write(std::string_view bytes)
@@ -102,7 +92,7 @@ void TemporaryFile::write(std::string_view bytes)
         const ssize_t written = ::write(m_file, bytes.data(), bytes.size());
         if (written < 0 && errno == EINTR)
             continue;
-        require(written >= 0, m_nameInMessages);
+        requireSaved(written >= 0, m_nameInMessages);
         bytes.remove_prefix(written);
     }
 }
@@ -110,13 +100,13 @@ void TemporaryFile::write(std::string_view bytes)
 void TemporaryFile::onDisk()
 {
     // Some disks only tell when they are asked to have it all.
-    require(::fsync(m_file) == 0, m_nameInMessages);
+    requireSaved(::fsync(m_file) == 0, m_nameInMessages);
 }
 
 void TemporaryFile::takePlaceOf(const fs::path& target)
 {
-    require(::close(std::exchange(m_file, -1)) == 0, m_nameInMessages);
-    require(::rename(m_path.c_str(), target.c_str()) == 0, m_nameInMessages);
+    requireSaved(::close(std::exchange(m_file, -1)) == 0, m_nameInMessages);
+    requireSaved(::rename(m_path.c_str(), target.c_str()) == 0, m_nameInMessages);
     m_exists = false;
 }
 
@@ -144,7 +134,7 @@ fs::path followed(const std::string& path)
         target = target.parent_path() / next;
     }
     errno = ELOOP;
-    fail(path, std::strerror(errno));
+    failSaving(path, std::strerror(errno));
 }
 
 // The old file, if there is one; it must be one that the user could write to.
@@ -153,14 +143,14 @@ std::optional<struct stat> oldFile(const fs::path& target, const std::string& pa
     struct stat old;
     if (::stat(target.c_str(), &old) != 0)
     {
-        require(errno == ENOENT, path);
+        requireSaved(errno == ENOENT, path);
         return std::nullopt;
     }
     if (S_ISDIR(old.st_mode))
-        fail(path, "a directory has this name");
+        failSaving(path, "a directory has this name");
     if (!S_ISREG(old.st_mode))
-        fail(path, "a device or pipe has this name");
-    require(::access(target.c_str(), W_OK) == 0, path);
+        failSaving(path, "a device or pipe has this name");
+    requireSaved(::access(target.c_str(), W_OK) == 0, path);
     return old;
 }
 

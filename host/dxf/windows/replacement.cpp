@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "host/dxf/savefailed.h"
 #include "host/windows/text.h"
 #include "windows.h"
 
@@ -20,18 +21,6 @@ namespace host::dxf
 namespace
 {
 namespace fs = std::filesystem;
-
-[[noreturn]] void fail(const std::string& path, const std::string& why)
-{
-    throw Error(path + ": cannot be saved: " + why);
-}
-
-// With the reason the last call of the C runtime has left.
-void require(bool done, const std::string& path)
-{
-    if (!done)
-        fail(path, std::strerror(errno));
-}
 
 // The file that `path` names in the end; it need not exist.
 fs::path followed(const fs::path& path)
@@ -46,14 +35,14 @@ bool hasOldFile(const fs::path& target, const std::string& path)
 {
     std::error_code ignored;
     if (fs::is_directory(target, ignored))
-        fail(path, "a directory has this name");
+        failSaving(path, "a directory has this name");
     if (::_waccess(target.c_str(), 0) != 0)
     {
-        require(errno == ENOENT, path);
+        requireSaved(errno == ENOENT, path);
         return false;
     }
     const int canWrite = 2;
-    require(::_waccess(target.c_str(), canWrite) == 0, path);
+    requireSaved(::_waccess(target.c_str(), canWrite) == 0, path);
     return true;
 }
 }  // namespace
@@ -89,7 +78,7 @@ Replacement::Files::Files(const std::string& path)
         if (m_file < 0 && errno != EEXIST)
             break;
     }
-    require(m_file >= 0, m_path);
+    requireSaved(m_file >= 0, m_path);
     m_exists = true;
 }
 
@@ -107,7 +96,7 @@ void Replacement::Files::write(std::string_view bytes)
     {
         const auto count = unsigned(std::min<std::size_t>(bytes.size(), INT_MAX));
         const int written = ::_write(m_file, bytes.data(), count);
-        require(written >= 0, m_path);
+        requireSaved(written >= 0, m_path);
         bytes.remove_prefix(written);
     }
 }
@@ -115,14 +104,14 @@ void Replacement::Files::write(std::string_view bytes)
 // The system keeps the old file's owner, rights and date of birth.
 void Replacement::Files::takePlace()
 {
-    require(!m_hasOld || ::_commit(m_file) == 0, m_path);
-    require(::_close(std::exchange(m_file, -1)) == 0, m_path);
+    requireSaved(!m_hasOld || ::_commit(m_file) == 0, m_path);
+    requireSaved(::_close(std::exchange(m_file, -1)) == 0, m_path);
     const BOOL done =
         m_hasOld ? ReplaceFileW(m_target.c_str(), m_temporary.c_str(), nullptr,
                                 REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
                  : MoveFileExW(m_temporary.c_str(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING);
     if (!done)
-        fail(m_path, std::error_code(int(GetLastError()), std::system_category()).message());
+        failSaving(m_path, std::error_code(int(GetLastError()), std::system_category()).message());
     m_exists = false;
 }
 
