@@ -1,4 +1,4 @@
-#include "host/windows/format.h"
+#include "tests/windows/format.h"
 
 #include <cfloat>
 #include <climits>
@@ -9,15 +9,6 @@
 
 namespace
 {
-std::wstring format(const wchar_t* text, ...)
-{
-    std::va_list arguments;
-    va_start(arguments, text);
-    const std::wstring result = host::formatWide(text, arguments);
-    va_end(arguments);
-    return result;
-}
-
 TEST(Format, textsAreWideForTheSmallLetterAndNarrowForTheCapital)
 {
     EXPECT_EQ(format(L"%s%s", L"X=", L"1250.50"), L"X=1250.50");

@@ -8,20 +8,11 @@
 #include <limits>
 
 #include "afxwin.h"
-#include "host/windows/format.h"
 #include "host/windows/modules.h"
+#include "tests/windows/format.h"
 
 namespace
 {
-std::wstring format(const wchar_t* text, ...)
-{
-    std::va_list arguments;
-    va_start(arguments, text);
-    const std::wstring result = host::formatWide(text, arguments);
-    va_end(arguments);
-    return result;
-}
-
 std::wstring readAs(const wchar_t* mode, const std::string& bytes)
 {
     const auto path = std::filesystem::temp_directory_path() / "runtime-test.txt";

@@ -1,0 +1,16 @@
+// The host's formatting with the arguments written out.
+#pragma once
+
+#include <cstdarg>
+#include <string>
+
+#include "host/windows/format.h"
+
+inline std::wstring format(const wchar_t* text, ...)
+{
+    std::va_list arguments;
+    va_start(arguments, text);
+    const std::wstring result = host::formatWide(text, arguments);
+    va_end(arguments);
+    return result;
+}
