@@ -1,7 +1,5 @@
 # The same unit tests, but for those of what Windows itself does here (windows, headless), of pictures
-# and plots, which this build does not draw, and of other systems' files (posix). Those that stand before
-# a function of the host and hand the call on (app, command, output, settings) need a linker that lets
-# them.
+# and plots, which this build does not draw, and of other systems' files (posix).
 set(gtest_force_shared_crt ON CACHE BOOL "")
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 foreach(library gtest gmock gmock_main)
@@ -10,20 +8,45 @@ endforeach()
 
 file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS *.cpp)
 list(FILTER test_sources EXCLUDE REGEX "/(readers|faults|relations|scarce|fuzz)/")
-list(FILTER test_sources EXCLUDE REGEX "/(headless|emulated|dialogs|pictures|plot|posix)/")
-list(FILTER test_sources EXCLUDE REGEX "/(app|command|output|program)/")
+list(FILTER test_sources EXCLUDE REGEX "/(headless|emulated|dialogs|pictures|plot|posix|program)/")
 list(FILTER test_sources EXCLUDE REGEX "/windows/(calls|format|numbers|streams)_test[.]cpp")
-list(FILTER test_sources EXCLUDE REGEX
-  "/(meter|modulepath|inistore_test|dialogtemplate|settings[a-z]*_test|textstyles_test|damaged_test)[.]cpp")
-add_executable(unit_tests ${test_sources} $<TARGET_OBJECTS:host>)
+list(FILTER test_sources EXCLUDE REGEX "/(inistore_test|dialogtemplate|damaged_test)[.]cpp")
+
+# Tests stand before functions of the host, original<...>("_Z..."): those get "host" before their names
+# in the host's own objects, so that both are in the program.
+set(renames "")
+set(originals "")
+foreach(source ${test_sources})
+  file(STRINGS ${source} lines REGEX "\"_Z")
+  string(REGEX MATCHALL "\"_Z[A-Za-z0-9_]+\"" names "${lines}")
+  foreach(name ${names})
+    string(REPLACE "\"" "" name ${name})
+    string(APPEND renames "${name} host${name}\n")
+    string(APPEND originals "ORIGINAL(${name})\n")
+  endforeach()
+  if(names)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+  endif()
+endforeach()
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/originals/renames.txt CONTENT "${renames}" @ONLY)
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/originals/originals.inc CONTENT "${originals}" @ONLY)
+add_library(host_objects STATIC $<TARGET_OBJECTS:host>)
+set_target_properties(host_objects PROPERTIES LINKER_LANGUAGE CXX)
+set(renamed_host ${CMAKE_BINARY_DIR}/originals/libhost.a)
+add_custom_command(OUTPUT ${renamed_host} VERBATIM
+  COMMAND ${CMAKE_OBJCOPY} --redefine-syms=${CMAKE_BINARY_DIR}/originals/renames.txt
+    $<TARGET_FILE:host_objects> ${renamed_host}
+  DEPENDS host_objects ${CMAKE_BINARY_DIR}/originals/renames.txt)
+
+add_executable(unit_tests ${test_sources} ${renamed_host}
+  ${CMAKE_SOURCE_DIR}/host/program/console/arxhost.rc)
 target_compile_features(unit_tests PRIVATE cxx_std_20)
 # Compiling takes longer than running; and a false alarm of this compiler.
-target_compile_options(unit_tests PRIVATE -O0 -Wno-array-bounds)
-target_include_directories(unit_tests PRIVATE ${CMAKE_SOURCE_DIR})
-target_link_libraries(unit_tests PRIVATE module_objects rxapi module_resources gmock_main
-  comctl32 msimg32 gdi32 shlwapi)
-# Functions of the tests stand before those of the host.
-target_link_options(unit_tests PRIVATE -Wl,--allow-multiple-definition)
+target_compile_options(unit_tests PRIVATE -O0 -Wno-array-bounds -Wno-attributes)
+target_include_directories(unit_tests PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/originals)
+target_link_libraries(unit_tests PRIVATE
+  -Wl,--whole-archive ${renamed_host} -Wl,--no-whole-archive module_objects rxapi module_resources
+  gmock_main comctl32 msimg32 gdi32 shlwapi)
 target_compile_definitions(unit_tests PRIVATE
   TESTS_DIR="${CMAKE_SOURCE_DIR}/tests"
   TEST_MODULES_DIR="${CMAKE_BINARY_DIR}/test_modules")
@@ -32,6 +55,8 @@ target_precompile_headers(unit_tests PRIVATE
 set(tests ${CMAKE_CURRENT_SOURCE_DIR})
 set_source_files_properties(${tests}/database/tables_test.cpp PROPERTIES
   COMPILE_OPTIONS -Wno-stringop-overread)  # another one
+set_source_files_properties(${tests}/windows/native/imports.cpp PROPERTIES
+  SKIP_PRECOMPILE_HEADERS ON)  # declares Windows' functions in its own way
 # The C runtime's own wide calls, as the module has them.
 set_source_files_properties(${tests}/windows/native/runtime_test.cpp PROPERTIES
   SKIP_PRECOMPILE_HEADERS ON

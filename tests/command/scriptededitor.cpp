@@ -82,7 +82,7 @@ std::wstring ScriptedEditor::modulePath() const
     const CString& beside =
         settingsFolderIsMissing ? settings.pathInMissingFolder() : settings.path();
     std::wstring path = beside.GetString();
-    return path.replace(path.rfind(L'/'), std::wstring::npos, L"\\netrax.arx");
+    return path.replace(path.find_last_of(L"/\\"), std::wstring::npos, L"\\netrax.arx");
 }
 
 void ScriptedEditor::run(std::deque<ScriptedAnswer> answers)

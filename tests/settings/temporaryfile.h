@@ -1,8 +1,6 @@
 // A settings file of a test's own.
 #pragma once
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iterator>

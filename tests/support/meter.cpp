@@ -1,20 +1,13 @@
 #include "tests/support/meter.h"
 
-#include <dlfcn.h>
-
 #include "rxmfcapi.h"
+#include "tests/app/original.h"
 
-// The functions at the end take the place of the host's in the test program, which comes before the
-// host's library; without a Meter they hand each call on.
+// The functions at the end take the place of the host's in the test program; without a Meter they
+// hand each call on.
 namespace
 {
 tests::Meter* current = nullptr;
-
-template <class Function>
-Function* original(const char* mangledName)
-{
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, mangledName));
-}
 }  // namespace
 
 namespace tests
