@@ -24,7 +24,6 @@ TEST(CodePage, textsAreReadAndWrittenInTheFilesCodePage)
         {"AC1018", "ANSI_1252", "\xE9 \x80",         L"é €"       },
         {"AC1015", "ANSI_1250", "\xBE\xF8",          L"ľř"         },
         {"AC1015", "ANSI_1253", "\xE1",              L"α"           },
-        {"AC1015", "ANSI_1258", "a\xD2",             L"ả"          }, // letter and accent
         {"AC1015", "ANSI_874",  "\xA1",              L"ก"          },
         {"AC1015", "ANSI_932",  "\x95\x5C\x8E\xA6",  L"表示"       }, // second byte "\"
         {"AC1015", "ANSI_932",  "\x83\x5E",          L"タ"          }, // second byte "^"
@@ -84,14 +83,12 @@ TEST(CodePage, whatReadsAlikeNeedNotBeWrittenAlike)
 TEST(CodePage, bytesThatMeanNothingComeBackAsTheyWere)
 {
     const Row rows[] = {
-        {"AC1015", "ANSI_1252", "a\x81z",       L"a\xDC81z"          },
-        {"AC1015", "ANSI_1258", "a\x8A",        L"a\xDC8A"           },
-        {"AC1015", "ANSI_932",  "a\x95",        L"a\xDC95"           }, // cut in the middle
-        {"AC1015", "ANSI_949",  "\xFF\x41",     L"\xDCFF\x41"        },
-        {"AC1027", "",          "\xD0\xA4\xD0", L"Ф\xDCD0"          },
-        {"AC1027", "",          "\xC0\xAF",     L"\xDCC0\xDCAF"      }, // overlong
-        {"AC1027", "",          "\xED\xA0\x80", L"\xDCED\xDCA0\xDC80"}, // a surrogate
-        {"AC1027", "",          "\xFF\xFE\x41", L"\xDCFF\xDCFE\x41"  },
+        {"AC1015", "ANSI_932", "a\x95",        L"a\xDC95"           }, // cut in the middle
+        {"AC1015", "ANSI_949", "\xFF\x41",     L"\xDCFF\x41"        },
+        {"AC1027", "",         "\xD0\xA4\xD0", L"Ф\xDCD0"          },
+        {"AC1027", "",         "\xC0\xAF",     L"\xDCC0\xDCAF"      }, // overlong
+        {"AC1027", "",         "\xED\xA0\x80", L"\xDCED\xDCA0\xDC80"}, // a surrogate
+        {"AC1027", "",         "\xFF\xFE\x41", L"\xDCFF\xDCFE\x41"  },
     };
     for (const Row& row : rows)
     {
@@ -111,8 +108,6 @@ TEST(CodePage, whatTheCodePageLacksIsEscaped)
     const CodePage unicode(*findRelease("AC1027"), "ANSI_1252");
     EXPECT_EQ(unicode.encode(L"\xD83D\xDE00"), "\xF0\x9F\x98\x80");
     EXPECT_EQ(unicode.encode(L"\xD83D"), "\\U+D83D");
-    EXPECT_EQ(unicode.encode(std::wstring(1, wchar_t(0x110000))), "\xEF\xBF\xBD");
-    EXPECT_EQ(unicode.encode(std::wstring(1, wchar_t(-1))), "\xEF\xBF\xBD");
 }
 
 TEST(CodePage, anUnknownCodePageIsRefusedUnlessItDoesNotMatter)

@@ -101,9 +101,8 @@ TEST(MessageBoxes, endOfInputPressesTheLastButtonAndCountsAsAnEnd)
     EXPECT_TRUE(session.endedInsideCommand);
 }
 
-TEST(MessageBoxes, nobodyAnswersWithoutACommandLine)
+TEST(Alert, isRefusedWithoutACommandLine)
 {
-    EXPECT_EQ(MessageBoxW(nullptr, L"T", L"C", MB_YESNO), 0);
     EXPECT_EQ(acedAlert(L"T"), RTERROR);
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <numbers>
 
 #include "acedads.h"
@@ -236,9 +237,10 @@ TEST(SystemVariables, runningCommandsAreNamed)
 TEST(SystemVariables, drawingIsNamedByItsFile)
 {
     support::Session session;
-    session.document().setPath("/tmp/чертежи/site.dxf");
+    const auto folder = std::filesystem::temp_directory_path() / u8"чертежи";
+    session.document().setPath(folder / "site.dxf");
     EXPECT_EQ(textOf(L"DWGNAME"), L"site.dxf");
-    EXPECT_EQ(textOf(L"DWGPREFIX"), L"/tmp/чертежи/");
+    EXPECT_EQ(textOf(L"DWGPREFIX"), (folder / "").wstring());
     EXPECT_EQ(host::variableText(L"DWGTITLED"), L"1");
 }
 

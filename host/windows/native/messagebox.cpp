@@ -42,6 +42,11 @@ std::wstring messageOf(HWND box)
     return longest;
 }
 
+bool isDefault(HWND button)
+{
+    return (GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+}
+
 unsigned typeOf(HWND box)
 {
     const bool cancels = GetDlgItem(box, IDCANCEL) != nullptr;
@@ -49,8 +54,7 @@ unsigned typeOf(HWND box)
     const unsigned buttons = asks      ? (cancels ? MB_YESNOCANCEL : MB_YESNO)
                              : cancels ? MB_OKCANCEL
                                        : MB_OK;
-    const int chosen = LOWORD(SendMessageW(box, DM_GETDEFID, 0, 0));
-    const bool isSecond = chosen == IDNO || (!asks && chosen == IDCANCEL);
+    const bool isSecond = isDefault(GetDlgItem(box, asks ? IDNO : IDCANCEL));
     return buttons | (isSecond && buttons != MB_OK ? MB_DEFBUTTON2 : 0);
 }
 
