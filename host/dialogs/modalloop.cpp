@@ -92,18 +92,22 @@ public:
     Question question()
     {
         Question question{.kind = Question::Kind::dialog, .caption = windowText(m_dialog)};
+        const bool isUnseen = hasStoodAside();
+        m_pickCount = m_editor.picksFromDialogs;
         if (!m_editor.interactive())
         {
             return question;
         }
-        if (m_pickCount != m_editor.picksFromDialogs)
+        if (isUnseen)
         {
-            m_pickCount = m_editor.picksFromDialogs;
             m_editor.printLine(readableView(m_dialog));
         }
         question.prompt = L"Dialog: ";
         return question;
     }
+
+    // Since the last question: after a click on a pick button.
+    bool hasStoodAside() const { return m_pickCount != m_editor.picksFromDialogs; }
 
 private:
     Editor& m_editor;
@@ -127,11 +131,11 @@ void runModalLoop(HWND dialog, const bool& ended)
     {
         requireVisible(dialog);
         Question question = viewer.question();
-        question.isWithdrawn = [&] { return ended; };
+        question.isWithdrawn = [&] { return ended || viewer.hasStoodAside(); };
         const Answer answer = editor->askSilently(question);
         if (answer.kind == Answer::Kind::withdrawn)
         {
-            break;
+            continue;
         }
         if (answer.visible)
         {
