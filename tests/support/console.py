@@ -13,6 +13,7 @@ from report import Skipped
 
 PATIENCE = 20  # seconds; only a broken program lets them pass
 SEQUENCE = re.compile(rb"\x1b\[[0-9;?]*[A-Za-z]|\x1b[()][A-Z0-9]")
+BLANKS = re.compile(rb"\x1b\[K\x1b\[([0-9]+)C")  # Wine's console steps over them
 
 
 class Console:
@@ -46,7 +47,8 @@ class Console:
     @property
     def shown(self):
         """Everything without colours and other sequences, lines ended as usual."""
-        return SEQUENCE.sub(b"", self.raw).decode("utf-8", "backslashreplace").replace("\r\n", "\n")
+        raw = BLANKS.sub(lambda step: b" " * int(step[1]), self.raw)
+        return re.sub("\r+\n", "\n", SEQUENCE.sub(b"", raw).decode("utf-8", "backslashreplace"))
 
     def type(self, text):
         os.write(self._terminal, text.encode())

@@ -20,9 +20,18 @@ def check(function):
 
 def not_on_windows(why):
     """Marks a test of what arxhost for Windows does not do, or does in its own way."""
+    return _left_out_where(windows, why)
+
+
+def only_on_windows(why):
+    """Marks a test of what only arxhost for Windows has."""
+    return _left_out_where(lambda: not windows(), why)
+
+
+def _left_out_where(is_out, why):
     def marked(function):
         def run():
-            if windows():
+            if is_out():
                 raise Skipped(why)
             function()
         run.__name__ = function.__name__

@@ -3,7 +3,10 @@
 #include <fcntl.h>
 #include <io.h>
 
+#include <atomic>
 #include <cstdio>
+#include <span>
+#include <string_view>
 
 #include "host/program/session.h"
 #include "host/windows/text.h"
@@ -20,7 +23,55 @@ bool isConsole(DWORD which)
     return GetConsoleMode(GetStdHandle(which), &mode) != 0;
 }
 
-// Lines that the console edits, as it does for every program. One that begins with ";" is a comment.
+std::atomic<unsigned> reads = 0;  // begun and ended: odd while one goes on
+std::atomic<bool> isRefused = false;
+
+void pressEnter()
+{
+    INPUT_RECORD enter = {.EventType = KEY_EVENT, .Event = {}};
+    enter.Event.KeyEvent = {.bKeyDown = TRUE,
+                            .wRepeatCount = 1,
+                            .wVirtualKeyCode = VK_RETURN,
+                            .wVirtualScanCode = 0,
+                            .uChar = {.UnicodeChar = L'\r'},
+                            .dwControlKeyState = 0};
+    DWORD count = 0;
+    WriteConsoleInputW(GetStdHandle(STD_INPUT_HANDLE), &enter, 1, &count);
+}
+
+// Ctrl-C cancels the question; a command that computes is not stopped by it. Windows ends the read,
+// Wine reads on: there the line is ended and does not count.
+BOOL WINAPI onControl(DWORD event)
+{
+    const unsigned read = reads;
+    if (event != CTRL_C_EVENT || read % 2 == 0)
+    {
+        return event == CTRL_C_EVENT;
+    }
+    Sleep(100);
+    if (reads == read)
+    {
+        isRefused = true;
+        pressEnter();
+    }
+    return TRUE;
+}
+
+// What has been typed; nothing once the input has ended, or at Ctrl-C, of which the error tells.
+std::wstring_view readUnits(std::span<wchar_t> units)
+{
+    DWORD count = 0;
+    SetLastError(ERROR_SUCCESS);
+    ++reads;
+    const BOOL isRead = ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), units.data(),
+                                     DWORD(units.size()), &count, nullptr);
+    ++reads;
+    const bool isEnd = !isRead || units[0] == L'\x1A';
+    return {units.data(), isEnd ? 0 : count};
+}
+
+// Lines that the console edits, as it does for every program. One that begins with ";" is a
+// comment.
 class ConsoleReader : public AnswerReader
 {
 public:
@@ -31,16 +82,20 @@ public:
 Answer ConsoleReader::next(const Question& question)
 {
     std::wstring line;
-    while (line.empty() || line.back() != L'\n')
+    while (!line.ends_with(L'\n'))
     {
-        wchar_t units[256];
-        DWORD count = 0;
-        if (!ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), units, 256, &count, nullptr) ||
-            count == 0 || units[0] == L'\x1A')
+        wchar_t units[256] = L"";
+        const std::wstring_view typed = readUnits(units);
+        if (typed.empty())
         {
-            return {.kind = Answer::Kind::endOfInput};
+            const bool isCancelled = GetLastError() == ERROR_OPERATION_ABORTED;
+            return {.kind = isCancelled ? Answer::Kind::cancel : Answer::Kind::endOfInput};
         }
-        line.append(units, count);
+        line += typed;
+    }
+    if (isRefused.exchange(false))
+    {
+        return {.kind = Answer::Kind::cancel, .visible = true};
     }
     line.resize(line.find_last_not_of(L"\r\n") + 1);
     const bool isComment = line.starts_with(L';');
@@ -86,6 +141,7 @@ std::optional<int> runEdited(const Options& options)
     {
         return std::nullopt;
     }
+    SetConsoleCtrlHandler(onControl, TRUE);
     ConsoleReader reader;
     return runSession(options, reader);
 }
