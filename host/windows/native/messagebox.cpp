@@ -64,14 +64,24 @@ bool isLoneButton(HWND box)
     return GetDlgItem(box, IDOK) == nullptr && GetDlgItem(box, IDYES) == nullptr;
 }
 
+// A box whose button was clicked is hidden at once, and destroyed when all it has called is back.
+bool isClosed(HWND box)
+{
+    return s_answering.box != box || !IsWindowVisible(box);
+}
+
 void CALLBACK answer(HWND box, UINT, UINT_PTR timer, DWORD)
 {
+    if (!IsWindowVisible(box))
+    {
+        return;  // not shown yet: the timer comes again
+    }
     KillTimer(box, timer);
     const bool isLone = isLoneButton(box);
     const int button = s_answering.handler({.text = messageOf(box),
                                             .caption = textOf(box),
                                             .type = isLone ? MB_OK : typeOf(box),
-                                            .isGone = [box] { return s_answering.box != box; }});
+                                            .isGone = [box] { return isClosed(box); }});
     if (button != 0)
     {
         SendMessageW(box, WM_COMMAND, isLone ? IDCANCEL : button, 0);
