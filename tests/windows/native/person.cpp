@@ -71,7 +71,7 @@ HWND focusAt(HWND window)
 
 bool comesTrue(const std::function<bool()>& condition)
 {
-    for (int i = 0; i < 500; ++i)
+    for (int i = 0; i < 300; ++i)
     {
         if (condition())
         {

@@ -119,10 +119,8 @@ TEST(AtTheScreen, anArrowKeyTurnsOnTheNextOfAGroup)
     const Shown after = shown(untilItCloses(
         [&](HWND dialog)
         {
-            for (int id = 0; id != IDC_LINES;)
-            {
-                id = idAfter(dialog, press, VK_TAB);
-            }
+            clickOn(GetDlgItem(dialog, IDC_LINES));
+            comesTrue([&] { return focusedId(dialog) == IDC_LINES; });
             idAfter(dialog, press, VK_DOWN);
             const HWND size = GetDlgItem(dialog, IDC_CROSS_SIZE);
             sizeIsEnabled = comesTrue([&] { return IsWindowEnabled(size) != FALSE; });
