@@ -10,6 +10,7 @@
 #include "geassign.h"
 #include "host/database/drawing.h"
 #include "host/editor/ucs.h"
+#include "host/windows/text.h"
 #include "tests/support/session.h"
 
 namespace
@@ -238,9 +239,10 @@ TEST(SystemVariables, drawingIsNamedByItsFile)
 {
     support::Session session;
     const auto folder = std::filesystem::temp_directory_path() / u8"чертежи";
+    const std::u8string prefix = (folder / "").u8string();
     session.document().setPath(folder / "site.dxf");
     EXPECT_EQ(textOf(L"DWGNAME"), L"site.dxf");
-    EXPECT_EQ(textOf(L"DWGPREFIX"), (folder / "").wstring());
+    EXPECT_EQ(textOf(L"DWGPREFIX"), host::fromUtf8(std::string(prefix.begin(), prefix.end())));
     EXPECT_EQ(host::variableText(L"DWGTITLED"), L"1");
 }
 
