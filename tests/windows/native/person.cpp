@@ -19,20 +19,23 @@ INPUT key(WORD code, DWORD flags = 0)
     return input;
 }
 
-INPUT mouse(DWORD flags, LONG x = 0, LONG y = 0)
-{
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = x;
-    input.mi.dy = y;
-    input.mi.dwFlags = flags;
-    return input;
-}
-
 // The screen's width or height is 65536 of the mouse's units.
 LONG inMouseUnits(LONG pixel, int size)
 {
     return (pixel * 65536 + 32768) / size;
+}
+
+// Each event names the place: the screen's own pointer may move the mouse away in between.
+INPUT mouseAt(HWND control, DWORD flags)
+{
+    RECT place = {};
+    GetWindowRect(control, &place);
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = inMouseUnits((place.left + place.right) / 2, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = inMouseUnits((place.top + place.bottom) / 2, GetSystemMetrics(SM_CYSCREEN));
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+    return input;
 }
 }  // namespace
 
@@ -48,17 +51,13 @@ void pressWithShift(WORD code)
 
 void moveTo(HWND control)
 {
-    RECT place = {};
-    GetWindowRect(control, &place);
-    const LONG x = inMouseUnits((place.left + place.right) / 2, GetSystemMetrics(SM_CXSCREEN));
-    const LONG y = inMouseUnits((place.top + place.bottom) / 2, GetSystemMetrics(SM_CYSCREEN));
-    send({mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, x, y)});
+    send({mouseAt(control, 0)});
 }
 
 void clickOn(HWND control)
 {
-    moveTo(control);
-    send({mouse(MOUSEEVENTF_LEFTDOWN), mouse(MOUSEEVENTF_LEFTUP)});
+    send({mouseAt(control, 0), mouseAt(control, MOUSEEVENTF_LEFTDOWN),
+          mouseAt(control, MOUSEEVENTF_LEFTUP)});
 }
 
 HWND focusAt(HWND window)
