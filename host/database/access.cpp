@@ -57,10 +57,9 @@ void ObjectAccess::applyStyle(AcDbEntity& entity, const LineStyle& style)
 
 void ObjectAccess::setPoints(AcDbLine& line, const AcGePoint3d& start, const AcGePoint3d& end)
 {
-    line.m_forWrite = true;
-    line.setStartPoint(start);
-    line.setEndPoint(end);
-    line.m_forWrite = false;
+    line.m_start = start;
+    line.m_end = end;
+    line.m_forWrite = false;  // a new line is open
 }
 
 AcDbObject* resolve(AcDbStub* stub)

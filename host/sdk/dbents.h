@@ -33,6 +33,8 @@ public:
     Adesk::Boolean isClosed() const override { return Adesk::kFalse; }
 
 private:
+    friend struct host::ObjectAccess;
+
     AcGePoint3d m_start;
     AcGePoint3d m_end;
 };
