@@ -21,7 +21,7 @@ function(complete_program)
   target_include_directories(pictures SYSTEM PUBLIC ${CAIRO_INCLUDE})
   target_link_libraries(pictures PUBLIC host PRIVATE ${CAIRO})
 
-  file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp)
+  file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp plot/cairo/*.cpp)
   add_library(plot STATIC ${plot_sources})
   target_link_libraries(plot PUBLIC pictures PRIVATE ${CAIRO})
 

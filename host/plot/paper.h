@@ -1,23 +1,14 @@
 // A sheet of white paper and what is drawn on it.
 #pragma once
 
-#include <cairo.h>
-
 #include <memory>
 #include <string>
 
 #include "gemat3d.h"
-#include "host/plot/sink.h"
+#include "host/plot/ink.h"
 
 namespace host::plot
 {
-enum class FileKind
-{
-    png,
-    pdf,
-    svg
-};
-
 // A rectangle of the view: X to the right, Y upwards, drawing units.
 struct Window
 {
@@ -36,9 +27,6 @@ class Paper : public Sink
 public:
     // `toView` carries WCS to the view.
     Paper(FileKind kind, const AcGeMatrix3d& toView, const Window& window);
-    ~Paper();
-    Paper(const Paper&) = delete;
-    Paper& operator=(const Paper&) = delete;
 
     void path(const Points& points, bool closed, Color color) override;
     void area(const std::vector<Points>& loops, Color color) override;
@@ -47,25 +35,18 @@ public:
     void text(const TextLine& line, Color color) override;
 
     // The bytes of the file; nothing can be drawn after that. Empty when memory ran out.
-    std::string finish();
+    std::string finish() { return m_ink->finish(); }
 
 private:
-    void open(FileKind kind);
-    void follow(const Points& points, bool closed);
-    void stroke(Color color);
-    void use(Color color);
     AcGePoint3d onSheet(const AcGePoint3d& world) const;  // millimetres, Y downwards
+    Points onSheet(const Points& points) const;
     AcGeVector3d onSheet(const AcGeVector3d& world) const;
 
     AcGeMatrix3d m_toView;
     Window m_window;
-    FileKind m_kind;
-    double m_width = 0;  // millimetres
-    double m_height = 0;
-    double m_scale = 1;  // millimetres a unit
-    std::string m_bytes;
-    cairo_surface_t* m_surface = nullptr;
-    cairo_t* m_cairo = nullptr;
+    double m_scale;  // millimetres a unit
+    Sheet m_sheet;
+    std::unique_ptr<Ink> m_ink;
 };
 
 // How much of a view the shapes take.

@@ -9,6 +9,7 @@
 #include "host/editor/view.h"
 #include "host/plot/paper.h"
 #include "host/plot/scene.h"
+#include "host/windows/text.h"
 
 namespace host
 {
@@ -21,7 +22,7 @@ std::optional<FileKind> kindOf(const std::string& path)
     const std::array<std::pair<const char*, FileKind>, 3> kinds{
         {{".png", FileKind::png}, {".pdf", FileKind::pdf}, {".svg", FileKind::svg}}
     };
-    std::string extension = std::filesystem::path(path).extension().string();
+    std::string extension = pathOf(path).extension().string();
     for (char& letter : extension)
     {
         letter = letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
@@ -73,6 +74,10 @@ Plotted plotDrawing(AcDbDatabase& database, const std::string& path)
     if (!kind)
     {
         return {path + ": expected a name that ends in .png, .pdf or .svg", {}};
+    }
+    if (!canWrite(*kind))
+    {
+        return {path + ": arxhost draws PDF and SVG on Linux only; PNG can be drawn", {}};
     }
     try
     {

@@ -4,7 +4,7 @@
 #include "host/geometry/ocs.h"
 #include "host/plot/entities.h"
 #include "host/plot/plaintext.h"
-#include "host/plot/typeface.h"
+#include "host/plot/ink.h"
 
 namespace host::plot
 {

@@ -6,7 +6,7 @@
 
 #include "gemat3d.h"
 #include "host/plot/plot.h"
-#include "host/plot/typeface.h"
+#include "host/plot/ink.h"
 
 using namespace host::plot;
 

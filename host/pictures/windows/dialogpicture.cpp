@@ -1,38 +1,12 @@
 #include "host/pictures/dialogpicture.h"
 
-#include <memory>
-
-#include <objidl.h>
-
-#include <gdiplus.h>
-
+#include "host/pictures/windows/drawing.h"
 #include "host/windows/text.h"
 
 namespace host
 {
 namespace
 {
-const CLSID pngEncoder = {
-    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}
-};
-
-// The system's drawing library, for as long as it is needed.
-class Drawing
-{
-public:
-    Drawing()
-    {
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&m_token, &input, nullptr);
-    }
-    ~Drawing() { Gdiplus::GdiplusShutdown(m_token); }
-    Drawing(const Drawing&) = delete;
-    Drawing& operator=(const Drawing&) = delete;
-
-private:
-    ULONG_PTR m_token = 0;
-};
-
 // What waits to be drawn is drawn before.
 void paintAll(HWND dialog)
 {

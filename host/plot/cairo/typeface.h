@@ -7,8 +7,6 @@
 
 namespace host::plot
 {
-double textWidth(std::wstring_view text);
-
 // At the origin of the context's coordinates, whose Y points upwards.
 void showText(cairo_t* cairo, std::wstring_view text);
 }  // namespace host::plot

@@ -1,8 +1,9 @@
-#include "host/plot/typeface.h"
+#include "host/plot/cairo/typeface.h"
 
 #include <memory>
 #include <string>
 
+#include "host/plot/ink.h"
 #include "host/windows/text.h"
 
 namespace host::plot

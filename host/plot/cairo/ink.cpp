@@ -1,0 +1,161 @@
+#include "host/plot/ink.h"
+
+#include <cairo-pdf.h>
+#include <cairo-svg.h>
+
+#include <cmath>
+
+#include "host/plot/cairo/typeface.h"
+
+namespace host::plot
+{
+namespace
+{
+const double pointsInMillimetre = 72 / 25.4;
+
+cairo_status_t append(void* bytes, const unsigned char* data, unsigned length)
+{
+    static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+    return CAIRO_STATUS_SUCCESS;
+}
+
+class CairoInk : public Ink
+{
+public:
+    explicit CairoInk(const Sheet& sheet);
+    ~CairoInk() override;
+    CairoInk(const CairoInk&) = delete;
+    CairoInk& operator=(const CairoInk&) = delete;
+
+    void stroke(const Points& points, bool closed, double width, Color color) override;
+    void fill(const std::vector<Points>& loops, Color color) override;
+    void disc(const AcGePoint3d& centre, double diameter, Color color) override;
+    void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
+              std::wstring_view text, Color color) override;
+    std::string finish() override;
+
+private:
+    void open(const Sheet& sheet);
+    void follow(const Points& points, bool closed);
+    void use(Color color);
+
+    FileKind m_kind;
+    std::string m_bytes;
+    cairo_surface_t* m_surface = nullptr;
+    cairo_t* m_cairo = nullptr;
+};
+
+CairoInk::CairoInk(const Sheet& sheet) : m_kind(sheet.kind)
+{
+    open(sheet);
+    use(white);
+    cairo_paint(m_cairo);
+    cairo_set_line_cap(m_cairo, CAIRO_LINE_CAP_ROUND);
+    cairo_set_line_join(m_cairo, CAIRO_LINE_JOIN_ROUND);
+    cairo_set_fill_rule(m_cairo, CAIRO_FILL_RULE_EVEN_ODD);
+}
+
+void CairoInk::open(const Sheet& sheet)
+{
+    const double units = sheet.kind == FileKind::png ? dotsOf(sheet) : pointsInMillimetre;
+    const double width = sheet.width * units;
+    const double height = sheet.height * units;
+    switch (sheet.kind)
+    {
+        case FileKind::png:
+            m_surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, int(std::lround(width)),
+                                                   int(std::lround(height)));
+            break;
+        case FileKind::pdf:
+            m_surface = cairo_pdf_surface_create_for_stream(append, &m_bytes, width, height);
+            break;
+        case FileKind::svg:
+            m_surface = cairo_svg_surface_create_for_stream(append, &m_bytes, width, height);
+            break;
+    }
+    m_cairo = cairo_create(m_surface);
+    cairo_scale(m_cairo, units, units);
+}
+
+CairoInk::~CairoInk()
+{
+    cairo_destroy(m_cairo);
+    cairo_surface_destroy(m_surface);
+}
+
+std::string CairoInk::finish()
+{
+    const bool good = cairo_status(m_cairo) == CAIRO_STATUS_SUCCESS;
+    if (m_kind == FileKind::png && good)
+    {
+        cairo_surface_write_to_png_stream(m_surface, append, &m_bytes);
+    }
+    cairo_surface_finish(m_surface);
+    return good ? std::move(m_bytes) : std::string();
+}
+
+void CairoInk::use(Color color)
+{
+    cairo_set_source_rgb(m_cairo, color.red, color.green, color.blue);
+}
+
+void CairoInk::follow(const Points& points, bool closed)
+{
+    for (std::size_t i = 0; i < points.size(); ++i)
+    {
+        i == 0 ? cairo_move_to(m_cairo, points[i].x, points[i].y)
+               : cairo_line_to(m_cairo, points[i].x, points[i].y);
+    }
+    if (closed)
+    {
+        cairo_close_path(m_cairo);
+    }
+}
+
+void CairoInk::stroke(const Points& points, bool closed, double width, Color color)
+{
+    follow(points, closed);
+    use(color);
+    cairo_set_line_width(m_cairo, width);
+    cairo_stroke(m_cairo);
+}
+
+void CairoInk::fill(const std::vector<Points>& loops, Color color)
+{
+    for (const Points& loop : loops)
+    {
+        follow(loop, true);
+    }
+    use(color);
+    cairo_fill(m_cairo);
+}
+
+void CairoInk::disc(const AcGePoint3d& centre, double diameter, Color color)
+{
+    cairo_arc(m_cairo, centre.x, centre.y, diameter / 2, 0, 2 * M_PI);
+    use(color);
+    cairo_fill(m_cairo);
+}
+
+void CairoInk::text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
+                    std::wstring_view text, Color color)
+{
+    const cairo_matrix_t matrix{along.x, along.y, up.x, up.y, start.x, start.y};
+    cairo_save(m_cairo);
+    cairo_transform(m_cairo, &matrix);
+    use(color);
+    showText(m_cairo, text);
+    cairo_restore(m_cairo);
+}
+}  // namespace
+
+bool canWrite(FileKind)
+{
+    return true;
+}
+
+std::unique_ptr<Ink> openInk(const Sheet& sheet)
+{
+    return std::make_unique<CairoInk>(sheet);
+}
+}  // namespace host::plot
