@@ -17,8 +17,8 @@ CString strippedName(const CString& name)
 }
 
 // The value keeps its leading blanks: "HorStep= 10" has always read as not set. A line without "="
-// is a key named and valued by itself, so that a remark behind "#" is still there after a save;
-// users keep such remarks.
+// is a key named and valued by itself, so that a remark behind "#" in another section than ours is
+// still there after a save.
 void readKey(const CString& line, IniSection& section)
 {
     const int equals = line.Find(L'=');
