@@ -16,7 +16,8 @@ MANIFEST = ROOT / "packaging" / "PackageContents.xml"
 PAGES = ["guide-crosses.svg", "guide-en.html", "guide-lines.svg", "guide-ru.html", "guide-turned.svg",
          "settings-en.png", "settings-ru.png"]
 ARCHIVE = ["LICENSE.txt", "README.txt", "arxhost.exe", "arxhost_core.dll", "example/answers.txt",
-           "example/options.ini", "example/site.dxf", *PAGES, "libwinpthread-1.dll", "netrax.arx"]
+           "example/options.ini", "example/site.dxf", *PAGES, "libwinpthread-1.dll",
+           *(f"licences/{name}.txt" for name in ("CLI11", "GCC", "GPL-3", "MinGW-w64")), "netrax.arx"]
 BUNDLE = ["PackageContents.xml", *(f"Contents/Help/{name}" for name in PAGES)]
 # A change of the manifest that AutoCAD would not forgive, and what of it the schema names.
 MISTAKES = [
