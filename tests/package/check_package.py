@@ -101,7 +101,8 @@ def the_manifest_names_what_the_module_registers():
 def every_place_tells_the_same_version():
     version = re.search(r"project\(netrax VERSION ([\d.]+)", (ROOT / "CMakeLists.txt").read_text())[1]
     root = ElementTree.parse(MANIFEST).getroot()
-    resources = (ROOT / "resources" / "netrax.rc").read_text(encoding="utf-8")
+    resources = "".join((ROOT / path).read_text(encoding="utf-8")
+                        for path in ("resources/netrax.rc", "host/program/console/arxhost.rc"))
     places = {root.get("AppVersion"), root.find("Components/ComponentEntry").get("Version"),
               re.search(r"project\(\w+ VERSION ([\d.]+)", (ROOT / "cmake/objectarx/CMakeLists.txt").read_text())[1],
               *(found.removesuffix(".0") for found in re.findall(r'Version", "([\d.]+)"', resources))}
