@@ -3,6 +3,7 @@
 #include "afxwin.h"
 #include "host/dialogs/modalloop.h"
 #include "host/dialogs/ownerdraw.h"
+#include "host/dialogs/place.h"
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
 
@@ -15,6 +16,7 @@ struct DialogProcedure
         {
             auto* dialog = reinterpret_cast<CDialog*>(lParam);
             dialog->Attach(window);
+            host::placeDialog(window);
             return dialog->OnInitDialog();
         }
         auto* dialog = static_cast<CDialog*>(host::objectOf(window));

@@ -91,6 +91,20 @@ void drawPicture(HDC device, const RECT& box, const BITMAPINFOHEADER& header)
     DeleteDC(memory);
 }
 
+// What lies below fades into the face of the button.
+void veil(HDC device, const RECT& box)
+{
+    const HDC memory = CreateCompatibleDC(device);
+    const HBITMAP dot = CreateCompatibleBitmap(device, 1, 1);
+    const HGDIOBJ before = SelectObject(memory, dot);
+    SetPixel(memory, 0, 0, GetSysColor(COLOR_BTNFACE));
+    AlphaBlend(device, box.left, box.top, box.right - box.left, box.bottom - box.top, memory, 0, 0,
+               1, 1, {AC_SRC_OVER, 0, 160, 0});
+    SelectObject(memory, before);
+    DeleteObject(dot);
+    DeleteDC(memory);
+}
+
 void drawPickButton(const DRAWITEMSTRUCT& item)
 {
     const bool isPressed = (item.itemState & ODS_SELECTED) != 0;
@@ -101,9 +115,14 @@ void drawPickButton(const DRAWITEMSTRUCT& item)
         DFCS_BUTTONPUSH | (isPressed ? DFCS_PUSHED : 0) | (isGrey ? DFCS_INACTIVE : 0));
     OffsetRect(&box, isPressed, isPressed);
     const std::span<const std::byte> bytes = bitmapOfButton(item.hwndItem);
-    if (!isGrey && bytes.size() > sizeof(BITMAPINFOHEADER))
+    if (bytes.size() > sizeof(BITMAPINFOHEADER))
     {
         drawPicture(item.hDC, box, *reinterpret_cast<const BITMAPINFOHEADER*>(bytes.data()));
+    }
+    if (isGrey)
+    {
+        InflateRect(&box, -3, -3);
+        veil(item.hDC, box);
     }
     if ((item.itemState & ODS_FOCUS) != 0)
     {

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <cstdlib>
 #include <span>
 #include <string_view>
 
@@ -109,7 +110,9 @@ void beginProcess()
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
     _setmode(_fileno(stdin), _O_BINARY);
+    static const UINT codePageBefore = GetConsoleOutputCP();
     SetConsoleOutputCP(CP_UTF8);
+    std::atexit([] { SetConsoleOutputCP(codePageBefore); });
 }
 
 std::vector<std::string> givenArguments(int, char**)
