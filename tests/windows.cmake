@@ -1,5 +1,5 @@
 # The same unit tests, but for those of what Windows itself does here (windows, headless), of pictures
-# and plots, which this build does not draw, and of other systems' files (posix).
+# of dialogs that this build does not draw, and of other systems' files (posix).
 set(gtest_force_shared_crt ON CACHE BOOL "")
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 foreach(library gtest gmock gmock_main)
@@ -8,7 +8,7 @@ endforeach()
 
 file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS *.cpp)
 list(FILTER test_sources EXCLUDE REGEX "/(readers|faults|relations|scarce|fuzz)/")
-list(FILTER test_sources EXCLUDE REGEX "/(headless|emulated|dialogs|pictures|plot|posix)/")
+list(FILTER test_sources EXCLUDE REGEX "/(headless|emulated|dialogs|pictures|cairo|posix)/")
 list(FILTER test_sources EXCLUDE REGEX "/windows/(calls|format|numbers|streams)_test[.]cpp")
 list(FILTER test_sources EXCLUDE REGEX "/(inistore_test|dialogtemplate|damaged_test)[.]cpp")
 
@@ -38,7 +38,8 @@ add_custom_command(OUTPUT ${renamed_host} VERBATIM
     $<TARGET_FILE:host_objects> ${renamed_host}
   DEPENDS host_objects ${CMAKE_BINARY_DIR}/originals/renames.txt)
 
-add_executable(unit_tests ${test_sources} ${renamed_host}
+file(GLOB plot_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/host/plot/*.cpp ${CMAKE_SOURCE_DIR}/host/plot/windows/*.cpp)
+add_executable(unit_tests ${test_sources} ${plot_sources} ${renamed_host}
   ${CMAKE_SOURCE_DIR}/host/program/console/arxhost.rc)
 target_compile_features(unit_tests PRIVATE cxx_std_20)
 # Compiling takes longer than running; and a false alarm of this compiler.
@@ -46,7 +47,7 @@ target_compile_options(unit_tests PRIVATE -O0 -Wno-array-bounds -Wno-attributes)
 target_include_directories(unit_tests PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/originals)
 target_link_libraries(unit_tests PRIVATE
   -Wl,--whole-archive ${renamed_host} -Wl,--no-whole-archive module_objects rxapi module_resources
-  gmock_main comctl32 msimg32 gdi32 shlwapi)
+  gmock_main comctl32 msimg32 gdi32 gdiplus ole32 shlwapi)
 target_compile_definitions(unit_tests PRIVATE
   TESTS_DIR="${CMAKE_SOURCE_DIR}/tests"
   TEST_MODULES_DIR="${CMAKE_BINARY_DIR}/test_modules")

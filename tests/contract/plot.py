@@ -1,9 +1,9 @@
 """Drawings on paper: the option --plot and the command PLOT."""
-from common import GRID, Desk, check, expect, expect_equal, not_on_windows, one_line
+from common import GRID, Desk, check, expect, expect_equal, not_on_windows, one_line, only_on_windows
 
 
 @check
-@not_on_windows("arxhost for Windows does not plot")
+@not_on_windows("arxhost for Windows draws PNG only")
 def a_plot_is_a_file_of_the_kind_its_name_says():
     for name, beginning in (("a.png", b"\x89PNG\r\n"), ("b.pdf", b"%PDF-"), ("c.SVG", b"<?xml")):
         with Desk() as desk:
@@ -13,7 +13,17 @@ def a_plot_is_a_file_of_the_kind_its_name_says():
 
 
 @check
-@not_on_windows("arxhost for Windows does not plot")
+@only_on_windows("arxhost for Linux draws all kinds")
+def a_plot_of_another_kind_than_png_is_refused_in_one_line():
+    for name in ("b.pdf", "c.SVG"):
+        with Desk() as desk:
+            run = desk.run("--plot", name, script="")
+            expect_equal((run.status, run.errors),
+                         (1, f"arxhost: {name}: arxhost draws PDF and SVG on Linux only; PNG can be drawn\n"), "result")
+            expect(not (desk.folder / name).exists(), name)
+
+
+@check
 def the_command_plots_what_the_option_plots():
     with Desk() as desk:
         script = GRID + "PLOT\nfirst.png\n"
@@ -25,7 +35,6 @@ def the_command_plots_what_the_option_plots():
 
 
 @check
-@not_on_windows("arxhost for Windows does not plot")
 def a_plot_that_cannot_be_written_fails_and_leaves_nothing():
     with Desk() as desk:
         run = desk.run("--plot", "missing/a.png", script="")

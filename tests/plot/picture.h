@@ -1,0 +1,31 @@
+// A PNG file back as pixels, read by the system's drawing library.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace tests
+{
+class Picture
+{
+public:
+    // Of no size when the bytes are no picture.
+    explicit Picture(const std::string& bytes);
+
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+    // 0xRRGGBB. From the lower left corner, parts of the sheet from 0 to 1.
+    unsigned at(double x, double y) const
+    {
+        const int column = std::min(int(x * m_width), m_width - 1);
+        const int row = std::min(int((1 - y) * m_height), m_height - 1);
+        return m_pixels.at(std::size_t(row) * m_width + column);
+    }
+
+private:
+    int m_width = 0;
+    int m_height = 0;
+    std::vector<unsigned> m_pixels;  // row by row from the upper left corner
+};
+}  // namespace tests
