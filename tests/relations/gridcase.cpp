@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "engine/buildgrid.h"
 #include "output/entities.h"
 
 namespace relations
@@ -210,14 +209,14 @@ AcDbObjectId Sheet::drawOutline(const GridCase& asked)
     return addPolylineFrame(false, points, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
 }
 
-AcDbObjectIdArray Sheet::drawGrid(const AcDbObjectId& outline, const GridCase& asked)
+AcDbObjectIdArray Sheet::drawGrid(const AcDbObjectId& outline, const GridCase& asked,
+                                  decltype(buildGrid)* build)
 {
     const auto& x = asked.xEdges;
     const auto& y = asked.yEdges;
-    return buildGrid(outline, asked.outline[0], asked.outline[2], asked.steps[0], asked.steps[1],
-                     12, asked.crossSize.value_or(4), asked.crossSize ? 1 : 0,
-                     asked.alongUcs ? 1 : 0, asked.base, true, asked.heightText, asked.decimals,
-                     x[0], x[1], x[2], x[3], y[0], y[1], y[2], y[3], L"X=", L"Y=", L"Standard",
-                     L"en-US");
+    return build(outline, asked.outline[0], asked.outline[2], asked.steps[0], asked.steps[1], 12,
+                 asked.crossSize.value_or(4), asked.crossSize ? 1 : 0, asked.alongUcs ? 1 : 0,
+                 asked.base, asked.needText, asked.heightText, asked.decimals, x[0], x[1], x[2],
+                 x[3], y[0], y[1], y[2], y[3], L"X=", L"Y=", L"Standard", L"en-US");
 }
 }  // namespace relations

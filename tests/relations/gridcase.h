@@ -7,6 +7,7 @@
 #include <random>
 #include <string>
 
+#include "engine/buildgrid.h"
 #include "tests/support/opendrawing.h"
 
 namespace relations
@@ -20,6 +21,7 @@ struct GridCase
     AcGePoint3d base;                    // [wcs]
     std::array<double, 2> steps = {};    // between vertical lines, between horizontal ones
     std::optional<double> crossSize;     // none: continuous lines
+    bool needText = true;
     double heightText = 1;
     int decimals = 3;
     std::array<bool, 4> xEdges = {};  // top, bottom, left, right
@@ -75,7 +77,8 @@ protected:
     // nothing is erased between them, but now and then the drawing is left for a new one.
     AcDbObjectId drawOutline(const GridCase& asked);
     // Everything that the grid made.
-    static AcDbObjectIdArray drawGrid(const AcDbObjectId& outline, const GridCase& asked);
+    static AcDbObjectIdArray drawGrid(const AcDbObjectId& outline, const GridCase& asked,
+                                      decltype(buildGrid)* build = &buildGrid);
 
 private:
     int m_drawn = 0;
