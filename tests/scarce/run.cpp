@@ -1,6 +1,5 @@
 #include "tests/scarce/run.h"
 
-#include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,122 +10,132 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <functional>
 #include <iterator>
 #include <string>
-#include <vector>
 
+#include "tests/scarce/desk.h"
 #include "tests/scarce/scarcity.h"
-
-// The program's own main, under this name.
-int arxhostMain(int count, char** arguments);
 
 namespace fs = std::filesystem;
 
 namespace
 {
-const unsigned secondsForARun = 5;
-const long everyFewth = 11;  // of the requests is refused with all that follow as well
-
-struct Job
-{
-    const char* name;
-    const char* script;  // the file that holds what is typed
-    const char* typed;
-    std::vector<std::string> results;  // files
-};
-
-const std::string oldSettings =
-    "[GRID]\r\nHorStep=10.0000\r\nVertStep=10.0000\r\nColor=12\r\nneedText=1\r\nbXTopScribe=1\r\n"
-    "[OTHER]\r\nkept=as it is\r\n";
-const std::string oldFile = "an older file";
+const char* const settings = "properties.ini";
 
 const Job jobs[] = {
     {"a grid from lines",
      "typed.txt", "zv_netrax\n0,0\n25,15\nA\n",
-     {"properties.ini", "saved.dxf"}},
+     {"--save", "saved.dxf"},
+     {settings, "saved.dxf"}},
     {"a grid from a script",
      "typed.scr", "zv_netrax 0,0 25,15 A\n",
-     {"properties.ini", "saved.dxf"}},
+     {"--save", "saved.dxf"},
+     {settings, "saved.dxf"}},
 };
 
-std::string contents(const fs::path& path)
+// How things run out.
+struct Mode
 {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
+    const char* name;
+    scarcity::Of what;
+    bool forGood;
+    long everyFewth;  // of the requests is refused
+    int error;
+};
 
-// What a run is given, in a folder of its own.
-class Desk
+const Mode modes[] = {
+    {"memory, once",         scarcity::Of::memory,     false, 1,  ENOMEM},
+    {"memory, from then on", scarcity::Of::memory,     true,  11, ENOMEM},
+    {"a full disk",          scarcity::Of::files,      false, 1,  ENOSPC},
+    {"a full disk for good", scarcity::Of::files,      true,  1,  ENOSPC},
+    {"a broken disk",        scarcity::Of::files,      false, 1,  EIO   },
+    {"reads and writes cut", scarcity::Of::fileLength, false, 1,  0     },
+    {"all of them cut",      scarcity::Of::fileLength, true,  1,  0     },
+};
+
+// What the files hold...
+struct Known
 {
-public:
-    Desk(const fs::path& folder, const Job& job) : m_folder(folder), m_job(job)
-    {
-        fs::create_directory(folder);
-        const fs::path module = fs::read_symlink("/proc/self/exe").replace_filename("netrax.arx");
-        fs::create_symlink(module, folder / "netrax.arx");
-        std::ofstream(folder / job.script) << job.typed;
-    }
+    Results old;
+    Results wanted;           // after a run in which nothing was refused
+    Results withoutSettings;  // likewise, had there been none
+    Results wantedButSettings;
+};
 
-    void clear() const
-    {
-        std::ofstream(m_folder / "properties.ini", std::ios::binary) << oldSettings;
-        std::ofstream(m_folder / "saved.dxf") << oldFile;
-    }
+// ... and what they may hold after a run that was refused a call on the settings and ended with
+// status 0 all the same. The module minds none of these: drawing goes on.
+struct Allowed
+{
+    const char* reason;
+    Results Known::*results;
+};
 
-    std::vector<std::string> results() const
-    {
-        std::vector<std::string> all;
-        for (const std::string& name : m_job.results)
-        {
-            all.push_back(contents(m_folder / name));
-        }
-        return all;
-    }
-
-    // Ends with its status.
-    [[noreturn]] void run(const std::function<void()>& beginScarcity) const
-    {
-        alarm(secondsForARun);
-        fs::current_path(m_folder);
-        const int errors = open("errors.txt", O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        dup2(errors, STDERR_FILENO);
-        dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
-        std::vector<std::string> words = {"arxhost",    "--module", "./netrax.arx", "--script",
-                                          m_job.script, "--save",   "saved.dxf"};
-        std::vector<char*> arguments;
-        for (std::string& word : words)
-        {
-            arguments.push_back(word.data());
-        }
-        beginScarcity();
-        std::exit(arxhostMain(int(arguments.size()), arguments.data()));
-    }
-
-    std::string errors() const { return contents(m_folder / "errors.txt"); }
-    std::ptrdiff_t fileCount() const { return std::distance(fs::directory_iterator(m_folder), {}); }
-
-private:
-    fs::path m_folder;
-    const Job& m_job;
+const Allowed allowed[] = {
+    {"settings that cannot be read are as good as none: the grid is drawn by the defaults, and "
+     "these are what the accepted grid leaves",      &Known::withoutSettings  },
+    {"settings that cannot be written stay as they were", &Known::wantedButSettings},
 };
 
 // Shared by the processes.
 struct Board
 {
-    long requests;  // of a run in which none was refused
     std::atomic<long> tried;
     std::atomic<long> failed;
+    std::atomic<long> used[std::size(allowed)];
 };
 Board* board;
 
-void keepRequests()
+template <class Shared>
+Shared* shared()
 {
-    board->requests = scarcity::requests();
+    return static_cast<Shared*>(
+        mmap(nullptr, sizeof(Shared), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
 }
 
-int statusOf(const Desk& desk, const std::function<void()>& beginScarcity)
+// What a run tells its worker.
+struct Told
+{
+    char refused[scarcity::noteSize];  // the call
+    long requests;
+};
+
+Told* told;
+
+void tellRequests()
+{
+    told->requests = scarcity::requests();
+}
+
+// One of the processes that share the work.
+class Worker
+{
+public:
+    Worker(const fs::path& folder, int number, int count)
+        : m_folder(folder), m_number(number), m_count(count)
+    {
+        told = shared<Told>();
+    }
+
+    void work();
+
+private:
+    bool learn(const Desk& desk, const Job& job);
+    void tryMode(const Desk& desk, const Job& job, const Mode& mode);
+    void tryOnce(const Desk& desk, const Job& job, const Mode& mode, long number);
+    int statusOf(const Desk& desk, const std::function<void()>& beginScarcity) const;
+    long requestsOf(const Desk& desk, scarcity::Of what) const;
+    bool isAllowed(const Results& now, const Mode& mode) const;
+    std::string complaint(const Desk& desk, const Mode& mode, int status) const;
+
+    fs::path m_folder;
+    int m_number;
+    int m_count;
+    Known m_known;
+    std::ptrdiff_t m_files = 0;
+};
+
+int Worker::statusOf(const Desk& desk, const std::function<void()>& beginScarcity) const
 {
     const pid_t child = fork();
     if (child == 0)
@@ -138,17 +147,60 @@ int statusOf(const Desk& desk, const std::function<void()>& beginScarcity)
     return status;
 }
 
-// The first run, in which nothing is refused, tells how often memory is asked for.
-std::vector<std::string> resultsWithout(const Desk& desk)
+// In a run that is refused nothing; 0 if that fails all the same.
+long Worker::requestsOf(const Desk& desk, scarcity::Of what) const
 {
-    desk.clear();
-    const int status = statusOf(desk,
-                                []
-                                {
-                                    std::atexit(keepRequests);
-                                    scarcity::start(scarcity::Of::memory, 1000000000, false);
-                                });
-    return status == 0 ? desk.results() : std::vector<std::string>();
+    desk.layOut();
+    const auto count = [what]
+    {
+        std::atexit(tellRequests);
+        scarcity::start(what, 1000000000, false);
+    };
+    return statusOf(desk, count) == 0 ? told->requests : 0;
+}
+
+bool Worker::learn(const Desk& desk, const Job& job)
+{
+    const auto results = [&](bool withSettings)
+    {
+        desk.layOut();
+        if (!withSettings)
+        {
+            desk.takeSettingsAway();
+        }
+        return statusOf(desk, [] {}) == 0 ? desk.results() : Results();
+    };
+    m_known.withoutSettings = results(false);
+    m_known.wanted = results(true);
+    desk.layOut();
+    m_files = desk.fileCount();
+    m_known.old = m_known.wantedButSettings = desk.results();
+    const bool learnt = m_known.wanted.size() == m_known.old.size() &&
+                        m_known.wanted != m_known.old && m_known.wanted != m_known.withoutSettings;
+    if (!learnt)
+    {
+        ++board->failed;
+        std::printf("FAILED %s without a fault: %s\n", job.name, desk.errors().c_str());
+        return false;
+    }
+    std::copy(m_known.wanted.begin() + 1, m_known.wanted.end(),
+              m_known.wantedButSettings.begin() + 1);
+    return true;
+}
+
+bool Worker::isAllowed(const Results& now, const Mode& mode) const
+{
+    const bool may =
+        mode.what == scarcity::Of::files && std::strstr(told->refused, settings) != nullptr;
+    for (std::size_t i = 0; i < std::size(allowed) && may; ++i)
+    {
+        if (now == m_known.*allowed[i].results)
+        {
+            ++board->used[i];
+            return true;
+        }
+    }
+    return false;
 }
 
 bool isOneLine(const std::string& errors)
@@ -157,90 +209,116 @@ bool isOneLine(const std::string& errors)
 }
 
 // Empty when all is well.
-std::string complaint(const Desk& desk, int status, const std::vector<std::string>& wanted,
-                      const std::vector<std::string>& old)
+std::string Worker::complaint(const Desk& desk, const Mode& mode, int status) const
 {
     if (!WIFEXITED(status) || WEXITSTATUS(status) > 1)
     {
         return WIFSIGNALED(status) ? strsignal(WTERMSIG(status)) : "a strange status";
     }
-    if (status != 0 && !isOneLine(desk.errors()))
+    const Results now = desk.results();
+    if (status == 0)
+    {
+        return now == m_known.wanted || isAllowed(now, mode)
+                   ? ""
+                   : "it ends well without having done its work";
+    }
+    if (mode.what == scarcity::Of::fileLength || !isOneLine(desk.errors()))
     {
         return "it does not say so in one line: " + desk.errors();
     }
-    const std::vector<std::string> now = desk.results();
     for (std::size_t i = 0; i < now.size(); ++i)
     {
-        if (now[i] != wanted[i] && (status == 0 || now[i] != old[i]))
+        if (now[i] != m_known.wanted[i] && now[i] != m_known.old[i])
         {
-            return status == 0 ? "it ends well without having done its work"
-                               : "a file is neither the old nor the new one";
+            return "a file is neither the old nor the new one";
         }
     }
     return "";
 }
 
-void tryJob(const Desk& desk, const Job& job, int worker, int workers)
+void Worker::tryOnce(const Desk& desk, const Job& job, const Mode& mode, long number)
 {
-    const std::vector<std::string> wanted = resultsWithout(desk);
-    desk.clear();
-    const std::vector<std::string> old = desk.results();
-    const std::ptrdiff_t files = desk.fileCount();
-    const long requests = board->requests;
-    if (wanted.empty() || wanted == old || requests < 1000)
+    told->refused[0] = 0;
+    const int status = statusOf(desk,
+                                [&]
+                                {
+                                    scarcity::noteRefusedIn(told->refused);
+                                    scarcity::start(mode.what, number, mode.forGood, mode.error);
+                                });
+    std::string what = complaint(desk, mode, status);
+    what += desk.fileCount() == m_files ? "" : " other files are left";
+    ++board->tried;
+    if (!what.empty())
     {
         ++board->failed;
-        std::printf("FAILED %s without a fault: %s\n", job.name, desk.errors().c_str());
-        return;
-    }
-    if (worker == 0)
-    {
-        std::printf("%s: %ld requests for memory\n", job.name, requests);
+        std::printf("FAILED %s, %s, request %ld, %s: %s\n", job.name, mode.name, number,
+                    told->refused, what.c_str());
         std::fflush(stdout);
     }
-    for (long number = 1 + worker; number <= requests; number += workers)
+}
+
+void Worker::tryMode(const Desk& desk, const Job& job, const Mode& mode)
+{
+    const long requests = requestsOf(desk, mode.what);
+    if (requests < 5)
     {
-        const bool forGood = number % everyFewth == 0;
-        for (const bool always : {false, true})
+        ++board->failed;
+        std::printf("FAILED %s, %s: only %ld requests\n", job.name, mode.name, requests);
+        return;
+    }
+    if (m_number == 0)
+    {
+        std::printf("%s, %s: %ld requests\n", job.name, mode.name, requests);
+        std::fflush(stdout);
+    }
+    const long first = (1 + m_number) * mode.everyFewth;
+    for (long number = first; number <= requests; number += m_count * mode.everyFewth)
+    {
+        desk.layOut();
+        tryOnce(desk, job, mode, number);
+    }
+}
+
+void Worker::work()
+{
+    for (const Job& job : jobs)
+    {
+        const Desk desk(m_folder / (job.script + std::to_string(m_number)), job);
+        for (const Mode& mode : modes)
         {
-            if (always && !forGood)
+            if (learn(desk, job))
             {
-                continue;
+                tryMode(desk, job, mode);
             }
-            const int status = statusOf(
-                desk, [&] { scarcity::start(scarcity::Of::memory, number, always, ENOMEM); });
-            std::string what = complaint(desk, status, wanted, old);
-            what += desk.fileCount() == files ? "" : " other files are left";
-            ++board->tried;
-            if (!what.empty())
-            {
-                ++board->failed;
-                std::printf("FAILED %s, memory%s, request %ld: %s\n", job.name,
-                            always ? " from then on" : "", number, what.c_str());
-                std::fflush(stdout);
-            }
-            desk.clear();
         }
     }
+    std::fflush(stdout);
+}
+
+// Each reason must be met, or it is none any more.
+long reasonsNotMet()
+{
+    long count = 0;
+    for (std::size_t i = 0; i < std::size(allowed); ++i)
+    {
+        const long used = board->used[i];
+        std::printf("%ld runs: %s\n", used, allowed[i].reason);
+        count += used == 0 ? 1 : 0;
+    }
+    return count;
 }
 }  // namespace
 
 Tried tryRuns(const fs::path& folder)
 {
-    board = static_cast<Board*>(
-        mmap(nullptr, sizeof(Board), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    board = shared<Board>();
     const int workers = int(std::max(1L, sysconf(_SC_NPROCESSORS_ONLN)));
     std::fflush(stdout);
-    for (int worker = 0; worker < workers; ++worker)
+    for (int number = 0; number < workers; ++number)
     {
         if (fork() == 0)
         {
-            for (const Job& job : jobs)
-            {
-                const Desk desk(folder / (job.script + std::to_string(worker)), job);
-                tryJob(desk, job, worker, workers);
-            }
-            std::fflush(stdout);
+            Worker(folder, number, workers).work();
             _exit(0);
         }
     }
@@ -249,5 +327,5 @@ Tried tryRuns(const fs::path& folder)
     {
         ended = ended && status == 0;
     }
-    return {board->tried, board->failed + (ended ? 0 : 1)};
+    return {board->tried, board->failed + reasonsNotMet() + (ended ? 0 : 1)};
 }

@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,6 +14,7 @@
 #include "host/runtime/outofmemory.h"
 #include "host/windows/format.h"
 #include "host/windows/text.h"
+#include "host/windows/emulated/rewrite.h"
 #include "host/windows/emulated/textfile.h"
 
 namespace
@@ -63,26 +65,40 @@ std::optional<Mode> parseMode(std::wstring text)
     return mode.encoding ? std::optional(mode) : std::nullopt;
 }
 
-struct CloseFile
+struct File
 {
-    void operator()(FILE* file) const { std::fclose(file); }
+    explicit File(int opened = -1) : number(opened) {}
+    ~File() { close(); }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    bool close() { return number >= 0 && ::close(std::exchange(number, -1)) == 0; }
+
+    int number;
 };
-using File = std::unique_ptr<FILE, CloseFile>;
 
 std::optional<std::string> contentOf(const std::string& path)
 {
-    const File file(std::fopen(path.c_str(), "rb"));
-    if (file == nullptr)
+    const File file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (file.number < 0)
     {
         return std::nullopt;
     }
     std::string content;
     char block[4096];
-    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get()))
+    for (;;)
     {
-        content.append(block, count);
+        const ssize_t count = ::read(file.number, block, sizeof block);
+        if (count == 0)
+        {
+            return content;
+        }
+        if (count < 0 && errno != EINTR)
+        {
+            return std::nullopt;
+        }
+        content.append(block, count > 0 ? std::size_t(count) : 0);
     }
-    return std::ferror(file.get()) == 0 ? std::optional(content) : std::nullopt;
 }
 
 // Streams that hold units of two bytes instead of characters of one.
@@ -141,9 +157,10 @@ FILE* openReader(const std::string& path, std::optional<host::Encoding> encoding
 // run that ends in between leaves no half of a text.
 struct Writer
 {
-    File file;
+    std::string path;
     bool appends;
-    std::string content;
+    File file{};
+    std::string content{};
 };
 
 // The C library, which calls this, would leave the stream locked if something were thrown.
@@ -161,24 +178,23 @@ ssize_t writeText(void* cookie, const char* bytes, std::size_t size)
 int closeWriter(void* cookie)
 {
     const std::unique_ptr<Writer> writer(static_cast<Writer*>(cookie));
-    // A device cannot be made shorter and need not be.
-    const bool emptied =
-        writer->appends || ftruncate(fileno(writer->file.get()), 0) == 0 || errno == EINVAL;
-    const std::string& content = writer->content;
-    const bool written = emptied && std::fwrite(content.data(), 1, content.size(),
-                                                writer->file.get()) == content.size();
-    return std::fclose(writer->file.release()) == 0 && written ? 0 : EOF;
+    const host::NoThrowing writing;
+    const int file = writer->file.number;
+    const bool written = writer->appends ? host::writeFully(file, writer->content)
+                                         : host::rewrite(file, writer->path, writer->content);
+    return writer->file.close() && written ? 0 : EOF;
 }
 
-FILE* openWriter(const std::string& path, char access)
+FILE* openWriter(const std::string& path, bool appends)
 {
-    File file(std::fopen(path.c_str(), "a"));
-    if (file == nullptr)
+    std::unique_ptr<Writer> writer(new Writer{path, appends});
+    const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | (appends ? O_APPEND : 0);
+    writer->file.number = ::open(path.c_str(), flags, 0666);
+    if (writer->file.number < 0)
     {
         return nullptr;
     }
-    auto* writer = new Writer{std::move(file), access == 'a', {}};
-    return fopencookie(writer, "w", {nullptr, writeText, nullptr, closeWriter});
+    return fopencookie(writer.release(), "w", {nullptr, writeText, nullptr, closeWriter});
 }
 
 // "C" locale of that runtime.
@@ -210,7 +226,7 @@ FILE* _wfopen(const wchar_t* path, const wchar_t* modeText)
         return std::fopen(native.c_str(), access);
     }
     return mode->access == 'r' ? openReader(native, mode->encoding)
-                               : openWriter(native, mode->access);
+                               : openWriter(native, mode->access == 'a');
 }
 
 wint_t crtFgetwc(FILE* stream)

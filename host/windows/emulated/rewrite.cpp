@@ -1,0 +1,81 @@
+#include "host/windows/emulated/rewrite.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <memory>
+#include <tuple>
+
+namespace host
+{
+namespace
+{
+// The path without links; empty for a file that nothing can be put in place of.
+std::string pathToReplace(const struct stat& old, const std::string& path)
+{
+    if (!S_ISREG(old.st_mode) || old.st_nlink != 1)
+    {
+        return {};
+    }
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
+                                                           &std::free);
+    return real != nullptr ? real.get() : std::string();
+}
+
+bool fill(int file, const struct stat& old, std::string_view bytes)
+{
+    // Only the administrator may give files away; for anyone else the new owner is who writes.
+    std::ignore = ::fchown(file, old.st_uid, old.st_gid);
+    const bool filled = ::fchmod(file, old.st_mode & 07777) == 0 && writeFully(file, bytes);
+    return ::close(file) == 0 && filled;
+}
+
+bool rewriteInPlace(int file, std::string_view bytes)
+{
+    // A device cannot be made shorter and need not be.
+    return (::ftruncate(file, 0) == 0 || errno == EINVAL) && writeFully(file, bytes);
+}
+}  // namespace
+
+bool writeFully(int file, std::string_view bytes)
+{
+    while (!bytes.empty())
+    {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR)
+        {
+            return false;
+        }
+        bytes.remove_prefix(written > 0 ? std::size_t(written) : 0);
+    }
+    return true;
+}
+
+bool rewrite(int file, const std::string& path, std::string_view bytes)
+{
+    struct stat old;
+    if (::fstat(file, &old) != 0)
+    {
+        return false;
+    }
+    const std::string target = pathToReplace(old, path);
+    const std::string beside = target + ".arxhost-" + std::to_string(::getpid()) + ".tmp";
+    const int replacement =
+        target.empty() ? -1 : ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (replacement < 0)
+    {
+        return rewriteInPlace(file, bytes);
+    }
+    if (fill(replacement, old, bytes) && ::rename(beside.c_str(), target.c_str()) == 0)
+    {
+        return true;
+    }
+    const int error = errno;
+    ::unlink(beside.c_str());
+    errno = error;
+    return false;
+}
+}  // namespace host
