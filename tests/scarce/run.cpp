@@ -25,13 +25,17 @@ const char* const settings = "properties.ini";
 
 const Job jobs[] = {
     {"a grid from lines",
-     "typed.txt", "zv_netrax\n0,0\n25,15\nA\n",
+     "typed.txt",   "zv_netrax\n0,0\n25,15\nA\n",
      {"--save", "saved.dxf"},
      {settings, "saved.dxf"}},
     {"a grid from a script",
-     "typed.scr", "zv_netrax 0,0 25,15 A\n",
+     "typed.scr",   "zv_netrax 0,0 25,15 A\n",
      {"--save", "saved.dxf"},
      {settings, "saved.dxf"}},
+    {"a plot",
+     "plotted.txt", "zv_netrax\n0,0\n25,15\nA\n",
+     {"--plot", "plot.png"},
+     {settings, "plot.png"} },
 };
 
 // How things run out.
