@@ -30,9 +30,10 @@ endfunction()
 
 function(complete_program)
   file(GLOB console_sources CONFIGURE_DEPENDS program/console/*.cpp)
+  file(GLOB picture_sources CONFIGURE_DEPENDS pictures/windows/*.cpp)
   file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp plot/windows/*.cpp)
   target_sources(arxhost PRIVATE ${console_sources} program/console/arxhost.rc
-    pictures/windows/dialogpicture.cpp ${plot_sources})
+    ${picture_sources} ${plot_sources})
   target_link_libraries(arxhost PRIVATE gdiplus ole32)
 endfunction()
 

@@ -124,9 +124,4 @@ double Canvas::textHeight() const
     cairo_font_extents(m_cairo, &font);
     return font.ascent + font.descent;
 }
-
-bool Canvas::save(const std::string& file) const
-{
-    return cairo_surface_write_to_png(m_surface, file.c_str()) == CAIRO_STATUS_SUCCESS;
-}
 }  // namespace host

@@ -1,12 +1,11 @@
 // What the pictures of dialogs are drawn with: pixels of a screen of 96 dots to the inch.
 #pragma once
 
-#include <cairo.h>
-
 #include <string>
 #include <string_view>
 
 #include "host/dialogs/color.h"
+#include "host/pictures/surfacebytes.h"
 
 namespace host
 {
@@ -48,8 +47,8 @@ public:
     double textWidth(std::wstring_view text) const;
     double textHeight() const;
 
-    // False when the file cannot be written.
-    bool save(const std::string& file) const;
+    // The bytes of a PNG file; empty when memory ran out.
+    std::string png() const { return pngOf(m_surface); }
 
 private:
     void color(Color color);

@@ -239,7 +239,7 @@ void drawCaption(Canvas& canvas, double width, const std::wstring& caption)
 }
 }  // namespace
 
-std::optional<std::string> drawDialog(HWND dialog, const std::string& file)
+std::string drawDialog(HWND dialog)
 {
     const Control frame = describe(dialog);
     const int width = int(frame.box.width) + 2 * border;
@@ -258,10 +258,6 @@ std::optional<std::string> drawDialog(HWND dialog, const std::string& file)
         drawControl(canvas, control);
     }
     canvas.frame({0, 0, double(width), double(height)}, edge);
-    if (!canvas.save(file))
-    {
-        return file + ": the picture cannot be written";
-    }
-    return std::nullopt;
+    return canvas.png();
 }
 }  // namespace host

@@ -1,7 +1,6 @@
 // Pictures of dialogs, for documentation and for looking at them.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "windows.h"
@@ -10,6 +9,6 @@
 namespace host
 {
 // Draws the dialog as it stands, with its frame and caption, twice the size it has on a screen of
-// 96 dots to the inch. PNG; an existing file is replaced. The reason when it cannot be written.
-std::optional<std::string> drawDialog(HWND dialog, const std::string& file);
+// 96 dots to the inch. The bytes of a PNG file; empty when memory ran out.
+std::string drawDialog(HWND dialog);
 }  // namespace host

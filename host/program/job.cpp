@@ -5,6 +5,7 @@
 #include "host/dialogs/modalloop.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
+#include "host/dxf/save_atomic.h"
 #include "host/editor/commands.h"
 #include "host/editor/editor.h"
 #include "host/editor/hostcommands.h"
@@ -95,13 +96,31 @@ bool plot(const Options& options, FrontEnd& frontEnd)
     return plotted.error.empty();
 }
 
-// Draws every dialog over the one before, so that the last one stays.
+std::optional<std::string> savePicture(const std::string& path, const std::string& bytes)
+{
+    if (bytes.empty())
+    {
+        return path + ": no dialog was shown that could be drawn";
+    }
+    try
+    {
+        dxf::saveAtomically(path, {}, [&](dxf::TagWriter& writer) { writer.raw(bytes); });
+        return std::nullopt;
+    }
+    catch (const dxf::Error& error)
+    {
+        return error.what();
+    }
+}
+
+// Of the dialogs that are shown the last one is kept.
 bool runInputAndDraw(Editor& editor, const std::string& picture)
 {
-    std::optional<std::string> error = picture + ": no dialog was shown that could be drawn";
-    setDialogObserver([&](HWND dialog) { error = drawDialog(dialog, picture); });
+    std::string bytes;
+    setDialogObserver([&](HWND dialog) { bytes = drawDialog(dialog); });
     const bool ended = runInput(editor);
     setDialogObserver({});
+    const auto error = savePicture(picture, bytes);
     if (error)
     {
         editor.report(fromUtf8(*error));

@@ -1,7 +1,6 @@
 #include "host/pictures/dialogpicture.h"
 
 #include "host/pictures/windows/drawing.h"
-#include "host/windows/text.h"
 
 namespace host
 {
@@ -37,18 +36,13 @@ HBITMAP photograph(HWND dialog)
 }
 }  // namespace
 
-std::optional<std::string> drawDialog(HWND dialog, const std::string& file)
+std::string drawDialog(HWND dialog)
 {
     const Drawing drawing;
     paintAll(dialog);
     const HBITMAP bitmap = photograph(dialog);
     const std::unique_ptr<Gdiplus::Bitmap> image(Gdiplus::Bitmap::FromHBITMAP(bitmap, nullptr));
-    const Gdiplus::Status status = image->Save(pathOf(file).c_str(), &pngEncoder, nullptr);
     DeleteObject(bitmap);
-    if (status != Gdiplus::Ok)
-    {
-        return file + ": cannot be written";
-    }
-    return std::nullopt;
+    return pngOf(*image);
 }
 }  // namespace host

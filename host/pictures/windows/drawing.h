@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include <objidl.h>
 
@@ -9,10 +10,6 @@
 
 namespace host
 {
-inline constexpr CLSID pngEncoder = {
-    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}
-};
-
 // It can be called for as long as one of these lives.
 class Drawing
 {
@@ -29,4 +26,7 @@ public:
 private:
     ULONG_PTR m_token = 0;
 };
+
+// The bytes of a PNG file; empty when memory ran out.
+std::string pngOf(Gdiplus::Bitmap& bitmap);
 }  // namespace host

@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include "host/pictures/surfacebytes.h"
 #include "host/plot/cairo/typeface.h"
 
 namespace host::plot
@@ -12,12 +13,6 @@ namespace host::plot
 namespace
 {
 const double pointsInMillimetre = 72 / 25.4;
-
-cairo_status_t append(void* bytes, const unsigned char* data, unsigned length)
-{
-    static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
-    return CAIRO_STATUS_SUCCESS;
-}
 
 class CairoInk : public Ink
 {
@@ -67,10 +62,10 @@ void CairoInk::open(const Sheet& sheet)
                                                    int(std::lround(height)));
             break;
         case FileKind::pdf:
-            m_surface = cairo_pdf_surface_create_for_stream(append, &m_bytes, width, height);
+            m_surface = cairo_pdf_surface_create_for_stream(appendTo, &m_bytes, width, height);
             break;
         case FileKind::svg:
-            m_surface = cairo_svg_surface_create_for_stream(append, &m_bytes, width, height);
+            m_surface = cairo_svg_surface_create_for_stream(appendTo, &m_bytes, width, height);
             break;
     }
     m_cairo = cairo_create(m_surface);
@@ -85,13 +80,14 @@ CairoInk::~CairoInk()
 
 std::string CairoInk::finish()
 {
-    const bool good = cairo_status(m_cairo) == CAIRO_STATUS_SUCCESS;
-    if (m_kind == FileKind::png && good)
+    if (m_kind == FileKind::png)
     {
-        cairo_surface_write_to_png_stream(m_surface, append, &m_bytes);
+        m_bytes = pngOf(m_surface);
     }
     cairo_surface_finish(m_surface);
-    return good ? std::move(m_bytes) : std::string();
+    const bool isWhole = cairo_status(m_cairo) == CAIRO_STATUS_SUCCESS &&
+                         cairo_surface_status(m_surface) == CAIRO_STATUS_SUCCESS;
+    return isWhole ? std::move(m_bytes) : std::string();
 }
 
 void CairoInk::use(Color color)

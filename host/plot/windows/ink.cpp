@@ -46,7 +46,7 @@ public:
     void disc(const AcGePoint3d& centre, double diameter, Color color) override;
     void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
               std::wstring_view text, Color color) override;
-    std::string finish() override;
+    std::string finish() override { return pngOf(m_bitmap); }
 
 private:
     void fillPath(const Gdiplus::GraphicsPath& path, Color color);
@@ -104,27 +104,6 @@ void PictureInk::text(const AcGePoint3d& start, const AcGeVector3d& along, const
                                   Gdiplus::REAL(start.y));
     path->Transform(&toSheet);
     fillPath(*path, color);
-}
-
-std::string PictureInk::finish()
-{
-    IStream* stream = nullptr;
-    if (CreateStreamOnHGlobal(nullptr, TRUE, &stream) != S_OK)
-    {
-        return {};
-    }
-    std::string bytes;
-    HGLOBAL memory = nullptr;
-    if (m_bitmap.Save(stream, &pngEncoder, nullptr) == Gdiplus::Ok &&
-        GetHGlobalFromStream(stream, &memory) == S_OK)
-    {
-        STATSTG state;
-        stream->Stat(&state, STATFLAG_NONAME);
-        bytes.assign(static_cast<const char*>(GlobalLock(memory)), state.cbSize.QuadPart);
-        GlobalUnlock(memory);
-    }
-    stream->Release();
-    return bytes;
 }
 }  // namespace
 

@@ -1,0 +1,25 @@
+#include "host/pictures/surfacebytes.h"
+
+#include <new>
+
+namespace host
+{
+// Nothing may be thrown through the library.
+cairo_status_t appendTo(void* bytes, const unsigned char* data, unsigned length)
+try
+{
+    static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+    return CAIRO_STATUS_SUCCESS;
+}
+catch (const std::bad_alloc&)
+{
+    return CAIRO_STATUS_NO_MEMORY;
+}
+
+std::string pngOf(cairo_surface_t* surface)
+{
+    std::string bytes;
+    const cairo_status_t status = cairo_surface_write_to_png_stream(surface, appendTo, &bytes);
+    return status == CAIRO_STATUS_SUCCESS ? bytes : std::string();
+}
+}  // namespace host
