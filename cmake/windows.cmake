@@ -32,7 +32,7 @@ function(complete_program)
   file(GLOB console_sources CONFIGURE_DEPENDS program/console/*.cpp)
   file(GLOB picture_sources CONFIGURE_DEPENDS pictures/windows/*.cpp)
   file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp plot/windows/*.cpp)
-  target_sources(arxhost PRIVATE ${console_sources} program/console/arxhost.rc
+  target_sources(arxhost PRIVATE ${console_sources} program/console/arxhost.rc program/console/manifest.rc
     ${picture_sources} ${plot_sources})
   target_link_libraries(arxhost PRIVATE gdiplus ole32)
 endfunction()

@@ -41,7 +41,7 @@ add_custom_command(OUTPUT ${renamed_host} VERBATIM
 file(GLOB plot_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/host/plot/*.cpp
   ${CMAKE_SOURCE_DIR}/host/plot/windows/*.cpp ${CMAKE_SOURCE_DIR}/host/pictures/windows/drawing.cpp)
 add_executable(unit_tests ${test_sources} ${plot_sources} ${renamed_host}
-  ${CMAKE_SOURCE_DIR}/host/program/console/arxhost.rc)
+  ${CMAKE_SOURCE_DIR}/host/program/console/manifest.rc)
 target_compile_features(unit_tests PRIVATE cxx_std_20)
 # Compiling takes longer than running; and a false alarm of this compiler.
 target_compile_options(unit_tests PRIVATE -O0 -Wno-array-bounds -Wno-attributes)
