@@ -29,7 +29,6 @@ public:
     ~Out()
     {
         flush();
-        fsync(m_file);
         close(m_file);
     }
     Out(const Out&) = delete;
