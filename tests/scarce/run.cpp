@@ -49,13 +49,14 @@ struct Mode
 };
 
 const Mode modes[] = {
-    {"memory, once",         scarcity::Of::memory,     false, 1,  ENOMEM},
-    {"memory, from then on", scarcity::Of::memory,     true,  11, ENOMEM},
-    {"a full disk",          scarcity::Of::files,      false, 1,  ENOSPC},
-    {"a full disk for good", scarcity::Of::files,      true,  1,  ENOSPC},
-    {"a broken disk",        scarcity::Of::files,      false, 1,  EIO   },
-    {"reads and writes cut", scarcity::Of::fileLength, false, 1,  0     },
-    {"all of them cut",      scarcity::Of::fileLength, true,  1,  0     },
+    {"memory, once",           scarcity::Of::memory,     false, 1,  ENOMEM},
+    {"memory, from then on",   scarcity::Of::memory,     true,  11, ENOMEM},
+    {"a full disk",            scarcity::Of::files,      false, 1,  ENOSPC},
+    {"a full disk for good",   scarcity::Of::files,      true,  1,  ENOSPC},
+    {"a broken disk",          scarcity::Of::files,      false, 1,  EIO   },
+    {"a broken disk for good", scarcity::Of::files,      true,  1,  EIO   },
+    {"reads and writes cut",   scarcity::Of::fileLength, false, 1,  0     },
+    {"all of them cut",        scarcity::Of::fileLength, true,  1,  0     },
 };
 
 // What the files hold...
