@@ -21,7 +21,7 @@ ESC = "^C"
 # What is answered in the dialog up to a prompt of a pick: the lengths (that of a cross can be picked for
 # crosses alone), the second point of a length, and the base point.
 PICKS = [["click 110"], ["click 111"], ["click 116", "click 118"], ["click 134"], ["click 110", "0,0"],
-         ["click 124"]]
+         ["click 111", "0,0"], ["click 116", "click 118", "0,0"], ["click 134", "0,0"], ["click 124"]]
 REBUILDS = [["x"], ["S", "click 2"], ["S", "click 1"]]  # another answer; the dialog cancelled; closed with OK
 LOCKED = ["plan-locked.dxf"]  # whose current layer is
 
