@@ -59,7 +59,6 @@ void ObjectAccess::setPoints(AcDbLine& line, const AcGePoint3d& start, const AcG
 {
     line.m_start = start;
     line.m_end = end;
-    line.m_forWrite = false;  // a new line is open
 }
 
 AcDbObject* resolve(AcDbStub* stub)
@@ -73,6 +72,7 @@ AcDbObject* resolve(AcDbStub* stub)
     AcDbLine* const retired = core.retired.take();
     AcDbLine* const line = retired != nullptr ? retired : new AcDbLine();
     ObjectAccess::stub(*line) = stub;
+    ObjectAccess::forWrite(*line) = false;  // a new object is open
     ObjectAccess::setPoints(*line, AcGePoint3d(at[0], at[1], at[2]),
                             AcGePoint3d(at[3], at[4], at[5]));
     ObjectAccess::applyStyle(*line, core.lineStyles[stub->style]);

@@ -15,14 +15,14 @@ enum class FileKind
     svg
 };
 
-// Millimetres from the upper left corner of the sheet, Y downwards.
 struct Sheet
 {
     FileKind kind;
-    double width;
+    double width;  // millimetres
     double height;
 };
 
+// Everything is in millimetres from the upper left corner of the sheet, Y downwards.
 class Ink
 {
 public:
@@ -50,7 +50,7 @@ std::unique_ptr<Ink> openInk(const Sheet& sheet);
 // In heights of a capital.
 double textWidth(std::wstring_view text);
 
-// Dots a millimetre: the longer side of a picture has this many dots, whatever its size.
+// Of a picture, to the millimetre: its longer side has as many dots on every sheet.
 inline double dotsOf(const Sheet& sheet)
 {
     const double longerSide = 2400;
