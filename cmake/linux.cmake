@@ -26,8 +26,8 @@ function(complete_program)
   target_link_libraries(plot PUBLIC pictures PRIVATE ${CAIRO})
 
   file(GLOB terminal_sources CONFIGURE_DEPENDS program/terminal/*.cpp)
-  target_sources(arxhost PRIVATE ${terminal_sources})
-  target_link_libraries(arxhost PRIVATE pictures plot ${EDIT})
+  target_sources(program PRIVATE ${terminal_sources})
+  target_link_libraries(program PUBLIC pictures plot ${EDIT})
 endfunction()
 
 # The compiled resources travel inside the module, where the host's start-up code finds them.

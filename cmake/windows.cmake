@@ -32,9 +32,9 @@ function(complete_program)
   file(GLOB console_sources CONFIGURE_DEPENDS program/console/*.cpp)
   file(GLOB picture_sources CONFIGURE_DEPENDS pictures/windows/*.cpp)
   file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp plot/windows/*.cpp)
-  target_sources(arxhost PRIVATE ${console_sources} program/console/arxhost.rc program/console/manifest.rc
-    ${picture_sources} ${plot_sources})
-  target_link_libraries(arxhost PRIVATE gdiplus ole32)
+  target_sources(program PRIVATE ${console_sources} ${picture_sources} ${plot_sources})
+  target_link_libraries(program PUBLIC gdiplus ole32)
+  target_sources(arxhost PRIVATE program/console/arxhost.rc program/console/manifest.rc)
 endfunction()
 
 function(add_module_resources)
@@ -46,6 +46,7 @@ function(complete_module)
   # The C runtime's own wide calls, not those that this compiler puts in their place.
   target_compile_options(module_objects PRIVATE
     -D__USE_MINGW_ANSI_STDIO=0 "SHELL:-include stdio.h" "SHELL:-include wchar.h")
+  set_target_properties(module_objects PROPERTIES UNITY_BUILD ON)  # Windows' headers are long
   target_sources(netrax PRIVATE resources/netrax.def)
   target_link_libraries(netrax PRIVATE shlwapi)
 endfunction()

@@ -84,7 +84,7 @@ std::wstring valueOf(HWND control, ControlKind kind)
 }
 
 // Puts the readable view together, line by line. A label says what the field after it holds.
-class View
+class ReadableView
 {
 public:
     void add(HWND control);
@@ -98,7 +98,7 @@ private:
     HWND m_label = nullptr;  // waits for its field
 };
 
-void View::add(HWND control)
+void ReadableView::add(HWND control)
 {
     const ControlKind kind = kindOf(control);
     const bool field = kind == ControlKind::edit || kind == ControlKind::combo;
@@ -119,14 +119,14 @@ void View::add(HWND control)
     }
 }
 
-std::wstring View::text()
+std::wstring ReadableView::text()
 {
     putLabel();
     return m_text;
 }
 
 // "-" marks what is disabled.
-void View::putLine(HWND control, const std::wstring& contents)
+void ReadableView::putLine(HWND control, const std::wstring& contents)
 {
     const std::wstring id = std::to_wstring(GetDlgCtrlID(control));
     m_text += (IsWindowEnabled(control) ? L"  " : L"- ") +
@@ -134,7 +134,7 @@ void View::putLine(HWND control, const std::wstring& contents)
               L"\n";
 }
 
-void View::putLabel()
+void ReadableView::putLabel()
 {
     if (const HWND label = std::exchange(m_label, nullptr))
     {
@@ -176,7 +176,7 @@ std::wstring controlLine(HWND control)
 
 std::wstring readableView(HWND dialog)
 {
-    View view;
+    ReadableView view;
     for (HWND control = GetWindow(dialog, GW_CHILD); control;
          control = GetWindow(control, GW_HWNDNEXT))
     {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
 
 namespace host::dxf
 {
@@ -10,4 +11,10 @@ struct Error : std::runtime_error
 {
     using std::runtime_error::runtime_error;
 };
+
+// `what` is wrong with the file of that path.
+[[noreturn]] inline void fail(const std::string& path, const std::string& what)
+{
+    throw Error(path + ": " + what);
+}
 }  // namespace host::dxf

@@ -12,11 +12,6 @@ namespace host::dxf
 {
 namespace
 {
-[[noreturn]] void fail(const std::string& path, const std::string& what)
-{
-    throw Error(path + ": " + what);
-}
-
 template <class Number, class... Base>
 bool parse(std::string_view value, Number& number, Base... base)
 {

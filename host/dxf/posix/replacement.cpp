@@ -16,8 +16,6 @@
 
 namespace host::dxf
 {
-namespace
-{
 namespace fs = std::filesystem;
 
 // Beyond the process's limit for file sizes a write is to fail instead of ending the run.
@@ -110,6 +108,8 @@ void TemporaryFile::takePlaceOf(const fs::path& target)
     m_exists = false;
 }
 
+namespace
+{
 // So that the new name outlives a power cut. A folder that cannot do this is no reason to report a
 // failure: the drawing is saved.
 void syncFolder(const fs::path& folder)

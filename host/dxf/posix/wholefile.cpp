@@ -11,11 +11,6 @@ namespace host::dxf
 {
 namespace
 {
-[[noreturn]] void fail(const std::string& path, const std::string& what)
-{
-    throw Error(path + ": " + what);
-}
-
 struct Descriptor
 {
     ~Descriptor() { ::close(number); }

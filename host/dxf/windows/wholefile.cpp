@@ -16,11 +16,6 @@ namespace host::dxf
 {
 namespace
 {
-[[noreturn]] void fail(const std::string& path, const std::string& what)
-{
-    throw Error(path + ": " + what);
-}
-
 struct Descriptor
 {
     ~Descriptor() { ::_close(number); }
