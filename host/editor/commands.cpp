@@ -114,16 +114,16 @@ Borrowed::~Borrowed()
     {
         documents().unlock(m_command->globalName());
     }
-    // Objects that an outer command holds open while it asks are no business of the inner one.
-    if (!outer)
-    {
-        requireNothingOpen(*m_document.database(), toUtf8(shownName(*m_command)));
-    }
     checkResources();
     checkMeter();
     if (m_ownResources)
     {
         m_document.resources.pop();
+    }
+    // Objects that an outer command holds open while it asks are no business of the inner one.
+    if (!outer)
+    {
+        requireNothingOpen(*m_document.database(), toUtf8(shownName(*m_command)));
     }
 }
 
