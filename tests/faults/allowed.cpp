@@ -3,81 +3,79 @@
 #include <sys/mman.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "dbents.h"
 #include "dbgroup.h"
+#include "tests/faults/faults.h"
 
 namespace
 {
+enum class Kind
+{
+    state,    // something is not given back: its name
+    memory,   // an entity or a group that found no place
+    loading,  // the module does not come or go: how the host's word of it ends
+    stop      // the host is strict and ends the run: how its word of it begins
+};
+
 struct Row
 {
+    Kind kind;
     const char* failedCall;
-    const char* left;  // what may differ then, or how the host's report of it begins
+    const char* left;
     const char* reason;
 };
 
-const Row differences[] = {
-    {"acedSetVar",             "UCSICON",   "the call that gives it back is the one that fails"},
-    {"acedSetVar",             "UCSFOLLOW", "likewise"                                         },
-    {"acedRestorePreviousUCS", "UCS",       "likewise"                                         },
-};
-
-// Entities and groups that found no place.
 const char* const lostBytes =
     "the host may have noted the address before it refused: better a few lost bytes than a "
     "dangling one";
-const Row refusals[] = {
-    {"acdbHostApplicationServices",            "", lostBytes},
-    {"AcDbDatabase::getBlockTable",            "", lostBytes},
-    {"AcDbBlockTable::getAt",                  "", lostBytes},
-    {"AcDbBlockTableRecord::appendAcDbEntity", "", lostBytes},
-    {"AcDbDatabase::getGroupDictionary",       "", lostBytes},
-    {"AcDbDictionary::setAt",                  "", lostBytes},
-};
-
-// The host is strict and ends the run.
 const char* const outline = "arxhost: ZV_NETRAX: the AcDb2dPolyline with handle ";
 const char* const keptOpen =
     "along the UCS a rectangle for the while of the call tells what lies within; without it the "
     "outline stays open for good, so that the command cannot take it back, and the frame left "
     "behind shows the draughtsman that the grid has failed";
-const Row stops[] = {
-    {"acdbHostApplicationServices",            outline,                    keptOpen                                                        },
-    {"AcDbDatabase::getBlockTable",            outline,                    keptOpen                                                        },
-    {"AcDbBlockTable::getAt",                  outline,                    keptOpen                                                        },
-    {"AcDbBlockTableRecord::appendAcDbEntity", outline,                    keptOpen                                                        },
-    {"AcDbObjectPointer",                      outline,                    keptOpen                                                        },
-    {"AcEdCommandStack::removeCmd",
-     "arxhost: kUnloadAppMsg: ",                                           "the call that takes the command away is the one that fails"    },
-    {"AcRxDictionary::at",
-     "arxhost: kUnloadAppMsg: ",                                           "without the stack of commands there is nothing to take it from"},
-    {"acDocManager",                           "arxhost: removeReactor: ", "without the manager there is nobody to leave"                  },
+const Row rows[] = {
+    {Kind::state,   "acedSetVar",                             "UCSICON",                   "the call that gives it back is the one that fails"             },
+    {Kind::state,   "acedSetVar",                             "UCSFOLLOW",                 "likewise"                                                      },
+    {Kind::state,   "acedRestorePreviousUCS",                 "UCS",                       "likewise"                                                      },
+    {Kind::memory,  "acdbHostApplicationServices",            "",                          lostBytes                                                       },
+    {Kind::memory,  "AcDbDatabase::getBlockTable",            "",                          lostBytes                                                       },
+    {Kind::memory,  "AcDbBlockTable::getAt",                  "",                          lostBytes                                                       },
+    {Kind::memory,  "AcDbBlockTableRecord::appendAcDbEntity", "",                          lostBytes                                                       },
+    {Kind::memory,  "AcDbDatabase::getGroupDictionary",       "",                          lostBytes                                                       },
+    {Kind::memory,  "AcDbDictionary::setAt",                  "",                          lostBytes                                                       },
+    {Kind::loading, "AfxInitExtensionModule",                 "the module does not start",
+     "it would have no resources"                                                                                                                          },
+    {Kind::loading, "AcRxDynamicLinker::unlockApplication",   "the module is locked",
+     "the call that unlocks it is the one that fails"                                                                                                      },
+    {Kind::loading, "AcRxDictionary::at",                     "the module is locked",
+     "without the linker there is nobody to ask"                                                                                                           },
+    {Kind::stop,    "acdbHostApplicationServices",            outline,                     keptOpen                                                        },
+    {Kind::stop,    "AcDbDatabase::getBlockTable",            outline,                     keptOpen                                                        },
+    {Kind::stop,    "AcDbBlockTable::getAt",                  outline,                     keptOpen                                                        },
+    {Kind::stop,    "AcDbBlockTableRecord::appendAcDbEntity", outline,                     keptOpen                                                        },
+    {Kind::stop,    "AcDbObjectPointer",                      outline,                     keptOpen                                                        },
+    {Kind::stop,    "AcEdCommandStack::removeCmd",
+     "arxhost: kUnloadAppMsg: ",                                                           "the call that takes the command away is the one that fails"    },
+    {Kind::stop,    "AcRxDictionary::at",
+     "arxhost: kUnloadAppMsg: ",                                                           "without the stack of commands there is nothing to take it from"},
+    {Kind::stop,    "acDocManager",
+     "arxhost: removeReactor: ",                                                           "without the manager there is nobody to leave"                  },
 };
 
-// A byte a row, in the order of the tables.
+// A byte a row.
 char* used = nullptr;
-
-const std::size_t rowCount = std::size(differences) + std::size(refusals) + std::size(stops);
-
-const Row& rowAt(std::size_t index)
-{
-    if (index < std::size(differences))
-    {
-        return differences[index];
-    }
-    index -= std::size(differences);
-    return index < std::size(refusals) ? refusals[index] : stops[index - std::size(refusals)];
-}
 
 // Needed is a row only where no other would do.
 template <class Holds>
-bool oneHolds(std::size_t first, std::size_t count, Holds holds)
+bool oneHolds(Kind kind, Holds holds)
 {
     std::vector<std::size_t> found;
-    for (std::size_t i = first; i < first + count; ++i)
+    for (std::size_t i = 0; i < std::size(rows); ++i)
     {
-        if (holds(rowAt(i)))
+        if (rows[i].kind == kind && holds(rows[i]))
         {
             found.push_back(i);
         }
@@ -91,8 +89,7 @@ bool oneHolds(std::size_t first, std::size_t count, Holds holds)
 
 bool mayDiffer(std::string_view what)
 {
-    return oneHolds(0, std::size(differences),
-                    [what](const Row& row)
+    return oneHolds(Kind::state, [what](const Row& row)
                     { return what == row.left && faults::failed(row.failedCall); });
 }
 }  // namespace
@@ -100,17 +97,17 @@ bool mayDiffer(std::string_view what)
 void shareAllowances()
 {
     used = static_cast<char*>(
-        mmap(nullptr, rowCount, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+        mmap(nullptr, std::size(rows), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
 }
 
 std::vector<std::string> unusedAllowances()
 {
     std::vector<std::string> unused;
-    for (std::size_t i = 0; i < rowCount; ++i)
+    for (std::size_t i = 0; i < std::size(rows); ++i)
     {
         if (used[i] == 0)
         {
-            unused.push_back(std::string(rowAt(i).failedCall) + ' ' + rowAt(i).left);
+            unused.push_back(std::string(rows[i].failedCall) + ' ' + rows[i].left);
         }
     }
     return unused;
@@ -139,13 +136,17 @@ bool mayLeak(const faults::Leak& leak)
     const std::size_t sizes[] = {sizeof(AcDbLine), sizeof(AcDbText), sizeof(AcDb2dPolyline),
                                  sizeof(AcDbGroup)};
     return std::ranges::find(sizes, leak.size) != std::end(sizes) &&
-           oneHolds(std::size(differences), std::size(refusals),
-                    [](const Row& row) { return faults::failed(row.failedCall); });
+           oneHolds(Kind::memory, [](const Row& row) { return faults::failed(row.failedCall); });
+}
+
+bool mayStay(std::string_view error)
+{
+    return oneHolds(Kind::loading, [error](const Row& row)
+                    { return error.ends_with(row.left) && faults::failed(row.failedCall); });
 }
 
 bool mayStop(const std::string& report, const std::set<std::string>& calls)
 {
-    return oneHolds(std::size(differences) + std::size(refusals), std::size(stops),
-                    [&](const Row& row)
+    return oneHolds(Kind::stop, [&](const Row& row)
                     { return calls.contains(row.failedCall) && report.starts_with(row.left); });
 }

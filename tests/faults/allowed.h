@@ -6,9 +6,10 @@
 
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "tests/faults/faults.h"
+#include "tests/faults/blocks.h"
 
 // Before the first process is made.
 void shareAllowances();
@@ -17,5 +18,7 @@ std::vector<std::string> unusedAllowances();
 // `left` lists what differs: "UCS, UCSICON".
 bool mayLeave(const std::string& left);
 bool mayLeak(const faults::Leak& leak);
+// Whether the module may refuse to come or to go, with that word of the host.
+bool mayStay(std::string_view error);
 // `report` is what the host said, `calls` those that failed.
 bool mayStop(const std::string& report, const std::set<std::string>& calls);

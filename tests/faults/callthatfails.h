@@ -37,6 +37,11 @@ using faults::outcomeOf;
 #define STATUS_CALL(NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ...) \
     CALL_THAT_FAILS(ErrorStatus, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, 0, __VA_ARGS__)
 
+// Why an object cannot be opened.
+#define REFUSED_OPENINGS                                                                        \
+    Acad::eNullObjectId, Acad::eWasErased, Acad::eNotImplementedYet, Acad::eNotThatKindOfClass, \
+        Acad::eWasOpenForWrite, Acad::eWasOpenForRead, Acad::eAtMaxReaders, Acad::eOnLockedLayer
+
 #define NOTHING ((void)0)
 
 // One that gives nothing: it fails by doing nothing, or what INSTEAD says.

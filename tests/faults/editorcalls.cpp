@@ -25,7 +25,7 @@ CALL_THAT_FAILS(int, failGetCorner, "_Z13acedGetCornerPKdPKwPd", "acedGetCorner"
                 (base, prompt, result), NOTHING, 2, RTERROR, RTCAN, RTNONE, RTREJ)
 CALL_THAT_FAILS(int, failGetDist, "_Z11acedGetDistPKdPKwPd", "acedGetDist",
                 (const ads_point base, const ACHAR* prompt, ads_real* result),
-                (base, prompt, result), NOTHING, 0, RTERROR, RTCAN, RTNONE)
+                (base, prompt, result), NOTHING, 0, RTERROR, RTCAN, RTNONE, RTREJ)
 CALL_THAT_FAILS(int, failGetKword, "_Z12acedGetKwordPKwPw", "acedGetKword",
                 (const ACHAR* prompt, ACHAR* result), (prompt, result), NOTHING, 1, RTCAN, RTNONE,
                 RTERROR)
@@ -42,7 +42,7 @@ CALL_THAT_FAILS(bool, failToWcs, "_Z11acdbUcs2WcsPdS_b", "acdbUcs2Wcs",
 STATUS_CALL(failGetUcs, "_Z17acedGetCurrentUCSR12AcGeMatrix3d", "acedGetCurrentUCS",
             (AcGeMatrix3d & matrix), (matrix), NOTHING, Acad::eNoDatabase)
 STATUS_CALL(failSetUcs, "_Z17acedSetCurrentUCSRK12AcGeMatrix3d", "acedSetCurrentUCS",
-            (const AcGeMatrix3d& matrix), (matrix), NOTHING, Acad::eInvalidInput)
+            (const AcGeMatrix3d& matrix), (matrix), NOTHING, Acad::eInvalidInput, Acad::eNoDatabase)
 CALL_THAT_FAILS(bool, failPreviousUcs, "_Z22acedRestorePreviousUCSv", "acedRestorePreviousUCS", (),
                 (), NOTHING, 0, false)
 CALL_THAT_FAILS(int, failMeter, "_Z29acedSetStatusBarProgressMeterPKwii",

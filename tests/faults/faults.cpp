@@ -7,14 +7,12 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <new>
 #include <string_view>
 
+#include "tests/faults/blocks.h"
+
 namespace faults
-{
-namespace
 {
 // Asked by address each time: a script that unloads the module may load it elsewhere.
 bool isInModule(const void* address)
@@ -24,6 +22,8 @@ bool isInModule(const void* address)
            std::string_view(found.dlfo_link_map->l_name).ends_with("/netrax.arx");
 }
 
+namespace
+{
 Plan plan;
 std::vector<Call> made;
 std::vector<int> failedCalls;
@@ -123,97 +123,11 @@ std::string failures()
     return failedCalls.size() > 4 ? list + " ..." : list;
 }
 
-namespace
-{
-// Stands before each block. The module's own hang together.
-struct alignas(16) Block
-{
-    std::size_t size;
-    int call;
-    bool isModules;
-    Block* before;
-    Block* after;
-};
-
-Block blocks{0, 0, false, &blocks, &blocks};
-
-void* allocate(std::size_t size, const void* caller)
-{
-    auto* block = static_cast<Block*>(std::malloc(sizeof(Block) + size));
-    if (block == nullptr)
-    {
-        std::abort();
-    }
-    *block = {size, 0, isInModule(caller), nullptr, nullptr};
-    if (block->isModules)
-    {
-        block->call = int(made.size());
-        block->before = blocks.before;
-        block->after = &blocks;
-        blocks.before->after = block;
-        blocks.before = block;
-    }
-    return block + 1;
-}
-
-void release(void* memory)
-{
-    if (memory == nullptr)
-    {
-        return;
-    }
-    Block* block = static_cast<Block*>(memory) - 1;
-    if (block->isModules)
-    {
-        block->before->after = block->after;
-        block->after->before = block->before;
-    }
-    std::free(block);
-}
-}  // namespace
-
 void begin(const Plan& chosen)
 {
     plan = chosen;
     made.clear();
     failedCalls.clear();
-    blocks.before = blocks.after = &blocks;  // what was there before counts no more
-}
-
-std::vector<Leak> leaks()
-{
-    std::vector<Leak> found;
-    for (const Block* block = blocks.after; block != &blocks; block = block->after)
-    {
-        found.push_back({block->size, block->call});
-    }
-    return found;
+    noteBlocks();
 }
 }  // namespace faults
-
-#define EXPORTED __attribute__((visibility("default")))
-
-EXPORTED void* operator new(std::size_t size)
-{
-    return faults::allocate(size, __builtin_return_address(0));
-}
-EXPORTED void* operator new[](std::size_t size)
-{
-    return faults::allocate(size, __builtin_return_address(0));
-}
-EXPORTED void operator delete(void* memory) noexcept
-{
-    faults::release(memory);
-}
-EXPORTED void operator delete[](void* memory) noexcept
-{
-    faults::release(memory);
-}
-EXPORTED void operator delete(void* memory, std::size_t) noexcept
-{
-    faults::release(memory);
-}
-EXPORTED void operator delete[](void* memory, std::size_t) noexcept
-{
-    faults::release(memory);
-}

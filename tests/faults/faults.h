@@ -4,7 +4,6 @@
 // counts the call and either fails it or hands it on; the host's own calls always go on.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -25,7 +24,7 @@ struct Call
 {
     const char* name;
     unsigned outcomes;  // in how many ways it can fail
-    unsigned onceOnly;  // the last so many of them only once in a run, see failsOnceOnly
+    unsigned onceOnly;  // the last so many of them only once in a run
 };
 
 void begin(const Plan& plan);
@@ -48,11 +47,6 @@ bool list(const char* name, const char* symbol, void* own);
 // For the functions that stand in place of the host's: the outcome to fail with, or -1.
 int outcomeOf(const char* name, unsigned outcomes, unsigned onceOnly, const void* caller);
 
-// Blocks of memory that the module has asked for and nobody has given back since `begin`.
-struct Leak
-{
-    std::size_t size;
-    int call;  // number of the host's call that came before it
-};
-std::vector<Leak> leaks();
+// Whether that address is the module's code.
+bool isInModule(const void* address);
 }  // namespace faults

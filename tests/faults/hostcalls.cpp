@@ -17,15 +17,16 @@ CALL_THAT_FAILS(AcDbHostApplicationServices*, failServices, "_Z27acdbHostApplica
 STATUS_CALL(failBlockTable, "_ZN12AcDbDatabase13getBlockTableERP14AcDbBlockTableN4AcDb8OpenModeE",
             "AcDbDatabase::getBlockTable",
             (AcDbDatabase * self, AcDbBlockTable*& table, AcDb::OpenMode mode), (self, table, mode),
-            table = nullptr, Acad::eWasOpenForWrite, Acad::eAtMaxReaders)
+            table = nullptr, REFUSED_OPENINGS)
 STATUS_CALL(failGroups, "_ZN12AcDbDatabase18getGroupDictionaryERP14AcDbDictionaryN4AcDb8OpenModeE",
             "AcDbDatabase::getGroupDictionary",
             (AcDbDatabase * self, AcDbDictionary*& groups, AcDb::OpenMode mode),
-            (self, groups, mode), groups = nullptr, Acad::eWasOpenForRead, Acad::eKeyNotFound)
+            (self, groups, mode), groups = nullptr, REFUSED_OPENINGS)
 STATUS_CALL(failSetAt, "_ZN14AcDbDictionary5setAtEPKwP10AcDbObjectR12AcDbObjectId",
             "AcDbDictionary::setAt",
             (AcDbDictionary * self, const ACHAR* key, AcDbObject* value, AcDbObjectId& id),
-            (self, key, value, id), id.setNull(), Acad::eInvalidKey, Acad::eOutOfMemory)
+            (self, key, value, id), id.setNull(), Acad::eInvalidKey, Acad::eNullObjectPointer,
+            Acad::eAlreadyInDb, Acad::eOutOfMemory)
 
 CALL_THAT_FAILS(AcDbObjectId, failStyle, "_ZNK12AcDbDatabase9textstyleEv",
                 "AcDbDatabase::textstyle", (const AcDbDatabase* self), (self), NOTHING, 0,
@@ -48,44 +49,47 @@ SILENT_CALL(failLock, "_ZN11AcAxDocLockC1ENS_11DocLockTypeE", "AcAxDocLock",
 // a failure of the real host means that it was no longer open.
 
 STATUS_CALL(failClose, "_ZN10AcDbObject5closeEv", "AcDbObject::close", (AcDbObject * self), (self),
-            next(self), Acad::eNotOpenForRead, Acad::eWasNotifying)
+            next(self), Acad::eNotOpenForRead, Acad::eNotOpenForWrite, Acad::eNotInDatabase,
+            Acad::eWasNotifying)
 
 STATUS_CALL(failOpenObject,
             "_ZN4host10openObjectERP10AcDbObject12AcDbObjectIdP9AcRxClassN4AcDb8OpenModeEbb",
             "AcDbObjectPointer",
             (AcDbObject * &object, AcDbObjectId id, AcRxClass* type, AcDb::OpenMode mode,
              bool erased, bool locked),
-            (object, id, type, mode, erased, locked), object = nullptr, Acad::eWasOpenForWrite,
-            Acad::eWasErased)
+            (object, id, type, mode, erased, locked), object = nullptr, REFUSED_OPENINGS)
 STATUS_CALL(failOpenEntity, "_Z18acdbOpenAcDbEntityRP10AcDbEntity12AcDbObjectIdN4AcDb8OpenModeEb",
             "acdbOpenAcDbEntity",
             (AcDbEntity * &entity, AcDbObjectId id, AcDb::OpenMode mode, bool erased),
-            (entity, id, mode, erased), entity = nullptr, Acad::eWasOpenForWrite, Acad::eWasErased)
+            (entity, id, mode, erased), entity = nullptr, REFUSED_OPENINGS)
 STATUS_CALL(failUpgrade, "_ZN10AcDbObject11upgradeOpenEv", "AcDbObject::upgradeOpen",
             (AcDbObject * self), (self), host::ObjectAccess::refused(*self) = true,
-            Acad::eOnLockedLayer, Acad::eHadMultipleReaders)
+            Acad::eOnLockedLayer, Acad::eHadMultipleReaders, Acad::eWasOpenForWrite)
 STATUS_CALL(failErase, "_ZN10AcDbObject5eraseEi", "AcDbObject::erase",
             (AcDbObject * self, Adesk::Boolean erasing), (self, erasing),
-            host::ObjectAccess::refused(*self) = true, Acad::eWasErased, Acad::eIsWriteProtected)
+            host::ObjectAccess::refused(*self) = true, Acad::eWasErased, Acad::eNotInDatabase,
+            Acad::eIsWriteProtected)
 STATUS_CALL(failTableGetAt, "_ZNK15AcDbSymbolTable5getAtEPKwR12AcDbObjectIdb",
             "AcDbSymbolTable::getAt",
             (const AcDbSymbolTable* self, const ACHAR* name, AcDbObjectId& id, bool erased),
-            (self, name, id, erased), id.setNull(), Acad::eKeyNotFound, Acad::eDeletedEntry)
+            (self, name, id, erased), id.setNull(), Acad::eKeyNotFound, Acad::eDeletedEntry,
+            Acad::eInvalidInput)
 STATUS_CALL(failTableOpenAt, "_ZNK15AcDbSymbolTable6openAtEPKwRP10AcDbObjectN4AcDb8OpenModeEb",
             "AcDbBlockTable::getAt",
             (const AcDbSymbolTable* self, const ACHAR* name, AcDbObject*& record,
              AcDb::OpenMode mode, bool erased),
             (self, name, record, mode, erased), record = nullptr, Acad::eKeyNotFound,
-            Acad::eWasOpenForRead)
-STATUS_CALL(
-    failOpenRecord, "_ZNK23AcDbSymbolTableIterator10openRecordERP10AcDbObjectN4AcDb8OpenModeEb",
-    "AcDbSymbolTableIterator::getRecord",
-    (const AcDbSymbolTableIterator* self, AcDbObject*& record, AcDb::OpenMode mode, bool erased),
-    (self, record, mode, erased), record = nullptr, Acad::eWasOpenForWrite, Acad::eWasErased)
+            Acad::eInvalidInput, REFUSED_OPENINGS)
+STATUS_CALL(failOpenRecord,
+            "_ZNK23AcDbSymbolTableIterator10openRecordERP10AcDbObjectN4AcDb8OpenModeEb",
+            "AcDbSymbolTableIterator::getRecord",
+            (const AcDbSymbolTableIterator* self, AcDbObject*& record, AcDb::OpenMode mode,
+             bool erased),
+            (self, record, mode, erased), record = nullptr, Acad::eInvalidIndex, REFUSED_OPENINGS)
 STATUS_CALL(failGetName, "_ZNK21AcDbSymbolTableRecord7getNameERPw",
             "AcDbSymbolTableRecord::getName(ACHAR*&)",
             (const AcDbSymbolTableRecord* self, ACHAR*& name), (self, name), name = nullptr,
-            Acad::eOutOfMemory)
+            Acad::eInvalidInput, Acad::eOutOfMemory)
 STATUS_CALL(failGetConstName, "_ZNK21AcDbSymbolTableRecord7getNameERPKw",
             "AcDbSymbolTableRecord::getName",
             (const AcDbSymbolTableRecord* self, const ACHAR*& name), (self, name), name = nullptr,
@@ -96,12 +100,13 @@ STATUS_CALL(failGetConstName, "_ZNK21AcDbSymbolTableRecord7getNameERPKw",
 STATUS_CALL(failAppend, "_ZN20AcDbBlockTableRecord16appendAcDbEntityER12AcDbObjectIdP10AcDbEntity",
             "AcDbBlockTableRecord::appendAcDbEntity",
             (AcDbBlockTableRecord * self, AcDbObjectId& id, AcDbEntity* entity), (self, id, entity),
-            id.setNull(), Acad::eOutOfMemory, Acad::eAlreadyInDb)
+            id.setNull(), Acad::eNullObjectPointer, Acad::eAlreadyInDb, Acad::eOutOfMemory)
 STATUS_CALL(failDraw, "_ZN10AcDbEntity4drawEv", "AcDbEntity::draw", (AcDbEntity * self), (self),
             NOTHING, Acad::eInvalidInput)
 STATUS_CALL(failSetLinetype, "_ZN10AcDbEntity11setLinetypeEPKwi", "AcDbEntity::setLinetype",
             (AcDbEntity * self, const ACHAR* name, Adesk::Boolean subents), (self, name, subents),
-            NOTHING, Acad::eKeyNotFound)
+            NOTHING, Acad::eKeyNotFound, Acad::eNoDatabase, Acad::eInvalidInput,
+            Acad::eDeletedEntry, Acad::eWrongObjectType)
 STATUS_CALL(failSetColor, "_ZN10AcDbEntity13setColorIndexEti", "AcDbEntity::setColorIndex",
             (AcDbEntity * self, Adesk::UInt16 color, Adesk::Boolean subents),
             (self, color, subents), NOTHING, Acad::eInvalidInput)
@@ -164,17 +169,17 @@ STATUS_CALL(failGeneration, "_ZN14AcDb2dPolyline23setLinetypeGenerationOnEv",
             Acad::eInvalidInput)
 STATUS_CALL(failGroupAppend, "_ZN9AcDbGroup6appendERK12AcDbObjectId", "AcDbGroup::append",
             (AcDbGroup * self, const AcDbObjectId& id), (self, id), NOTHING, Acad::eAlreadyInGroup,
-            Acad::eNotAnEntity)
+            Acad::eNotAnEntity, Acad::eNullObjectId, Acad::eNotInDatabase)
 
-#define TEXT_CALL(NAME, SYMBOL, TITLE, TYPE)                                                \
+#define TEXT_CALL(NAME, SYMBOL, TITLE, TYPE, ...)                                           \
     STATUS_CALL(NAME, SYMBOL, TITLE, (AcDbText * self, TYPE value), (self, value), NOTHING, \
-                Acad::eInvalidInput)
+                Acad::eInvalidInput __VA_OPT__(, ) __VA_ARGS__)
 TEXT_CALL(failPosition, "_ZN8AcDbText11setPositionERK11AcGePoint3d", "AcDbText::setPosition",
           const AcGePoint3d&)
 TEXT_CALL(failAlignment, "_ZN8AcDbText17setAlignmentPointERK11AcGePoint3d",
-          "AcDbText::setAlignmentPoint", const AcGePoint3d&)
+          "AcDbText::setAlignmentPoint", const AcGePoint3d&, Acad::eNotApplicable)
 TEXT_CALL(failTextStyle, "_ZN8AcDbText12setTextStyleE12AcDbObjectId", "AcDbText::setTextStyle",
-          AcDbObjectId)
+          AcDbObjectId, Acad::eWrongObjectType)
 TEXT_CALL(failOblique, "_ZN8AcDbText10setObliqueEd", "AcDbText::setOblique", double)
 TEXT_CALL(failWidth, "_ZN8AcDbText14setWidthFactorEd", "AcDbText::setWidthFactor", double)
 TEXT_CALL(failHeight, "_ZN8AcDbText9setHeightEd", "AcDbText::setHeight", double)

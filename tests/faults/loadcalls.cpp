@@ -23,11 +23,11 @@ STATUS_CALL(failAddCommand,
              const ACHAR* localName, Adesk::Int32 flags, AcRxFunctionPtr function,
              AcEdUIContext* context, int code, HINSTANCE resources, AcEdCommand** made),
             (self, group, globalName, localName, flags, function, context, code, resources, made),
-            NOTHING, Acad::eDuplicateKey, Acad::eOutOfMemory)
+            NOTHING, Acad::eDuplicateKey, Acad::eInvalidInput, Acad::eOutOfMemory)
 STATUS_CALL(failRemoveCommand, "_ZN4host12CommandStack9removeCmdEPKwS2_",
             "AcEdCommandStack::removeCmd",
             (AcEdCommandStack * self, const ACHAR* group, const ACHAR* globalName),
-            (self, group, globalName), NOTHING, Acad::eKeyNotFound)
+            (self, group, globalName), NOTHING, Acad::eKeyNotFound, Acad::eInvalidInput)
 
 namespace
 {

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -23,6 +24,7 @@
 #include "host/runtime/locale.h"
 #include "tests/faults/allowed.h"
 #include "tests/faults/run.h"
+#include "tests/support/scratchfolder.h"
 
 namespace fs = std::filesystem;
 
@@ -84,9 +86,7 @@ fs::path reportOf(const fs::path& folder)
 std::string report(const fs::path& folder)
 {
     std::ifstream file(reportOf(folder));
-    std::string line;
-    std::getline(file, line);
-    return line;
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 // In a process of its own, which ends with 0 when nothing is wrong.
@@ -197,13 +197,18 @@ void Worker::sweep(const Script& script)
     std::map<std::string, faults::Call> names;
     for (int i = 0; i < int(calls.size()); ++i)
     {
-        m_seen.insert(calls[std::size_t(i)].name);
-        names.emplace(calls[std::size_t(i)].name, calls[std::size_t(i)]);
-        for (unsigned outcome = 0; outcome < calls[std::size_t(i)].outcomes; ++outcome)
+        const faults::Call& call = calls[std::size_t(i)];
+        m_seen.insert(call.name);
+        names.emplace(call.name, call);
+        for (unsigned outcome = 0; outcome < call.outcomes; ++outcome)
         {
             attempt(script, {.first = i, .outcome = outcome});
         }
-        attempt(script, {.first = i, .fromFirst = true});
+        // The later ones fail even where this one cannot each time.
+        for (unsigned outcome = 0; outcome < std::max(1u, call.outcomes - call.onceOnly); ++outcome)
+        {
+            attempt(script, {.first = i, .fromFirst = true, .outcome = outcome});
+        }
     }
     for (const auto& [name, call] : names)
     {
@@ -286,8 +291,7 @@ int main(int count, char** arguments)
     }
     shareAllowances();
     host::setProductLocale(host::englishLocale);
-    std::string pattern = (fs::temp_directory_path() / "netrax-faults-XXXXXX").string();
-    const fs::path folder = mkdtemp(pattern.data());
+    const fs::path folder = support::scratchFolder();
     const unsigned workers = unsigned(std::max(1L, sysconf(_SC_NPROCESSORS_ONLN)));
     auto* const totals =
         static_cast<Totals*>(mmap(nullptr, sizeof(Totals) * workers, PROT_READ | PROT_WRITE,

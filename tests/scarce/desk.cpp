@@ -17,8 +17,9 @@ namespace
 const unsigned secondsForARun = 5;
 
 const std::string oldSettings =
-    "[GRID]\r\nHorStep=10.0000\r\nVertStep=10.0000\r\nColor=12\r\nneedText=1\r\nbXTopScribe=1\r\n"
-    "[OTHER]\r\nkept=as it is\r\n";
+    "[GRID]\r\nHorStep=10.0000\r\nVertStep=10.0000\r\nColor=12\r\nneedText=1\r\nheightText=2."
+    "0000\r\n"
+    "bXTopScribe=1\r\n[OTHER]\r\nkept=as it is\r\n";
 const std::string oldFile = "an older file";
 
 std::string contents(const fs::path& path)
@@ -68,6 +69,16 @@ std::string Desk::errors() const
 std::ptrdiff_t Desk::fileCount() const
 {
     return std::distance(fs::directory_iterator(m_folder), {});
+}
+
+bool Desk::tidyUp() const
+{
+    bool found = false;
+    for (const fs::directory_entry& entry : fs::directory_iterator(m_folder))
+    {
+        found |= entry.path().extension() == ".tmp" && fs::remove(entry.path());
+    }
+    return found;
 }
 
 void Desk::run(const std::function<void()>& beginScarcity) const

@@ -30,6 +30,8 @@ public:
     Results results() const;
     std::string errors() const;
     std::ptrdiff_t fileCount() const;
+    // Takes the files away that a save could not; whether there was one.
+    bool tidyUp() const;
 
     // Runs the program in this process, which ends with its status.
     [[noreturn]] void run(const std::function<void()>& beginScarcity) const;

@@ -2,7 +2,9 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <link.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -26,14 +28,15 @@ long begun;
 bool always;
 int reason;
 bool refusedOne;
-char* noteOfRefused;
+Refused* noteOfRefused;
 
-// Whether this request is to be refused.
+// Whether this request is to be refused: one for memory, one for space on the disk, or another call
+// on files.
 bool refuse(Of what)
 {
-    const bool counts =
-        running && (scarce == what || (what == Of::files && scarce == Of::fileLength));
-    if (!counts || (--left > 0) || (left < 0 && !always))
+    const bool ofFiles = scarce == Of::files || scarce == Of::fileLength;
+    if (!running || (scarce != what && !(ofFiles && what != Of::memory)) || (--left > 0) ||
+        (left < 0 && !always))
     {
         return false;
     }
@@ -46,13 +49,14 @@ void note(const char* call, const char* path)
 {
     if (noteOfRefused != nullptr)
     {
-        std::snprintf(noteOfRefused, noteSize, "%s of %s", call, path);
+        std::snprintf(noteOfRefused->last, sizeof noteOfRefused->last, "%s of %s", call, path);
+        noteOfRefused->deletion |= std::strcmp(call, "unlink") == 0;
     }
 }
 
-bool refuseOn(const char* path, const char* call)
+bool refuseOn(const char* path, const char* call, Of what = Of::files)
 {
-    const bool refused = refuse(Of::files);
+    const bool refused = refuse(what);
     const int error = errno;
     if (refused)
     {
@@ -62,36 +66,35 @@ bool refuseOn(const char* path, const char* call)
     return refused;
 }
 
-bool refuseOn(int file, const char* call)
+bool refuseOn(int file, const char* call, Of what = Of::files)
 {
     if (!running || scarce == Of::memory)
     {
         return false;
     }
     char link[32];
-    char path[noteSize - 32] = "";
+    char path[200] = "";
     std::snprintf(link, sizeof link, "/proc/self/fd/%d", file);
-    const ssize_t length = readlink(link, path, sizeof path - 1);
-    path[length > 0 ? length : 0] = 0;
-    return refuseOn(path, call);
+    syscall(SYS_readlink, link, path, sizeof path - 1);  // not the one below
+    return refuseOn(path, call, what);
 }
 
-bool refuseWholeOn(auto pathOrFile, const char* call)
+bool refuseWholeOn(auto pathOrFile, const char* call, Of what = Of::files)
 {
-    return scarce != Of::fileLength && refuseOn(pathOrFile, call);
+    return scarce != Of::fileLength && refuseOn(pathOrFile, call, what);
 }
 
 // The other libraries ask for memory too, and what they do without it is not ours to mend.
 bool isOurs(const void* caller)
 {
-    Dl_info found;
-    if (dladdr(caller, &found) == 0 || found.dli_fname == nullptr)
+    dl_find_object found;
+    if (_dl_find_object(const_cast<void*>(caller), &found) != 0)
     {
         return false;
     }
-    const char* const slash = std::strrchr(found.dli_fname, '/');
-    const std::string_view file = slash != nullptr ? slash + 1 : found.dli_fname;
-    return file == "netrax.arx" || file == "libarxhost_core.so" || file == "scarce_sweep";
+    const std::string_view path = found.dlfo_link_map->l_name;  // empty for the program
+    const std::string_view file = path.substr(path.rfind('/') + 1);
+    return file == "netrax.arx" || file == "libarxhost_core.so" || file.empty();
 }
 }  // namespace
 
@@ -117,7 +120,7 @@ long requests()
     return begun - left;
 }
 
-void noteRefusedIn(char* note)
+void noteRefusedIn(Refused* note)
 {
     noteOfRefused = note;
 }
@@ -137,21 +140,25 @@ IN_PLACE int open(const char* path, int flags, ...)
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
     va_end(more);
     static auto* const next = original<int(const char*, int, ...)>("open");
-    return refuseWholeOn(path, "open") ? -1 : next(path, flags, mode);
+    const auto what = (flags & O_CREAT) != 0 ? scarcity::Of::space : scarcity::Of::files;
+    return refuseWholeOn(path, "open", what) ? -1 : next(path, flags, mode);
 }
 
-// What the C++ library opens its streams with; it reads and closes them by the calls below.
-IN_PLACE FILE* fopen64(const char* path, const char* mode)
-{
-    static auto* const next = original<FILE*(const char*, const char*)>("fopen64");
-    return refuseWholeOn(path, "fopen") ? nullptr : next(path, mode);
-}
+// The C++ library opens its streams with fopen64; it reads and closes them by the calls below.
+#define CALL_THAT_OPENS(NAME)                                                       \
+    IN_PLACE FILE* NAME(const char* path, const char* mode)                         \
+    {                                                                               \
+        static auto* const next = original<FILE*(const char*, const char*)>(#NAME); \
+        return refuseWholeOn(path, #NAME) ? nullptr : next(path, mode);             \
+    }
+CALL_THAT_OPENS(fopen)
+CALL_THAT_OPENS(fopen64)
 
 // Half of what was asked for, once, is no failure: whoever asked has to ask again.
 IN_PLACE ssize_t write(int file, const void* bytes, std::size_t size)
 {
     static auto* const next = original<ssize_t(int, const void*, std::size_t)>("write");
-    if (!refuseOn(file, "write"))
+    if (!refuseOn(file, "write", scarcity::Of::space))
     {
         return next(file, bytes, size);
     }
@@ -184,8 +191,23 @@ IN_PLACE int fsync(int file)
 CALL_ON_FILES(rename, (const char* from, const char* to) noexcept, (from, to), to)
 CALL_ON_FILES(fchmod, (int file, mode_t mode) noexcept, (file, mode), file)
 CALL_ON_FILES(ftruncate, (int file, off_t size) noexcept, (file, size), file)
+CALL_ON_FILES(unlink, (const char* path) noexcept, (path), path)
+CALL_ON_FILES(access, (const char* path, int mode) noexcept, (path, mode), path)
+CALL_ON_FILES(fchown, (int file, uid_t owner, gid_t group) noexcept, (file, owner, group), file)
 CALL_ON_FILES(stat, (const char* path, struct stat* found) noexcept, (path, found), path)
 CALL_ON_FILES(fstat, (int file, struct stat* found) noexcept, (file, found), file)
+
+IN_PLACE ssize_t readlink(const char* path, char* target, std::size_t size) noexcept
+{
+    static auto* const next = original<ssize_t(const char*, char*, std::size_t)>("readlink");
+    return refuseWholeOn(path, "readlink") ? -1 : next(path, target, size);
+}
+
+IN_PLACE char* realpath(const char* path, char* resolved) noexcept
+{
+    static auto* const next = original<char*(const char*, char*)>("realpath");
+    return refuseWholeOn(path, "realpath") ? nullptr : next(path, resolved);
+}
 
 // A file is closed all the same when that is told to have failed.
 IN_PLACE int close(int file)

@@ -1,8 +1,6 @@
 // Memory and files that run out at a chosen moment.
 #pragma once
 
-#include <cstddef>
-
 namespace scarcity
 {
 enum class Of
@@ -10,6 +8,7 @@ enum class Of
     memory,      // every request for memory, but for those of other libraries
     files,       // every call that opens, reads, writes, renames or closes a file
     fileLength,  // likewise, but writes and reads do a part of their work instead of failing
+    space,       // every call that makes a file or writes
 };
 
 // From the start on, requests are counted; number `first`, from 1, is refused, and with `forGood`
@@ -19,7 +18,12 @@ void start(Of what, long first, bool forGood, int error = 0);
 bool stop();
 // How many there were since the start, as far as they were counted.
 long requests();
-// Where to write which call was refused, and on which file if any; null for nowhere.
-const std::size_t noteSize = 256;
-void noteRefusedIn(char* note);
+
+struct Refused
+{
+    char last[256];  // the call on a file, and which; empty for none
+    bool deletion;   // whether a file could not be deleted
+};
+// Where to write that; null for nowhere.
+void noteRefusedIn(Refused* note);
 }  // namespace scarcity

@@ -1,0 +1,22 @@
+// A folder of its own for a test that writes thousands of small files.
+#pragma once
+
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
+namespace support
+{
+// New and empty; in memory where the system has such a place. Whoever asks takes it away.
+inline std::filesystem::path scratchFolder()
+{
+    const char* const inMemory = "/dev/shm";
+    const std::filesystem::path place = access(inMemory, W_OK) == 0
+                                            ? std::filesystem::path(inMemory)
+                                            : std::filesystem::temp_directory_path();
+    std::string pattern = (place / "netrax-XXXXXX").string();
+    return mkdtemp(pattern.data());
+}
+}  // namespace support
