@@ -67,9 +67,9 @@ bool rewrite(int file, const std::string& path, std::string_view bytes)
         target.empty() ? -1 : ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (replacement < 0)
     {
-        // A full disk has room for neither, and what stands in the file is to stay.
-        const bool mayNot = target.empty() || errno == EACCES || errno == EPERM;
-        return mayNot && rewriteInPlace(file, bytes);
+        // A disk that is full or broken takes neither, and what stands in the file is to stay.
+        const bool fails = !target.empty() && (errno == ENOSPC || errno == EDQUOT || errno == EIO);
+        return !fails && rewriteInPlace(file, bytes);
     }
     if (fill(replacement, old, bytes) && ::rename(beside.c_str(), target.c_str()) == 0)
     {
