@@ -19,7 +19,7 @@ using VariableValue = std::variant<int, double, AcGePoint3d, std::wstring>;
 struct View
 {
     AcGeVector3d direction{0, 0, 1};  // from the target to the camera, any length but 0
-    double twist = 0;                 // radians, counter-clockwise
+    double twist = 0;                 // radians, counter-clockwise; as read, any
     AcGePoint3d target;
     double centreX = 0;  // in display coordinates
     double centreY = 0;

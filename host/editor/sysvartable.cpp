@@ -287,7 +287,7 @@ VariableValue viewHeight(Context at)
 
 VariableValue viewTwist(Context at)
 {
-    return at.state.view.twist;
+    return inFullTurn(at.state.view.twist);  // a drawing may hold any
 }
 
 const VariableRow rows[] = {

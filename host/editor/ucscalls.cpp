@@ -1,5 +1,4 @@
 #include <cmath>
-#include <numbers>
 
 #include "aced.h"
 #include "acutads.h"
@@ -81,17 +80,9 @@ bool acdbUcs2Wcs(ads_point p, ads_point q, bool vec)
 
 ads_real acutAngle(const ads_point pt1, const ads_point pt2)
 {
-    const double turn = 2 * std::numbers::pi;
     const double dx = pt2[X] - pt1[X];
     const double dy = pt2[Y] - pt1[Y];
-    if (dx == 0 && dy == 0)
-    {
-        return 0;
-    }
-    const double angle = std::atan2(dy, dx);
-    // A tiny negative angle rounds to the full turn, which is not in the range any more.
-    const double positive = angle < 0 ? angle + turn : angle;
-    return positive < turn ? positive + 0.0 : 0;
+    return dx == 0 && dy == 0 ? 0 : host::inFullTurn(std::atan2(dy, dx));
 }
 
 namespace

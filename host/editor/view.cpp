@@ -14,12 +14,21 @@ AcGeMatrix3d viewFrame(const View& view)
     return frame.setTranslation(view.target.asVector());
 }
 
+double inFullTurn(double radians)
+{
+    const double turn = 2 * std::numbers::pi;
+    const double rest = std::fmod(radians, turn);
+    const double positive = rest < 0 ? rest + turn : rest;
+    // A tiny negative angle rounds to the full turn, which is not in the range any more.
+    return positive < turn ? positive + 0.0 : 0;
+}
+
 void turnView(View& view, const AcGeVector3d& direction, double twist)
 {
     const AcGePoint3d centre =
         ucsToWorld(viewFrame(view), AcGePoint3d(view.centreX, view.centreY, 0));
     view.direction = direction;
-    view.twist = twist;
+    view.twist = inFullTurn(twist);
     const AcGePoint3d seen = worldToUcs(viewFrame(view), centre);
     view.centreX = seen.x;
     view.centreY = seen.y;
@@ -30,7 +39,6 @@ void planView(View& view, const AcGeMatrix3d& frame)
     const AcGeVector3d normal = axisOf(frame, 2);
     const AcGeVector3d x = worldToUcs(AcGeMatrix3d::planeToWorld(normal), axisOf(frame, 0));
     const double angle = std::atan2(x.y, x.x);
-    // The screen's X axis lies at minus the twist in the plane, the twist is kept in [0, 2 pi).
-    turnView(view, normal, angle > 0 ? 2 * std::numbers::pi - angle : -angle + 0.0);
+    turnView(view, normal, -angle);  // the screen's X axis lies at minus the twist in the plane
 }
 }  // namespace host

@@ -38,8 +38,9 @@ std::optional<AcGeVector3d> parseDirection(std::wstring_view text)
 void askTwist(Editor& editor)
 {
     View& view = state().view;
-    const std::wstring prompt = L"Specify view twist angle <" + degreesText(view.twist) + L">: ";
-    const double current = view.twist * 180 / std::numbers::pi;
+    const double twist = inFullTurn(view.twist);
+    const std::wstring prompt = L"Specify view twist angle <" + degreesText(twist) + L">: ";
+    const double current = twist * 180 / std::numbers::pi;
     const std::optional<double> degrees = askDegrees(editor, prompt, current);
     if (degrees && *degrees != current)
     {

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <numbers>
 #include <sstream>
 
 #include "dbdict.h"
@@ -237,6 +238,20 @@ TEST_F(Drawing, aViewThatWasTurnedIsSavedInTheViewportAndNothingElseChanges)
     EXPECT_EQ(count(after, "\n"), count(before, "\n"));
     const auto database = opened(after);
     EXPECT_NEAR(host::stateOf(*database).view.twist, 0.5235987755982988, 1e-15);
+}
+
+TEST_F(Drawing, aTwistBeyondOneTurnIsSavedAsItWasRead)
+{
+    for (const double degrees : {-30.0, 390.0, -750.0, 360.0})
+    {
+        std::string text = host::dxf::emptyDrawing();
+        const std::string none = "\n 51\n0.0\n";
+        text.replace(text.find(none, text.find("\nVPORT\n")), none.size(),
+                     "\n 51\n" + std::to_string(degrees) + "\n");
+        const auto database = opened(text);
+        EXPECT_NEAR(host::stateOf(*database).view.twist, degrees * std::numbers::pi / 180, 1e-14);
+        EXPECT_EQ(saved(*database), text);
+    }
 }
 
 TEST_F(Drawing, aUcsThatWasSetIsReadBack)

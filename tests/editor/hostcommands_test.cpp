@@ -182,6 +182,44 @@ TEST(ViewCommands, dviewTwistsInDegrees)
     EXPECT_NEAR(host::axisOf(frame, 0).y, -0.5, 1e-15);
 }
 
+TEST(ViewCommands, twistIsKeptWithinOneTurn)
+{
+    using std::numbers::pi;
+    struct Row
+    {
+        std::vector<std::string> lines;
+        double twist;
+    };
+    const Row rows[] = {
+        {{"DVIEW", "", "TW", "-30", ""},    11 * pi / 6},
+        {{"DVIEW", "", "TW", "390", ""},    pi / 6     },
+        {{"DVIEW", "", "TW", "-750", ""},   11 * pi / 6},
+        {{"DVIEW", "", "TW", "360", ""},    0          },
+        {{"DVIEW", "", "TW", "-1e-20", ""}, 0          }, // rounds to the full turn
+        {{"DVIEW", "", "TW", "1e308", ""},  0          }, // has no radians
+        {{"UCS", "Z", "-90", "PLAN", ""},   pi / 2     },
+        {{"UCS", "Z", "180", "PLAN", ""},   pi         },
+        {{"UCS", "Z", "1e-20", "PLAN", ""}, 0          },
+    };
+    for (const Row& row : rows)
+    {
+        Session session;
+        session.type(row.lines);
+        EXPECT_NEAR(view(session).twist, row.twist, 1e-14) << row.lines[3];
+        EXPECT_GE(view(session).twist, 0) << row.lines[3];
+        EXPECT_LT(view(session).twist, 2 * pi) << row.lines[3];
+    }
+}
+
+TEST(ViewCommands, twistThatIsKeptStaysAsTheDrawingHadIt)
+{
+    Session session;
+    view(session).twist = -std::numbers::pi / 6;
+    EXPECT_TRUE(
+        has(session.type({"DVIEW", "", "TW", "", ""}), "Specify view twist angle <330>: \n"));
+    EXPECT_EQ(view(session).twist, -std::numbers::pi / 6);
+}
+
 TEST(ViewCommands, planLooksAlongTheUcs)
 {
     struct Row

@@ -195,6 +195,35 @@ TEST(SystemVariables, viewIsGivenInTheUcsAndTheUcsInTheWorld)
     EXPECT_EQ(host::variableText(L"WORLDUCS"), L"0");
 }
 
+TEST(SystemVariables, viewTwistIsWithinOneTurnWhateverTheDrawingHolds)
+{
+    using std::numbers::pi;
+    struct Row
+    {
+        double held, read;
+        const wchar_t* text;
+    };
+    const Row rows[] = {
+        {-pi / 6,     11 * pi / 6, L"330"},
+        {13 * pi / 6, pi / 6,      L"30" },
+        {-pi,         pi,          L"180"},
+        {2 * pi,      0,           L"0"  },
+        {-1e-20,      0,           L"0"  }, // rounds to the full turn
+    };
+    support::Session session;
+    for (const Row& row : rows)
+    {
+        host::stateOf(session.drawing()).view.twist = row.held;
+        resbuf twist{};
+        ASSERT_EQ(acedGetVar(L"VIEWTWIST", &twist), RTNORM);
+        EXPECT_NEAR(twist.resval.rreal, row.read, 1e-14) << row.held;
+        EXPECT_GE(twist.resval.rreal, 0) << row.held;
+        EXPECT_LT(twist.resval.rreal, 2 * pi) << row.held;
+        EXPECT_EQ(host::variableText(L"VIEWTWIST"), row.text) << row.held;
+        EXPECT_EQ(host::stateOf(session.drawing()).view.twist, row.held);
+    }
+}
+
 TEST(SystemVariables, whateverTheDrawingHoldsCanBeRead)
 {
     support::Session session;
