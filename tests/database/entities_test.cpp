@@ -270,14 +270,22 @@ TEST(Text, withoutAStyleOfItsOwnGetsTheDrawingsAtTheAppend)
 TEST(Text, valuesThatMakeNoTextAreRefused)
 {
     AcDbText text;
+    text.setHeight(2);
+    text.setWidthFactor(0.8);
+    EXPECT_EQ(text.setOblique(-1.48), Acad::eOk);
     const double bad[] = {0, -1, NAN, INFINITY};
     for (double value : bad)
     {
         EXPECT_EQ(text.setHeight(value), Acad::eInvalidInput) << value;
+        EXPECT_EQ(text.height(), 2) << value;
         EXPECT_EQ(text.setWidthFactor(value), Acad::eInvalidInput) << value;
+        EXPECT_EQ(text.widthFactor(), 0.8) << value;
     }
-    EXPECT_EQ(text.setOblique(1.5), Acad::eInvalidInput);
-    EXPECT_EQ(text.setOblique(-1.48), Acad::eOk);
+    for (double value : {1.5, -1.5, double(NAN)})
+    {
+        EXPECT_EQ(text.setOblique(value), Acad::eInvalidInput) << value;
+        EXPECT_EQ(text.oblique(), -1.48) << value;
+    }
     EXPECT_EQ(text.setTextStyle(AcDbObjectId::kNull), Acad::eWrongObjectType);
 }
 

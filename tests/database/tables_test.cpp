@@ -52,29 +52,72 @@ TEST(SymbolTables, noDatabaseIsAStatus)
     EXPECT_EQ(table.openStatus(), Acad::eNoDatabase);
 }
 
-TEST(SymbolTables, theIteratorGoesInTableOrder)
+void addTextStyles(EmptyDrawing& drawing)
 {
-    EmptyDrawing drawing;
     for (const wchar_t* name : {L"B", L"A", L""})
     {
         drawing.core().addLoadedRecord<AcDbTextStyleTableRecord>(drawing.core().textStyleTable,
                                                                  name, 0);
     }
+}
+
+std::vector<std::wstring> textStyles(EmptyDrawing& drawing)
+{
     AcDbSymbolTablePointer<AcDbTextStyleTable> table(&drawing.database(), AcDb::kForRead);
     AcDbTextStyleTableIterator* made = nullptr;
-    ASSERT_EQ(table->newIterator(made), Acad::eOk);
+    EXPECT_EQ(table->newIterator(made), Acad::eOk);
     const std::unique_ptr<AcDbTextStyleTableIterator> iterator(made);
     std::vector<std::wstring> names;
     for (iterator->start(); !iterator->done(); iterator->step())
     {
         AcDbTextStyleTableRecord* record = nullptr;
-        ASSERT_EQ(iterator->getRecord(record), Acad::eOk);
+        if (iterator->getRecord(record) != Acad::eOk)
+        {
+            names.push_back(L"(none)");
+            continue;
+        }
         const ACHAR* name = nullptr;
         record->getName(name);
         names.push_back(name);
         record->close();
     }
-    EXPECT_EQ(names, (std::vector<std::wstring>{L"Standard", L"B", L"A", L""}));
+    return names;
+}
+
+TEST(SymbolTables, theIteratorGoesInTableOrder)
+{
+    EmptyDrawing drawing;
+    addTextStyles(drawing);
+    EXPECT_EQ(textStyles(drawing), (std::vector<std::wstring>{L"Standard", L"B", L"A", L""}));
+}
+
+TEST(SymbolTables, theIteratorSkipsErasedRecords)
+{
+    struct Row
+    {
+        std::vector<const wchar_t*> erased;
+        std::vector<std::wstring> left;
+    };
+    const Row rows[] = {
+        {{L"Standard"},                  {L"B", L"A", L""}       },
+        {{L"A"},                         {L"Standard", L"B", L""}},
+        {{L"B", L"A"},                   {L"Standard", L""}      },
+        {{L"A", L""},                    {L"Standard", L"B"}     },
+        {{L"Standard", L"B", L"A", L""}, {}                      },
+    };
+    for (const Row& row : rows)
+    {
+        EmptyDrawing drawing;
+        addTextStyles(drawing);
+        for (const wchar_t* name : row.erased)
+        {
+            AcDbSymbolTableRecordPointer<AcDbTextStyleTableRecord> style(name, &drawing.database(),
+                                                                         AcDb::kForWrite);
+            ASSERT_EQ(style.openStatus(), Acad::eOk);
+            EXPECT_EQ(style->erase(), Acad::eOk);
+        }
+        EXPECT_EQ(textStyles(drawing), row.left);
+    }
 }
 
 TEST(Block, anEntityIsAppendedOnce)
@@ -90,6 +133,22 @@ TEST(Block, anEntityIsAppendedOnce)
     EXPECT_TRUE(again.isNull());
     EXPECT_EQ(record->appendAcDbEntity(again, nullptr), Acad::eNullObjectPointer);
     record->close();
+}
+
+TEST(Block, anAppendedEntityStaysOpenForWriting)
+{
+    EmptyDrawing drawing;
+    AcDbSymbolTablePointer<AcDbBlockTable> table(drawing->blockTableId(), AcDb::kForRead);
+    AcDbBlockTableRecord* record = nullptr;
+    ASSERT_EQ(table->getAt(ACDB_MODEL_SPACE, record, AcDb::kForWrite), Acad::eOk);
+    auto* line = new AcDbLine(AcGePoint3d(), AcGePoint3d(1, 0, 0));
+    AcDbObjectId id;
+    ASSERT_EQ(record->appendAcDbEntity(id, line), Acad::eOk);
+    EXPECT_TRUE(line->isWriteEnabled());
+    record->close();
+    EXPECT_TRUE(line->isWriteEnabled());
+    EXPECT_EQ(line->close(), Acad::eOk);
+    EXPECT_FALSE(line->isWriteEnabled());
 }
 
 TEST(Block, unsetPropertiesGetTheDrawingsDefaultsAtTheAppend)

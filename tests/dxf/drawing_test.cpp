@@ -254,6 +254,15 @@ TEST_F(Drawing, aTwistBeyondOneTurnIsSavedAsItWasRead)
     }
 }
 
+TEST_F(Drawing, theSlantOfAStyleIsHeldInDegreesAndReadInRadians)
+{
+    const auto database = changed("\n 41\n1.0\n 50\n0.0\n", "\n 41\n1.0\n 50\n15.0\n");
+    AcDbSymbolTableRecordPointer<AcDbTextStyleTableRecord> style(L"Standard", database.get(),
+                                                                 AcDb::kForRead);
+    ASSERT_EQ(style.openStatus(), Acad::eOk);
+    EXPECT_NEAR(style->obliquingAngle(), 15 * std::numbers::pi / 180, 1e-15);
+}
+
 TEST_F(Drawing, aUcsThatWasSetIsReadBack)
 {
     EmptyDrawing drawing;

@@ -220,6 +220,17 @@ TEST(ViewCommands, twistThatIsKeptStaysAsTheDrawingHadIt)
     EXPECT_EQ(view(session).twist, -std::numbers::pi / 6);
 }
 
+TEST(ViewCommands, screenIsLevelWithoutTwist)
+{
+    Session session;
+    session.type({"VPOINT", "1,-1,2"});
+    const AcGeMatrix3d frame = host::viewFrame(view(session));
+    const AcGeVector3d x(1, 1, 0), y(-1, 1, 1), z(1, -1, 2);  // x is (0,0,1) by z
+    EXPECT_LT((host::axisOf(frame, 0) - x / std::sqrt(2)).length(), 1e-15);
+    EXPECT_LT((host::axisOf(frame, 1) - y / std::sqrt(3)).length(), 1e-15);
+    EXPECT_LT((host::axisOf(frame, 2) - z / std::sqrt(6)).length(), 1e-15);
+}
+
 TEST(ViewCommands, planLooksAlongTheUcs)
 {
     struct Row

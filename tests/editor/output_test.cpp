@@ -18,6 +18,20 @@ TEST(Output, printsExactlyWhatTheModuleFormats)
     EXPECT_EQ(session.run([] { EXPECT_EQ(acutPrintf(nullptr), RTERROR); }), "");
 }
 
+TEST(Output, longTextComesOutWhole)
+{
+    std::wstring text;
+    std::string said;
+    for (int i = 0; i < 400; ++i)
+    {
+        text += L"сетка";
+        said += "сетка";
+    }
+    Session session;
+    EXPECT_EQ(session.run([&] { acutPrintf(text.c_str()); }), said);
+    EXPECT_EQ(session.run([&] { acutPrintf(L"%s", text.c_str()); }), said);
+}
+
 TEST(Output, alertIsALineOfItsOwn)
 {
     Session session;

@@ -249,6 +249,15 @@ TEST(Prompts, starMeansWorldAndTheResultIsInTheUcs)
     EXPECT_EQ(ask(session, Ask::point, 0, L"", {"110,70"}).point, AcGePoint3d(110, 70, 0));
 }
 
+TEST(Prompts, cornerAndTheOneOppositeAreInTheUcs)
+{
+    Session session;
+    host::setUcs(session.document(), host::frameOf({100, 50, 0}, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}));
+    EXPECT_EQ(ask(session, Ask::corner, 0, L"", {"*110,70"}).point, AcGePoint3d(20, -10, 0));
+    EXPECT_EQ(ask(session, Ask::corner, 0, L"", {"110,70"}).point, AcGePoint3d(110, 70, 0));
+    EXPECT_EQ(ask(session, Ask::corner, 0, L"", {"@3,4"}).point, AcGePoint3d(4, 5, 0));
+}
+
 TEST(Prompts, lastPointKeepsItsPlaceWhenTheUcsChanges)
 {
     Session session;

@@ -175,6 +175,33 @@ TEST(SystemVariables, valuesThatFitAreTaken)
     }
 }
 
+TEST(SystemVariables, valueThatWasReadCanBeSetAgain)
+{
+    struct Row
+    {
+        const wchar_t* name;
+        int value, other;
+    };
+    const Row rows[] = {
+        {L"UCSICON",   3, 0},
+        {L"UCSICON",   0, 1},
+        {L"UCSFOLLOW", 0, 1},
+        {L"UCSFOLLOW", 1, 0},
+    };
+    support::Session session;
+    for (const Row& row : rows)
+    {
+        const resbuf value = shortValue(row.value), other = shortValue(row.other);
+        resbuf read{};
+        EXPECT_EQ(acedSetVar(row.name, &value), RTNORM);
+        EXPECT_EQ(acedGetVar(row.name, &read), RTNORM);
+        EXPECT_EQ(acedSetVar(row.name, &other), RTNORM);
+        EXPECT_EQ(acedSetVar(row.name, &read), RTNORM) << testing::PrintToString(row.name);
+        EXPECT_EQ(host::variableText(row.name), std::to_wstring(row.value))
+            << testing::PrintToString(row.name);
+    }
+}
+
 TEST(SystemVariables, viewIsGivenInTheUcsAndTheUcsInTheWorld)
 {
     support::Session session;

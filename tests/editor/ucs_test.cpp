@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "aced.h"
+#include "acedads.h"
 #include "acutads.h"
 #include "dbxutil.h"
 #include "geassign.h"
@@ -142,6 +143,24 @@ TEST(CurrentUcs, viewFollowsWhenItIsAskedTo)
     EXPECT_NEAR(state.view.twist, 2 * pi - 30 * pi / 180, 1e-14);
 }
 
+TEST(CurrentUcs, viewStaysFromTheNextUcsOnWhenFollowingIsTurnedOff)
+{
+    support::Session session;
+    host::DrawingState& state = host::stateOf(session.drawing());
+    state.ucsFollow = 1;
+    session.run(
+        []
+        {
+            resbuf value{};
+            EXPECT_EQ(acedGetVar(L"UCSFOLLOW", &value), RTNORM);
+            value.resval.rint = 0;
+            EXPECT_EQ(acedSetVar(L"UCSFOLLOW", &value), RTNORM);
+            EXPECT_EQ(acedSetCurrentUCS(turned(30)), Acad::eOk);
+        });
+    expectSame(current(), turned(30));
+    EXPECT_EQ(state.view.twist, 0);
+}
+
 TEST(UcsConversion, isExactFarFromTheOrigin)
 {
     support::Session session;
@@ -195,9 +214,17 @@ TEST(UcsConversion, transNamesWorldUcsAndDisplay)
 
 TEST(UcsConversion, failsWithoutADocument)
 {
-    ads_point point = {1, 2, 3};
+    ads_point point = {1, 2, 3}, result = {4, 5, 6};
     AcGeMatrix3d frame;
-    EXPECT_FALSE(acdbWcs2Ucs(point, point, false));
+    for (const bool displacement : {false, true})
+    {
+        EXPECT_FALSE(acdbWcs2Ucs(point, point, displacement));
+        EXPECT_FALSE(acdbUcs2Wcs(point, point, displacement));
+        EXPECT_FALSE(acdbWcs2Ucs(point, result, displacement));
+        EXPECT_FALSE(acdbUcs2Wcs(point, result, displacement));
+    }
+    EXPECT_EQ(asPnt3d(point), AcGePoint3d(1, 2, 3));
+    EXPECT_EQ(asPnt3d(result), AcGePoint3d(4, 5, 6));
     EXPECT_FALSE(acedRestorePreviousUCS());
     EXPECT_EQ(acedSetCurrentUCS(frame), Acad::eNoDatabase);
 }
@@ -226,6 +253,17 @@ TEST(Angle, isInTheHalfOpenFullTurn)
         EXPECT_GE(angle, 0);
         EXPECT_LT(angle, 2 * pi);
         EXPECT_FALSE(std::signbit(angle));
+    }
+}
+
+TEST(Angle, takesItsPointsAsTheyAreInAnyUcs)
+{
+    support::Session session;
+    const ads_point from = {1, 2, 3}, to = {1, 5, 3};
+    for (const double degrees : {0, 30, 200})
+    {
+        acedSetCurrentUCS(turned(degrees, {10, 20, 30}));
+        EXPECT_EQ(acutAngle(from, to), pi / 2) << degrees;
     }
 }
 }  // namespace

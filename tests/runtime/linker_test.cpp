@@ -5,6 +5,7 @@
 
 #include <cstdio>
 
+#include "host/documents/documentmanager.h"
 #include "host/runtime/commandstack.h"
 #include "tests/support/session.h"
 
@@ -184,6 +185,10 @@ TEST_F(Loading, staticReactorHearsOfTheDocumentAndGoesWithItsModule)
     load(moduleFile("listens.arx"));
     unload("listens.arx");
     EXPECT_FALSE(error);
+    load(moduleFile("listens.arx"));
+    testing::internal::CaptureStdout();
+    host::documents().close();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "<document goes>");
 }
 
 using LoadingDeathTest = Loading;

@@ -4,6 +4,7 @@
 #include <limits>
 #include <numbers>
 
+#include "host/dialogs/modalloop.h"
 #include "tests/settings/dialogrun.h"
 
 namespace
@@ -96,6 +97,17 @@ TEST(SettingsDialog, showsTheDefaultsInBothLanguages)
     }
     EXPECT_TRUE(english.starts_with(opened)) << english;
     EXPECT_TRUE(russian.starts_with(openedRu)) << russian;
+}
+
+TEST(SettingsDialog, theListOfColorsHoldsTextsIsDrawnByItsOwnerAndKeepsItsOrder)
+{
+    DWORD style = 0;
+    host::setDialogObserver(
+        [&](HWND dialog) { style = DWORD(GetWindowLongW(GetDlgItem(dialog, 113), GWL_STYLE)); });
+    DialogRun{}.with({"^C"});
+    host::setDialogObserver({});
+    EXPECT_EQ(style & DWORD(CBS_HASSTRINGS | CBS_OWNERDRAWFIXED | CBS_SORT),
+              DWORD(CBS_HASSTRINGS | CBS_OWNERDRAWFIXED));
 }
 
 // Writes down the banners of the two prefixes as soon as the dialog is set up.
