@@ -102,10 +102,10 @@ def corners_of(path):
     return [first, other], max(width, height)
 
 
-def options_for(mode, horizontal, vertical):
+def options_for(mode, horizontal, vertical, **more):
     labels = {f"b{axis}{edge}Scribe": "1" for axis in "XY" for edge in EDGES}
     return options_text(WCSBasePoint=mode, HorStep=f"{horizontal:.4f}", VertStep=f"{vertical:.4f}", needText="1",
-                        heightText=f"{vertical / 20:.4f}", **labels)
+                        heightText=f"{vertical / 20:.4f}", **labels, **more)
 
 
 def main():
@@ -118,6 +118,8 @@ def main():
             add(f"{path.name}, mode {mode}", test, path, list(ways_out(corners)), options)
         if path.name in LOCKED:
             continue
+        crosses = options_for(1, side / 12, side / 12, LookType="1", crossSize=f"{side / 40:.4f}")
+        add(f"{path.name}, crosses", leaves_nothing, path, list(ways_from(corners)), crosses)
         large = options_for(1, side / 200, side / 12)
         add(f"{path.name}, large grid", leaves_nothing, path, list(ways_out_of_a_large_grid(corners)), large)
     print(f"{len(drawings())} drawings, {len(list(ways_out(['', ''])))} ways out of each")

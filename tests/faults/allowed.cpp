@@ -105,7 +105,7 @@ std::vector<std::string> unusedAllowances()
     std::vector<std::string> unused;
     for (std::size_t i = 0; i < std::size(rows); ++i)
     {
-        if (used[i] == 0)
+        if (used[i] == 0 && (rows[i].kind != Kind::memory || faults::blocksAreNoted))
         {
             unused.push_back(std::string(rows[i].failedCall) + ' ' + rows[i].left);
         }

@@ -13,6 +13,9 @@ struct Leak
     int call;  // number of the host's call that came before it
 };
 
+// Not where the address sanitizer has calls of its own in their place.
+extern const bool blocksAreNoted;
+
 // From here on blocks are noted, once a process; those of before do not count.
 void noteBlocks();
 

@@ -1,7 +1,8 @@
 // Runs scripts again and again, each time with other calls of the host failing, and looks after
 // each run whether the module has left everything as it found it.
 //
-// usage: fault_sweep [--list]     (--list: prints the calls that can be failed, by symbol and name)
+// usage: fault_sweep [--list | N]     (--list: prints the calls that can be failed, by symbol and
+// name; N: every Nth fault only)
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/mman.h>
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -43,8 +45,9 @@ struct Board
 class Worker
 {
 public:
-    Worker(const fs::path& folder, unsigned number, unsigned workers)
-        : m_folder(folder / std::to_string(number)), m_number(number), m_workers(workers)
+    // Takes every so many of the plans, from that number on.
+    Worker(const fs::path& folder, unsigned number, unsigned step)
+        : m_folder(folder / std::to_string(number)), m_number(number), m_step(step)
     {
         fs::create_directory(m_folder);
         const fs::path module = fs::read_symlink("/proc/self/exe").replace_filename("netrax.arx");
@@ -70,7 +73,7 @@ private:
 
     fs::path m_folder;
     unsigned m_number;
-    unsigned m_workers;
+    unsigned m_step;
     long m_plan = 0;
     std::set<std::string> m_seen;       // names of calls
     std::vector<faults::Call> m_calls;  // of the script in hand, without a fault
@@ -163,10 +166,9 @@ bool Worker::attemptHere(const Script& script, const faults::Plan& plan)
     return false;
 }
 
-// The workers take the plans in turn.
 void Worker::attempt(const Script& script, const faults::Plan& plan)
 {
-    if (m_plan++ % m_workers != m_number)
+    if (m_plan++ % m_step != m_number)
     {
         return;
     }
@@ -289,6 +291,12 @@ int main(int count, char** arguments)
         }
         return 0;
     }
+    const unsigned everyFewth = count > 1 ? unsigned(std::atoi(arguments[1])) : 1;
+    if (everyFewth == 0)
+    {
+        std::fprintf(stderr, "usage: fault_sweep [--list | N]\n");
+        return 2;
+    }
     shareAllowances();
     host::setProductLocale(host::englishLocale);
     const fs::path folder = support::scratchFolder();
@@ -301,7 +309,7 @@ int main(int count, char** arguments)
     {
         if (fork() == 0)
         {
-            Worker worker(folder, number, workers);
+            Worker worker(folder, number, workers * everyFewth);
             const int status = worker.run();
             totals[number] = {worker.tried, worker.failed + status};
             std::fflush(stdout);
@@ -320,7 +328,8 @@ int main(int count, char** arguments)
         all.tried += totals[number].tried;
         all.failed += totals[number].failed;
     }
-    for (const std::string& allowance : unusedAllowances())
+    const auto unused = everyFewth == 1 ? unusedAllowances() : std::vector<std::string>();
+    for (const std::string& allowance : unused)
     {
         ++all.failed;
         std::printf("FAILED no run needs the allowance for %s\n", allowance.c_str());
