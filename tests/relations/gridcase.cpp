@@ -79,10 +79,11 @@ AcGePoint3d carried(const AcGeMatrix3d& frame, double x, double y)
     return AcGePoint3d(x, y, 0).transformBy(frame);
 }
 
-// From 0 to about four lines each way.
+// From 0 to about four lines each way, now and then up to thirty.
 double randomStep(const Numbers& numbers, double size)
 {
-    const double step = size / numbers.chance.between(0.4, 4.5);
+    const double most = numbers.chance.oneIn(50) ? 30 : 4.5;
+    const double step = size / numbers.chance.between(0.4, most);
     return numbers.kind == 0 ? std::ceil(step * 2) / 2 : step;
 }
 
