@@ -76,6 +76,7 @@ AcDbObject* resolve(AcDbStub* stub)
     ObjectAccess::setPoints(*line, AcGePoint3d(at[0], at[1], at[2]),
                             AcGePoint3d(at[3], at[4], at[5]));
     ObjectAccess::applyStyle(*line, core.lineStyles[stub->style]);
+    ObjectAccess::changed(*line) = false;
     stub->flags &= ~AcDbStub::isPacked;
     stub->object = line;
     return line;
@@ -86,12 +87,16 @@ void pack(AcDbObject* object)
     AcDbStub* stub = ObjectAccess::stub(*object);
     DatabaseCore& core = coreOf(stub);
     const auto* line = static_cast<const AcDbLine*>(object);
-    const AcGePoint3d start = line->startPoint();
-    const AcGePoint3d end = line->endPoint();
-    const double points[] = {start.x, start.y, start.z, end.x, end.y, end.z};
-    stub->style = core.lineStyles.intern(ObjectAccess::lineStyle(*line));
     stub->flags |= AcDbStub::isPacked;
-    std::copy(std::begin(points), std::end(points), stub->line);
+    stub->line[0] = line->startPoint().x;  // where its address has stood
+    if (ObjectAccess::changed(*line))
+    {
+        const AcGePoint3d start = line->startPoint();
+        const AcGePoint3d end = line->endPoint();
+        const double points[] = {start.x, start.y, start.z, end.x, end.y, end.z};
+        std::copy(std::begin(points), std::end(points), stub->line);
+        stub->style = core.lineStyles.intern(ObjectAccess::lineStyle(*line));
+    }
     core.retired.add(object);
 }
 

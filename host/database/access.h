@@ -61,6 +61,7 @@ struct ObjectAccess
     static bool& forWrite(AcDbObject& object) { return object.m_forWrite; }
     static bool& forgiveClose(AcDbObject& object) { return object.m_forgiveClose; }
     static bool& refused(AcDbObject& object) { return object.m_refused; }
+    static bool& changed(const AcDbObject& object) { return object.m_changed; }
     static bool isOpen(const AcDbObject& object) { return object.m_forWrite || object.m_readers; }
     // Deletes an object that is the database's.
     static void destroy(AcDbObject* object);

@@ -32,6 +32,7 @@ void addReactor(AcDbStub* member, AcDbStub* group)
     host::DatabaseCore& core = host::coreOf(member);
     if (!member->packed())
     {
+        ObjectAccess::changed(*member->object) = true;
         auto& reactors = ObjectAccess::reactors(*static_cast<AcDbEntity*>(member->object));
         reactors = core.reactorLists.with(reactors, group);
         return;

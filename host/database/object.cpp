@@ -26,7 +26,8 @@ AcDbObject::AcDbObject()
       m_forWrite(true),
       m_forgiveClose(false),
       m_refused(false),
-      m_released(false)
+      m_released(false),
+      m_changed(true)
 {
 }
 
@@ -77,6 +78,7 @@ void AcDbObject::assertWriteEnabled(const char* call) const
     {
         host::breach(call, "the " + host::describe(*this) + " is not open for write");
     }
+    m_changed = true;
 }
 
 namespace
@@ -183,7 +185,9 @@ Acad::ErrorStatus AcDbObject::erase(Adesk::Boolean erasing)
     {
         return Acad::eNotInDatabase;
     }
+    const bool changed = m_changed;
     assertWriteEnabled("AcDbObject::erase");
+    m_changed = changed;  // that it is erased stands in the stub alone
     if (m_stub->erased() == (erasing != Adesk::kFalse))
     {
         m_refused = true;

@@ -93,9 +93,10 @@ private:
     AcDbStub* m_owner;
     unsigned short m_readers;  // at most 256
     bool m_forWrite;
-    bool m_forgiveClose;  // the one close that may follow the close after an append
-    bool m_refused;       // the host refused an upgrade or an erase: may stay open on purpose
-    bool m_released;      // the host itself deletes it
+    bool m_forgiveClose;     // the one close that may follow the close after an append
+    bool m_refused;          // the host refused an upgrade or an erase: may stay open on purpose
+    bool m_released;         // the host itself deletes it
+    mutable bool m_changed;  // since it was unpacked
 };
 
 // Anything drawn. Points are WCS unless said otherwise.
