@@ -11,6 +11,8 @@ from arxhost import DEFAULTS, ROOT, need_built  # noqa: E402
 from report import add, check, expect, expect_equal, run_all  # noqa: E402
 
 SAMPLE = "(-1000000.0000,-1000000.0000)"  # makes room for the point that is shown there
+PAGE = 760  # pixels that a page gives a picture
+POINTS = 72 / 25.4  # in a millimetre
 PROMPTS = 3  # of the command; a first line of each set of messages
 
 
@@ -93,7 +95,13 @@ def what_it_shows_is_there(language):
     expect_equal([name for name in shown if not (ROOT / "docs" / name).is_file()], [], "pictures not there")
 
 
-for rule in (captions_are_named, nothing_else_is_printed_bold, prompts_are_quoted,
+def named_colours_of_the_list_are_explained(language):
+    named_ones = re.findall(r'\{\d+,\s*L"(By\w+)"\}', text_of("host", "dialogs", "colorcombo.cpp"))
+    expect_equal(named_ones, ["ByLayer", "ByBlock"], "colours of the list that are no colour")
+    expect_equal([name for name in named_ones if f"`{name}`" not in guide(language)], [], "not explained")
+
+
+for rule in (captions_are_named, named_colours_of_the_list_are_explained, nothing_else_is_printed_bold, prompts_are_quoted,
              keys_are_listed_with_their_defaults, what_it_shows_is_there):
     for tongue in ("en", "ru"):
         add(f"{rule.__name__.replace('_', ' ')} in {tongue}", rule, tongue)
@@ -114,6 +122,20 @@ def the_pictures_are_what_the_command_draws():
         expect_equal(len(drawn), 3, "pictures")
         stale = [path.name for path in drawn if path.read_bytes() != (ROOT / "docs" / path.name).read_bytes()]
     expect_equal(stale, [], "pictures to be drawn again")
+
+
+@check
+def lines_of_the_pictures_are_seen_on_a_page():
+    for picture in sorted((ROOT / "docs").glob("guide-*.svg")):
+        text = picture.read_text(encoding="utf-8")
+        pixels = PAGE / float(re.search(r'viewBox="0 0 ([\d.]+)', text)[1])
+        # In millimetres: the pen stands under the scale of the sheet, points a millimetre.
+        strokes = re.findall(r'stroke-width:([\d.]+);.*?stroke:rgb\(([\d.]+)%,([\d.]+)%,([\d.]+)%\)', text)
+        expect(len(strokes) > 10, f"{picture.name}: {len(strokes)} strokes")
+        thinnest = min(float(stroke[0]) for stroke in strokes) * POINTS * pixels
+        palest = max(sum(map(float, stroke[1:])) for stroke in strokes)
+        expect(thinnest >= 1, f"{picture.name}: a line of {thinnest:.2f} pixels")
+        expect(palest <= 100, f"{picture.name}: a line as pale as {palest / 3:.0f} % of white")
 
 
 if __name__ == "__main__":
