@@ -5,6 +5,7 @@
 
 #include "host/dialogs/wnd.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/runtime/foldcase.h"
 
 namespace host
@@ -159,17 +160,17 @@ ControlKind kindOf(HWND control)
     return equalNoCase(name, L"ComboBox") ? ControlKind::combo : kindOfStatic(style);
 }
 
-const wchar_t* nameOf(ControlKind kind)
+OwnText nameOf(ControlKind kind)
 {
-    static const wchar_t* const names[] = {L"edit",  L"button", L"check", L"radio",
-                                           L"combo", L"label",  L"group", L"line"};
+    static const OwnText names[] = {L"edit",  L"button", L"check", L"radio",
+                                    L"combo", L"label",  L"group", L"line"};
     return names[int(kind)];
 }
 
 std::wstring controlLine(HWND control)
 {
     const ControlKind kind = kindOf(control);
-    return L"[control] " + std::to_wstring(GetDlgCtrlID(control)) + L" " + nameOf(kind) +
+    return L"[control] " + std::to_wstring(GetDlgCtrlID(control)) + L" " + nameOf(kind).english() +
            (IsWindowEnabled(control) ? L" enabled " : L" disabled ") + stateOf(control, kind) +
            L" \"" + windowText(control) + L"\"";
 }
@@ -185,9 +186,8 @@ std::wstring readableView(HWND dialog)
             view.add(control);
         }
     }
-    return view.text() +
-           L"set ID TEXT, check ID on|off, click ID, select ID TEXT or #N, color ID N, show, "
-           L"close; "
-           L"Enter presses OK, ^C cancels";
+    return view.text() + own(L"set ID TEXT, check ID on|off, click ID, select ID TEXT or #N, color "
+                             L"ID N, show, close; "
+                             L"Enter presses OK, ^C cancels");
 }
 }  // namespace host

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "host/editor/owntexts.h"
 #include "windows.h"
 #include "winuser.h"
 
@@ -21,7 +22,7 @@ enum class ControlKind
 };
 
 ControlKind kindOf(HWND control);
-const wchar_t* nameOf(ControlKind kind);
+OwnText nameOf(ControlKind kind);
 
 // `[control] ID KIND enabled|disabled STATE "TEXT"`
 std::wstring controlLine(HWND control);

@@ -7,6 +7,7 @@
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/runtime/foldcase.h"
 
 namespace host
@@ -27,9 +28,9 @@ std::wstring takeWord(std::wstring_view& line)
     return word;
 }
 
-std::wstring named(HWND control)
+std::wstring numberOf(HWND control)
 {
-    return L"Control " + std::to_wstring(GetDlgCtrlID(control));
+    return std::to_wstring(GetDlgCtrlID(control));
 }
 
 void tellDialog(HWND control, WORD code)
@@ -56,12 +57,13 @@ Wrong check(HWND button, std::wstring_view text)
     const bool on = equalNoCase(word, L"on");
     if (!on && !equalNoCase(word, L"off"))
     {
-        return L"Say on or off: check " + std::to_wstring(GetDlgCtrlID(button)) + L" on";
+        return own(L"Say on or off: check %1 on", {numberOf(button)});
     }
     const bool checked = SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
     if (kindOf(button) == ControlKind::radio && checked && !on)
     {
-        return named(button) + L" goes off only when another button of its group is clicked.";
+        return own(L"Control %1 goes off only when another button of its group is clicked.",
+                   {numberOf(button)});
     }
     return checked == on ? done : click(button, {});
 }
@@ -70,7 +72,7 @@ Wrong choose(HWND list, LRESULT index, const std::wstring& wanted)
 {
     if (index < 0 || index >= SendMessageW(list, CB_GETCOUNT, 0, 0))
     {
-        return named(list) + L" has no item " + wanted + L".";
+        return own(L"Control %1 has no item %2.", {numberOf(list), wanted});
     }
     SendMessageW(list, CB_SETCURSEL, WPARAM(index), 0);
     tellDialog(list, CBN_SELCHANGE);
@@ -95,11 +97,11 @@ Wrong color(HWND list, std::wstring_view text)
     auto* const colors = dynamic_cast<CAcUiColorComboBox*>(objectOf(list));
     if (colors == nullptr)
     {
-        return named(list) + L" is no list of colours.";
+        return own(L"Control %1 is no list of colours.", {numberOf(list)});
     }
     const std::wstring wanted(trimmed(text));
     const int index = colors->AddColorToMRU(parseInteger(wanted).value_or(-1));
-    return choose(list, index, L"for the colour \"" + wanted + L"\"");
+    return choose(list, index, own(L"for the colour %1", {L"\"" + wanted + L"\""}));
 }
 
 struct Verb
@@ -124,19 +126,20 @@ Wrong act(const Verb& verb, HWND dialog, std::wstring_view rest)
     const HWND control = id ? GetDlgItem(dialog, *id) : nullptr;
     if (control == nullptr)
     {
-        return word.empty() ? L"Say which control: " + std::wstring(verb.word) + L" ID"
-                            : L"There is no control " + word + L" in this dialog.";
+        return word.empty() ? own(L"Say which control: %1 ID", {verb.word})
+                            : own(L"There is no control %1 in this dialog.", {word});
     }
     const ControlKind kind = kindOf(control);
     if (std::ranges::find(verb.kinds, kind) == verb.kinds.end())
     {
-        const wchar_t* const article = kind == ControlKind::edit ? L" is an " : L" is a ";
-        return named(control) + article + nameOf(kind) + L", which does not take " + verb.word +
-               L".";
+        const OwnText text = kind == ControlKind::edit
+                                 ? OwnText(L"Control %1 is an %2, which does not take %3.")
+                                 : OwnText(L"Control %1 is a %2, which does not take %3.");
+        return own(text, {numberOf(control), own(nameOf(kind)), verb.word});
     }
     if (!IsWindowEnabled(control) || !IsWindowVisible(control))
     {
-        return named(control) + L" is disabled.";
+        return own(L"Control %1 is disabled.", {numberOf(control)});
     }
     return verb.act(control, rest);
 }
@@ -172,7 +175,7 @@ Wrong takeDialogLine(Editor& editor, HWND dialog, std::wstring_view line)
             return act(verb, dialog, rest);
         }
     }
-    return L"A dialog takes set, check, click, select, color, show and close, not \"" +
-           std::wstring(trimmed(line)) + L"\".";
+    return own(L"A dialog takes set, check, click, select, color, show and close, not \"%1\".",
+               {trimmed(line)});
 }
 }  // namespace host

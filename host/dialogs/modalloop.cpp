@@ -7,6 +7,7 @@
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/runtime/breach.h"
 #include "host/windows/pendingmessages.h"
 
@@ -102,7 +103,7 @@ public:
         {
             m_editor.printLine(readableView(m_dialog));
         }
-        question.prompt = L"Dialog: ";
+        question.prompt = own(L"Dialog: ");
         return question;
     }
 

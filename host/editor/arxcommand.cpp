@@ -1,5 +1,6 @@
 #include "acedads.h"
 #include "host/editor/hostcommands.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/runtime/linker.h"
 #include "host/windows/text.h"
@@ -9,9 +10,9 @@ namespace host
 namespace
 {
 // Nothing for Enter and for Esc. Quotes, as names with blanks have them, do not count.
-std::optional<std::filesystem::path> askFile(Editor& editor, const wchar_t* prompt)
+std::optional<std::filesystem::path> askFile(Editor& editor, OwnText prompt)
 {
-    auto name = askLine(editor, Question::Kind::name, prompt);
+    auto name = askLine(editor, Question::Kind::name, own(prompt));
     if (name)
     {
         std::erase(*name, L'"');
@@ -21,17 +22,16 @@ std::optional<std::filesystem::path> askFile(Editor& editor, const wchar_t* prom
 }
 
 void printResult(Editor& editor, const Linker::Error& error, const std::filesystem::path& file,
-                 const wchar_t* done)
+                 OwnText done)
 {
-    editor.printLine(error ? fromUtf8(*error)
-                           : fromUtf8(file.filename().string()) + L" successfully " + done + L".");
+    editor.printLine(error ? fromUtf8(*error) : own(done, {fromUtf8(file.filename().string())}));
 }
 
 void loadFile(Editor& editor)
 {
     if (const auto file = askFile(editor, L"Enter ARX file name to load: "))
     {
-        printResult(editor, linker().load(*file), *file, L"loaded");
+        printResult(editor, linker().load(*file), *file, L"%1 successfully loaded.");
     }
 }
 
@@ -39,7 +39,7 @@ void unloadFile(Editor& editor)
 {
     if (const auto file = askFile(editor, L"Enter ARX file name to unload: "))
     {
-        printResult(editor, linker().unload(*file), *file, L"unloaded");
+        printResult(editor, linker().unload(*file), *file, L"%1 successfully unloaded.");
     }
 }
 
@@ -59,7 +59,7 @@ void listCommands(Editor& editor)
     }
     if (!any)
     {
-        editor.printLine(L"No module has registered a command.");
+        editor.printLine(own(L"No module has registered a command."));
     }
 }
 }  // namespace
@@ -68,8 +68,8 @@ void arxCommand()
 {
     Editor& editor = *Editor::current();
     ACHAR option[133];
-    acedInitGet(0, L"Load Unload Commands");
-    if (acedGetKword(L"Enter an option [Load/Unload/Commands]: ", option) != RTNORM)
+    acedInitGet(0, own(L"Load Unload Commands").c_str());
+    if (acedGetKword(own(L"Enter an option [Load/Unload/Commands]: ").c_str(), option) != RTNORM)
     {
         return;
     }

@@ -7,6 +7,7 @@
 #include "host/documents/documentmanager.h"
 #include "host/editor/hostcommands.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/sysvars.h"
 #include "host/runtime/breach.h"
 #include "host/runtime/foldcase.h"
@@ -53,15 +54,15 @@ std::wstring refusal(const Command& command, Document& document)
     const bool paper = stateOf(*document.database()).paperSpace;
     if (paper && command.has(ACRX_CMD_NOPAPERSPACE))
     {
-        return L"** Command not allowed in Paper Space **";
+        return own(L"** Command not allowed in Paper Space **");
     }
     if (!paper && command.has(ACRX_CMD_NOTILEMODE))
     {
-        return L"** Command not allowed in Model Tab **";
+        return own(L"** Command not allowed in Model Tab **");
     }
     if (document.blockEditor && command.has(ACRX_CMD_NOBEDIT))
     {
-        return L"** " + shownName(command) + L" command not allowed in block editor. **";
+        return own(L"** %1 command not allowed in block editor. **", {shownName(command)});
     }
     return {};
 }
@@ -179,9 +180,13 @@ void start(Editor& editor, Document& document, const CommandPtr& command)
     run(editor, document, command);
 }
 
-std::wstring unknownCommand(std::wstring_view name)
+// No key of a terminal opens the help.
+std::wstring unknownCommand(const Editor& editor, std::wstring_view name)
 {
-    return L"Unknown command \"" + upperCase(name) + L"\".  Press F1 for help.";
+    const OwnText text = editor.interactive()
+                             ? OwnText(L"Unknown command \"%1\".  Type HELP for a list.")
+                             : OwnText(L"Unknown command \"%1\".  Press F1 for help.");
+    return own(text, {upperCase(name)});
 }
 
 bool mayInterrupt(const Command& command)
@@ -211,7 +216,7 @@ bool executeLine(Editor& editor, std::wstring_view line)
         lispFunctions().invoke(function);
         return true;
     }
-    editor.printLine(unknownCommand(typed.name));
+    editor.printLine(unknownCommand(editor, typed.name));
     return false;
 }
 
@@ -222,19 +227,19 @@ void startTransparent(Editor& editor, std::wstring_view line)
     Document* document = documents().document();
     if (!command || !document)
     {
-        editor.printLine(unknownCommand(typed.name));
+        editor.printLine(unknownCommand(editor, typed.name));
         return;
     }
     const std::wstring reason = mayInterrupt(*command)
                                     ? refusal(*command, *document)
-                                    : L"** That command may not be invoked transparently **";
+                                    : own(L"** That command may not be invoked transparently **");
     if (!reason.empty())
     {
         editor.printLine(reason);
         return;
     }
     run(editor, *document, command);
-    editor.printLine(L"Resuming " + shownName(*editor.active.back()) + L" command.");
+    editor.printLine(own(L"Resuming %1 command.", {shownName(*editor.active.back())}));
 }
 
 std::wstring runningNames(const Editor& editor)
@@ -249,7 +254,7 @@ std::wstring runningNames(const Editor& editor)
 
 void runCommands(Editor& editor)
 {
-    const Question question{.kind = Question::Kind::command, .prompt = L"Command: "};
+    const Question question{.kind = Question::Kind::command, .prompt = own(L"Command: ")};
     while (!editor.quit && !editor.inputEnded())
     {
         const Answer answer = editor.ask(question);

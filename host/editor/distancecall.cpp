@@ -15,25 +15,25 @@ double distanceBetween(const AcGePoint3d& from, AcGePoint3d to, int bits)
     return from.distanceTo(to);
 }
 
-// Null when the options allow the number.
-const wchar_t* complaintAbout(double value, int bits)
+// Nothing when the options allow the number.
+std::optional<OwnText> complaintAbout(double value, int bits)
 {
     const bool zero = (bits & RSG_NOZERO) && value == 0;
     const bool negative = (bits & RSG_NONEG) && value < 0;
     if (!zero && !negative)
     {
-        return nullptr;
+        return std::nullopt;
     }
     const bool both = (bits & RSG_NOZERO) && (bits & RSG_NONEG);
-    return both   ? L"Value must be positive and nonzero."
-           : zero ? L"Value must be nonzero."
-                  : L"Value must be positive.";
+    return both   ? OwnText(L"Value must be positive and nonzero.")
+           : zero ? OwnText(L"Value must be nonzero.")
+                  : OwnText(L"Value must be positive.");
 }
 
 Reading checked(double value, int bits)
 {
-    const wchar_t* complaint = complaintAbout(value, bits);
-    return complaint ? refused(complaint) : taken;
+    const std::optional<OwnText> complaint = complaintAbout(value, bits);
+    return complaint ? refused(*complaint) : taken;
 }
 
 // A number, or a point: the first of two, or the only one when there is a base.
@@ -54,8 +54,8 @@ struct DistanceReader
         const std::optional<TypedPoint> typed = parsePoint(text);
         if (!typed)
         {
-            return foreign(base ? L"Requires numeric distance or second point."
-                                : L"Requires numeric distance or two points.");
+            return foreign(base ? OwnText(L"Requires numeric distance or second point.")
+                                : OwnText(L"Requires numeric distance or two points."));
         }
         const AcGePoint3d point = resolvePoint(*typed, base);
         setLastPoint(point);
@@ -72,7 +72,7 @@ struct DistanceReader
 int askSecondPoint(Editor& editor, const AcGePoint3d& first, int bits, double& distance)
 {
     const Question question{
-        .kind = Question::Kind::point, .prompt = L"Specify second point: ", .base = first};
+        .kind = Question::Kind::point, .prompt = own(L"Specify second point: "), .base = first};
     const auto read = [&](std::wstring_view text)
     {
         AcGePoint3d second;

@@ -3,6 +3,7 @@
 #include "host/database/drawing.h"
 #include "host/documents/documentmanager.h"
 #include "host/editor/editor.h"
+#include "host/editor/owntexts.h"
 
 namespace host
 {
@@ -44,7 +45,7 @@ void undoCommand()
     Document& document = *documents().document();
     if (document.undo.empty())
     {
-        editor.printLine(L"Everything has been undone.");
+        editor.printLine(own(L"Everything has been undone."));
         return;
     }
     AcDbDatabase& database = *document.database();
@@ -63,7 +64,7 @@ void redoCommand()
     Document& document = *documents().document();
     if (document.redo.empty())
     {
-        editor.printLine(L"Nothing to redo.");
+        editor.printLine(own(L"Nothing to redo."));
         return;
     }
     AcDbDatabase& database = *document.database();

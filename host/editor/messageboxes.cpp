@@ -2,6 +2,7 @@
 
 #include "host/editor/editor.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/runtime/foldcase.h"
 #include "host/windows/messagebox.h"
 
@@ -11,7 +12,7 @@ namespace
 {
 struct Button
 {
-    const wchar_t* label;
+    OwnText label;
     int id;
 };
 
@@ -50,7 +51,7 @@ std::wstring labels(const Box& box)
     std::wstring text;
     for (const Button& button : box.buttons)
     {
-        text += (text.empty() ? L"" : L"/") + std::wstring(button.label);
+        text += (text.empty() ? L"" : L"/") + own(button.label);
     }
     return text;
 }
@@ -59,6 +60,12 @@ const Button& defaultButton(const Box& box, unsigned type)
 {
     const bool second = (type & MB_DEFBUTTON2) != 0 && box.buttons.size() > 1;
     return box.buttons[second ? 1 : 0];
+}
+
+// The English word will do in every language.
+bool names(std::wstring_view typed, const Button& button)
+{
+    return equalNoCase(typed, own(button.label)) || equalNoCase(typed, button.label.english());
 }
 
 // Null for an answer that presses no button.
@@ -76,7 +83,7 @@ const Button* pressed(const Box& box, const Answer& answer, unsigned type)
     }
     for (const Button& button : box.buttons)
     {
-        if (equalNoCase(trimmed(answer.text), button.label))
+        if (names(trimmed(answer.text), button))
         {
             return &button;
         }
@@ -95,7 +102,7 @@ int askBox(Editor& editor, const ShownBox& shown)
         L"[message box] " + shown.caption + L": " + shown.text + L" (" + labels(box) + L") -> ";
     for (const Button& button : box.buttons)
     {
-        question.keywords.push_back(button.label);
+        question.keywords.push_back(own(button.label));
     }
     for (;;)
     {
@@ -107,11 +114,11 @@ int askBox(Editor& editor, const ShownBox& shown)
         }
         if (const Button* button = pressed(box, answer, shown.type))
         {
-            editor.echo(answer, foldCase(button->label));
+            editor.echo(answer, foldCase(own(button->label)));
             return button->id;
         }
         editor.echo(answer, cancelled(answer) ? L"^C" : answer.text);
-        editor.printLine(L"Answer with one of the buttons: " + labels(box) + L".");
+        editor.printLine(own(L"Answer with one of the buttons: %1.", {labels(box)}));
     }
 }
 }  // namespace

@@ -51,7 +51,7 @@ int promptUntilTaken(Editor& editor, Question question, const PromptOptions& opt
         {
             return giveText(editor, typed, false);
         }
-        editor.printLine(reading.complaint);
+        editor.printLine(own(*reading.complaint));
     }
 }
 

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "acedads.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 
 namespace host
@@ -19,16 +21,16 @@ struct Reading
         foreign
     };
     State state;
-    const wchar_t* complaint;
+    std::optional<OwnText> complaint{};  // of a text that is not taken
 };
 
-const Reading taken{Reading::State::taken, nullptr};
+const Reading taken{Reading::State::taken};
 
-inline Reading refused(const wchar_t* complaint)
+inline Reading refused(OwnText complaint)
 {
     return {Reading::State::refused, complaint};
 }
-inline Reading foreign(const wchar_t* complaint)
+inline Reading foreign(OwnText complaint)
 {
     return {Reading::State::foreign, complaint};
 }

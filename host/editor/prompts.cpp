@@ -4,6 +4,7 @@
 #include "host/documents/documentmanager.h"
 #include "host/editor/commands.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/sysvars.h"
 #include "host/editor/ucs.h"
 
@@ -42,7 +43,7 @@ std::optional<double> askDegrees(Editor& editor, const std::wstring& prompt, dou
         {
             return degrees;
         }
-        editor.printLine(L"Requires valid numeric angle.");
+        editor.printLine(own(L"Requires valid numeric angle."));
     }
     return std::nullopt;
 }

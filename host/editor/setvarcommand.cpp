@@ -2,6 +2,7 @@
 
 #include "host/editor/hostcommands.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/editor/sysvars.h"
 #include "host/runtime/foldcase.h"
@@ -17,7 +18,7 @@ std::wstring theName;
 // Nothing for Enter and for Esc.
 std::optional<std::wstring> askName(Editor& editor)
 {
-    while (const auto name = askLine(editor, Question::Kind::name, L"Enter variable name: "))
+    while (const auto name = askLine(editor, Question::Kind::name, own(L"Enter variable name: ")))
     {
         if (name->empty())
         {
@@ -27,7 +28,7 @@ std::optional<std::wstring> askName(Editor& editor)
         {
             return name;
         }
-        editor.printLine(L"Unknown variable name.");
+        editor.printLine(own(L"Unknown variable name."));
     }
     return std::nullopt;
 }
@@ -70,16 +71,16 @@ std::wstring requirement(const VariableInfo& info)
     switch (info.type)
     {
         case VariableType::integer:
-            return L"Requires an integer between " + std::to_wstring(info.range.least) + L" and " +
-                   std::to_wstring(info.range.most) + L".";
+            return own(L"Requires an integer between %1 and %2.",
+                       {std::to_wstring(info.range.least), std::to_wstring(info.range.most)});
         case VariableType::point:
-            return L"Invalid point.";
+            return own(L"Invalid point.");
         case VariableType::text:
-            return L"Cannot set " + info.name + L" to that value.";
+            return own(L"Cannot set %1 to that value.", {info.name});
         case VariableType::positive:
-            return L"Value must be positive and nonzero.";
+            return own(L"Value must be positive and nonzero.");
         default:
-            return L"Requires numeric value.";
+            return own(L"Requires numeric value.");
     }
 }
 
@@ -92,7 +93,7 @@ bool takeValue(Editor& editor, const VariableInfo& info, const std::wstring& tex
     }
     if (info.readOnly)
     {
-        editor.printLine(info.name + L" is read only.");
+        editor.printLine(own(L"%1 is read only.", {info.name}));
         return true;
     }
     const std::optional<VariableValue> value = parseValue(info, text);
@@ -107,8 +108,9 @@ bool takeValue(Editor& editor, const VariableInfo& info, const std::wstring& tex
 // Read-only variables are asked for as well: a script gives one answer whichever it names.
 std::wstring valuePrompt(const VariableInfo& info)
 {
-    return L"Enter new value for " + info.name + (info.readOnly ? L" (read only)" : L"") + L" <" +
-           variableText(info.name) + L">: ";
+    const OwnText prompt = info.readOnly ? OwnText(L"Enter new value for %1 (read only) <%2>: ")
+                                         : OwnText(L"Enter new value for %1 <%2>: ");
+    return own(prompt, {info.name, variableText(info.name)});
 }
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include "host/documents/documentmanager.h"
 #include "host/editor/hostcommands.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/editor/ucs.h"
 
@@ -24,8 +25,9 @@ const Ucs& current()
 void printCurrentName(Editor& editor)
 {
     const Ucs& ucs = current();
-    const std::wstring unnamed = isWorld(ucs.toWorld) ? L"*WORLD*" : L"*NO NAME*";
-    editor.printLine(L"Current ucs name:  " + (ucs.name.empty() ? unnamed : ucs.name));
+    const std::wstring unnamed =
+        own(isWorld(ucs.toWorld) ? OwnText(L"*WORLD*") : OwnText(L"*NO NAME*"));
+    editor.printLine(own(L"Current ucs name:  %1", {ucs.name.empty() ? unnamed : ucs.name}));
 }
 
 void moveOrigin(const AcGePoint3d& originUcs)
@@ -53,7 +55,9 @@ void turnAbout(int axis, double degrees)
 void askTurn(Editor& editor, wchar_t axis)
 {
     const std::wstring prompt =
-        std::wstring(L"Specify rotation angle about ") + axis + L" axis <90>: ";
+        own(L"Specify rotation angle about %1 axis <90>: ", {
+                                                                {&axis, 1}
+    });
     if (const std::optional<double> degrees = askDegrees(editor, prompt, 90))
     {
         turnAbout(axis - L'X', *degrees);
@@ -62,10 +66,10 @@ void askTurn(Editor& editor, wchar_t axis)
 
 // UCS points of the answer to a question that Enter passes over. What is no point is not meant for
 // this question: scripts name the origin and go on with the next command.
-std::optional<AcGePoint3d> askPointOrPass(Editor& editor, const wchar_t* prompt)
+std::optional<AcGePoint3d> askPointOrPass(Editor& editor, OwnText prompt)
 {
     const AcGePoint3d origin;
-    const Question question{.kind = Question::Kind::point, .prompt = prompt, .base = origin};
+    const Question question{.kind = Question::Kind::point, .prompt = own(prompt), .base = origin};
     const Answer answer = editor.askSilently(question);
     const std::optional<TypedPoint> typed = parsePoint(answer.text);
     if (answer.kind == Answer::Kind::line && !trimmed(answer.text).empty() && !typed)
@@ -106,7 +110,7 @@ void askAxes(Editor& editor)
     const AcGeVector3d y = inPlane ? inPlane->asVector() : AcGeVector3d(0, 0, 1).crossProduct(x);
     if (!turnTowards(x, y))
     {
-        editor.printLine(L"Points are collinear.");
+        editor.printLine(own(L"Points are collinear."));
     }
 }
 
@@ -114,7 +118,8 @@ void askOrigin()
 {
     AcGePoint3d origin;
     acedInitGet(RSG_NONULL, nullptr);
-    if (acedGetPoint(nullptr, L"Specify new origin point: ", asDblArray(origin)) == RTNORM)
+    if (acedGetPoint(nullptr, own(L"Specify new origin point: ").c_str(), asDblArray(origin)) ==
+        RTNORM)
     {
         moveOrigin(origin);
     }
@@ -124,7 +129,7 @@ void usePrevious(Editor& editor)
 {
     if (!restorePreviousUcs(document()))
     {
-        editor.printLine(L"No previous coordinate system saved.");
+        editor.printLine(own(L"No previous coordinate system saved."));
     }
 }
 
@@ -154,10 +159,10 @@ void ucsCommand()
     Editor& editor = *Editor::current();
     printCurrentName(editor);
     AcGePoint3d origin;
-    acedInitGet(0, L"Origin Previous World X Y Z");
-    const int result =
-        acedGetPoint(nullptr, L"Specify origin of UCS or [Origin/Previous/World/X/Y/Z] <World>: ",
-                     asDblArray(origin));
+    acedInitGet(0, own(L"Origin Previous World X Y Z").c_str());
+    const std::wstring prompt =
+        own(L"Specify origin of UCS or [Origin/Previous/World/X/Y/Z] <World>: ");
+    const int result = acedGetPoint(nullptr, prompt.c_str(), asDblArray(origin));
     if (result == RTNORM)
     {
         moveOrigin(origin);

@@ -5,6 +5,7 @@
 #include "host/documents/documentmanager.h"
 #include "host/editor/hostcommands.h"
 #include "host/editor/numbertext.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/editor/ucs.h"
 #include "host/editor/view.h"
@@ -39,7 +40,7 @@ void askTwist(Editor& editor)
 {
     View& view = state().view;
     const double twist = inFullTurn(view.twist);
-    const std::wstring prompt = L"Specify view twist angle <" + degreesText(twist) + L">: ";
+    const std::wstring prompt = own(L"Specify view twist angle <%1>: ", {degreesText(twist)});
     const double current = twist * 180 / std::numbers::pi;
     const std::optional<double> degrees = askDegrees(editor, prompt, current);
     if (degrees && *degrees != current)
@@ -56,10 +57,10 @@ void usePlanOf(const AcGeMatrix3d& frame)
 // Coordinate systems get no names here, so there is none to be found.
 void planOfNamedUcs(Editor& editor)
 {
-    const auto name = askLine(editor, Question::Kind::name, L"Enter name of UCS: ");
+    const auto name = askLine(editor, Question::Kind::name, own(L"Enter name of UCS: "));
     if (name && !name->empty())
     {
-        editor.printLine(L"Cannot find UCS " + *name + L".");
+        editor.printLine(own(L"Cannot find UCS %1.", {*name}));
     }
 }
 }  // namespace
@@ -67,9 +68,10 @@ void planOfNamedUcs(Editor& editor)
 void vpointCommand()
 {
     Editor& editor = *Editor::current();
-    editor.printLine(L"Current view direction:  VIEWDIR=" + pointText(state().view.direction));
+    editor.printLine(
+        own(L"Current view direction:  VIEWDIR=%1", {pointText(state().view.direction)}));
     while (const auto line =
-               askLine(editor, Question::Kind::point, L"Specify a view point <keep>: "))
+               askLine(editor, Question::Kind::point, own(L"Specify a view point <keep>: ")))
     {
         if (line->empty())
         {
@@ -80,14 +82,14 @@ void vpointCommand()
             turnView(state().view, *direction, 0);
             return;
         }
-        editor.printLine(L"Invalid point.");
+        editor.printLine(own(L"Invalid point."));
     }
 }
 
 void dviewCommand()
 {
     Editor& editor = *Editor::current();
-    const wchar_t* const select = L"Select objects or <use DVIEWBLOCK>: ";
+    const std::wstring select = own(L"Select objects or <use DVIEWBLOCK>: ");
     const auto selected = askLine(editor, Question::Kind::name, select);
     if (!selected)
     {
@@ -95,13 +97,13 @@ void dviewCommand()
     }
     if (!selected->empty())
     {
-        editor.printLine(L"Nothing is shown while the view turns; the objects do not matter.");
+        editor.printLine(own(L"Nothing is shown while the view turns; the objects do not matter."));
     }
     for (;;)
     {
         ACHAR option[133];
-        acedInitGet(0, L"TWist");
-        if (acedGetKword(L"Enter option [TWist]: ", option) != RTNORM)
+        acedInitGet(0, own(L"TWist").c_str());
+        if (acedGetKword(own(L"Enter option [TWist]: ").c_str(), option) != RTNORM)
         {
             return;
         }
@@ -112,9 +114,9 @@ void dviewCommand()
 void planCommand()
 {
     Editor& editor = *Editor::current();
-    const KeywordList options(L"Current Ucs World");
+    const KeywordList options(own(L"Current Ucs World"));
     const Question question{.kind = Question::Kind::keyword,
-                            .prompt = L"Enter an option [Current ucs/Ucs/World] <Current>: ",
+                            .prompt = own(L"Enter an option [Current ucs/Ucs/World] <Current>: "),
                             .keywords = options.names()};
     const Answer answer = editor.askSilently(question);
     const std::wstring typed(trimmed(answer.text));

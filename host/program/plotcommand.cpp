@@ -2,6 +2,7 @@
 
 #include "host/documents/documentmanager.h"
 #include "host/editor/commands.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/plot/plot.h"
 #include "host/windows/text.h"
@@ -13,7 +14,7 @@ namespace
 void plotCommand()
 {
     Editor& editor = *Editor::current();
-    auto name = askLine(editor, Question::Kind::name, L"Plot to file (.png, .pdf or .svg): ");
+    auto name = askLine(editor, Question::Kind::name, own(L"Plot to file (.png, .pdf or .svg): "));
     if (!name || name->empty())
     {
         return;
@@ -27,7 +28,7 @@ void plotCommand()
     }
     else if (!plotted.leftOut.empty())
     {
-        editor.printLine(fromUtf8(path + ": not drawn: " + plotted.leftOut));
+        editor.printLine(own(L"%1: not drawn: %2", {fromUtf8(path), fromUtf8(plotted.leftOut)}));
     }
 }
 }  // namespace

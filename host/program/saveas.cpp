@@ -2,6 +2,7 @@
 
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
+#include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/runtime/linker.h"
 #include "host/windows/text.h"
@@ -13,9 +14,10 @@ namespace
 // Nothing for Esc, and for Enter while the drawing has no file.
 std::optional<std::filesystem::path> askPath(Editor& editor, const Document& document)
 {
-    const std::wstring shown =
-        document.path().empty() ? L"" : L" <" + std::wstring(document.fileName()) + L">";
-    auto name = askLine(editor, Question::Kind::name, L"Save drawing as" + shown + L": ");
+    const std::wstring prompt = document.path().empty()
+                                    ? own(L"Save drawing as: ")
+                                    : own(L"Save drawing as <%1>: ", {document.fileName()});
+    auto name = askLine(editor, Question::Kind::name, prompt);
     if (!name)
     {
         return std::nullopt;

@@ -310,3 +310,49 @@ def a_quiet_run_still_tells_its_errors():
             expect_equal((quiet.status, quiet.said), (1, ""), "result")
             expect_equal(quiet.errors, plain.errors, "standard error")
             expect(one_line(quiet.errors), f"standard error is not one line: {quiet.errors!r}")
+
+
+# A question of the host's own and what is answered; keywords may be English.
+IN_RUSSIAN = (
+    ("Команда: ", "ПРИВЕТ"), ('Неизвестная команда "ПРИВЕТ". Список команд: HELP.\nКоманда: ', "UCS"),
+    ("Имя текущей ПСК:  *МИР*\nУкажите начало ПСК или [Начало/Предыдущая/Мир/X/Y/Z] <Мир>: ", "н"),
+    ("Новое начало координат: ", "где"), ("Недопустимая точка.\nНовое начало координат: ", "5,5"),
+    ("Команда: ", "UCS"), ("Имя текущей ПСК:  *БЕЗ ИМЕНИ*\n", "World"), ("Команда: ", "UCS"), ("*МИР*\n", "Z"),
+    ("Угол поворота вокруг оси Z <90>: ", "30"), ("Команда: ", "DVIEW"), ("Выберите объекты или <DVIEWBLOCK>: ", ""),
+    ("Задайте параметр [ПОворот]: ", "по"), ("Угол поворота вида <0>: ", "10"), ("[ПОворот]: ", ""),
+    ("Команда: ", "PLAN"), ("Задайте параметр [Текущая пск/Пск/Мир] <Текущая>: ", "мир"), ("Команда: ", "SETVAR"),
+    ("Имя переменной: ", "ucsicon"), ("Новое значение UCSICON <3>: ", "99"), ("Требуется целое число от ", "1"),
+    ("UCSICON = 1\nКоманда: ", "VPOINT"), ("Укажите точку зрения <не менять>: ", ""), ("Команда: ", "SAVEAS"),
+    ("Сохранить чертёж как: ", ""), ("Команда: ", "PLOT"), ("Файл для печати (.png, .pdf или .svg): ", ""),
+    ("Команда: ", "ARX"), ("Задайте параметр [Загрузить/Выгрузить/Команды]: ", "з"), ("Имя загружаемого файла ARX: ", ""),
+    ("Команда: ", "zv_netrax"), ("[Настройки]: ", "Н"), ("select НОМЕР ТЕКСТ или #N — выбрать,", ""),
+)
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def the_hosts_own_questions_are_russian_for_a_russian_at_a_terminal():
+    with Desk() as desk, console(desk, "--locale", "ru-RU") as terminal:
+        for prompt, typed in IN_RUSSIAN[:-1]:
+            answer(terminal, prompt, typed + ENTER)
+        terminal.wait_for(IN_RUSSIAN[-1][0])
+        answer(terminal, "Диалог: ", "check 107 on" + ENTER)
+        terminal.wait_for("Элемент 107 — поле ввода, команда check к нему не подходит.\n")
+        answer(terminal, "Диалог: ", "set 107 0.1" + ENTER)
+        answer(terminal, "Диалог: ", ENTER)
+        answer(terminal, "]: ", "0,0" + ENTER)
+        answer(terminal, ": ", "100,100" + ENTER)
+        answer(terminal, "(Да/Нет) -> ", "может быть" + ENTER)
+        answer(terminal, "Ответьте одной из кнопок: Да/Нет.", "нет" + ENTER)
+        answer(terminal, "]: ", ESC)
+        answer(terminal, "Команда: ", CTRL_D)
+        expect_equal(terminal.wait_for_end(), 0, f"exit status after {terminal.shown!r}")
+
+
+@check
+def a_script_reads_the_hosts_own_questions_in_english_whatever_the_language():
+    with Desk() as desk:
+        script = "UCS\n\nSETVAR\nUCSICON\n3\nzv_netrax\n^C\n"
+        said = [desk.run("--locale", locale, script=script).said.split("zv_netrax")[0] for locale in ("en-US", "ru-RU")]
+        expect_equal(said[1], said[0], "what a script gets to read")
+        expect("Enter variable name: UCSICON\n" in said[1], f"no such prompt in {said[1]!r}")
