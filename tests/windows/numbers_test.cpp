@@ -85,6 +85,15 @@ TEST(NumberTexts, aZeroKeepsItsSign)
     EXPECT_FALSE(std::signbit(_wtof(L"0")));
 }
 
+TEST(NumberTexts, withoutADigitThereIsNoSign)
+{
+    for (const wchar_t* text : {L"-", L"--5", L"-.", L"-x", L" -", L"-e5", L"- 5", L"-+5"})
+    {
+        EXPECT_EQ(_wtof(text), 0) << testing::PrintToString(text);
+        EXPECT_FALSE(std::signbit(_wtof(text))) << testing::PrintToString(text);
+    }
+}
+
 TEST(NumberTexts, wholeNumbersOfTheShellTakeAMinusAndDigitsOnly)
 {
     struct Row

@@ -22,6 +22,7 @@ struct NumberText
     std::string fraction;
     std::string exponent;  // with its minus
 
+    bool empty() const { return whole.empty() && fraction.empty(); }
     // Power of ten of the first digit that counts, plus one.
     double magnitude() const;
 };
@@ -70,7 +71,7 @@ NumberText parse(const wchar_t* at)
     {
         text.fraction = takeDigits(++at);
     }
-    if (!text.whole.empty() || !text.fraction.empty())
+    if (!text.empty())
     {
         text.exponent = takeExponent(at);
     }
@@ -105,6 +106,10 @@ double value(const NumberText& text)
 double _wtof(const wchar_t* text)
 {
     const NumberText parts = parse(text);
+    if (parts.empty())
+    {
+        return 0;  // a lone minus gives this zero no sign
+    }
     const double size = value(parts);
     return parts.negative ? -size : size;
 }
