@@ -73,8 +73,6 @@ inline constexpr OwnTextRow ownTextRows[] = {
     {L"Enter variable name: ", L"Имя переменной: "},
     {L"Unknown variable name.", L"Неизвестное имя переменной."},
     {L"Enter new value for %1 <%2>: ", L"Новое значение %1 <%2>: "},
-    {L"Enter new value for %1 (read only) <%2>: ", L"Новое значение %1 (только для чтения) <%2>: "},
-    {L"%1 is read only.", L"%1: только для чтения."},
     {L"Requires an integer between %1 and %2.", L"Требуется целое число от %1 до %2."},
     {L"Requires numeric value.", L"Требуется число."},
     {L"Cannot set %1 to that value.", L"Переменной %1 нельзя присвоить это значение."},

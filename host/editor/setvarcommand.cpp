@@ -91,11 +91,6 @@ bool takeValue(Editor& editor, const VariableInfo& info, const std::wstring& tex
     {
         return true;
     }
-    if (info.readOnly)
-    {
-        editor.printLine(own(L"%1 is read only.", {info.name}));
-        return true;
-    }
     const std::optional<VariableValue> value = parseValue(info, text);
     if (value && setVariable(info.name, *value) == VariableError::none)
     {
@@ -105,12 +100,20 @@ bool takeValue(Editor& editor, const VariableInfo& info, const std::wstring& tex
     return false;
 }
 
-// Read-only variables are asked for as well: a script gives one answer whichever it names.
-std::wstring valuePrompt(const VariableInfo& info)
+// Esc leaves the variable as it is, and says no more about it.
+bool askValue(Editor& editor, const VariableInfo& info)
 {
-    const OwnText prompt = info.readOnly ? OwnText(L"Enter new value for %1 (read only) <%2>: ")
-                                         : OwnText(L"Enter new value for %1 <%2>: ");
-    return own(prompt, {info.name, variableText(info.name)});
+    const auto kind = info.type == VariableType::text ? Question::Kind::text : Question::Kind::name;
+    const std::wstring prompt =
+        own(L"Enter new value for %1 <%2>: ", {info.name, variableText(info.name)});
+    while (const auto text = askLine(editor, kind, prompt))
+    {
+        if (takeValue(editor, info, *text))
+        {
+            return true;
+        }
+    }
+    return false;
 }
 }  // namespace
 
@@ -131,20 +134,11 @@ void setvarCommand()
     {
         return;
     }
+    // There is nothing to ask about one that cannot be changed: the next line is a command's.
     const VariableInfo info = *variableInfo(*name);
-    const auto kind = info.type == VariableType::text ? Question::Kind::text : Question::Kind::name;
-    for (;;)
+    if (info.readOnly || askValue(editor, info))
     {
-        const auto text = askLine(editor, kind, valuePrompt(info));
-        if (!text)
-        {
-            return;
-        }
-        if (takeValue(editor, info, *text))
-        {
-            editor.printLine(info.name + L" = " + variableText(info.name));
-            return;
-        }
+        editor.printLine(info.name + L" = " + variableText(info.name));
     }
 }
 }  // namespace host

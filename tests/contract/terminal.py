@@ -146,7 +146,7 @@ def tab_goes_as_far_as_the_names_agree_and_then_lists_them():
         answer(terminal, "Command: VIEW", BACKSPACE * 3 + TAB)
         terminal.wait_for(f"\n{names}  VPOINT  \n")
         answer(terminal, "Command: V", "IEWT" + TAB + ENTER)
-        answer(terminal, "for VIEWTWIST (read only) <0>: ", ENTER)
+        terminal.wait_for("\nVIEWTWIST = 0\n")
         leave(terminal)
 
 

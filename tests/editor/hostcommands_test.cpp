@@ -123,11 +123,10 @@ TEST(UcsCommand, originMovesWithinTheUcs)
 TEST(UcsCommand, lineThatIsNoPointIsTheNextCommand)
 {
     Session session;
-    EXPECT_TRUE(has(session.type({"UCS", "10,20", "SETVAR", "UCSORG", ""}),
+    EXPECT_TRUE(has(session.type({"UCS", "10,20", "SETVAR", "UCSORG"}),
                     "Specify point on X-axis or <Accept>: \n"
                     "Command: SETVAR\n"
                     "Enter variable name: UCSORG\n"
-                    "Enter new value for UCSORG (read only) <10,20,0>: \n"
                     "UCSORG = 10,20,0\n"));
 }
 
@@ -296,10 +295,6 @@ TEST(SetvarCommand, asksForAValueAndPrintsTheVariable)
         {{"SETVAR", "UCSICON", "9", "2"},
          "Requires an integer between 0 and 3.\n"
          "Enter new value for UCSICON <3>: 2\nUCSICON = 2\n"                                     },
-        {{"SETVAR", "VIEWTWIST", ""},
-         "Enter new value for VIEWTWIST (read only) <0>: \nVIEWTWIST = 0\n"                      },
-        {{"SETVAR", "VIEWTWIST", "5"},        "VIEWTWIST is read only.\nVIEWTWIST = 0\n"         },
-        {{"SETVAR", "VIEWDIR", ""},           "VIEWDIR = 0,0,1\n"                                },
         {{"SETVAR", "ELEVATION", "x", "1.5"}, "Requires numeric value.\n"                        },
         {{"SETVAR", "ELEVATION", "1.50"},     "ELEVATION = 1.5\n"                                },
         {{"SETVAR", "LTSCALE", "0", "2"},     "Value must be positive and nonzero.\n"            },
@@ -315,6 +310,25 @@ TEST(SetvarCommand, asksForAValueAndPrintsTheVariable)
         EXPECT_TRUE(has(said, row.said)) << said;
         EXPECT_FALSE(session.endedInsideCommand) << said;
     }
+}
+
+TEST(SetvarCommand, readOnlyVariableIsPrintedAndTheNextLineIsACommand)
+{
+    const std::vector<std::string> rows[] = {
+        {"VIEWTWIST",  "UCSICON", ""},
+        { "SETVAR", "VIEWTWIST", "UCSICON", ""},
+        { "'SETVAR", "viewtwist", "UCSICON", ""},
+    };
+    for (const std::vector<std::string>& lines : rows)
+    {
+        Session session;
+        const std::string said = session.type(lines);
+        EXPECT_TRUE(has(said, "\nVIEWTWIST = 0\nCommand: UCSICON\n")) << said;
+        EXPECT_TRUE(has(said, "\nUCSICON = 3\n")) << said;
+        EXPECT_FALSE(has(said, "read only")) << said;
+    }
+    Session session;
+    EXPECT_TRUE(has(session.type({"DWGNAME"}), "\nDWGNAME = "));
 }
 
 TEST(SetvarCommand, variableByItsNameIsStartedAgainByEnter)
