@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "host/dxf/codepage.h"
+#include "host/dxf/otherformats.h"
 #include "host/dxf/release.h"
 
 namespace host::dxf
@@ -47,8 +48,8 @@ void TagFileScanner::refuseOtherFormats() const
     const std::string_view bytes = m_file.bytes();
     if (bytes.empty() && m_file.style().binaryCodeSize == 0)
         m_file.refuse(1, "a DXF drawing", "an empty file");
-    if (bytes.starts_with("AC10"))
-        m_file.refuse(1, "a DXF drawing", "a DWG");
+    if (const std::string_view other = otherFormat(bytes); !other.empty())
+        m_file.refuse(1, "a DXF drawing", std::string(other));
 }
 
 void TagFileScanner::readSection()

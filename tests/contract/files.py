@@ -64,6 +64,19 @@ def a_missing_or_unreadable_drawing_is_one_line_and_status_1():
 
 
 @check
+def a_file_of_another_kind_is_refused_as_what_it_is():
+    with Desk() as desk:
+        (desk / "folder").mkdir()
+        expect("found a directory" in refused(desk, "folder"), "a directory")
+        for name, start in (("a PDF document", b"%PDF-1.4\n"), ("a ZIP archive", b"PK\3\4\24\0"),
+                            ("a gzip archive", b"\x1f\x8b\x08\0"), ("a DWG", b"AC1032\0\0\0\0"),
+                            ("text in UTF-16", PLAN.read_text().encode("utf-16"))):
+            (desk / "other.dxf").write_bytes(start)
+            said = refused(desk, "other.dxf")
+            expect(f"other.dxf: line 1: expected a DXF drawing, found {name}\n" in said, f"{name}: {said!r}")
+
+
+@check
 def a_broken_drawing_is_refused_with_the_line_number():
     lines = PLAN.read_text().split("\n")
     with Desk() as desk:

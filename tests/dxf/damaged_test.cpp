@@ -87,21 +87,35 @@ std::string binary(const std::string& tags)
 }
 }  // namespace
 
-TEST(DamagedDrawings, otherFilesUnderTheNameOfADrawingAreRefusedInTheirFirstLine)
+TEST(DamagedDrawings, otherFilesUnderTheNameOfADrawingAreRefusedAsWhatTheyAre)
 {
-    const std::string dwg = "expected a DXF drawing, found a DWG";
+    const Row rows[] = {
+        {"AC1009\0\0"s,               "a DWG"          },
+        {"AC1032",                    "a DWG"          },
+        {"%PDF-1.7\n",                "a PDF document" },
+        {"PK\x03\x04\x14\0"s,         "a ZIP archive"  },
+        {"\x1F\x8B\x08",              "a gzip archive" },
+        {"\x89PNG\r\n\x1A\n",         "a PNG picture"  },
+        {"\xFF\xD8\xFF\xE0",          "a JPEG picture" },
+        {"<?xml version=\"1.0\"?>\n", "an XML document"},
+        {"\177ELF\x02",               "a program"      },
+        {"\xFF\xFE \0 \0S\0"s,        "text in UTF-16" },
+        {"\xFE\xFF\0 \0 \0S"s,        "text in UTF-16" },
+        {" \0 \0S\0"s,                "text in UTF-16" },
+        {"\0 \0 \0S"s,                "text in UTF-16" },
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(opening(row.bytes), "FILE: line 1: expected a DXF drawing, found " + row.message);
+}
+
+TEST(DamagedDrawings, filesOfNoKnownKindAreRefusedInTheirFirstLine)
+{
     const std::string noCode = "expected a group code from 0 to 1071, found ";
     const Row rows[] = {
-        {"AC1009\0\0"s,               dwg                                   },
-        {"AC1032",                    dwg                                   },
-        {"PK\x03\x04",                noCode + "\"PK??\""                   },
-        {"\x1F\x8B\x08",              noCode + "\"???\""                    },
-        {"\xFF\xFE  0\0\n\0"s,        noCode + "\"??  0?\""                 },
-        {"<?xml version=\"1.0\"?>\n", noCode + "\"<?xml version=\"1.0\"?>\""},
-        {"\0\0\0\0"s,                 noCode + "\"????\""                   },
-        {"\0\nx"s,                    noCode + "\"?\""                      },
-        {"\n",                        noCode + "\"\""                       },
-        {"AutoCAD Binary DXF\r\n",    noCode + "\"AutoCAD Binary DXF\""     },
+        {"\0\0\0\0"s,              noCode + "\"????\""              },
+        {"\0\nx"s,                 noCode + "\"?\""                 },
+        {"\n",                     noCode + "\"\""                  },
+        {"AutoCAD Binary DXF\r\n", noCode + "\"AutoCAD Binary DXF\""},
     };
     for (const Row& row : rows)
         EXPECT_EQ(opening(row.bytes), "FILE: line 1: " + row.message);

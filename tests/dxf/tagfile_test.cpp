@@ -26,8 +26,6 @@ TEST(TagFile, whatIsNoReadableDrawingIsRefusedInOneLine)
         {"", "FILE: line 1: expected a DXF drawing, found an empty file"},
         {binary, "FILE: offset 22: expected EOF, found the end of the file"},
         {"AC1027\0\0\0", "FILE: line 1: expected a DXF drawing, found a DWG"},
-        {"%PDF-1.4\n%\xE2\xE3\n",
-         "FILE: line 1: expected a group code from 0 to 1071, found \"%PDF-1.4\""},
         {drawingWith("", "AC1006"),
          "FILE: line 8: expected version AC1009 (R12) to AC1032 (R2018), found \"AC1006\""},
         {drawingWith("", "AC1033"),
