@@ -1,7 +1,8 @@
 """What a session prints, where the options are, and the host's own commands."""
+import os
 import re
 
-from common import BUILD, CORNERS, GRID, PLAN, ROOT, SUMMARY, Desk, check, expect, expect_equal, options_text, one_line
+from common import BUILD, CORNERS, GRID, PLAN, ROOT, SUMMARY, Desk, check, expect, expect_equal, not_on_windows, options_text, one_line
 
 
 @check
@@ -57,6 +58,37 @@ def setvar_prints_the_value():
         run = desk.run(script="SETVAR\nUCSICON\n\nSETVAR\nUCSFOLLOW\n1\nSETVAR\nUCSFOLLOW\n\n")
         expect_equal(run.status, 0, "exit status")
         expect("UCSFOLLOW = 1" in run.said, f"no value in {run.said!r}")
+
+
+@check
+def a_read_only_variable_is_printed_and_asks_nothing():
+    with Desk() as desk:
+        run = desk.run(script="DWGNAME\nSETVAR\nVIEWTWIST\nUCSICON\n1\n")
+        expect_equal((run.status, run.errors), (0, ""), "result")
+        for line in ("DWGNAME = Drawing1.dwg", "VIEWTWIST = 0", "UCSICON = 1"):
+            expect(line in run.said.split("\n"), f"no line {line!r} in {run.said!r}")
+
+
+@check
+@not_on_windows("devices and pipes of Unix")
+def options_without_an_end_are_refused_and_the_defaults_stand():
+    with Desk() as desk:
+        for make in (lambda path: path.symlink_to("/dev/zero"), os.mkfifo):
+            make(desk / "properties.ini")
+            run = desk.run(script=CORNERS + "^C\n", timeout=20)
+            expect_equal((run.status, run.errors), (0, ""), "result")
+            expect(SUMMARY in run.said.split("\n"), f"not drawn by the defaults: {run.said!r}")
+            (desk / "properties.ini").unlink()
+
+
+@check
+@not_on_windows("devices and pipes of Unix")
+def options_are_not_written_to_a_pipe_that_nobody_reads():
+    with Desk() as desk:
+        os.mkfifo(desk / "properties.ini")
+        run = desk.run(script=GRID, timeout=20)
+        expect_equal((run.status, run.errors), (0, ""), "result")
+        expect("*** failed to save changes in options data" in run.said.split("\n"), "no message")
 
 
 @check

@@ -6,6 +6,7 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "afxwin.h"
 #include "host/windows/text.h"
@@ -232,6 +233,25 @@ TEST_F(Streams, whatCannotBeOpenedIsNull)
         EXPECT_EQ(errno, EINVAL);
     }
     EXPECT_EQ(kept(), "x");
+}
+
+TEST_F(Streams, whatHasNoEndIsNoText)
+{
+    std::filesystem::remove(m_file);
+    ASSERT_EQ(mkfifo(m_file.c_str(), 0600), 0);
+    const std::wstring paths[] = {m_path, L"\\dev\\zero", L"\\dev\\full", L"\\dev\\ptmx"};
+    for (const std::wstring& path : paths)
+    {
+        for (const wchar_t* mode : {L"r", L"r, ccs=UTF-8"})
+        {
+            EXPECT_EQ(_wfopen(path.c_str(), mode), nullptr) << testing::PrintToString(path);
+        }
+    }
+    EXPECT_EQ(_wfopen(m_path.c_str(), L"w"), nullptr) << "nobody reads from the pipe";
+    std::filesystem::remove(m_file);
+    keep("x");
+    std::filesystem::resize_file(m_file, 1ull << 40);  // takes no room on the disk
+    EXPECT_EQ(_wfopen(m_path.c_str(), L"r, ccs=UTF-8"), nullptr);
 }
 
 TEST_F(Streams, aFullDiskIsToldWhenTheStreamCloses)

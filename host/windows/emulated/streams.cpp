@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -77,16 +78,26 @@ struct File
     int number;
 };
 
+bool isFile(int number)
+{
+    struct stat status;
+    return ::fstat(number, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+// Texts are held whole. A longer one is none that anybody would want to have read.
+constexpr std::size_t longestText = 16 << 20;
+
+// Nothing also for a device, which may have no end, and a pipe, at which one would wait.
 std::optional<std::string> contentOf(const std::string& path)
 {
-    const File file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.number < 0)
+    const File file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (file.number < 0 || !isFile(file.number))
     {
         return std::nullopt;
     }
     std::string content;
     char block[4096];
-    for (;;)
+    while (content.size() <= longestText)
     {
         const ssize_t count = ::read(file.number, block, sizeof block);
         if (count == 0)
@@ -99,6 +110,7 @@ std::optional<std::string> contentOf(const std::string& path)
         }
         content.append(block, count > 0 ? std::size_t(count) : 0);
     }
+    return std::nullopt;
 }
 
 // Streams that hold units of two bytes instead of characters of one.
@@ -188,7 +200,8 @@ int closeWriter(void* cookie)
 FILE* openWriter(const std::string& path, bool appends)
 {
     std::unique_ptr<Writer> writer(new Writer{path, appends});
-    const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | (appends ? O_APPEND : 0);
+    // Nobody may ever read from a pipe: that is a failure, not a reason to wait.
+    const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | (appends ? O_APPEND : 0);
     writer->file.number = ::open(path.c_str(), flags, 0666);
     if (writer->file.number < 0)
     {
