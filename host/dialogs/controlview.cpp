@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/dialogs/controlplace.h"
 #include "host/dialogs/wnd.h"
 #include "host/editor/numbertext.h"
 #include "host/editor/owntexts.h"
@@ -62,15 +63,41 @@ std::wstring editValue(HWND edit, const std::wstring& text)
     return L"[" + text + L"]" + (hint ? L" " + std::wstring(banner) : L"");
 }
 
+std::wstring itemText(HWND list, LRESULT index)
+{
+    std::wstring text(std::max<LRESULT>(SendMessageW(list, CB_GETLBTEXTLEN, WPARAM(index), 0), 0),
+                      L'\0');
+    SendMessageW(list, CB_GETLBTEXT, WPARAM(index), reinterpret_cast<LPARAM>(text.data()));
+    return text;
+}
+
+// What may be selected; of many items the first ones.
+std::wstring comboValue(HWND list, const std::wstring& text)
+{
+    const LRESULT most = 16;
+    const LRESULT count = SendMessageW(list, CB_GETCOUNT, 0, 0);
+    std::wstring items;
+    for (LRESULT i = 0; i < std::min(count, most); ++i)
+    {
+        items += (i > 0 ? L", " : L"") + itemText(list, i);
+    }
+    if (count > most)
+    {
+        items = own(L"%1 and %2 more", {items, std::to_wstring(count - most)});
+    }
+    const std::wstring value = L"[" + text + L"]";
+    return count > 0 ? own(L"%1  one of: %2", {value, items}) : value;
+}
+
 std::wstring valueOf(HWND control, ControlKind kind)
 {
-    const std::wstring text = windowText(control);
+    const std::wstring text = shownName(control);
     switch (kind)
     {
         case ControlKind::edit:
             return editValue(control, text);
         case ControlKind::combo:
-            return L"[" + text + L"]";
+            return comboValue(control, text);
         case ControlKind::check:
             return (isChecked(control) ? L"[x] " : L"[ ] ") + text;
         case ControlKind::radio:

@@ -9,7 +9,7 @@ namespace host::dxf
 {
 namespace
 {
-void writePoint(int code, const AcGePoint3d& point, TagWriter& writer)
+void putPoint(int code, const AcGePoint3d& point, TagWriter& writer)
 {
     writer.point(code, point.x, point.y, point.z);
 }
@@ -76,7 +76,7 @@ void saveUcs(Edits& edits, const CodePage& codePage, const std::string& prefix, 
     const auto setPoint = [&](const char* name, const AcGePoint3d& value)
     {
         edits.setHeader("$" + prefix + name,
-                        [value](TagWriter& writer) { writePoint(10, value, writer); });
+                        [value](TagWriter& writer) { putPoint(10, value, writer); });
     };
     edits.setHeader("$" + prefix + "UCSNAME", [name = codePage.encode(ucs.name)](TagWriter& writer)
                     { writer.text(2, name); });
@@ -259,7 +259,7 @@ void saveVariables(Edits& edits, const FileSource& source, const DrawingState& s
                             else if (const auto* real = std::get_if<double>(&value))
                                 writer.real(code, *real);
                             else if (const auto* point = std::get_if<AcGePoint3d>(&value))
-                                writePoint(code, *point, writer);
+                                putPoint(code, *point, writer);
                             else
                                 writer.text(code,
                                             source.codePage.encode(std::get<std::wstring>(value)));

@@ -12,7 +12,7 @@ namespace
 // Nothing for Enter and for Esc. Quotes, as names with blanks have them, do not count.
 std::optional<std::filesystem::path> askFile(Editor& editor, OwnText prompt)
 {
-    auto name = askLine(editor, Question::Kind::name, own(prompt));
+    auto name = askLine(editor, Question::Kind::file, own(prompt));
     if (name)
     {
         std::erase(*name, L'"');

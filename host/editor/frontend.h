@@ -25,6 +25,7 @@ struct Question
         distance,
         keyword,
         name,  // one word, or several between double quotes
+        file,  // likewise, the name of a file
         text,
         messageBox,
         dialog

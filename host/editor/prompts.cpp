@@ -26,7 +26,8 @@ Answer askUser(Editor& editor, const Question& question)
 std::optional<std::wstring> askLine(Editor& editor, Question::Kind kind, const std::wstring& prompt)
 {
     const Question question{.kind = kind, .prompt = prompt};
-    const bool anything = kind == Question::Kind::text || kind == Question::Kind::name;
+    const bool anything = kind == Question::Kind::text || kind == Question::Kind::name ||
+                          kind == Question::Kind::file;
     const Answer answer = anything ? editor.ask(question) : askUser(editor, question);
     return cancelled(answer) ? std::nullopt : std::optional<std::wstring>(trimmed(answer.text));
 }

@@ -128,6 +128,19 @@ bool runInputAndDraw(Editor& editor, const std::string& picture)
     return ended && !error;
 }
 
+// What whoever sits down at the terminal has to know.
+std::wstring welcome()
+{
+    const std::wstring version = fromUtf8(ARXHOST_VERSION);
+    const std::wstring names = moduleCommandNames();
+    return names.empty() ? own(L"arxhost %1 works on DXF drawings. SAVEAS saves, QUIT ends, HELP "
+                               L"lists all commands.",
+                               {version})
+                         : own(L"arxhost %1 works on DXF drawings. %2 runs the module, SAVEAS "
+                               L"saves, QUIT ends, HELP lists all commands.",
+                               {version, names});
+}
+
 bool runDocument(const Options& options, FrontEnd& frontEnd)
 {
     Editor editor(frontEnd, options.trace);
@@ -135,6 +148,10 @@ bool runDocument(const Options& options, FrontEnd& frontEnd)
     bool done = loadModule(options, frontEnd);
     if (done)
     {
+        if (frontEnd.interactive())
+        {
+            editor.printLine(welcome());
+        }
         done = options.dialogPicture.empty() ? runInput(editor)
                                              : runInputAndDraw(editor, options.dialogPicture);
         // A run that was cut short has still drawn what it has drawn.

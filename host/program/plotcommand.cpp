@@ -1,8 +1,7 @@
 #include "host/program/plotcommand.h"
 
 #include "host/documents/documentmanager.h"
-#include "host/editor/commands.h"
-#include "host/editor/owntexts.h"
+#include "host/editor/hostcommands.h"
 #include "host/editor/prompts.h"
 #include "host/plot/plot.h"
 #include "host/windows/text.h"
@@ -14,7 +13,7 @@ namespace
 void plotCommand()
 {
     Editor& editor = *Editor::current();
-    auto name = askLine(editor, Question::Kind::name, own(L"Plot to file (.png, .pdf or .svg): "));
+    auto name = askLine(editor, Question::Kind::file, own(L"Plot to file (.png, .pdf or .svg): "));
     if (!name || name->empty())
     {
         return;
@@ -35,7 +34,7 @@ void plotCommand()
 
 void registerPlot()
 {
-    commandStack().addCommand(L"ACAD", L"PLOT", L"PLOT", ACRX_CMD_NO_UNDO_MARKER, plotCommand,
-                              nullptr, -1, nullptr, nullptr);
+    registerHostCommand(L"PLOT", ACRX_CMD_NO_UNDO_MARKER, plotCommand,
+                        L"draws model space as a picture");
 }
 }  // namespace host

@@ -2,7 +2,7 @@
 
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
-#include "host/editor/owntexts.h"
+#include "host/editor/hostcommands.h"
 #include "host/editor/prompts.h"
 #include "host/runtime/linker.h"
 #include "host/windows/text.h"
@@ -17,7 +17,7 @@ std::optional<std::filesystem::path> askPath(Editor& editor, const Document& doc
     const std::wstring prompt = document.path().empty()
                                     ? own(L"Save drawing as: ")
                                     : own(L"Save drawing as <%1>: ", {document.fileName()});
-    auto name = askLine(editor, Question::Kind::name, prompt);
+    auto name = askLine(editor, Question::Kind::file, prompt);
     if (!name)
     {
         return std::nullopt;
@@ -54,7 +54,7 @@ void saveAsCommand()
 
 void registerSaveAs()
 {
-    commandStack().addCommand(L"ACAD", L"SAVEAS", L"SAVEAS", ACRX_CMD_NO_UNDO_MARKER, saveAsCommand,
-                              nullptr, -1, nullptr, nullptr);
+    registerHostCommand(L"SAVEAS", ACRX_CMD_NO_UNDO_MARKER, saveAsCommand,
+                        L"saves the drawing as DXF");
 }
 }  // namespace host

@@ -71,7 +71,7 @@ def each_prompt_is_shown_once_and_each_answer_ends_its_line():
         draw_grid(terminal)
         leave(terminal)
         told = [line for line in terminal.shown.replace("\r", "\n").split("\n")
-                if line and not line.startswith(("Progress:", "***"))]
+                if line and not line.startswith(("Progress:", "***", "arxhost"))]
         expect_equal(told, ["Command: zv_netrax", "Specify first corner point [Settings]: 10,20",
                             "Specify other corner point: 260,170", "[<Apply>/Settings]: A",
                             "Command: ^D"], "lines")
@@ -356,3 +356,109 @@ def a_script_reads_the_hosts_own_questions_in_english_whatever_the_language():
         said = [desk.run("--locale", locale, script=script).said.split("zv_netrax")[0] for locale in ("en-US", "ru-RU")]
         expect_equal(said[1], said[0], "what a script gets to read")
         expect("Enter variable name: UCSICON\n" in said[1], f"no such prompt in {said[1]!r}")
+
+
+WELCOME = {"en-US": "arxhost 1.0.0 works on DXF drawings. zv_netrax runs the module, SAVEAS saves, QUIT ends, "
+                    "HELP lists all commands.\n",
+           "ru-RU": "arxhost 1.0.0: чертежи DXF. zv_netrax — команда модуля, SAVEAS — сохранить, QUIT — закончить, "
+                    "HELP — все команды.\n"}
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def a_session_at_a_terminal_begins_with_one_line_that_says_how_to_go_on():
+    for kind in ("xterm", "dumb"):
+        for locale, welcome in WELCOME.items():
+            with Desk() as desk, console(desk, "--locale", locale, TERM=kind) as terminal:
+                prompt = "Command: " if locale == "en-US" else "Команда: "
+                expect_equal(terminal.wait_for(prompt), welcome + prompt, "what a session begins with")
+                terminal.type(CTRL_D)
+                terminal.wait_for_end()
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def neither_a_script_nor_a_quiet_run_begins_with_it():
+    with Desk() as desk:
+        (desk / "quit.txt").write_text("QUIT\n")
+        expect_equal(desk.run("--script", "quit.txt").said, "Command: QUIT\n", "what a script gets to read")
+        with console(desk, "--script", "quit.txt") as terminal:
+            terminal.wait_for_end()
+            expect_equal(terminal.shown, "Command: QUIT\n", "what a script at a terminal shows")
+        with console(desk, "--quiet") as terminal:
+            terminal.type("QUIT\n")
+            terminal.wait_for_end()
+            expect_equal(terminal.shown, "QUIT\n", "what a quiet run shows")
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def HELP_and_a_question_mark_list_every_command_in_one_line():
+    names = ["zv_netrax", "?", "ARX", "DVIEW", "HELP", "PLAN", "PLOT", "QUIT", "REDO", "SAVEAS", "SETVAR", "U", "UCS",
+             "VPOINT"]
+    rows = {"en-US": "SAVEAS      saves the drawing as DXF", "ru-RU": "SAVEAS      сохраняет чертёж в DXF"}
+    for locale, row in rows.items():
+        for typed in ("HELP", "?"):
+            with Desk() as desk, console(desk, "--locale", locale) as terminal:
+                answer(terminal, "Command: " if locale == "en-US" else "Команда: ", typed + ENTER)
+                lines = terminal.wait_for("VPOINT").split("\n")[1:]
+                expect_equal([line.split(" ")[0] for line in lines], names, "names listed")
+                expect(row in lines, f"no line {row!r} in {lines}")
+    with Desk() as desk:
+        said = desk.run(script="zv_netrax\n'HELP\n^C\n").said
+        expect("\nQUIT        ends the session\n" in said, f"no help inside a command: {said!r}")
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def the_printed_dialog_tells_the_boxes_of_the_edges_apart_and_what_a_list_offers():
+    wanted = {"en-US": ("135  [x] X (top)", "137  [x] Y (top)", "139  [x] X (left)", "150  [x] Y (left)",
+                        "141  [x] X (right)", "148  [x] Y (right)", "136  [x] X (bottom)", "140  [x] Y (bottom)",
+                        "133  Accuracy: [0]  one of: 0, 0.0, 0.00, 0.000, 0.0000", "154  [ ] Text"),
+              "ru-RU": ("135  [x] X (сверху)", "150  [x] Y (слева)", "148  [x] Y (справа)", "140  [x] Y (снизу)",
+                        "133  Точность: [0]  варианты: 0, 0.0, 0.00, 0.000, 0.0000")}
+    for locale, lines in wanted.items():
+        with Desk() as desk, console(desk, "--locale", locale) as terminal:
+            answer(terminal, ": ", "zv_netrax" + ENTER)
+            answer(terminal, "]: ", ("S" if locale == "en-US" else "Н") + ENTER)
+            printed = terminal.wait_for("^C")
+            for line in lines:
+                expect(f"  {line}\n" in printed, f"no line {line!r} in {printed}")
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def tab_completes_the_names_of_files_where_a_file_is_asked_for():
+    with Desk() as desk, console(desk) as terminal:
+        (desk / "site plans").mkdir()
+        for name in ("site plans/North.dxf", "site plans/north 2.dxf", "site plans/.hidden"):
+            (desk / name).write_text("")
+        answer(terminal, "Command: ", "SAVEAS" + ENTER)
+        answer(terminal, "Save drawing as: ", "si" + TAB)
+        terminal.wait_for("te plans/")
+        terminal.type(TAB)
+        terminal.wait_for("\nNorth.dxf  north 2.dxf  \n")
+        terminal.type("n" + TAB)
+        terminal.wait_for("orth 2.dxf")
+        terminal.type(CTRL_C)
+        answer(terminal, "Command: ", "PLOT" + ENTER)
+        answer(terminal, ".svg): ", '"site plans/N' + TAB)
+        terminal.wait_for("orth.dxf")
+        terminal.type(CTRL_C)
+        answer(terminal, "Command: ", "ARX" + ENTER)
+        answer(terminal, "]: ", "L" + ENTER)
+        answer(terminal, "to load: ", "netr" + TAB)
+        terminal.wait_for("ax.arx")
+        terminal.type(CTRL_C)
+        leave(terminal)
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def tab_inside_a_word_completes_the_word_and_does_not_split_it():
+    with Desk() as desk, console(desk) as terminal:
+        answer(terminal, "Command: ", "ucsi" + LEFT * 2 + TAB + ENTER)
+        answer(terminal, "Enter new value for UCSICON <3>: ", CTRL_C)
+        answer(terminal, "Command: ", "UCSXX" + LEFT * 2 + TAB + ENTER)  # no such word: nothing is put in
+        terminal.wait_for('Unknown command "UCSXX".')
+        leave(terminal)

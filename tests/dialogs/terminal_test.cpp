@@ -50,8 +50,9 @@ std::string view(const std::string& step)
            "    21  (*) Lines\n"
            "    22  ( ) Crosses\n"
            "    23  [ ] Erase\n"
-           "    30  []\n"
-           "    31  [Red]\n"
+           "    30  []  one of: Standard, Notes, Two words\n"
+           "    31  [Red]  one of: ByLayer, ByBlock, Red, Yellow, Green, Cyan, Blue, Magenta, "
+           "White\n"
            "     1  <OK>\n"
            "     2  <Cancel>\n" +
            help;

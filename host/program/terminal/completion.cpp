@@ -1,10 +1,13 @@
 #include "host/program/terminal/completion.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <utility>
 
 #include "host/editor/sysvartable.h"
 #include "host/runtime/commandstack.h"
 #include "host/runtime/foldcase.h"
+#include "host/windows/text.h"
 
 namespace host
 {
@@ -12,9 +15,16 @@ namespace
 {
 using Names = std::vector<std::wstring>;
 
+using BeginsWith = bool (*)(std::wstring_view name, std::wstring_view start);
+
 bool beginsWith(std::wstring_view name, std::wstring_view start)
 {
     return equalNoCase(name.substr(0, start.size()), start);
+}
+
+bool beginsExactly(std::wstring_view name, std::wstring_view start)
+{
+    return name.starts_with(start);
 }
 
 Names commandNames(bool global)
@@ -59,34 +69,70 @@ Names namesFor(const Question& question, std::wstring_view marks)
 }
 
 // The longest start that all of them have; there is at least one.
-std::wstring commonStart(const Names& names)
+std::wstring commonStart(const Names& names, BeginsWith begins)
 {
     std::wstring common = names.front();
     for (const std::wstring& name : names)
     {
-        while (!beginsWith(name, common))
+        while (!begins(name, common))
         {
             common.pop_back();
         }
     }
     return common;
 }
-}  // namespace
 
-Completion complete(const Question& question, std::wstring_view beforeCursor)
+Completion among(Names names, std::wstring_view typed, BeginsWith begins)
 {
-    const std::size_t at = std::min(beforeCursor.find_first_not_of(L"'_."), beforeCursor.size());
-    const std::wstring_view typed = beforeCursor.substr(at);
-    Names names = namesFor(question, beforeCursor.substr(0, at));
-    std::erase_if(names, [&](const std::wstring& name) { return !beginsWith(name, typed); });
+    std::erase_if(names, [&](const std::wstring& name) { return !begins(name, typed); });
     std::ranges::sort(names);
     names.erase(std::ranges::unique(names).begin(), names.end());
     if (names.empty())
     {
         return {};
     }
-    const std::wstring common = commonStart(names);
+    const std::wstring common = commonStart(names, begins);
     const bool further = common.size() > typed.size() || names.size() == 1;
     return {typed.size(), common, further ? Names() : names};
+}
+
+// A folder's name ends in what goes before the next one.
+Names namesIn(const std::filesystem::path& folder)
+{
+    Names names;
+    std::error_code error;
+    for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end;
+         at.increment(error))
+    {
+        std::error_code ignored;
+        const std::wstring name = fromUtf8(at->path().filename().string());
+        names.push_back(name + (at->is_directory(ignored) ? L"/" : L""));
+    }
+    return names;
+}
+
+// The blanks are the name's own. Hidden files are offered to whoever types their dot.
+Completion completeFile(std::wstring_view line)
+{
+    line.remove_prefix(line.starts_with(L'"'));
+    const std::size_t slash = line.rfind(L'/');
+    const std::size_t start = slash == line.npos ? 0 : slash + 1;
+    const std::wstring_view typed = line.substr(start);
+    Names names = namesIn(start > 0 ? toNativePath(line.substr(0, start)) : L".");
+    std::erase_if(names, [&](const std::wstring& name)
+                  { return name.starts_with(L'.') && !typed.starts_with(L'.'); });
+    return among(std::move(names), typed, beginsExactly);
+}
+}  // namespace
+
+Completion complete(const Question& question, std::wstring_view beforeCursor)
+{
+    if (question.kind == Question::Kind::file)
+    {
+        return completeFile(beforeCursor);
+    }
+    const std::size_t at = std::min(beforeCursor.find_first_not_of(L"'_."), beforeCursor.size());
+    const std::wstring_view typed = beforeCursor.substr(at);
+    return among(namesFor(question, beforeCursor.substr(0, at)), typed, beginsWith);
 }
 }  // namespace host

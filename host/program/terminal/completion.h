@@ -17,6 +17,7 @@ struct Completion
 };
 
 // Command names and system variables at the command prompt and after an apostrophe, the question's
-// keywords elsewhere. Letter case does not count. No text and no choices: nothing fits.
+// keywords elsewhere; letter case does not count. Where a file is asked for, what the folders hold.
+// No text and no choices: nothing fits.
 Completion complete(const Question& question, std::wstring_view beforeCursor);
 }  // namespace host

@@ -76,6 +76,13 @@ std::string dimmed(const std::string& prompt)
            unseen + prompt.substr(last);
 }
 
+// Of the word, or of the file's name, in which the cursor stands.
+std::wstring restOfWord(const LineInfo& line, Question::Kind kind)
+{
+    const std::wstring behind = fromUtf8(std::string_view(line.cursor, line.lastchar));
+    return kind == Question::Kind::file ? behind : behind.substr(0, behind.find(L' '));
+}
+
 void list(const std::vector<std::wstring>& choices)
 {
     std::string line = "\n";
@@ -150,13 +157,16 @@ unsigned char LineEditor::onCancel(EditLine* editLine, wint_t)
 
 unsigned char LineEditor::onComplete(EditLine* editLine, wint_t)
 {
+    const Question& question = *of(editLine).m_question;
     const LineInfo* const line = el_line(editLine);
     const std::wstring before = fromUtf8(std::string_view(line->buffer, line->cursor));
-    const Completion found = complete(*of(editLine).m_question, before);
+    const std::wstring rest = restOfWord(*line, question.kind);
+    const Completion found = complete(question, before + rest);
     if (found.text.empty() && found.choices.empty())
     {
         return CC_REFRESH_BEEP;
     }
+    el_cursor(editLine, int(rest.size()));
     el_deletestr(editLine, int(found.replaced));
     el_insertstr(editLine, toUtf8(found.text).c_str());
     if (found.choices.empty())
