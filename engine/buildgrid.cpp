@@ -67,8 +67,10 @@ AcDbObjectIdArray buildGrid(AcDbObjectId boundaryId, AcGePoint3d corner1, AcGePo
                                   textXScribe};
     const LabelRequest yLabels = {bYTopScribe, bYBottomScribe, bYLeftScribe, bYRightScribe,
                                   textYScribe};
+    // As little as a cross of no size that can be measured: the drawing could not be saved again.
+    const bool drawText = needText && isMeasurable(heightText);
     const GridRequest request = {corner1,     corner2,   basePoint, HorStep,       VertStep,
-                                 Color,       crossSize, LookType,  needText,      heightText,
+                                 Color,       crossSize, LookType,  drawText,      heightText,
                                  iCountSigns, xLabels,   yLabels,   textStyleName, localeName};
     GridDrawing drawing;
     drawGrid(request, boundaryId, WCSBasePoint, drawing);

@@ -14,7 +14,8 @@
 // WCSBasePoint  0 along the world axes, anything else along the axes of the current UCS
 // basePoint     [wcs] lines pass through it and labels count from it
 // needText      labels where lines meet the outline: prefix and value with iCountSigns decimals,
-//               heightText high; the eight flags say on which edges X and Y are labelled
+//               heightText high; the eight flags say on which edges X and Y are labelled.
+//               None where that height is not set or else cannot be measured.
 // localeName    "ru-RU", in any letter case, writes the one error text in Russian
 //
 // Empty when the boundary cannot be opened and when corners or steps are no usable numbers (not

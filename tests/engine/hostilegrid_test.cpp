@@ -93,16 +93,25 @@ TEST_P(HostileGrid, crossesOfNoMeasurableSizeAreNotDrawn)
     }
 }
 
-TEST_P(HostileGrid, otherOptionsMayHoldAnything)
+TEST_P(HostileGrid, labelsOfNoMeasurableHeightAreNotDrawnButTheLinesAre)
 {
     for (const double bad : badNumbers)
     {
         options.heightText = bad;
+        EXPECT_EQ(build().length(), 10) << bad;
+        EXPECT_TRUE(texts().empty()) << bad;
+    }
+    for (const double odd : {0.0, -4.0, 1e150})  // the host says what it makes of them
+    {
+        options.heightText = odd;
         const AcDbObjectIdArray made = build();
-        EXPECT_EQ(texts().size(), 6u) << bad;
+        EXPECT_EQ(texts().size(), 6u) << odd;
         erase(made);
     }
-    options.heightText = 1;
+}
+
+TEST_P(HostileGrid, otherOptionsMayHoldAnything)
+{
     for (const int bad : {INT_MAX, INT_MIN, -1, 10, 99999})
     {
         options.iCountSigns = bad;

@@ -124,9 +124,10 @@ AcDbObjectIdArray buildPlainGrid(AcDbObjectId boundaryId, AcGePoint3d corner1, A
 {
     const plain::Labels x = {bXTopScribe, bXBottomScribe, bXLeftScribe, bXRightScribe, textXScribe};
     const plain::Labels y = {bYTopScribe, bYBottomScribe, bYLeftScribe, bYRightScribe, textYScribe};
+    const bool labelled = needText && isMeasurable(heightText);
     plain::Grid grid = {
         corner1,       corner2,           basePoint, HorStep,    VertStep,    Color, crossSize,
-        LookType == 0, WCSBasePoint != 0, needText,  heightText, iCountSigns, x,     y,
+        LookType == 0, WCSBasePoint != 0, labelled,  heightText, iCountSigns, x,     y,
         textStyleName, localeName,        carriedOn};
     AcDbObjectPointer<AcDbEntity> boundary(boundaryId, AcDb::kForRead);
     if (boundary.openStatus() == Acad::eOk && isMeasurable(corner1) && isMeasurable(corner2))
