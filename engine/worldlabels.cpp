@@ -38,18 +38,22 @@ static bool isOnWantedEdge(const AcGePoint3d& point, const FrameEdges& edges,
            (labels.right && edges.right.distanceTo(point) <= tolerance);
 }
 
+// In a view turned by a quarter both ends of a line are as high and rounding alone would tell them
+// apart, for each line anew. Such pairs stay as the host gave them, all of a sheet the same way.
 static void orderPairs(AcGePoint3dArray& pairs, int axis)
 {
+    const double tolerance = AcGeContext::gTol.equalPoint();
     for (int i = 0; i + 1 < pairs.length(); i += 2)
     {
-        if (toUcs(pairs[i + 1])[axis] < toUcs(pairs[i])[axis])
+        if (toUcs(pairs[i])[axis] - toUcs(pairs[i + 1])[axis] > tolerance)
         {
             pairs.swap(i, i + 1);
         }
     }
 }
 
-// Whole quarter turns leave labels as they are.
+// Strictly between quarter turns of twelve decimals, which are a little longer than whole ones: a
+// view that is turned by just 90 or 270 degrees is twisted, one turned by 0 or 180 is not.
 static bool isViewTwisted()
 {
     resbuf variable = resbuf();

@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "engine/gridlabels.h"
+#include "engine/viewframe.h"
 #include "engine/worldlabels.h"
 #include "output/tolerance.h"
 #include "tests/engine/gridtest.h"
@@ -228,6 +229,32 @@ TEST_F(WorldLabels, standAtTheEndsThatComeFirstInTheTurnedFrame)
     EXPECT_NEAR(toUcs(seen[0].anchor).y, 0, 1e-9);
     EXPECT_EQ(seen[0].mode, AcDb::kTextLeft);
     EXPECT_NEAR(toUcs(seen[4].anchor).x, 0, 1e-9);
+}
+
+// Both ends of a line are as high there, as far as coordinates can say.
+TEST_F(WorldLabels, ofOneSheetRunOneWayInAQuarterTurnedView)
+{
+    options.HorStep = options.VertStep = 50;
+    for (const double degrees : {90.0, 270.0, -90.0})
+    {
+        const double twist = degrees * (M_PI / 180);
+        setUcs({0, 0, 0});
+        state().view.twist = twist;
+        ASSERT_EQ(setViewFrameUcs(), Acad::eOk);
+        pick({-23.1, -378.1, 0}, {325.6, -100.7, 0});
+        const AcDbObjectIdArray made = build();
+        const std::vector<LabelSeen> seen = labels();
+        ASSERT_EQ(seen.size(), 24u);
+        for (const LabelSeen& label : seen)
+        {
+            const LabelSeen& first = label.text[0] == L'X' ? seen.front() : seen.back();
+            EXPECT_TRUE(sameAngle(label.rotation, first.rotation)) << degrees << label.anchor.x;
+        }
+        for (int i = 0; i < made.length(); ++i)
+        {
+            eraseEntity(made[i]);
+        }
+    }
 }
 
 TEST_F(WorldLabels, turnOverUnderATwistInTheFirstAndThirdQuarterOnly)

@@ -118,8 +118,9 @@ void noteEnds(const Grid& grid, AcGePoint3dArray pair, unsigned along, AcGePoint
     {
         return;
     }
-    // In the UCS grid they stay as the host gives them.
-    if (!grid.inUcs && toUcs(pair[1])[along] < toUcs(pair[0])[along])
+    // In the UCS grid they stay as the host gives them, and where rounding alone would tell.
+    const double ahead = toUcs(pair[0])[along] - toUcs(pair[1])[along];
+    if (!grid.inUcs && ahead > AcGeContext::gTol.equalPoint())
     {
         pair.swap(0, 1);
     }
