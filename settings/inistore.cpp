@@ -45,9 +45,19 @@ CString inCodePage(CString line)
     return line;
 }
 
-void writeLine(FILE* file, const CString& line)
+bool writeLine(FILE* file, const CString& line)
 {
-    fwprintf(file, L"%s\n", static_cast<const wchar_t*>(inCodePage(line)));
+    return fwprintf(file, L"%s\n", static_cast<const wchar_t*>(inCodePage(line))) >= 0;
+}
+
+bool writeSection(FILE* file, const CString& name, const IniSection& section)
+{
+    bool written = writeLine(file, L"[" + name + L"]");
+    for (auto key = section.begin(); key != section.end() && written; ++key)
+    {
+        written = writeLine(file, key->first + L"=" + key->second);
+    }
+    return written;
 }
 }  // namespace
 
@@ -107,16 +117,13 @@ bool IniStore::writeFile(const CString& path) const
     {
         return false;
     }
-    for (auto section = m_sections.begin(); section != m_sections.end(); ++section)
+    bool written = true;
+    for (auto section = m_sections.begin(); section != m_sections.end() && written; ++section)
     {
-        writeLine(file, L"[" + section->first + L"]");
-        for (auto key = section->second.begin(); key != section->second.end(); ++key)
-        {
-            writeLine(file, key->first + L"=" + key->second);
-        }
+        written = writeSection(file, section->first, section->second);
     }
-    fclose(file);
-    return true;
+    // The runtime keeps lines back until the file is closed: a full disk shows only then.
+    return fclose(file) == 0 && written;
 }
 
 const IniSection* IniStore::findSection(const CString& name) const

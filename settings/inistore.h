@@ -27,7 +27,7 @@ public:
     // Replaces the contents. False: the file could not be opened, and the store is empty.
     bool readFile(const CString& path);
 
-    // False: the file could not be opened for writing. What fails later (a full disk) is not told.
+    // False: the file could not be opened for writing or not be written whole (a full disk).
     // A character that the narrow code page cannot hold goes out as "?".
     bool writeFile(const CString& path) const;
 

@@ -98,7 +98,10 @@ CString settingsFilePath(HMODULE module)
 {
     const DWORD capacity = 521;
     wchar_t buffer[capacity] = L"";
-    GetModuleFileNameW(module, buffer, capacity);
+    if (GetModuleFileNameW(module, buffer, capacity) == capacity)
+    {
+        return L"";  // cut: what is left may name another folder
+    }
     const CString modulePath(buffer);
     const int folderEnd = modulePath.ReverseFind(L'\\');
     if (folderEnd < 0)

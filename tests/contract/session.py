@@ -127,6 +127,26 @@ def options_that_cannot_be_written_are_told_and_the_grid_stays():
 
 
 @check
+def the_options_of_another_folder_are_left_alone_where_the_path_is_too_long():
+    # The module is told 520 characters of its path; cut there, it lies one folder further up.
+    with Desk() as desk:
+        up = desk / "up"
+        deep = up / ("x" * 200) / ("x" * 200) / ("x" * 200)
+        others_options = options_text(HorStep="50.0000").encode()
+        deep.mkdir(parents=True)
+        (deep / "netrax.arx").symlink_to(desk / "netrax.arx")
+        others = [up, *(deep.parents[i] for i in range(3)), deep]
+        for folder in others:
+            (folder / "properties.ini").write_bytes(others_options)
+        run = desk.run(script=GRID, module=str(deep / "netrax.arx"))
+        expect_equal(run.status, 0, "exit status")
+        expect(SUMMARY in run.said, "options were read")
+        expect("*** failed to save changes in options data" in run.said.split("\n"), "no message")
+        for folder in others:
+            expect_equal((folder / "properties.ini").read_bytes(), others_options, "options of another folder")
+
+
+@check
 def the_module_unloads_and_loads_again():
     with Desk() as desk:
         run = desk.run(script="ARX\nC\nARX\nU\nnetrax.arx\nzv_netrax\nARX\nL\nnetrax.arx\n" + GRID)

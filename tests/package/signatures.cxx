@@ -260,3 +260,4 @@ DECLARED(_wtof, double (*)(const wchar_t*));
 DECLARED(_wcsicmp, int (*)(const wchar_t*, const wchar_t*));
 GIVES(wint_t, fgetwc(a<FILE*>()));
 GIVES(int, fwprintf(a<FILE*>(), L"%s", L""));
+GIVES(int, fclose(a<FILE*>()));

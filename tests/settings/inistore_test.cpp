@@ -1,13 +1,17 @@
 #include "settings/inistore.h"
 
+#include <climits>
+
 #include <gtest/gtest.h>
 
+#include "host/windows/format.h"
 #include "tests/app/original.h"
 #include "tests/settings/temporaryfile.h"
 
 namespace
 {
-wchar_t refused = 0;  // a character that no code page holds, 0 for none
+wchar_t refused = 0;         // a character that no code page holds, 0 for none
+int linesThatFit = INT_MAX;  // on the disk
 }  // namespace
 
 // In the place of the host's function: its fwprintf writes "?" of itself, others do not.
@@ -16,6 +20,19 @@ extern "C" int crtWctomb(char* bytes, wchar_t unit)
     return refused != 0 && unit == refused
                ? -1
                : original<int(char*, wchar_t)>("crtWctomb")(bytes, unit);
+}
+
+extern "C" int crtFwprintf(FILE* file, const wchar_t* format, ...)
+{
+    if (linesThatFit != INT_MAX && linesThatFit-- <= 0)
+    {
+        return -1;
+    }
+    std::va_list arguments;
+    va_start(arguments, format);
+    const std::wstring text = host::formatWide(format, arguments);
+    va_end(arguments);
+    return original<int(FILE*, const wchar_t*, ...)>("crtFwprintf")(file, L"%s", text.c_str());
 }
 
 namespace
@@ -178,6 +195,23 @@ TEST(IniStore, writingIntoAMissingFolderFails)
 {
     const TemporaryFile file;
     EXPECT_FALSE(IniStore().writeFile(file.pathInMissingFolder()));
+}
+
+TEST(IniStore, writingToAFullDiskFails)
+{
+    IniStore store;
+    store.setValue(L"A", L"k", L"v");
+    store.setValue(L"B", L"k", L"v");
+    EXPECT_FALSE(store.writeFile(L"\\dev\\full"));  // which shows when the file is closed
+    const TemporaryFile file;
+    for (const int lines : {0, 1, 2, 3})
+    {
+        linesThatFit = lines;
+        EXPECT_FALSE(store.writeFile(file.path())) << lines;
+    }
+    linesThatFit = 4;
+    EXPECT_TRUE(store.writeFile(file.path()));
+    linesThatFit = INT_MAX;
 }
 
 TEST(IniStore, namesAreStrippedAndFoundInAnyCase)

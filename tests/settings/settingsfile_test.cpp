@@ -237,7 +237,8 @@ TEST(SettingsFile, liesInTheFolderOfTheModule)
         std::wstring file;
     };
     const std::wstring deep(506, L'x');     // so that the module's path has 520 characters
-    const std::wstring tooDeep(517, L'x');  // the path is cut there, before its last folder ends
+    const std::wstring tooDeep(507, L'x');  // one more: it would be cut
+    const std::wstring cutFolder(517, L'x');
     const Row rows[] = {
         {L"C:\\Plug-ins\\netrax.arx",                   L"C:\\Plug-ins\\properties.ini"     },
         {L"\\netrax.arx",                               L"\\properties.ini"                 },
@@ -246,13 +247,23 @@ TEST(SettingsFile, liesInTheFolderOfTheModule)
         {L"netrax.arx",                                 L"properties.ini"                   }, // no folder: the working one
         {L"",                                           L"properties.ini"                   },
         {L"C:\\" + deep + L"\\netrax.arx",              L"C:\\" + deep + L"\\properties.ini"},
-        {L"C:\\" + tooDeep + L"\\netrax.arx",           L"C:\\properties.ini"               },
+        {L"C:\\" + tooDeep + L"\\netrax.arx",           L""                                 },
+        {L"C:\\" + cutFolder + L"\\netrax.arx",         L""                                 },
     };
     for (const Row& row : rows)
     {
         const ModulePath path(row.module);
         EXPECT_EQ(wide(settingsFilePath(nullptr)), row.file);
     }
+}
+
+TEST(SettingsFile, withoutAPathIsNeitherReadNorWritten)
+{
+    GridSettings settings;
+    SettingsFile file(L"");
+    file.load(settings);
+    expectDefaults(settings);
+    EXPECT_FALSE(file.save(settings));
 }
 
 TEST(SettingsFile, handleOfTheModuleLeadsToItsFolder)

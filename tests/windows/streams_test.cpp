@@ -220,6 +220,8 @@ TEST_F(Streams, whatCannotBeOpenedIsNull)
     EXPECT_EQ(errno, ENOENT);
     EXPECT_EQ(_wfopen((m_path + L"\\under").c_str(), L"w"), nullptr);
     EXPECT_EQ(errno, ENOENT);
+    EXPECT_EQ(_wfopen(L"", L"r, ccs=UTF-8"), nullptr);
+    EXPECT_EQ(_wfopen(L"", L"w"), nullptr);
     const std::wstring folder = host::fromNativePath(testing::TempDir());
     EXPECT_EQ(_wfopen(folder.c_str(), L"r, ccs=UTF-8"), nullptr);
     EXPECT_EQ(_wfopen(folder.c_str(), L"w"), nullptr);
