@@ -4,6 +4,7 @@
 
 #include "output/entities.h"
 #include "command/editsettings.h"
+#include "command/promptfailures.h"
 
 namespace
 {
@@ -45,23 +46,26 @@ AcGePoint3d toWcs(AcGePoint3d point)
 
 bool askFirstCorner(GridRun& run, AcGePoint3d& cornerUcs)
 {
+    PromptFailures failures;
     for (;;)
     {
         // The host drops the keywords after each prompt.
         acedInitGet(RSG_OTHER, run.messages->settingsKeyword);
-        switch (acedGetPoint(nullptr, run.messages->firstCornerPrompt, asDblArray(cornerUcs)))
+        const int result =
+            acedGetPoint(nullptr, run.messages->firstCornerPrompt, asDblArray(cornerUcs));
+        if (result == RTNORM)
         {
-            case RTNORM:
-                return true;
-            case RTCAN:
-            case RTERROR:
-                return false;
-            case RTKWORD:
-                answerFirstCornerText(run);
-                break;
-            default:  // Enter among them: it asks again
-                break;
+            return true;
         }
+        if (result == RTCAN || result == RTERROR || failures.areTooMany(result))
+        {
+            return false;
+        }
+        if (result == RTKWORD)
+        {
+            answerFirstCornerText(run);
+        }
+        // Enter asks again.
     }
 }
 

@@ -4,7 +4,7 @@
 #include "command/gridrun.h"
 
 // Asks until a point is given; the Settings keyword edits the settings of the run. False: the user
-// cancelled or the host failed.
+// cancelled, the host failed with RTERROR or in another way again and again.
 bool askFirstCorner(GridRun& run, AcGePoint3d& cornerUcs);
 
 // Asks once. False: no point was given.

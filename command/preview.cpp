@@ -4,6 +4,7 @@
 #include "engine/buildgrid.h"
 #include "output/entities.h"
 #include "command/editsettings.h"
+#include "command/promptfailures.h"
 
 namespace
 {
@@ -40,13 +41,18 @@ Answer answerOf(const wchar_t* text, const Messages& messages)
 }
 
 // Text that is no keyword comes back as RTNORM or as RTKWORD, by the host's release; both ask anew.
-Answer askAnswer(const Messages& messages)
+Answer askAnswer(const Messages& messages, PromptFailures& failures)
 {
     CString keywords;
     keywords.Format(L"%s %s", messages.applyKeyword, messages.settingsKeyword);
     acedInitGet(RSG_OTHER, keywords);
     wchar_t text[answerCapacity] = L"";
-    switch (acedGetKword(messages.acceptPrompt, text))
+    const int result = acedGetKword(messages.acceptPrompt, text);
+    if (failures.areTooMany(result))
+    {
+        return answerCancel;
+    }
+    switch (result)
     {
         case RTCAN:
             return answerCancel;
@@ -75,6 +81,7 @@ bool offerGrid(GridRun& run, const PickedRectangle& rectangle, AcDbObjectIdArray
     // A refusal holds for one pass: the next one builds without asking, whatever the steps are
     // then.
     bool asked = false;
+    PromptFailures failures;
     for (;;)
     {
         eraseEntities(gridIds);
@@ -85,7 +92,7 @@ bool offerGrid(GridRun& run, const PickedRectangle& rectangle, AcDbObjectIdArray
         {
             gridIds = buildFrom(run.settings, rectangle, run.localeName);
         }
-        switch (askAnswer(*run.messages))
+        switch (askAnswer(*run.messages, failures))
         {
             case answerApply:
                 return true;

@@ -368,6 +368,47 @@ TEST(GridCommand, acceptanceSavesThenErasesTheOutlineThenGroups)
     EXPECT_EQ(grouping.meter.started, 1);
 }
 
+// Without a person in between nothing will ever change.
+TEST(GridCommand, aPromptThatFailsForGoodCountsAsCancelled)
+{
+    const std::deque<ScriptedAnswer> failing(16, code(RTREJ));
+    ScriptedEditor first;
+    first.run(failing);
+    EXPECT_EQ(first.log, together(borrowed, times(16, askedFirst), givenBack));
+
+    for (const int failure : {RTREJ, RTFAIL, RTERROR})
+    {
+        ScriptedEditor preview;
+        std::deque<ScriptedAnswer> answers = {point(0, 0), point(250, 250)};
+        answers.insert(answers.end(), 16, code(failure));
+        preview.run(answers);
+        EXPECT_EQ(preview.contents(), Contents());
+        EXPECT_EQ(preview.log, together(borrowed, times(1, askedFirst), times(1, askedOther),
+                                        times(16, askedToAccept), givenBack));
+    }
+}
+
+// Fifteen failures and what somebody types, and all begins anew.
+TEST(GridCommand, failuresOfAPromptCountInARowOnly)
+{
+    std::deque<ScriptedAnswer> answers;
+    const auto fail = [&] { answers.insert(answers.end(), 15, code(RTFAIL)); };
+    for (const ScriptedAnswer& typed : {enter, text(RTKWORD, L"x"), point(0, 0)})
+    {
+        fail();
+        answers.push_back(typed);
+    }
+    answers.push_back(point(250, 250));
+    for (const ScriptedAnswer& typed : {text(RTKWORD, L"x"), text(RTNORM, L"x"), enter})
+    {
+        fail();
+        answers.push_back(typed);
+    }
+    ScriptedEditor editor;
+    editor.run(answers);
+    EXPECT_EQ(editor.contents().groups.size(), 1u);
+}
+
 TEST(GridCommand, escErasesTheGridInItsOrderAndThenTheOutline)
 {
     ScriptedEditor editor;
