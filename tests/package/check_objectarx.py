@@ -81,6 +81,10 @@ def configure(folder, *arguments):
                "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", *arguments)
 
 
+def rules_in(folder):
+    return (folder / "build" / "build.ninja").read_text()
+
+
 def made_sdk(folder):
     for name in ("inc", "inc-x64", "lib-x64"):
         (folder / "sdk" / name).mkdir(parents=True)
@@ -95,16 +99,34 @@ def the_build_takes_every_source_and_no_header_of_the_embedded_host():
         done = configure(folder, f"-DOBJECTARX_SDK={sdk}")
         expect_equal(done.returncode, 0, done.stderr)
         commands = json.loads((folder / "build" / "compile_commands.json").read_text())
-        rules = (folder / "build" / "build.ninja").read_text()
+        rules = rules_in(folder)
     wanted = {str(path) for path in module_files() if path.suffix == ".cpp"}
     expect_equal({entry["file"] for entry in commands}, wanted, "sources")
     paths = {tuple(re.findall(r"-(?:I|isystem ?)(\S+)", entry["command"])) for entry in commands}
     expect_equal(paths, {(str(ROOT), f"{sdk}/inc", f"{sdk}/inc-x64")}, "include folders")
-    for word in ("UNICODE", "_UNICODE", "_AFXDLL", "_AFXEXT"):
+    for word in ("UNICODE", "_UNICODE", "_AFXDLL", "_AFXEXT", "_WIN32_WINNT=0x0601"):
         expect(all(f"-D{word} " in entry["command"] for entry in commands), f"{word} is not defined")
     for library in ("rxapi", "accore", "acad", "acdb19", "acge19", "acui19", "adui19", "axdb", "shlwapi"):
         expect(f"-l{library} " in rules or f"-l{library}\n" in rules, f"{library} is not linked")
     expect(" netrax.arx" in rules, "no netrax.arx is made")
+
+
+@check
+def the_resource_compiler_is_told_where_the_header_and_the_picture_are():
+    rule = ("<CMAKE_RC_COMPILER> <INCLUDES> --preprocessor=c++ --preprocessor-arg=-E --preprocessor-arg=-xc-header "
+            "--preprocessor-arg=-DRC_INVOKED -O coff <SOURCE> <OBJECT>")
+    with tempfile.TemporaryDirectory() as name:
+        folder = Path(name).resolve()
+        language = folder / "language.cmake"
+        language.write_text(f'set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)\n'
+                            f'set(CMAKE_RC_COMPILE_OBJECT "{rule}")\nenable_language(RC)\n')
+        done = configure(folder, f"-DOBJECTARX_SDK={made_sdk(folder)}", f"-DCMAKE_PROJECT_INCLUDE={language}")
+        expect_equal(done.returncode, 0, done.stderr)
+        step = re.search(r"^build (\S+/netrax\.rc\.\w+): RC_COMPILER.*?\n\n", rules_in(folder), re.M | re.S)
+        expect(step is not None, "the resources are no part of the build")
+        expect(f"-I {ROOT}/resources " in step[0], step[0])
+        made = run("ninja", "-C", folder / "build", step[1])
+        expect_equal(made.returncode, 0, made.stdout)
 
 
 @check
