@@ -2,5 +2,5 @@
 
 namespace
 {
-AcApDataManager<CDocData> docData;
+netrax::AcApDataManager<CDocData> docData;
 }  // namespace

@@ -10,6 +10,8 @@ class CDocData
 {
 };
 
+namespace netrax
+{
 // A record for each open document. The host gives the pointer of a closed document to a later one,
 // so a record goes with its document.
 template <class Data>
@@ -46,3 +48,4 @@ public:
 private:
     std::map<AcApDocument*, Data> m_records;
 };
+}  // namespace netrax

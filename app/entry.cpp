@@ -44,5 +44,5 @@ extern "C" BOOL APIENTRY DllMain(HINSTANCE module, DWORD reason, LPVOID)
 
 extern "C" AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* packet)
 {
-    return dispatch(gridApp(), message, packet);
+    return netrax::dispatch(gridApp(), message, packet);
 }

@@ -2,10 +2,10 @@
 
 namespace
 {
-CGridApp theApp;
+CGridApp application;
 }  // namespace
 
 CGridApp& gridApp()
 {
-    return theApp;
+    return application;
 }

@@ -3,7 +3,7 @@
 
 #include "app/rxapp.h"
 
-class CGridApp : public AcRxArxApp
+class CGridApp : public netrax::AcRxArxApp
 {
 public:
     virtual void registerComponents() override {}

@@ -1,8 +1,12 @@
 #include "app/rxapp.h"
 
+#include <cstddef>
+
 #include "app/entry.h"
 #include "app/registration.h"
 
+namespace netrax
+{
 AcRxDbxApp::AcRxDbxApp() : m_unlock(true), m_mdiAware(true), m_module(nullptr) {}
 
 AcRx::AppRetCode AcRxDbxApp::initApp(void* packet)
@@ -76,3 +80,4 @@ AcRx::AppRetCode dispatch(AcRxDbxApp& app, AcRx::AppMsgCode message, void* packe
     const unsigned int code = static_cast<unsigned int>(message);
     return code < count ? (app.*handlers[code])(packet) : AcRx::kRetOK;
 }
+}  // namespace netrax

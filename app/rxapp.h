@@ -6,6 +6,9 @@
 
 #include "app/host.h"
 
+// Some of the host's headers bring classes of the same names, another frame for the same purpose.
+namespace netrax
+{
 class AcRxDbxApp
 {
 public:
@@ -64,3 +67,4 @@ protected:
 // Hands the message to its handler. A code that this release does not know gives kRetOK, and the
 // application does not hear of it.
 AcRx::AppRetCode dispatch(AcRxDbxApp& app, AcRx::AppMsgCode message, void* packet);
+}  // namespace netrax

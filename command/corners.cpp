@@ -2,9 +2,10 @@
 
 #include <cmath>
 
-#include "output/entities.h"
 #include "command/editsettings.h"
 #include "command/promptfailures.h"
+#include "output/entities.h"
+#include "output/frame.h"
 
 namespace
 {
@@ -35,12 +36,6 @@ AcDbObjectId drawBoundary(const AcGePoint3d& firstUcs, const AcGePoint3d& otherU
     vertices.append(AcGePoint3d(otherUcs.x, firstUcs.y, 0.0));
     vertices.append(firstUcs);
     return addPolylineFrame(true, vertices, boundaryColor, nullptr, nullptr, L"*Model_Space");
-}
-
-AcGePoint3d toWcs(AcGePoint3d point)
-{
-    acdbUcs2Wcs(asDblArray(point), asDblArray(point), false);
-    return point;
 }
 }  // namespace
 

@@ -2,7 +2,7 @@
 
 namespace
 {
-const Messages english = {
+const Messages englishMessages = {
     L"\nSpecify first corner point [Settings]: ",
     L"\nSpecify other corner point: ",
     L"\n[<Apply>/Settings]: ",
@@ -14,7 +14,7 @@ const Messages english = {
     L"\n*** failed to save changes in options data",
 };
 
-const Messages russian = {
+const Messages russianMessages = {
     L"\nУкажите точку первого угла [Настройки]: ",
     L"\nУкажите точку второго угла: ",
     L"\n[<Принять>/Настройки]: ",
@@ -40,5 +40,5 @@ CString productLocaleName()
 
 const Messages& messagesFor(const CString& localeName)
 {
-    return localeName.CompareNoCase(L"ru-RU") == 0 ? russian : english;
+    return localeName.CompareNoCase(L"ru-RU") == 0 ? russianMessages : englishMessages;
 }

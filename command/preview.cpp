@@ -1,10 +1,12 @@
 #include "command/preview.h"
 
+#include <cwchar>
+
+#include "command/editsettings.h"
 #include "command/largegrid.h"
+#include "command/promptfailures.h"
 #include "engine/buildgrid.h"
 #include "output/entities.h"
-#include "command/editsettings.h"
-#include "command/promptfailures.h"
 
 namespace
 {

@@ -1,6 +1,9 @@
 #include "settings/inistore.h"
 
 #include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <cwchar>
 
 namespace
 {

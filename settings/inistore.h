@@ -1,6 +1,7 @@
 // Sections of keys and their texts, and the file they are kept in.
 #pragma once
 
+#include <cwchar>
 #include <map>
 
 #include "app/host.h"

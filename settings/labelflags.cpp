@@ -13,7 +13,7 @@ const LabelFlag flags[] = {
     {IDC_Y_RIGHT,  &GridSettings::bYRightScribe },
     {IDC_X_BOTTOM, &GridSettings::bXBottomScribe},
     {IDC_Y_BOTTOM, &GridSettings::bYBottomScribe},
-    {0,            nullptr                      },
+    {0,            0                            },
 };
 }  // namespace
 

@@ -12,14 +12,14 @@ struct Question
     const wchar_t* caption;
 };
 
-const Question english = {
+const Question englishQuestion = {
     L"Large number of vertical lines in grid. Proceed?",
     L"Large number of horizontal lines in grid. Proceed?",
     L"Large number of vertical and horizontal lines in grid. Proceed?",
     L"Attention",
 };
 
-const Question russian = {
+const Question russianQuestion = {
     L"Большое количество вертикальных линий в сетке. Продолжить?",
     L"Большое количество горизонтальных линий в сетке. Продолжить?",
     L"Большое количество вертикальных и горизонтальных линий в сетке. Продолжить?",
@@ -43,7 +43,8 @@ bool isManyLines(double gridSize, double step)
 
 bool userAllowsManyLines(bool vertical, bool horizontal, const CString& localeName)
 {
-    const Question& question = localeName.CompareNoCase(L"ru-RU") == 0 ? russian : english;
+    const bool isRussian = localeName.CompareNoCase(L"ru-RU") == 0;
+    const Question& question = isRussian ? russianQuestion : englishQuestion;
     return MessageBoxW(adsw_acadMainWnd(), textOf(question, vertical, horizontal), question.caption,
                        MB_YESNO) == IDYES;
 }

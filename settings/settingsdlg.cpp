@@ -162,7 +162,7 @@ void CSettingsDlg::showLabels()
     showReal(IDC_TEXT_HEIGHT, m_settings.heightText);
     SetDlgItemText(IDC_X_PREFIX, m_settings.textXScribe);
     SetDlgItemText(IDC_Y_PREFIX, m_settings.textYScribe);
-    for (const LabelFlag* flag = labelFlags(); flag->field != nullptr; ++flag)
+    for (const LabelFlag* flag = labelFlags(); flag->button != 0; ++flag)
     {
         CheckDlgButton(flag->button, m_settings.*flag->field != 0 ? BST_CHECKED : BST_UNCHECKED);
     }
@@ -237,7 +237,7 @@ void CSettingsDlg::OnNeedTextChanged()
     {
         enable(*control, labels);
     }
-    for (const LabelFlag* flag = labelFlags(); flag->field != nullptr; ++flag)
+    for (const LabelFlag* flag = labelFlags(); flag->button != 0; ++flag)
     {
         enable(flag->button, labels);
     }

@@ -86,7 +86,7 @@ void CSettingsDlg::readLabels(GridSettings& settings)
         m_textStyle.GetLBText(m_textStyle.GetCurSel(), settings.textStyleName);
     }
     settings.needText = isChecked(IDC_NEED_TEXT);
-    for (const LabelFlag* flag = labelFlags(); flag->field != nullptr; ++flag)
+    for (const LabelFlag* flag = labelFlags(); flag->button != 0; ++flag)
     {
         settings.*flag->field = isChecked(flag->button);
     }

@@ -5,7 +5,7 @@
 namespace
 {
 // The odd wording ("height" for the width, "равена") is the one that the users know; it stays.
-const SettingsTexts english = {
+const SettingsTexts englishTexts = {
     {
      {
             L"\nVertical step <%.4f>: ",
@@ -31,7 +31,7 @@ const SettingsTexts english = {
     L"<Y prefix>",
 };
 
-const SettingsTexts russian = {
+const SettingsTexts russianTexts = {
     {
      {
             L"\nВертикальный шаг <%.4f>: ",
@@ -86,7 +86,7 @@ const Caption captions[] = {
 
 const SettingsTexts& settingsTextsFor(const CString& localeName)
 {
-    return localeName.CompareNoCase(L"ru-RU") == 0 ? russian : english;
+    return localeName.CompareNoCase(L"ru-RU") == 0 ? russianTexts : englishTexts;
 }
 
 const Caption* englishCaptions()

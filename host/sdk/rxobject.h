@@ -1,33 +1,9 @@
-// Root of the host's classes and their run-time types.
+// Root of the host's classes.
 #pragma once
 
 #include "adesk.h"
 #include "acadstrc.h"
-
-class AcRxObject;
-
-// Run-time type of a class derived from AcRxObject. One static object a class; parents outlive children.
-class AcRxClass
-{
-public:
-    AcRxClass(const ACHAR* name, AcRxClass* parent) : m_name(name), m_parent(parent) {}
-
-    const ACHAR* name() const { return m_name; }
-    AcRxClass* myParent() const { return m_parent; }
-    bool isDerivedFrom(const AcRxClass* other) const
-    {
-        const AcRxClass* type = this;
-        while (type != nullptr && type != other)
-        {
-            type = type->m_parent;
-        }
-        return type != nullptr;
-    }
-
-private:
-    const ACHAR* m_name;
-    AcRxClass* m_parent;
-};
+#include "rxclass.h"
 
 class AcRxObject
 {
@@ -47,15 +23,19 @@ private:
     AcRxObject& operator=(const AcRxObject&);
 };
 
-// Declares the run-time type of CLASS_NAME inside its body; ACRX_DEFINE_MEMBERS defines it in one source.
-#define ACRX_DECLARE_MEMBERS(CLASS_NAME)                                                         \
-    static AcRxClass* desc();                                                                    \
-    virtual AcRxClass* isA() const override { return desc(); }                                   \
-    static CLASS_NAME* cast(const AcRxObject* object)                                            \
-    {                                                                                            \
-        return object != nullptr && object->isKindOf(desc())                                     \
-                   ? static_cast<CLASS_NAME*>(const_cast<AcRxObject*>(object))                   \
-                   : nullptr;                                                                    \
+// Declares the run-time type of CLASS_NAME inside its body; ACRX_DEFINE_MEMBERS defines it in one
+// source.
+#define ACRX_DECLARE_MEMBERS(CLASS_NAME)                                       \
+    static AcRxClass* desc();                                                  \
+    virtual AcRxClass* isA() const override                                    \
+    {                                                                          \
+        return desc();                                                         \
+    }                                                                          \
+    static CLASS_NAME* cast(const AcRxObject* object)                          \
+    {                                                                          \
+        return object != nullptr && object->isKindOf(desc())                   \
+                   ? static_cast<CLASS_NAME*>(const_cast<AcRxObject*>(object)) \
+                   : nullptr;                                                  \
     }
 
 #define ACRX_DEFINE_MEMBERS(CLASS_NAME, PARENT_NAME)                 \

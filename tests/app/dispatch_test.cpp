@@ -6,7 +6,7 @@
 
 namespace
 {
-class LoggingApp : public AcRxDbxApp
+class LoggingApp : public netrax::AcRxDbxApp
 {
 public:
     AcRx::AppRetCode initApp(void* packet) override { return log("initApp", packet); }

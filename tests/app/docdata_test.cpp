@@ -20,7 +20,7 @@ TEST(DocumentData, isHeardByTheDocumentManagerAsLongAsItLives)
 {
     HostCalls host;
     {
-        AcApDataManager<CDocData> manager;
+        netrax::AcApDataManager<CDocData> manager;
         EXPECT_THAT(host.reactors, ElementsAre(&manager));
     }
     EXPECT_THAT(host.reactors, IsEmpty());
@@ -47,14 +47,14 @@ TEST(DocumentData, livesWithoutADocumentManager)
 {
     HostCalls host;
     host.documentManagerIsMissing = true;
-    AcApDataManager<int> manager;
+    netrax::AcApDataManager<int> manager;
     EXPECT_EQ(manager.dataOf(first), 0);
 }
 
 TEST(DocumentData, laterDocumentAtTheSameAddressStartsAnew)
 {
     HostCalls host;
-    AcApDataManager<int> manager;
+    netrax::AcApDataManager<int> manager;
     manager.dataOf(first) = 1;
     manager.dataOf(second) = 2;
     AcApDocManagerReactor& reactor = manager;

@@ -61,7 +61,7 @@ TEST(GridApp, asksNothingOfTheHostAtTheOtherMessages)
     EXPECT_THAT(host.take(), IsEmpty());
 }
 
-class Stay : public AcRxArxApp
+class Stay : public netrax::AcRxArxApp
 {
 public:
     Stay(bool unlock, bool mdiAware)

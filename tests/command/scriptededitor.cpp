@@ -67,7 +67,8 @@ ScriptedAnswer code(int result)
 ScriptedEditor::ScriptedEditor()
     : database(host::documents().open(host::newDrawing()).database()), options(L"[]")
 {
-    gridApp().AcRxDbxApp::initApp(nullptr);  // the module learns its handle, as when it is loaded
+    // The module learns its handle, as when it is loaded.
+    gridApp().netrax::AcRxDbxApp::initApp(nullptr);
     current = this;
 }
 

@@ -2,9 +2,11 @@
 """Checks what can be checked without Visual C++ and the ObjectARX SDK of the module's build with them."""
 import json
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
@@ -15,11 +17,12 @@ FOLDERS = ["app", "command", "engine", "output", "settings"]
 # Headers that the SDK, MFC and Windows bring, as their makers spell them.
 SDK = """acadapp.h acadstrc.h acarray.h accmd.h acdb.h acdocman.h aced.h acedads.h acui.h acuiComboBox.h
 acuiDialog.h acutads.h acutmem.h adesk.h adscodes.h adsdef.h adslib.h adui.h aduiButton.h aduiDialog.h
-arxHeaders.h axlock.h dbMPolygon.h dbapserv.h dbcurve.h dbdict.h dbents.h dbgroup.h dbid.h dbidar.h
+axlock.h dbMPolygon.h dbapserv.h dbcurve.h dbdict.h dbents.h dbgroup.h dbid.h dbidar.h
 dbmain.h dbobjptr.h dbsymtb.h dbxutil.h geassign.h gedblar.h gegbl.h geintarr.h gelnsg3d.h gemat3d.h
-geplane.h gepnt3d.h gepnt3da.h getol.h gevec3d.h rxdefs.h rxdict.h rxdlinkr.h rxmfcapi.h rxobject.h
+geplane.h gepnt3d.h gepnt3da.h getol.h gevec3d.h rxclass.h rxdefs.h rxdict.h rxdlinkr.h rxmfcapi.h rxobject.h
 rxregsvc.h rxsrvice.h""".split()
-MFC = "afx.h afxcmn.h afxdd_.h afxdllx.h afxext.h afxmsg_.h afxres.h afxstr.h afxwin.h".split()
+MFC = """afx.h afxcmn.h afxdd_.h afxdisp.h afxdlgs.h afxdllx.h afxext.h afxmsg_.h afxole.h afxres.h afxstr.h
+afxwin.h""".split()
 WINDOWS = "shlwapi.h tchar.h windows.h winuser.h".split()
 SYSTEM_FOLDERS = [Path("/usr/x86_64-w64-mingw32/include"), *Path("/usr/include/c++").iterdir()]
 
@@ -36,8 +39,8 @@ CALLED_ALIKE = ["AfxTermExtensionModule(AFX_EXTENSION_MODULE&)",
                 "CAcUiColorComboBox::GetCurrentItemColorIndex() const"]
 
 
-def run(*command):
-    return subprocess.run(list(map(str, command)), capture_output=True, text=True, check=False)
+def run(*command, given=None):
+    return subprocess.run(list(map(str, command)), input=given, capture_output=True, text=True, check=False)
 
 
 def module_files():
@@ -54,6 +57,15 @@ def the_module_includes_only_what_the_real_headers_are_called():
     strange = [f"{path.relative_to(ROOT)}: {name}" for path in module_files() for name in included(path)
                if name not in known and not (ROOT / name).exists()]
     expect_equal(strange, [], "headers that neither the SDK nor we have")
+
+
+@check
+def the_module_takes_mfc_whole_and_first_and_the_host_header_by_header():
+    """The host's dialogs derive from all over MFC; its umbrella brings names that are ours."""
+    names = included(ROOT / "app" / "host.h")
+    expect_equal(names[:6], ["afxwin.h", "afxext.h", "afxcmn.h", "afxdlgs.h", "afxole.h", "afxdisp.h"], "first headers")
+    umbrellas = [str(path.relative_to(ROOT)) for path in module_files() if "arxHeaders.h" in included(path)]
+    expect_equal(umbrellas, [], "files that include the umbrella")
 
 
 @check
@@ -74,6 +86,49 @@ def no_header_of_ours_is_found_in_place_of_a_real_one():
     expect(len(ours) > 20, "our headers were not found")
     hiding = [str(path.relative_to(ROOT)) for path in ours if path.name.lower() in real]
     expect_equal(hiding, [], "headers with the name of a real one")
+
+
+def host_folders():
+    folders = [ROOT / "host" / "sdk", ROOT / "host" / "windows" / "emulated" / "include"]
+    return [part for folder in folders if folder.is_dir() for part in ("-isystem", folder)]
+
+
+class CrowdedHost:
+    """A host whose headers bring the names of umbrella.h too, read once for all files."""
+
+    OPTIONS = ["-std=c++11", "-Wall", "-Wextra", "-Werror", "-I", ROOT, *host_folders()]
+
+    def __init__(self, folder):
+        self._umbrella = Path(folder) / "umbrella.h"
+        shutil.copy(ROOT / "tests" / "package" / "umbrella.h", self._umbrella)
+        made = run("c++", *self.OPTIONS, "-x", "c++-header", self._umbrella, "-o", f"{self._umbrella}.gch")
+        expect_equal(made.returncode, 0, made.stderr)
+
+    def complaints(self, *files):
+        """What the compiler says of the files of ours, all in one."""
+        source = "".join(f'#include "{path.relative_to(ROOT)}"\n' for path in files)
+        return run("c++", *self.OPTIONS, "-fsyntax-only", "-include", self._umbrella, "-x", "c++", "-",
+                   given=source).stderr
+
+
+@check
+def every_file_compiles_alone_where_the_host_brings_classes_of_the_same_names():
+    with tempfile.TemporaryDirectory() as folder:
+        host = CrowdedHost(folder)
+        with ThreadPoolExecutor(2) as pool:
+            said = list(pool.map(host.complaints, module_files()))
+    expect(len(said) > 70, f"only {len(said)} files were found")
+    expect_equal([text for text in said if text], [], "complaints")
+
+
+@check
+def all_sources_compile_as_one_in_either_order():
+    """Builds that put sources together, for speed, put them together in an order of their own."""
+    sources = [path for path in module_files() if path.suffix == ".cpp"]
+    with tempfile.TemporaryDirectory() as folder:
+        host = CrowdedHost(folder)
+        for files in (sources, sources[::-1]):
+            expect_equal(host.complaints(*files), "", "complaints")
 
 
 def configure(folder, *arguments):
@@ -175,10 +230,8 @@ def listed_in(symbols):
 
 
 def rows(folder):
-    includes = [part for path in ("host/sdk", "host/windows/emulated/include") if (ROOT / path).is_dir()
-                for part in ("-isystem", ROOT / path)]
     source = ROOT / "tests" / "package" / "signatures.cxx"
-    made = run("c++", "-std=c++11", "-Wall", "-Werror", "-c", "-I", ROOT, *includes, source, "-o", folder / "rows.o")
+    made = run("c++", "-std=c++11", "-Wall", "-Werror", "-c", "-I", ROOT, *host_folders(), source, "-o", folder / "rows.o")
     expect_equal(made.returncode, 0, made.stderr)
     return {line.split(" ", 2)[2] for line in run("nm", "-C", folder / "rows.o").stdout.splitlines() if " W " in line}
 

@@ -1,0 +1,4 @@
+// MFC's common controls, the same.
+#pragma once
+
+#include "afxwin.h"

@@ -1,0 +1,4 @@
+// MFC's automation, the same.
+#pragma once
+
+#include "afxwin.h"

@@ -1,0 +1,4 @@
+// MFC's drag and drop, the same.
+#pragma once
+
+#include "afxwin.h"
