@@ -130,10 +130,21 @@ void CSettingsDlg::showMode()
     showBasePoint();
 }
 
-// What the list does not know as a colour stays unselected.
+// What the list answers to a colour that it has already differs by its release, so the item is
+// looked for: it is the one that OK would read as this colour. What the list does not know as a
+// colour stays unselected.
 void CSettingsDlg::showColor()
 {
-    m_color.SetCurSel(m_color.AddColorToMRU(m_settings.Color));
+    m_color.AddColorToMRU(m_settings.Color);
+    for (int item = 0; item < m_color.GetCount(); ++item)
+    {
+        m_color.SetCurSel(item);
+        if (m_color.GetCurrentItemColorIndex() == m_settings.Color)
+        {
+            return;
+        }
+    }
+    m_color.SetCurSel(-1);
 }
 
 void CSettingsDlg::showTextStyles()

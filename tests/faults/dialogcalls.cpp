@@ -50,6 +50,8 @@ SILENT_CALL(failCheck, "_ZN4CWnd14CheckDlgButtonEij", "CWnd::CheckDlgButton",
 SILENT_CALL(failRadio, "_ZN4CWnd16CheckRadioButtonEiii", "CWnd::CheckRadioButton",
             (CWnd * self, int first, int last, int checked), (self, first, last, checked), NOTHING)
 
+CALL_THAT_FAILS(int, failCount, "_ZNK9CComboBox8GetCountEv", "CComboBox::GetCount",
+                (const CComboBox* self), (self), NOTHING, 0, CB_ERR)
 CALL_THAT_FAILS(int, failAddString, "_ZN9CComboBox9AddStringEPKw", "CComboBox::AddString",
                 (CComboBox * self, LPCWSTR text), (self, text), NOTHING, 0, CB_ERR)
 CALL_THAT_FAILS(int, failSetCurSel, "_ZN9CComboBox9SetCurSelEi", "CComboBox::SetCurSel",

@@ -4,8 +4,10 @@
 #include <limits>
 #include <numbers>
 
+#include "host/database/access.h"
 #include "host/dialogs/modalloop.h"
 #include "tests/settings/dialogrun.h"
+#include "tests/settings/misleadingcolors.h"
 
 namespace
 {
@@ -242,6 +244,34 @@ TEST(SettingsDialog, showsEachOption)
     }
 }
 
+TEST(SettingsDialog, selectsTheColorWhateverTheListAnswersWhenItIsAdded)
+{
+    struct Row
+    {
+        int color;
+        const char* shows;
+    };
+    const Row rows[] = {
+        {12,  R"(combo enabled selected=0 "Color 12")"},
+        {3,   R"(combo enabled selected=4 "Green")"   }, // listed from the start
+        {0,   R"(combo enabled selected=1 "ByBlock")" },
+        {256, R"(combo enabled selected=0 "ByLayer")" },
+        {999, R"(combo enabled selected=-1 "")"       },
+        {-1,  R"(combo enabled selected=-1 "")"       },
+    };
+    for (const int answer : {-1, 0, 5, 1000})
+    {
+        const MisleadingColors misleading(answer);
+        for (const Row& row : rows)
+        {
+            DialogRun run;
+            run.settings.Color = row.color;
+            EXPECT_EQ(shown(run.with({"show", "click 1"}), 113), row.shows) << answer;
+            EXPECT_EQ(run.settings.Color, row.color) << answer;
+        }
+    }
+}
+
 bool same(const GridSettings& a, const GridSettings& b)
 {
     return a.Color == b.Color && a.VertStep == b.VertStep && a.HorStep == b.HorStep &&
@@ -370,6 +400,17 @@ TEST(SettingsDialog, storesWhatWasChangedOnOkAndNothingElse)
             EXPECT_TRUE(same(run.settings, expected)) << row.lines;
         }
     }
+}
+
+TEST(SettingsDialog, storesTheTextStyleThatWasChosen)
+{
+    support::Session session;
+    host::DatabaseCore& core = session.drawing().core();
+    core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, L"Slanted",
+                                                   core.nextHandle++);
+    DialogRun run;
+    run.with(session, {"check 154 on", "select 131 Slanted", "click 1"});
+    EXPECT_EQ(run.settings.textStyleName, L"Slanted");
 }
 
 TEST(SettingsDialog, leavesEverythingAsItWasUnlessOkIsPressed)
