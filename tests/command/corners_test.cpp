@@ -31,4 +31,14 @@ TEST(Corners, makeARectangleOfWhateverTurn)
         EXPECT_EQ(editor.contents(), (Contents{.outlines = 1}));
     }
 }
+
+TEST(Corners, makeARectangleWhoseSidesRunAlongTheAxesOfTheUcs)
+{
+    ScriptedEditor editor;
+    editor.ucs = AcGeMatrix3d::rotation(0.5, AcGeVector3d::kZAxis);
+    const PickedRectangle rectangle =
+        drawRectangle(AcGePoint3d(310, 20, 0), AcGePoint3d(10, 220, 0));
+    EXPECT_EQ(rectangle.width, 300);
+    EXPECT_EQ(rectangle.height, 200);
+}
 }  // namespace

@@ -118,6 +118,21 @@ TEST(GridCommand, tellsTheSettingsAsLoaded)
     }
 }
 
+// While the frame is still the user's own, so that nothing of it shows beside an odd icon or view.
+TEST(GridCommand, tellsTheSettingsBeforeItBorrowsTheFrame)
+{
+    ScriptedEditor editor;
+    int told = 0;
+    editor.hear = [&](const std::wstring& said)
+    {
+        ++told;
+        EXPECT_THAT(said, testing::StartsWith(L"\n*** horizontal dist"));
+        EXPECT_THAT(editor.log, testing::IsEmpty());
+    };
+    editor.run({esc});
+    EXPECT_EQ(told, 1);
+}
+
 TEST(GridCommand, asksForTheFirstCornerUntilItGetsOneOrIsStopped)
 {
     struct Row
@@ -226,6 +241,20 @@ TEST(GridCommand, anyOtherAnswerRebuildsTheGrid)
         EXPECT_EQ(editor.contents(), Contents());
         EXPECT_EQ(editor.settings.read(), "");
     }
+}
+
+TEST(GridCommand, theOldGridIsGoneBeforeTheNewOneIsBuilt)
+{
+    ScriptedEditor editor;
+    std::vector<int> standing;  // lines in the drawing, at each entity of the second grid
+    const auto watch = [&]
+    { editor.placing = [&] { standing.push_back(editor.contents().lines); }; };
+    const auto stop = [&] { editor.placing = {}; };
+    editor.run(
+        {point(0, 0), point(300, 200), looking(text(RTNORM, L"x"), watch), looking(esc, stop)});
+    ASSERT_GT(standing.size(), 1u);
+    EXPECT_EQ(standing.front(), 0);
+    EXPECT_EQ(standing.back(), static_cast<int>(standing.size()) - 1);
 }
 
 TEST(GridCommand, onlyTheWholeKeywordOpensTheSettingsOfAGrid)
@@ -438,6 +467,20 @@ TEST(GridCommand, savesTheOtherSectionsOfItsFileToo)
     editor.settings.write("[mine]\nk=v\n[GRID]\nHorStep=50\nVertStep=50\n");
     editor.run({point(0, 0), point(100, 100), enter});
     EXPECT_THAT(editor.settings.read(), HasSubstr("[mine]\r\nk=v\r\n"));
+}
+
+// What somebody else writes into the file meanwhile is lost, as it is in every editor.
+TEST(GridCommand, savesItsFileAsItWasWhenTheCommandBegan)
+{
+    ScriptedEditor editor;
+    editor.settings.write("[mine]\nk=v\n[GRID]\nHorStep=50\nVertStep=50\n");
+    const auto change = [&]
+    { editor.settings.write("[mine]\nk=other\n[later]\n[GRID]\nHorStep=10\nVertStep=10\n"); };
+    editor.run({point(0, 0), point(100, 100), looking(enter, change)});
+    const std::string saved = editor.settings.read();
+    EXPECT_THAT(saved, HasSubstr("[mine]\r\nk=v\r\n"));
+    EXPECT_THAT(saved, HasSubstr("\r\nHorStep=50.0000\r\n"));
+    EXPECT_THAT(saved, testing::Not(HasSubstr("later")));
 }
 
 std::set<std::wstring> textStyles(const AcDbDatabase& database)

@@ -266,6 +266,10 @@ Acad::ErrorStatus acedGetCurrentUCS(AcGeMatrix3d& matrix)
         return original<Acad::ErrorStatus(AcGeMatrix3d&)>("_Z17acedGetCurrentUCSR12AcGeMatrix3d")(
             matrix);
     }
+    if (current->placing)
+    {
+        current->placing();
+    }
     matrix = current->ucs;
     return Acad::eOk;
 }
@@ -352,6 +356,8 @@ int WINAPI MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type)
                                                                           type);
     }
     EXPECT_EQ(type, UINT(MB_YESNO));
+    EXPECT_NE(owner, nullptr);
+    EXPECT_EQ(owner, adsw_acadMainWnd());
     current->log.push_back(std::wstring(L"box ") + caption + L": " + text);
     if (current->boxAnswers.empty())
     {
@@ -366,9 +372,4 @@ int WINAPI MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type)
 LCID acrxProductLCID()
 {
     return current != nullptr ? current->locale : original<LCID()>("_Z15acrxProductLCIDv")();
-}
-
-HWND adsw_acadMainWnd()
-{
-    return current != nullptr ? nullptr : original<HWND()>("_Z16adsw_acadMainWndv")();
 }

@@ -51,6 +51,7 @@ public:
     std::vector<std::wstring> log;                       // calls, in their order
     std::wstring said;                                   // by acutPrintf
     std::function<void(const std::wstring&)> hear = {};  // called with each text that is said
+    std::function<void()> placing = {};                  // called before an entity gets its place
     TemporaryFile settings;                              // the module seems to lie in its folder
     bool settingsFolderIsMissing = false;
 
