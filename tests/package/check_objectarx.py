@@ -205,7 +205,7 @@ def settings_of_the_build():
 def the_build_asks_for_the_shared_libraries_of_the_release():
     text = settings_of_the_build()
     for setting in ("set(CMAKE_MFC_FLAG 2)", "set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreadedDLL)",
-                    "MSVC_VERSION EQUAL 1600", "resources/netrax.rc", "resources/netrax.def"):
+                    "MSVC_VERSION EQUAL 1600", "VERSION_LESS 16.0.40219", "resources/netrax.rc", "resources/netrax.def"):
         expect(setting in text, f"{setting} is missing")
 
 
