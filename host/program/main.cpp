@@ -16,11 +16,11 @@ namespace
 {
 int runStandardInput(const host::Options& options)
 {
-    if (const auto status = host::runEdited(options))
+    if (const auto status = host::runAtTerminal(options))
     {
         return *status;
     }
-    host::LineReader reader(std::cin, host::isAtTerminal());
+    host::LineReader reader(std::cin, false);
     return host::runSession(options, reader);
 }
 

@@ -18,10 +18,7 @@ std::vector<std::string> givenArguments(int count, char** arguments);
 // False when it cannot be done.
 bool silenceOutput();
 
-// Whether a person sits at standard input and output.
-bool isAtTerminal();
-
-// Runs with lines that the person at the terminal edits, status of the program; nothing when there
-// is nobody, or a terminal that cannot do that.
-std::optional<int> runEdited(const Options& options);
+// Runs with what a person types at the terminal, status of the program; nothing when nobody sits
+// at standard input and output.
+std::optional<int> runAtTerminal(const Options& options);
 }  // namespace host

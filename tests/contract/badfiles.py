@@ -1,6 +1,8 @@
 """Saving on disks that fail and in runs that are killed: the old drawing is whole afterwards."""
 import os
+import resource
 import shutil
+import signal
 import subprocess
 import time
 
@@ -8,6 +10,9 @@ from common import GRID, PLAN, Desk, check, expect, expect_equal, not_on_windows
 
 LINE = "  0\nLINE\n  5\n%X\n330\n1F\n100\nAcDbEntity\n  8\n0\n100\nAcDbLine\n" \
        " 10\n%d.5\n 20\n0.0\n 30\n0.0\n 11\n1.0\n 21\n1.0\n 31\n0.0\n"
+
+
+ENDING = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT)
 
 
 def large_drawing(megabytes):
@@ -21,21 +26,28 @@ def temporary_files(desk):
     return list(desk.folder.glob(".arxhost-*.tmp"))
 
 
-def kill_when_written(desk, process, size):
-    """Kills the run as soon as it has written that much beside the drawing."""
+def kill_when_written(desk, process, size, number=signal.SIGKILL):
+    """Sends the run the signal as soon as it has written that much beside the drawing."""
     deadline = time.monotonic() + 60
     while process.poll() is None and time.monotonic() < deadline:
         if any(path.stat().st_size >= size for path in temporary_files(desk)):
             break
-    process.kill()
-    process.wait()
+    process.send_signal(number)
+    process.wait(60)
 
 
-def start(desk, *arguments):
+def heed_signals():
+    """Whoever started the tests in the background has told them to ignore some."""
+    for number in ENDING:
+        signal.signal(number, signal.SIG_DFL)
+    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+
+def start(desk, *arguments, prepare=heed_signals):
     """Starts a run that is not waited for."""
     (desk / "script.txt").write_text(GRID)
     return subprocess.Popen([desk.build / "arxhost", *arguments, "--module", "netrax.arx", "--script", "script.txt"],
-                            cwd=desk.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                            cwd=desk.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, preexec_fn=prepare)
 
 
 @check
@@ -54,6 +66,38 @@ def a_run_killed_while_it_saves_leaves_a_whole_drawing():
             found = (desk / "drawing.dxf").read_bytes()
             expect(found in (old, new), f"killed after {size} bytes: {len(found)} bytes are neither drawing")
         expect(temporary_files(desk), "no run was killed while it saved")
+
+
+@check
+@not_on_windows("signals and mounts of Unix")
+def a_run_that_a_signal_ends_while_it_saves_takes_its_unfinished_file_with_it():
+    old = large_drawing(20).encode()
+    with Desk() as desk:
+        (desk / "drawing.dxf").write_bytes(old)
+        start(desk, "drawing.dxf", "--save", "new.dxf").wait()
+        drawings = (old, (desk / "new.dxf").read_bytes())
+        ended = 0
+        for number in ENDING:
+            for size in (0, len(old) // 4, len(old) * 9 // 10):
+                (desk / "drawing.dxf").write_bytes(old)
+                process = start(desk, "drawing.dxf", "--save", "drawing.dxf")
+                kill_when_written(desk, process, size, number)
+                expect(process.returncode in (0, -number), f"signal {number}: status {process.returncode}")
+                expect((desk / "drawing.dxf").read_bytes() in drawings, f"signal {number}: neither drawing")
+                expect_equal(temporary_files(desk), [], f"files left after signal {number} and {size} bytes")
+                ended += process.returncode == -number
+        expect(ended > 6, f"only {ended} runs were ended while they saved")
+
+
+@check
+@not_on_windows("signals and mounts of Unix")
+def a_signal_that_is_to_be_ignored_does_not_end_the_run():
+    with Desk() as desk:
+        (desk / "drawing.dxf").write_bytes(large_drawing(20).encode())
+        process = start(desk, "drawing.dxf", "--save", "drawing.dxf",
+                        prepare=lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN))  # as nohup does
+        kill_when_written(desk, process, 1, signal.SIGHUP)
+        expect_equal((process.returncode, temporary_files(desk)), (0, []), "status and files left")
 
 
 @check

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "host/dxf/savefailed.h"
+#include "host/windows/emulated/unfinishedfile.h"
 
 namespace host::dxf
 {
@@ -31,7 +32,8 @@ private:
     void (*m_before)(int);
 };
 
-// The new drawing until it takes the old one's place; gone on every way out before that.
+// The new drawing until it takes the old one's place; gone on every way out before that, also when
+// a signal ends the program.
 class TemporaryFile
 {
 public:
@@ -60,7 +62,7 @@ TemporaryFile::TemporaryFile(const fs::path& folder, const std::string& nameInMe
     {
         m_path = folder / (".arxhost-" + std::to_string(::getpid()) + "-" +
                            std::to_string(attempt) + ".tmp");
-        m_file = ::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        m_file = createUnfinishedFile(m_path, 0666);
         if (m_file < 0 && errno != EEXIST)
             break;
     }
@@ -73,7 +75,10 @@ TemporaryFile::~TemporaryFile()
     if (m_file >= 0)
         ::close(m_file);
     if (m_exists)
+    {
         ::unlink(m_path.c_str());
+        settleUnfinishedFile();
+    }
 }
 
 void TemporaryFile::takeOwnerAndMode(const struct stat& old)
@@ -106,6 +111,7 @@ void TemporaryFile::takePlaceOf(const fs::path& target)
     requireSaved(::close(std::exchange(m_file, -1)) == 0, m_nameInMessages);
     requireSaved(::rename(m_path.c_str(), target.c_str()) == 0, m_nameInMessages);
     m_exists = false;
+    settleUnfinishedFile();
 }
 
 namespace

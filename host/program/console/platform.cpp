@@ -133,14 +133,9 @@ bool silenceOutput()
     return std::freopen("NUL", "w", stdout) != nullptr;
 }
 
-bool isAtTerminal()
+std::optional<int> runAtTerminal(const Options& options)
 {
-    return isConsole(STD_INPUT_HANDLE) && isConsole(STD_OUTPUT_HANDLE);
-}
-
-std::optional<int> runEdited(const Options& options)
-{
-    if (!isAtTerminal())
+    if (!isConsole(STD_INPUT_HANDLE) || !isConsole(STD_OUTPUT_HANDLE))
     {
         return std::nullopt;
     }

@@ -2,7 +2,6 @@
 
 #include <locale.h>
 #include <signal.h>
-#include <termios.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -22,28 +21,8 @@ namespace
 const int rememberedLines = 500;
 const char unseen = '\1';  // around what takes no room on the line
 
-termios terminalBefore;
-
-// Ends the program as it would without a handler, with the terminal as it was found.
-void endTidily(int signal)
-{
-    tcsetattr(STDIN_FILENO, TCSANOW, &terminalBefore);
-    ::signal(signal, SIG_DFL);
-    raise(signal);
-}
-
-void leaveTheTerminalAsItWas()
-{
-    if (tcgetattr(STDIN_FILENO, &terminalBefore) == 0)
-    {
-        ::signal(SIGTERM, endTidily);
-        ::signal(SIGHUP, endTidily);
-    }
-}
-
 EditLine* openTerminal()
 {
-    leaveTheTerminalAsItWas();
     // For this thread only: a command's own has no business with the terminal's letters.
     uselocale(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr));
     return el_init("arxhost", stdin, stdout, stderr);

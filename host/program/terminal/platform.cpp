@@ -5,11 +5,13 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <string_view>
 
 #include "host/program/session.h"
 #include "host/program/terminal/lineeditor.h"
 #include "host/program/terminal/screen.h"
+#include "host/program/terminal/signals.h"
 
 namespace host
 {
@@ -17,8 +19,6 @@ namespace
 {
 int runInEditor(const Options& options)
 {
-    // While a line is edited Ctrl-C comes as a key; a command that computes is not stopped by it.
-    std::signal(SIGINT, SIG_IGN);
     Screen screen;
     LineEditor editor(screen);
     const int status = runSession(
@@ -29,12 +29,26 @@ int runInEditor(const Options& options)
     screen.finish();
     return status;
 }
+
+// A terminal that edits its lines itself.
+int runPlain(const Options& options)
+{
+    LineReader reader(std::cin, true);
+    return runSession(options, reader);
+}
+
+bool canEdit()
+{
+    const char* const kind = std::getenv("TERM");
+    return kind != nullptr && *kind != '\0' && std::string_view(kind) != "dumb";
+}
 }  // namespace
 
 void beginProcess()
 {
     // A reader that goes away early must not keep the drawing from being saved.
     std::signal(SIGPIPE, SIG_IGN);
+    endTidilyAtSignals();
 }
 
 std::vector<std::string> givenArguments(int count, char** arguments)
@@ -47,15 +61,22 @@ bool silenceOutput()
     return std::freopen("/dev/null", "w", stdout) != nullptr;
 }
 
-bool isAtTerminal()
+std::optional<int> runAtTerminal(const Options& options)
 {
-    return isatty(STDIN_FILENO) && isatty(STDOUT_FILENO);
-}
-
-std::optional<int> runEdited(const Options& options)
-{
-    const char* const kind = std::getenv("TERM");
-    const bool canEdit = kind != nullptr && *kind != '\0' && std::string_view(kind) != "dumb";
-    return isAtTerminal() && canEdit ? std::optional(runInEditor(options)) : std::nullopt;
+    if (!isatty(STDIN_FILENO) || !isatty(STDOUT_FILENO))
+    {
+        return std::nullopt;
+    }
+    const bool edits = canEdit();
+    if (edits)
+    {
+        // While a line is edited Ctrl-C comes as a key; a command that computes is not stopped by
+        // it.
+        std::signal(SIGINT, SIG_IGN);
+    }
+    endInputAtSignals();
+    const int status = edits ? runInEditor(options) : runPlain(options);
+    endBySignalOfInput();
+    return status;
 }
 }  // namespace host

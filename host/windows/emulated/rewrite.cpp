@@ -1,6 +1,5 @@
 #include "host/windows/emulated/rewrite.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,6 +7,8 @@
 #include <cstdlib>
 #include <memory>
 #include <tuple>
+
+#include "host/windows/emulated/unfinishedfile.h"
 
 namespace host
 {
@@ -63,21 +64,22 @@ bool rewrite(int file, const std::string& path, std::string_view bytes)
     }
     const std::string target = pathToReplace(old, path);
     const std::string beside = target + ".arxhost-" + std::to_string(::getpid()) + ".tmp";
-    const int replacement =
-        target.empty() ? -1 : ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    const int replacement = target.empty() ? -1 : createUnfinishedFile(beside, 0600);
     if (replacement < 0)
     {
         // A disk that is full or broken takes neither, and what stands in the file is to stay.
         const bool fails = !target.empty() && (errno == ENOSPC || errno == EDQUOT || errno == EIO);
         return !fails && rewriteInPlace(file, bytes);
     }
-    if (fill(replacement, old, bytes) && ::rename(beside.c_str(), target.c_str()) == 0)
-    {
-        return true;
-    }
+    const bool done =
+        fill(replacement, old, bytes) && ::rename(beside.c_str(), target.c_str()) == 0;
     const int error = errno;
-    ::unlink(beside.c_str());
+    if (!done)
+    {
+        ::unlink(beside.c_str());
+    }
+    settleUnfinishedFile();
     errno = error;
-    return false;
+    return done;
 }
 }  // namespace host
