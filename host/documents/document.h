@@ -1,6 +1,7 @@
 // An open drawing with what the editor keeps for it.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -52,6 +53,7 @@ public:
     AcGePoint3d lastPoint;     // WCS
     bool blockEditor = false;  // a block is being edited
     std::vector<AcAp::DocLockMode> locks;
+    std::uint64_t savedDigest = 0;  // of the changes that its file holds
 
 private:
     std::unique_ptr<AcDbDatabase> m_database;

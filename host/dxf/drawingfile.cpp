@@ -39,6 +39,11 @@ std::vector<std::string> lossesOnSaving(const AcDbDatabase& database)
     return dxf::lossesOnSaving(database.core());
 }
 
+std::uint64_t digestOfChanges(AcDbDatabase& database)
+{
+    return dxf::digestOfChanges(database.core());
+}
+
 std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path)
 {
     try

@@ -1,6 +1,7 @@
 // Drawings as files: opens, makes and saves databases.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,6 +27,9 @@ std::unique_ptr<AcDbDatabase> newDrawing();
 // stays as it was, tag for tag. All or nothing: on failure, told in the line that comes back, the
 // old file is whole.
 std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path);
+
+// Whether this has the value of another moment tells whether saving would write the same as then.
+std::uint64_t digestOfChanges(AcDbDatabase& database);
 
 // What the release of the drawing's file cannot hold and saving leaves out, a line for each.
 std::vector<std::string> lossesOnSaving(const AcDbDatabase& database);

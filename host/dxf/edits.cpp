@@ -74,4 +74,15 @@ void Edits::write(TagWriter& writer) const
     }
     writer.raw(m_file.bytes().substr(done));
 }
+
+void Edits::writeChanges(TagWriter& writer) const
+{
+    writer.raw(m_newHeader);
+    for (const Edit& edit : m_edits)
+    {
+        writer.raw(std::to_string(edit.begin) + '-' + std::to_string(edit.end) + '\n');
+        if (edit.produce)
+            edit.produce(writer);
+    }
+}
 }  // namespace host::dxf

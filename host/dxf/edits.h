@@ -42,6 +42,8 @@ public:
     void setHeader(std::string_view name, const Producer& produce);
 
     void write(TagWriter& writer) const;  // the whole file, without flushing
+    // What is to be changed, and where: the same for equal changes noted in the same order.
+    void writeChanges(TagWriter& writer) const;
 
 private:
     struct Edit

@@ -57,6 +57,9 @@ void load(DatabaseCore& core, TagFile file);
 // Calls `take` with everything that has changed since `load`: good for the length of the call.
 void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take);
 
+// Stands for everything that has changed since `load`: another number for other changes.
+std::uint64_t digestOfChanges(DatabaseCore& core);
+
 // Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
 void save(DatabaseCore& core, const std::string& path);
 

@@ -327,20 +327,48 @@ std::vector<std::string> lossesOnSaving(const DatabaseCore& core)
             (groups == 1 ? "their group is not" : "their groups are not")};
 }
 
-void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take)
+namespace
+{
+void noteChanges(Edits& edits, DatabaseCore& core, const LiveStubs& live, EntityWriter& entities)
 {
     const FileSource& source = sourceOf(core);
-    Edits edits(source.file);
-    EntityWriter entities(core, source);
-    const LiveStubs live = liveStubs(core);
     saveTables(edits, core, live);
     saveRepairs(edits);
     saveLayers(edits, source);
     saveEntities(edits, source, live, entities);
     saveGroups(edits, core);
     saveState(edits, core);
+}
+}  // namespace
+
+void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take)
+{
+    Edits edits(sourceOf(core).file);
+    EntityWriter entities(core, sourceOf(core));
+    const LiveStubs live = liveStubs(core);
+    noteChanges(edits, core, live, entities);
     saveHandleSeed(edits, core, live);
     take(edits);
+}
+
+// Without the seed of handles: it also goes up with what was cancelled.
+std::uint64_t digestOfChanges(DatabaseCore& core)
+{
+    Edits edits(sourceOf(core).file);
+    EntityWriter entities(core, sourceOf(core));
+    noteChanges(edits, core, liveStubs(core), entities);
+    std::uint64_t digest = 0xCBF29CE484222325;
+    const auto take = [&digest](std::string_view bytes)
+    {
+        for (const unsigned char byte : bytes)
+        {
+            digest = (digest ^ byte) * 0x100000001B3;
+        }
+    };
+    TagWriter writer(take, edits.file().style());
+    edits.writeChanges(writer);
+    writer.flush();
+    return digest;
 }
 
 void save(DatabaseCore& core, const std::string& path)

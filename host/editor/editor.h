@@ -1,6 +1,7 @@
 // The editor: one command line and what stands between it and the commands.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -62,6 +63,7 @@ public:
     int errorNumber = 0;  // the variable ERRNO
     std::optional<Meter> meter;
     bool quit = false;
+    std::function<bool()> mayQuit{};  // asked by QUIT; left out: it may
     int shownDialogs = 0;      // no prompt may be asked while there are any
     int picksFromDialogs = 0;  // times that a dialog has stepped aside
 

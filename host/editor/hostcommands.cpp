@@ -83,6 +83,7 @@ void redoCommand()
 
 void quitCommand()
 {
-    Editor::current()->quit = true;
+    Editor& editor = *Editor::current();
+    editor.quit = !editor.mayQuit || editor.mayQuit();
 }
 }  // namespace host

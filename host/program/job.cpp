@@ -13,6 +13,7 @@
 #include "host/plot/plot.h"
 #include "host/program/plotcommand.h"
 #include "host/program/saveas.h"
+#include "host/program/unsaved.h"
 #include "host/runtime/linker.h"
 #include "host/runtime/locale.h"
 #include "host/windows/text.h"
@@ -58,7 +59,7 @@ bool runInput(Editor& editor)
     return !editor.endedInsideCommand() && !editor.failed();
 }
 
-bool save(const Options& options, FrontEnd& frontEnd)
+bool save(const Options& options, Editor& editor, FrontEnd& frontEnd)
 {
     if (options.save.empty())
     {
@@ -75,7 +76,31 @@ bool save(const Options& options, FrontEnd& frontEnd)
     {
         frontEnd.report(options.save + ": " + loss);
     }
+    noteSaved(editor);
+    tellSaved(editor, pathOf(options.save));
     return true;
+}
+
+// What a person has drawn goes only by that person's word, however the session ends.
+bool saveOrKeep(const Options& options, Editor& editor, FrontEnd& frontEnd)
+{
+    const bool isSaved = save(options, editor, frontEnd);
+    const bool isGivenUp = options.save.empty() && editor.quit;
+    if (editor.interactive() && !isGivenUp && isUnsaved())
+    {
+        keepUnsaved(editor);
+    }
+    return isSaved;
+}
+
+void watchOverWork(const Options& options, Editor& editor)
+{
+    noteSaved(editor);
+    tellKept(editor);
+    if (options.save.empty())
+    {
+        editor.mayQuit = [&editor] { return mayGiveUpChanges(editor); };
+    }
 }
 
 bool plot(const Options& options, FrontEnd& frontEnd)
@@ -151,11 +176,12 @@ bool runDocument(const Options& options, FrontEnd& frontEnd)
         if (frontEnd.interactive())
         {
             editor.printLine(welcome());
+            watchOverWork(options, editor);
         }
         done = options.dialogPicture.empty() ? runInput(editor)
                                              : runInputAndDraw(editor, options.dialogPicture);
         // A run that was cut short has still drawn what it has drawn.
-        done = save(options, frontEnd) && done;
+        done = saveOrKeep(options, editor, frontEnd) && done;
         done = plot(options, frontEnd) && done;
     }
     documents().close();

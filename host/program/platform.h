@@ -1,6 +1,7 @@
 // What arxhost asks of the system that it runs on.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,6 +18,13 @@ std::vector<std::string> givenArguments(int count, char** arguments);
 
 // False when it cannot be done.
 bool silenceOutput();
+
+// Where the user's programs keep what outlasts a session, made if that was possible; empty if there
+// is no such place.
+std::filesystem::path stateFolder();
+
+// Makes an empty file; false if there is one of that name, or it cannot be made.
+bool makeNewFile(const std::filesystem::path& file);
 
 // Runs with what a person types at the terminal, status of the program; nothing when nobody sits
 // at standard input and output.

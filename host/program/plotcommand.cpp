@@ -4,6 +4,7 @@
 #include "host/editor/hostcommands.h"
 #include "host/editor/prompts.h"
 #include "host/plot/plot.h"
+#include "host/program/unsaved.h"
 #include "host/windows/text.h"
 
 namespace host
@@ -20,15 +21,21 @@ void plotCommand()
     }
     std::erase(*name, L'"');
     const std::string path = toNativePath(*name).string();
+    if (!mayReplace(editor, pathOf(path)))
+    {
+        return;
+    }
     const Plotted plotted = plotDrawing(*documents().document()->database(), path);
     if (!plotted.error.empty())
     {
         editor.fail(fromUtf8(plotted.error));
+        return;
     }
-    else if (!plotted.leftOut.empty())
+    if (!plotted.leftOut.empty())
     {
         editor.printLine(own(L"%1: not drawn: %2", {fromUtf8(path), fromUtf8(plotted.leftOut)}));
     }
+    tellSaved(editor, pathOf(path));
 }
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include "host/dxf/drawingfile.h"
 #include "host/editor/hostcommands.h"
 #include "host/editor/prompts.h"
+#include "host/program/unsaved.h"
 #include "host/runtime/linker.h"
 #include "host/windows/text.h"
 
@@ -28,13 +29,13 @@ std::optional<std::filesystem::path> askPath(Editor& editor, const Document& doc
     return path.empty() ? std::nullopt : std::optional(path);
 }
 
-// The drawing has the new name from then on. A file of that name is replaced without a question.
+// The drawing has the new name from then on.
 void saveAsCommand()
 {
     Editor& editor = *Editor::current();
     Document& document = *documents().document();
     const std::optional<std::filesystem::path> path = askPath(editor, document);
-    if (!path)
+    if (!path || !mayReplace(editor, *path))
     {
         return;
     }
@@ -49,6 +50,8 @@ void saveAsCommand()
         editor.printLine(fromUtf8(loss));
     }
     document.setPath(*path);
+    noteSaved(editor);
+    tellSaved(editor, *path);
 }
 }  // namespace
 

@@ -7,6 +7,7 @@ import files  # noqa: F401
 import plot  # noqa: F401
 import session  # noqa: F401
 import terminal  # noqa: F401
+import unsaved  # noqa: F401
 import windowsconsole  # noqa: F401
 from common import need_built, run_all
 

@@ -42,7 +42,8 @@ class Console:
         if self.status is None:
             os.kill(self._process, signal.SIGKILL)
             os.waitpid(self._process, 0)
-        os.close(self._terminal)
+        if self._terminal is not None:
+            os.close(self._terminal)
 
     @property
     def shown(self):
@@ -55,6 +56,13 @@ class Console:
 
     def send(self, number):
         os.kill(self._process, number)
+
+    def hang_up(self):
+        """Takes the terminal away, as the closing of its window does; returns the program's exit status."""
+        os.close(self._terminal)
+        self._terminal = None
+        self.status = os.waitstatus_to_exitcode(os.waitpid(self._process, 0)[1])
+        return self.status
 
     @property
     def echoes(self):

@@ -133,6 +133,26 @@ bool silenceOutput()
     return std::freopen("NUL", "w", stdout) != nullptr;
 }
 
+std::filesystem::path stateFolder()
+{
+    const wchar_t* const local = ::_wgetenv(L"LOCALAPPDATA");
+    if (local == nullptr)
+    {
+        return {};
+    }
+    const std::filesystem::path folder = std::filesystem::path(local) / "arxhost";
+    std::error_code ignored;
+    std::filesystem::create_directories(folder, ignored);
+    return folder;
+}
+
+bool makeNewFile(const std::filesystem::path& file)
+{
+    const HANDLE made = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    return made != INVALID_HANDLE_VALUE && CloseHandle(made);
+}
+
 std::optional<int> runAtTerminal(const Options& options)
 {
     if (!isConsole(STD_INPUT_HANDLE) || !isConsole(STD_OUTPUT_HANDLE))

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "host/program/platform.h"
+
 namespace host
 {
 namespace
@@ -15,7 +17,7 @@ fs::path pathFrom(const char* variable)
     return value ? fs::path(value) : fs::path();
 }
 
-fs::path stateFolder()
+fs::path stateOfPrograms()
 {
     const fs::path state = pathFrom("XDG_STATE_HOME");
     if (state.is_absolute())  // others do not count, by the convention behind the variable
@@ -27,15 +29,21 @@ fs::path stateFolder()
 }
 }  // namespace
 
-std::string historyFile()
+fs::path stateFolder()
 {
-    const fs::path state = stateFolder();
+    const fs::path state = stateOfPrograms();
     if (state.empty())
     {
         return {};
     }
     std::error_code ignored;
     fs::create_directories(state / "arxhost", ignored);
-    return (state / "arxhost" / "history").string();
+    return state / "arxhost";
+}
+
+std::string historyFile()
+{
+    const fs::path folder = stateFolder();
+    return folder.empty() ? std::string() : (folder / "history").string();
 }
 }  // namespace host

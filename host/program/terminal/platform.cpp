@@ -1,5 +1,6 @@
 #include "host/program/platform.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -59,6 +60,12 @@ std::vector<std::string> givenArguments(int count, char** arguments)
 bool silenceOutput()
 {
     return std::freopen("/dev/null", "w", stdout) != nullptr;
+}
+
+bool makeNewFile(const std::filesystem::path& file)
+{
+    const int made = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    return made >= 0 && ::close(made) == 0;
 }
 
 std::optional<int> runAtTerminal(const Options& options)

@@ -56,10 +56,6 @@ void endInput(int number)
     const int error = errno;
     signalOfInput = number;
     dup2(nothing, STDIN_FILENO);
-    for (const int other : endingSignals())
-    {
-        handle(other, endBy);
-    }
     errno = error;
 }
 }  // namespace

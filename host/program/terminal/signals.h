@@ -7,9 +7,9 @@ namespace host
 // to ignore it goes on ignoring.
 void endTidilyAtSignals();
 
-// For a person at the terminal. The first of SIGINT, SIGTERM and SIGHUP ends the input only, so
-// that the session comes to its own end and keeps the work; the next one ends the program. The
-// terminal is left in the modes that it has now.
+// For a person at the terminal. SIGINT, SIGTERM and SIGHUP end the input only, so that the session
+// comes to its own end and keeps the work. More of them change nothing: a terminal that is closed
+// sends several. The terminal is left in the modes that it has now.
 void endInputAtSignals();
 
 // Ends the program by the signal that has ended its input, if one has.
