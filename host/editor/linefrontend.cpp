@@ -1,8 +1,11 @@
 #include "host/editor/linefrontend.h"
 
+#include <cstdio>
+#include <iterator>
 #include <thread>
 #include <utility>
 
+#include "host/editor/scripttext.h"
 #include "host/windows/text.h"
 
 namespace host
@@ -20,20 +23,61 @@ Answer answerOf(std::string_view line, bool visible)
     return {.kind = Answer::Kind::line, .text = fromUtf8(line), .visible = visible};
 }
 
-LineReader::LineReader(std::istream& input, bool visible) : m_input(input), m_visible(visible)
+LineReader::LineReader(std::istream& input, bool visible, std::string name)
+    : m_input(&input), m_visible(visible), m_name(std::move(name))
 {
-    m_input.exceptions(std::ios::badbit);
+    m_input->exceptions(std::ios::badbit);
+}
+
+// A mark tells of UTF-16 by its first byte, which no UTF-8 has.
+void LineReader::begin()
+{
+    const int first = m_input->peek();
+    if (first == 0xFF || first == 0xFE)
+    {
+        const std::string bytes(std::istreambuf_iterator<char>(*m_input), {});
+        m_converted.str(scriptText(bytes, m_name));
+        m_input = &m_converted;
+    }
+}
+
+// A line without an end, as of a device, is not waited for.
+bool LineReader::readBytes(std::string& line)
+{
+    const std::size_t longest = 1 << 20;
+    line.clear();
+    for (int byte = m_input->get(); byte != EOF; byte = m_input->get())
+    {
+        if (byte == '\n')
+        {
+            return true;
+        }
+        line += char(byte);
+        if (line.size() > longest)
+        {
+            throw ScriptError(m_name + ": line " + std::to_string(m_number) + ": expected its end");
+        }
+    }
+    return !line.empty();
 }
 
 bool LineReader::read(std::string& line)
 {
-    if (!std::getline(m_input, line))
+    if (++m_number == 1)
+    {
+        begin();
+    }
+    if (!readBytes(line))
     {
         return false;
     }
-    if (std::exchange(m_first, false) && line.starts_with("\xEF\xBB\xBF"))
+    if (m_number == 1 && line.starts_with("\xEF\xBB\xBF"))
     {
         line.erase(0, 3);
+    }
+    if (!m_visible)
+    {
+        requireUtf8(line, m_name, m_number);
     }
     if (line.ends_with('\r'))
     {

@@ -5,6 +5,7 @@
 #include <istream>
 #include <mutex>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -27,23 +28,28 @@ public:
 // What a line says, UTF-8 without its end: an empty one is Enter, "^C" is Esc.
 Answer answerOf(std::string_view line, bool visible);
 
-// Reads one answer a line. UTF-8, a byte-order mark and carriage returns are dropped; a line that
-// begins with ";" is a comment.
+// Reads one answer a line. A byte-order mark and carriage returns are dropped; a line that begins
+// with ";" is a comment. UTF-8, or UTF-16 behind its mark, which is read to its end at once. Other
+// bytes throw a ScriptError, but are replaced where a person types: that is no reason to end.
 class LineReader : public AnswerReader
 {
 public:
     // From here on the stream throws what goes wrong with it: it would take that for its end.
-    LineReader(std::istream& input, bool visible);
+    LineReader(std::istream& input, bool visible, std::string name = "standard input");
 
     Answer next(const Question& question) override;
     bool visible() const override { return m_visible; }
 
 private:
+    void begin();
     bool read(std::string& line);
+    bool readBytes(std::string& line);
 
-    std::istream& m_input;
+    std::istream* m_input;
+    std::istringstream m_converted;
     bool m_visible;
-    bool m_first = true;
+    std::string m_name;
+    int m_number = 0;  // of the line
 };
 
 // How a front end of lines shows things. It calls one function at a time.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "host/editor/scripttext.h"
 #include "host/runtime/foldcase.h"
 #include "host/windows/text.h"
 
@@ -17,12 +18,9 @@ bool takesWholeLine(Question::Kind kind)
 }
 }  // namespace
 
-ScriptReader::ScriptReader(std::istream& input) : m_text(std::istreambuf_iterator<char>(input), {})
+ScriptReader::ScriptReader(std::istream& input, const std::string& name)
+    : m_text(scriptText(std::string(std::istreambuf_iterator<char>(input), {}), name))
 {
-    if (m_text.starts_with("\xEF\xBB\xBF"))
-    {
-        m_text.erase(0, 3);
-    }
     std::erase(m_text, '\r');
 }
 

@@ -11,11 +11,13 @@ namespace host
 // A blank ends an answer as the line end does, and a further blank or an empty line is Enter.
 // Between double quotes blanks belong to the answer, and the quotes are dropped. "^C" is Esc. A
 // line that begins with ";" is a comment. Texts, message boxes and dialogs take the rest of the
-// line as it stands. UTF-8; a byte-order mark and carriage returns are dropped.
+// line as it stands. UTF-8, or UTF-16 behind its byte-order mark; the mark and carriage returns are
+// dropped.
 class ScriptReader : public AnswerReader
 {
 public:
-    explicit ScriptReader(std::istream& input);
+    // Reads it all. Throws a ScriptError for other bytes.
+    explicit ScriptReader(std::istream& input, const std::string& name = "script");
 
     Answer next(const Question& question) override;
 

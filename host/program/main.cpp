@@ -1,11 +1,14 @@
 // arxhost: opens a drawing, loads a module, feeds it input and saves the drawing.
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 
 #include "host/editor/scriptreader.h"
+#include "host/editor/scripttext.h"
 #include "host/program/options.h"
 #include "host/program/platform.h"
 #include "host/program/session.h"
@@ -24,7 +27,23 @@ int runStandardInput(const host::Options& options)
     return host::runSession(options, reader);
 }
 
+// Of a file all lines are looked at before the first is an answer; a pipe may wait for what is
+// said.
+int runLines(const host::Options& options, std::istream& script)
+{
+    if (!std::filesystem::is_regular_file(host::pathOf(options.script)))
+    {
+        host::LineReader reader(script, false, options.script);
+        return host::runSession(options, reader);
+    }
+    const std::string bytes(std::istreambuf_iterator<char>(script), {});
+    std::istringstream lines(host::scriptText(bytes, options.script));
+    host::LineReader reader(lines, false, options.script);
+    return host::runSession(options, reader);
+}
+
 int runScript(const host::Options& options)
+try
 {
     std::ifstream script(host::pathOf(options.script), std::ios::binary);
     if (!script)
@@ -34,11 +53,15 @@ int runScript(const host::Options& options)
     }
     if (host::isHostScript(host::pathOf(options.script)))
     {
-        host::ScriptReader reader(script);
+        host::ScriptReader reader(script, options.script);
         return host::runSession(options, reader);
     }
-    host::LineReader reader(script, false);
-    return host::runSession(options, reader);
+    return runLines(options, script);
+}
+catch (const host::ScriptError& error)
+{
+    host::printError(error.what());
+    return EXIT_FAILURE;
 }
 
 // What opens the settings dialog and leaves it again, for a picture that nobody wrote a script for.

@@ -1,0 +1,81 @@
+#include "host/editor/scripttext.h"
+
+#include <algorithm>
+
+#include "host/windows/text.h"
+
+namespace host
+{
+namespace
+{
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view littleMark = "\xFF\xFE";
+constexpr std::string_view bigMark = "\xFE\xFF";
+
+[[noreturn]] void refuse(const std::string& name, std::ptrdiff_t line, const std::string& expected)
+{
+    throw ScriptError(name + ": line " + std::to_string(line) + ": expected " + expected);
+}
+
+std::wstring unitsOf(std::string_view bytes, bool bigFirst)
+{
+    std::wstring units;
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
+    {
+        const auto first = static_cast<unsigned char>(bytes[i]);
+        const auto second = static_cast<unsigned char>(bytes[i + 1]);
+        units += wchar_t(bigFirst ? first << 8 | second : second << 8 | first);
+    }
+    return units;
+}
+
+// Whole characters come back as they went.
+std::string fromUtf16(std::string_view bytes, bool bigFirst, const std::string& name)
+{
+    const std::wstring units = unitsOf(bytes, bigFirst);
+    const std::string text = toUtf8(units);
+    const std::wstring again = fromUtf8(text);
+    const auto [wrong, ignored] = std::ranges::mismatch(units, again);
+    if (wrong != units.end() || bytes.size() % 2 != 0)
+    {
+        refuse(name, 1 + std::count(units.begin(), wrong, L'\n'), "whole characters of UTF-16");
+    }
+    return text;
+}
+
+std::string fromUtf8Text(std::string_view bytes, const std::string& name)
+{
+    int number = 0;
+    for (std::size_t at = 0; at < bytes.size();)
+    {
+        const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
+        requireUtf8(bytes.substr(at, end - at), name, ++number);
+        at = end + 1;
+    }
+    return std::string(bytes);
+}
+}  // namespace
+
+bool beginsAsUtf16(std::string_view bytes)
+{
+    return bytes.starts_with(littleMark) || bytes.starts_with(bigMark);
+}
+
+std::string scriptText(std::string_view bytes, const std::string& name)
+{
+    if (beginsAsUtf16(bytes))
+    {
+        return fromUtf16(bytes.substr(2), bytes.starts_with(bigMark), name);
+    }
+    return fromUtf8Text(bytes.substr(bytes.starts_with(utf8Mark) ? utf8Mark.size() : 0), name);
+}
+
+// What does not come back as it went has lost a byte that means nothing.
+void requireUtf8(std::string_view line, const std::string& name, int number)
+{
+    if (toUtf8(fromUtf8(line)) != line)
+    {
+        refuse(name, number, "UTF-8, or UTF-16 behind a byte-order mark");
+    }
+}
+}  // namespace host
