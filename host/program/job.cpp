@@ -5,6 +5,7 @@
 #include "host/dialogs/modalloop.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
+#include "host/dxf/replacement.h"
 #include "host/dxf/save_atomic.h"
 #include "host/editor/commands.h"
 #include "host/editor/editor.h"
@@ -22,6 +23,27 @@ namespace host
 {
 namespace
 {
+// Told before the work, not after it.
+bool canBeWritten(const Options& options, FrontEnd& frontEnd)
+{
+    for (const std::string& path : {options.save, options.plot, options.dialogPicture})
+    {
+        try
+        {
+            if (!path.empty())
+            {
+                dxf::requireReplaceable(path);
+            }
+        }
+        catch (const dxf::Error& error)
+        {
+            frontEnd.report(error.what());
+            return false;
+        }
+    }
+    return true;
+}
+
 bool openDocument(const Options& options, FrontEnd& frontEnd)
 {
     OpenedDrawing drawing =
@@ -197,7 +219,8 @@ int runJob(const Options& options, FrontEnd& frontEnd)
     registerHostCommands();
     registerSaveAs();
     registerPlot();
-    const bool done = openDocument(options, frontEnd) && runDocument(options, frontEnd);
+    const bool done = canBeWritten(options, frontEnd) && openDocument(options, frontEnd) &&
+                      runDocument(options, frontEnd);
     return done ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 }  // namespace host

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "host/plot/plot.h"
+#include "host/runtime/foldcase.h"
 #include "host/runtime/locale.h"
 #include "host/windows/modules.h"
 #include "host/windows/text.h"
@@ -35,16 +36,21 @@ void describe(CLI::App& app, Options& options, std::string& locale)
     app.add_option("--module", options.module, "module to load")
         ->type_name("FILE")
         ->default_str("netrax.arx beside the program");
-    app.add_option("--script", options.script,
-                   "read input from FILE: one answer a line, or by the rules of the CAD program's "
-                   "script files if its name ends in .scr; - is standard input")
+    app.add_option(
+           "--script", options.script,
+           "read input from FILE: one answer a line, or by the rules of the CAD program's "
+           "script files if its name ends in .scr; UTF-8, or UTF-16 behind a byte-order mark; "
+           "- is standard input")
         ->type_name("FILE");
     app.add_option("--locale", locale, "product locale: en-US or ru-RU")
         ->type_name("NAME")
         ->check(CLI::IsMember({"en-US", "ru-RU"}))
         ->default_str("en-US");
-    app.add_option("--save", options.save, "save the drawing as DXF after the input has ended")
-        ->type_name("FILE")
+    app.add_option(
+           "--save", options.save,
+           "save the drawing as DXF after the input has ended; the name ends in .dxf unless "
+           "it is that of a device or pipe")
+        ->type_name("FILE.dxf")
         ->check(someName);
     app.add_option("--plot", options.plot,
                    "draw model space, all of it and looked at as in the drawing's view, after the "
@@ -79,6 +85,37 @@ bool scriptIsMissing(const Options& options)
     return !options.script.empty() && options.script != "-" &&
            (!fs::exists(pathOf(options.script)) || fs::is_directory(pathOf(options.script)));
 }
+
+bool endsIn(const std::string& file, std::wstring_view ending)
+{
+    return equalNoCase(fromUtf8(pathOf(file).extension().string()), ending);
+}
+
+// A device, a pipe or a folder needs no ending; which of them can be written shows later.
+bool isNoFile(const std::string& name)
+{
+    std::error_code ignored;
+    const fs::file_status status = fs::status(pathOf(name), ignored);
+    return name.starts_with("/dev/") || (fs::exists(status) && !fs::is_regular_file(status));
+}
+
+// One line on a name that is wrong; empty if all are right.
+std::string wrongName(const Options& options)
+{
+    if (scriptIsMissing(options))
+    {
+        return options.script + ": no such script";
+    }
+    if (!options.save.empty() && !endsIn(options.save, L".dxf") && !isNoFile(options.save))
+    {
+        return options.save + ": expected .dxf, as what is saved is DXF";
+    }
+    if (!options.dialogPicture.empty() && !endsIn(options.dialogPicture, L".png"))
+    {
+        return options.dialogPicture + ": expected .png";
+    }
+    return {};
+}
 }  // namespace
 
 std::optional<Options> parseOptions(std::vector<std::string> arguments, int& status)
@@ -99,9 +136,9 @@ std::optional<Options> parseOptions(std::vector<std::string> arguments, int& sta
         status = reportUsage(app, error);
         return std::nullopt;
     }
-    if (scriptIsMissing(options))
+    if (const std::string wrong = wrongName(options); !wrong.empty())
     {
-        std::fprintf(stderr, "arxhost: %s: no such script\n", options.script.c_str());
+        std::fprintf(stderr, "arxhost: %s\n", wrong.c_str());
         status = wrongUsage;
         return std::nullopt;
     }

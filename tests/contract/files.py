@@ -1,8 +1,9 @@
 """Usage, exit statuses, and what is left on disk."""
 import os
 import re
+import subprocess
 
-from common import CORNERS, GRID, PLAN, Desk, check, expect, expect_equal, one_line
+from common import CORNERS, GRID, PLAN, Desk, check, expect, expect_equal, not_on_windows, one_line
 
 
 def refused(desk, *arguments, status=1, script="", **more):
@@ -131,6 +132,84 @@ def saving_that_fails_is_one_line_and_status_1():
         (desk / "taken").mkdir()
         refused(desk, "--save", "taken")
         expect(not list((desk / "taken").iterdir()), "something was left in the folder")
+
+
+@check
+def a_name_of_the_wrong_kind_is_refused_in_one_line():
+    with Desk() as desk:
+        for option, name in (("--save", "out.txt"), ("--save", "out.dwg"), ("--save", "out"), ("--save", "dxf"),
+                             ("--dialog-picture", "picture.svg"), ("--dialog-picture", "picture")):
+            said = refused(desk, option, name, status=2, script=GRID)
+            expect(one_line(said) and name in said, f"{option} {name}: {said!r}")
+        expect_equal(sorted(p.name for p in desk.folder.iterdir()), ["netrax.arx"], "files")
+        expect_equal(desk.run("--save", "OUT.DXF", script="").status, 0, "exit status of capitals")
+
+
+@check
+def where_nothing_can_be_written_is_told_before_the_work():
+    with Desk() as desk:
+        (desk / "file").write_text("no folder")
+        for option, ending in (("--save", "dxf"), ("--plot", "png"), ("--dialog-picture", "png")):
+            for folder in ("nowhere", "file"):
+                run = desk.run(option, f"{folder}/out.{ending}", script=GRID)
+                expect_equal((run.status, run.said), (1, ""), f"{option} {folder}")
+                expect(one_line(run.errors) and f"{folder}/out.{ending}: cannot be saved: " in run.errors, run.errors)
+        expect(not (desk / "properties.ini").exists(), "the command ran")
+
+
+@check
+@not_on_windows("devices and pipes of Unix")
+def a_drawing_can_be_saved_to_a_device_or_pipe():
+    with Desk() as desk:
+        expect_equal(desk.run("--save", "new.dxf", script="").status, 0, "exit status")
+        new = (desk / "new.dxf").read_text()
+        run = desk.run("--save", "/dev/stdout", "--quiet", script="")
+        expect_equal((run.status, run.errors, run.said == new), (0, "", True), "standard output")
+        os.mkfifo(desk / "pipe")
+        expect("nobody reads" in refused(desk, "--save", "pipe", timeout=20), "a pipe that nobody reads")
+        reader = os.open(desk / "pipe", os.O_RDONLY | os.O_NONBLOCK)
+        run = desk.run("--save", "pipe", script="")
+        expect_equal((run.status, run.errors, os.read(reader, 65536).decode() == new), (0, "", True), "a pipe")
+        os.close(reader)
+        expect_equal(desk.run("--save", "/dev/null", script="").status, 0, "exit status of /dev/null")
+
+
+@check
+def a_script_of_other_letters_is_refused_with_its_line_before_it_runs():
+    with Desk() as desk:
+        for name in ("script.txt", "script.scr"):
+            (desk / name).write_bytes(GRID.encode() + "Да\n".encode("cp1251"))
+            run = desk.run("--script", name, "--save", "saved.dxf")
+            expect_equal((run.status, run.said), (1, ""), name)
+            expect(one_line(run.errors) and f"{name}: line 5: expected UTF-8" in run.errors, run.errors)
+        expect_equal(sorted(p.name for p in desk.folder.iterdir()), ["netrax.arx", "script.scr", "script.txt"], "files")
+
+
+@check
+def a_script_may_be_utf_16_behind_its_mark():
+    with Desk() as desk:
+        said = desk.run(script=CORNERS + "^C\n").said
+        for coding, mark in (("utf-16-le", b"\xff\xfe"), ("utf-16-be", b"\xfe\xff"), ("utf-8", b"\xef\xbb\xbf")):
+            (desk / "script.txt").write_bytes(mark + (CORNERS + "^C\n").encode(coding))
+            run = desk.run("--script", "script.txt")
+            expect_equal((run.status, run.errors, run.said), (0, "", said), coding)
+
+
+@check
+@not_on_windows("devices and pipes of Unix")
+def a_script_may_come_through_a_pipe_line_by_line():
+    with Desk() as desk:
+        os.mkfifo(desk / "pipe")
+        command = [str(desk.build / "arxhost"), "--module", "netrax.arx", "--script", "pipe"]
+        with subprocess.Popen(command, cwd=desk.folder, stdout=subprocess.PIPE) as run:
+            with open(desk / "pipe", "wb", buffering=0) as pipe:
+                pipe.write(b"UCSICON\n")
+                said = b""
+                while not said.endswith(b"<3>: "):  # the answer comes after the question
+                    said += run.stdout.read(1) or b"<3>: the program ended"
+                pipe.write(b"1\n\xe4\n")
+            expect(b"UCSICON = 1\n" in run.stdout.read(), "the answer was not taken")
+            expect_equal(run.wait(20), 1, "exit status after a line that is no UTF-8")
 
 
 @check

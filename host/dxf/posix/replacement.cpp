@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <optional>
@@ -13,6 +14,7 @@
 #include <utility>
 
 #include "host/dxf/savefailed.h"
+#include "host/windows/emulated/rewrite.h"
 #include "host/windows/emulated/unfinishedfile.h"
 
 namespace host::dxf
@@ -90,14 +92,7 @@ void TemporaryFile::takeOwnerAndMode(const struct stat& old)
 
 void TemporaryFile::write(std::string_view bytes)
 {
-    while (!bytes.empty())
-    {
-        const ssize_t written = ::write(m_file, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        requireSaved(written >= 0, m_nameInMessages);
-        bytes.remove_prefix(written);
-    }
+    requireSaved(writeFully(m_file, bytes), m_nameInMessages);
 }
 
 void TemporaryFile::onDisk()
@@ -154,8 +149,6 @@ std::optional<struct stat> oldFile(const fs::path& target, const std::string& pa
     }
     if (S_ISDIR(old.st_mode))
         failSaving(path, "a directory has this name");
-    if (!S_ISREG(old.st_mode))
-        failSaving(path, "a device or pipe has this name");
     requireSaved(::access(target.c_str(), W_OK) == 0, path);
     return old;
 }
@@ -169,7 +162,17 @@ fs::path folderOf(const fs::path& target)
 class Replacement::Files
 {
 public:
-    explicit Files(const std::string& path)
+    virtual ~Files() = default;
+    virtual void write(std::string_view bytes) = 0;
+    virtual void takePlace() = 0;
+};
+
+namespace
+{
+class NewAndOld : public Replacement::Files
+{
+public:
+    explicit NewAndOld(const std::string& path)
         : m_path(path),
           m_target(followed(path)),
           m_old(oldFile(m_target, m_path)),
@@ -179,8 +182,8 @@ public:
             m_new.takeOwnerAndMode(*m_old);
     }
 
-    void write(std::string_view bytes) { m_new.write(bytes); }
-    void takePlace()
+    void write(std::string_view bytes) override { m_new.write(bytes); }
+    void takePlace() override
     {
         if (m_old)
             m_new.onDisk();
@@ -197,7 +200,74 @@ private:
     TemporaryFile m_new;
 };
 
-Replacement::Replacement(const std::string& path) : m_files(std::make_unique<Files>(path)) {}
+bool isStandardOutput(const std::string& path)
+{
+    return path == "/dev/stdout";
+}
+
+bool isDeviceOrPipe(const std::string& path)
+{
+    struct stat status;
+    return isStandardOutput(path) || (::stat(path.c_str(), &status) == 0 &&
+                                      !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode));
+}
+
+// Standard output goes on where it stands, wherever it leads. A pipe that nobody reads is a failure
+// and not waited for.
+int openDeviceOrPipe(const std::string& path)
+{
+    if (isStandardOutput(path))
+    {
+        std::fflush(stdout);
+        return ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
+    }
+    const int file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (file >= 0)
+        ::fcntl(file, F_SETFL, 0);
+    return file;
+}
+
+class DeviceOrPipe : public Replacement::Files
+{
+public:
+    explicit DeviceOrPipe(const std::string& path) : m_path(path), m_file(openDeviceOrPipe(path))
+    {
+        if (m_file < 0 && errno == ENXIO)
+            failSaving(path, "nobody reads from the pipe");
+        requireSaved(m_file >= 0, path);
+    }
+    ~DeviceOrPipe() override
+    {
+        if (m_file >= 0)
+            ::close(m_file);
+    }
+
+    void write(std::string_view bytes) override { requireSaved(writeFully(m_file, bytes), m_path); }
+    void takePlace() override { requireSaved(::close(std::exchange(m_file, -1)) == 0, m_path); }
+
+private:
+    const std::string m_path;
+    int m_file;
+};
+
+std::unique_ptr<Replacement::Files> filesFor(const std::string& path)
+{
+    if (isDeviceOrPipe(path))
+        return std::make_unique<DeviceOrPipe>(path);
+    return std::make_unique<NewAndOld>(path);
+}
+}  // namespace
+
+void requireReplaceable(const std::string& path)
+{
+    if (isDeviceOrPipe(path))
+        return;
+    const fs::path target = followed(path);
+    std::ignore = oldFile(target, path);
+    requireSaved(::access(folderOf(target).c_str(), W_OK | X_OK) == 0, path);
+}
+
+Replacement::Replacement(const std::string& path) : m_files(filesFor(path)) {}
 
 Replacement::~Replacement() = default;
 

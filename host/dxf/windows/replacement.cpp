@@ -47,6 +47,17 @@ bool hasOldFile(const fs::path& target, const std::string& path)
 }
 }  // namespace
 
+void requireReplaceable(const std::string& path)
+{
+    const fs::path target = followed(pathOf(path));
+    hasOldFile(target, path);
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    requireSaved(::_waccess(folder.c_str(), 0) == 0, path);
+    std::error_code ignored;
+    if (!fs::is_directory(folder, ignored))
+        failSaving(path, std::strerror(ENOTDIR));
+}
+
 class Replacement::Files
 {
 public:

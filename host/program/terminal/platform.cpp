@@ -59,7 +59,10 @@ std::vector<std::string> givenArguments(int count, char** arguments)
 
 bool silenceOutput()
 {
-    return std::freopen("/dev/null", "w", stdout) != nullptr;
+    // The descriptor stays: the drawing may be saved to it.
+    std::FILE* const nothing = std::fopen("/dev/null", "w");
+    stdout = nothing != nullptr ? nothing : stdout;
+    return nothing != nullptr;
 }
 
 bool makeNewFile(const std::filesystem::path& file)

@@ -1,5 +1,6 @@
 #include "host/dxf/save_atomic.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -11,6 +12,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "host/dxf/replacement.h"
 #include "tests/dxf/smalldrawing.h"
 
 using namespace host::dxf;
@@ -143,11 +145,51 @@ TEST_F(SaveAtomically, whereNothingCanBeSavedTheReasonIsGiven)
     fs::create_symlink("loop.dxf", m_folder / "loop.dxf");
     ASSERT_EQ(::mkfifo((m_folder / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(save(m_folder / "folder", "new"), "a directory has this name");
-    EXPECT_EQ(save(m_folder / "pipe", "new"), "a device or pipe has this name");
+    EXPECT_EQ(save(m_folder / "pipe", "new"), "nobody reads from the pipe");
+    EXPECT_EQ(save("/dev/full", "new"), "No space left on device");
     EXPECT_EQ(save(m_folder / "loop.dxf", "new"), "Too many levels of symbolic links");
     EXPECT_EQ(save(m_folder / "nowhere" / "a.dxf", "new"), "No such file or directory");
     EXPECT_EQ(save(m_drawing / "a.dxf", "new"), "Not a directory");
     EXPECT_EQ(filesInFolder(), 4u);
+}
+
+TEST_F(SaveAtomically, aDeviceOrPipeTakesTheBytesAsTheyCome)
+{
+    const fs::path pipe = m_folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const int reader = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    EXPECT_EQ(save(pipe, "new"), "");
+    char bytes[8];
+    EXPECT_EQ(::read(reader, bytes, sizeof bytes), 3);
+    ::close(reader);
+    EXPECT_EQ(save("/dev/null", "new"), "");
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(filesInFolder(), 2u);
+}
+
+TEST_F(SaveAtomically, aNameThatWillNotDoIsKnownBeforeAnythingIsWritten)
+{
+    fs::create_directory(m_folder / "folder");
+    const std::pair<fs::path, const char*> rows[] = {
+        {m_folder / "folder",        "a directory has this name"},
+        {m_folder / "nowhere" / "a", "No such file or directory"},
+        {m_drawing / "a.dxf",        "Not a directory"          },
+    };
+    for (const auto& [path, why] : rows)
+    {
+        try
+        {
+            requireReplaceable(path);
+            ADD_FAILURE() << path;
+        }
+        catch (const Error& error)
+        {
+            EXPECT_EQ(error.what(), path.string() + ": cannot be saved: " + why);
+        }
+    }
+    for (const fs::path& path : {m_drawing, m_folder / "new.dxf", fs::path("/dev/null")})
+        EXPECT_NO_THROW(requireReplaceable(path)) << path;
+    EXPECT_EQ(filesInFolder(), 2u);
 }
 
 // The limit stands for a full disk: the write takes what fits and fails the next time.
