@@ -144,7 +144,7 @@ void CSettingsDlg::showColor()
             return;
         }
     }
-    m_color.SetCurSel(-1);
+    m_color.SetCurSel(CB_ERR);
 }
 
 void CSettingsDlg::showTextStyles()
