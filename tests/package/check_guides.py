@@ -7,7 +7,8 @@ import tempfile
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
-from arxhost import DEFAULTS, ROOT, need_built  # noqa: E402
+import ezdxf  # noqa: E402
+from arxhost import DEFAULTS, ROOT, Desk, need_built  # noqa: E402
 from report import add, check, expect, expect_equal, run_all  # noqa: E402
 
 SAMPLE = "(-1000000.0000,-1000000.0000)"  # makes room for the point that is shown there
@@ -136,6 +137,90 @@ def lines_of_the_pictures_are_seen_on_a_page():
         palest = max(sum(map(float, stroke[1:])) for stroke in strokes)
         expect(thinnest >= 1, f"{picture.name}: a line of {thinnest:.2f} pixels")
         expect(palest <= 100, f"{picture.name}: a line as pale as {palest / 3:.0f} % of white")
+
+
+# What they show is typed here as it stands, by an English and by a Russian user.
+
+def examples_desk():
+    """A folder with the example's files under the names that the texts use."""
+    desk = Desk()
+    examples = ROOT / "examples"
+    (desk / "example").mkdir()
+    for source, names in (("site.dxf", ["site.dxf", "example/site.dxf"]), ("lines.ini", ["example/options.ini"]),
+                          ("answers.txt", ["answers.txt", "example/answers.txt"])):
+        for name in names:
+            desk.bring(examples / source, name)
+    return desk
+
+
+def blocks(*path):
+    """The indented blocks of a text, blank lines within them kept."""
+    found = re.findall(r"^(?: {4}.*\n)(?:\n?    .*\n)*", text_of(*path), re.M)
+    return [re.sub(r"^    ", "", block, flags=re.M) for block in found]
+
+
+def commands(*path):
+    """The lines that run arxhost, as arguments; in Windows' text the folders are told by backslashes."""
+    lines = [line for block in blocks(*path) for line in block.splitlines()]
+    starts = ("arxhost ", "scripts/run ")
+    return [line.replace("\\", "/").split()[1:] for line in lines if line.startswith(starts)]
+
+
+def expect_one_grid(drawing, what):
+    groups = [[member.dxftype() for member in group] for _, group in ezdxf.readfile(drawing).groups]
+    expect_equal(len(groups), 1, f"groups of {what}")
+    expect(groups[0].count("LINE") > 20, f"{what}: {len(groups[0])} members")
+
+
+def run_as(desk, locale, *arguments, script=None):
+    run = desk.run(*arguments, *([] if "--locale" in arguments else ["--locale", locale]), script=script)
+    expect_equal((run.status, run.errors), (0, ""), f"{arguments} for {locale}")
+    return run
+
+
+def commands_draw_a_grid(locale, path):
+    found = commands(*path.split("/"))
+    expect(found, f"no command in {path}")
+    for arguments in found:
+        with examples_desk() as desk:
+            run_as(desk, locale, *arguments)
+            results = {name: desk / arguments[arguments.index(name) + 1] for name in ("--save", "--plot")}
+            expect_one_grid(results["--save"], path)
+            expect(results["--plot"].stat().st_size > 10000, f"{path}: the plot")
+
+
+def scripts_draw_a_grid(locale):
+    scripts = [block for block in blocks("README.md") if "zv_netrax" in block]
+    expect_equal(len(scripts), 2, "scripts in README.md")
+    for script, name in zip(scripts, ("whole.txt", "whole.scr")):
+        with examples_desk() as desk:
+            (desk / name).write_text(script)
+            run_as(desk, locale, "site.dxf", "--script", name, "--save", "out.dxf")
+            expect_one_grid(desk / "out.dxf", name)
+
+
+def lines_for_the_dialog_do_the_same_in_every_run(locale):
+    text = text_of("README.md")
+    part = text[text.index("the dialog is worked by lines"):text.index("After a click on a pick button")]
+    lines = [line for line in re.findall(r"`([a-z]+ \d+[^`]*)`", part) if line not in ("click 1", "click 2")]
+    expect_equal(sorted({line.split()[0] for line in lines}), ["check", "click", "color", "select", "set"], "kinds of lines")
+    settings = "Н" if locale == "ru-RU" else "S"
+    script = "\n".join(["zv_netrax", settings, *(line + ("\n30" if line.startswith("click") else "") for line in lines),
+                        "click 1", "0,0", "250,250", "", ""])
+    with Desk() as desk:
+        for run in ("first", "second"):
+            run_as(desk, locale, script=script)
+            kept = (desk / "properties.ini").read_text()
+            wrong = [wanted for wanted in ("needText=1", "VertStep=30.0000", "iCountSigns=2", "Color=3")
+                     if f"\n{wanted}\n" not in kept]
+            expect_equal(wrong, [], f"options that the {run} run has not left")
+
+
+for locale in ("en-US", "ru-RU"):
+    for text in ("README.md", "docs/guide-en.md", "docs/guide-ru.md", "packaging/README.txt"):
+        add(f"the commands of {text} draw a grid for {locale}", commands_draw_a_grid, locale, text)
+    add(f"the scripts of README.md draw a grid for {locale}", scripts_draw_a_grid, locale)
+    add(f"lines for the dialog do the same in every run for {locale}", lines_for_the_dialog_do_the_same_in_every_run, locale)
 
 
 if __name__ == "__main__":
