@@ -4,6 +4,7 @@
 #include "resources/resource.h"
 #include "settings/labelflags.h"
 #include "settings/manylines.h"
+#include "settings/restingdialog.h"
 #include "settings/settingsdlg.h"
 
 void CSettingsDlg::OnOK()
@@ -30,6 +31,7 @@ bool CSettingsDlg::readLength(const Length& length, double& value)
     const double typed = shownReal(length.edit);
     if (typed == notSetReal() || !(typed > 0.0))
     {
+        const RestingDialog resting(*this);
         acedAlert(length.texts->notSet);
         return false;
     }
@@ -48,6 +50,7 @@ bool CSettingsDlg::allowsMany(Step& step, double value)
     {
         return true;
     }
+    const RestingDialog resting(*this);
     step.manyAllowed = userAllowsManyLines(step.vertical, !step.vertical, m_localeName);
     return step.manyAllowed;
 }

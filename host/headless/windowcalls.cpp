@@ -174,3 +174,8 @@ HWND GetFocus()
 {
     return host::focusedWindow();
 }
+
+BOOL SetForegroundWindow(HWND window)
+{
+    return IsWindowEnabled(window);
+}

@@ -41,6 +41,11 @@ CALL_THAT_FAILS(LRESULT, failMessage, "_ZN4CWnd18SendDlgItemMessageEijml",
                 (self, id, message, wParam, lParam), NOTHING, 0, 0)
 CALL_THAT_FAILS(BOOL, failEnable, "_ZN4CWnd12EnableWindowEi", "CWnd::EnableWindow",
                 (CWnd * self, BOOL enable), (self, enable), NOTHING, 0, FALSE)
+CALL_THAT_FAILS(HWND, failGetFocus, "GetFocus", "GetFocus", (), (), NOTHING, 0, nullptr)
+CALL_THAT_FAILS(HWND, failSetFocus, "SetFocus", "SetFocus", (HWND window), (window), NOTHING, 0,
+                nullptr)
+CALL_THAT_FAILS(BOOL, failForeground, "SetForegroundWindow", "SetForegroundWindow", (HWND window),
+                (window), NOTHING, 0, FALSE)
 SILENT_CALL(failWindowText, "_ZN4CWnd13SetWindowTextEPKw", "CWnd::SetWindowText",
             (CWnd * self, LPCWSTR text), (self, text), NOTHING)
 SILENT_CALL(failSetItemText, "_ZN4CWnd14SetDlgItemTextEiPKw", "CWnd::SetDlgItemText",

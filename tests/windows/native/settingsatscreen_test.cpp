@@ -277,6 +277,101 @@ TEST(AtTheScreen, aPickButtonThatIsClickedAsksAtTheConsole)
     EXPECT_NE(person.transcript.find(again), std::string::npos) << person.transcript;
 }
 
+const wchar_t* const attention = L"Attention";
+
+// Of the text's own caption; nothing else on the screen has it.
+int openBoxes()
+{
+    int count = 0;
+    for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, nullptr, attention)) != nullptr;)
+    {
+        count += IsWindowVisible(box) ? 1 : 0;
+    }
+    return count;
+}
+
+// A thousand lines each way in the rectangle: OK asks about both. Works the dialog until it closes.
+Shown shownWithManyLines(const std::function<void(HWND dialog)>& work)
+{
+    const support::Session session;
+    GridSettings settings;
+    settings.HorStep = settings.VertStep = 1;
+    CSettingsDlg dialog(settings, 1000, 1000, L"en-US", L"");
+    Person person(untilItCloses(work));
+    host::Editor editor(person, false);
+    const INT_PTR result = dialog.DoModal();
+    return {result, dialog.settings(), person.transcript, person.answers};
+}
+
+// Presses OK and puts the box that comes where it hides nothing of the dialog.
+HWND boxAfter(const std::function<void()>& ok)
+{
+    ok();
+    comesTrue([] { return openBoxes() == 1; });
+    const HWND box = FindWindowW(nullptr, attention);
+    SetWindowPos(box, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    comesTrue([&] { return focusAt(box) != nullptr; });
+    return box;
+}
+
+void answer(HWND box, int button)
+{
+    clickOn(GetDlgItem(box, button));
+    comesTrue([&] { return !IsWindow(box); });
+}
+
+TEST(AtTheScreen, aDialogUnderAQuestionDoesNothing)
+{
+    int boxes = 0;
+    bool changed = true;
+    bool stays = false;
+    const Shown after = shownWithManyLines(
+        [&](HWND dialog)
+        {
+            const HWND ok = GetDlgItem(dialog, IDOK);
+            const HWND vertical = boxAfter([&] { clickOn(ok); });
+            for (const int id : {IDOK, int(IDC_ERASE_BOUNDARY), int(IDC_PICK_VERT_STEP), IDCANCEL})
+            {
+                clickOn(GetDlgItem(dialog, id));
+                std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            }
+            clickOn(GetDlgItem(dialog, IDC_HOR_STEP));
+            press('7');
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            boxes = openBoxes();
+            changed = isOn(dialog, IDC_ERASE_BOUNDARY);
+            stays = IsWindowVisible(dialog) != FALSE;
+            answer(vertical, IDYES);
+            comesTrue([] { return openBoxes() == 1; });
+            answer(FindWindowW(nullptr, attention), IDYES);
+        });
+    EXPECT_EQ(boxes, 1);
+    EXPECT_FALSE(changed);
+    EXPECT_TRUE(stays);
+    EXPECT_EQ(after.result, IDOK);
+    EXPECT_EQ(after.settings.HorStep, 1);
+}
+
+TEST(AtTheScreen, aDialogHasTheKeyboardWhereItWasWhenAQuestionIsAnswered)
+{
+    int focused = 0;
+    bool isInFront = false;
+    const Shown after = shownWithManyLines(
+        [&](HWND dialog)
+        {
+            clickOn(GetDlgItem(dialog, IDC_HOR_STEP));
+            comesTrue([&] { return focusedId(dialog) == IDC_HOR_STEP; });
+            answer(boxAfter([] { press(VK_RETURN); }), IDNO);
+            comesTrue([&] { return focusedId(dialog) == IDC_HOR_STEP; });
+            focused = focusedId(dialog);
+            isInFront = GetForegroundWindow() == dialog;
+            press(VK_ESCAPE);
+        });
+    EXPECT_EQ(focused, IDC_HOR_STEP);
+    EXPECT_TRUE(isInFront);
+    EXPECT_EQ(after.result, IDCANCEL);
+}
+
 struct Tooltip
 {
     int button;

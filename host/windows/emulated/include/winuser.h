@@ -174,4 +174,6 @@ extern "C"
     // there; null takes the focus away.
     HWND WINAPI SetFocus(HWND window);
     HWND WINAPI GetFocus();
+    // Nothing is in front of anything here. FALSE for a window that is disabled or not there.
+    BOOL WINAPI SetForegroundWindow(HWND window);
 }
