@@ -46,5 +46,7 @@ function(add_module_resources)
 endfunction()
 
 function(complete_module)
-  target_link_options(netrax PRIVATE -Wl,--no-undefined)
+  if(NOT CMAKE_CXX_FLAGS MATCHES sanitize)  # clang's sanitizers are in the program that loads the module
+    target_link_options(netrax PRIVATE -Wl,--no-undefined)
+  endif()
 endfunction()

@@ -11,7 +11,7 @@
 
 namespace AcRx
 {
-enum AppMsgCode
+enum AppMsgCode : int  // later hosts send more
 {
     kNullMsg = 0,
     kInitAppMsg = 1,

@@ -10,6 +10,7 @@
 #include "host/dxf/binaryform.h"
 #include "host/dxf/save_atomic.h"
 #include "tests/dxf/smalldrawing.h"
+#include "tests/support/sanitized.h"
 
 using namespace host::dxf;
 namespace fs = std::filesystem;
@@ -62,7 +63,7 @@ std::string refusalOfFile(const std::string& path)
 // Bytes from one cut to the next, for a test of seconds: a cut costs the time to read up to it.
 std::size_t stepOfCuts(const std::string& drawing)
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef WATCHED_FOR_ADDRESSES
     return drawing.size() > 100000 ? 9973 : 29;
 #else
     return drawing.size() > 100000 ? 997 : 1;

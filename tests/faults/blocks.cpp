@@ -8,8 +8,9 @@
 #include <new>
 
 #include "tests/faults/faults.h"
+#include "tests/support/sanitized.h"
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef WATCHED_FOR_ADDRESSES
 namespace faults
 {
 const bool blocksAreNoted = false;

@@ -15,9 +15,8 @@
 namespace
 {
 using relations::GridCase;
-
-const double infinity = std::numeric_limits<double>::infinity();
-const double notANumber = std::numeric_limits<double>::quiet_NaN();
+using relations::infinity;
+using relations::notANumber;
 
 const double oddNumbers[] = {
     0,          -0.0,   1,       -1,       10,      -7.3,       0.001,    1e7,

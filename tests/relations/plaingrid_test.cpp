@@ -113,9 +113,6 @@ void shrink(GridCase& asked, double scale)
     asked.crossSize = asked.crossSize ? std::optional(*asked.crossSize * scale) : std::nullopt;
 }
 
-const double infinity = std::numeric_limits<double>::infinity();
-const double notANumber = std::numeric_limits<double>::quiet_NaN();
-
 double oddNumber(Chance& chance)
 {
     return oneOf(chance, {0, -0.0, -10, 1e-300, 1e17, 1e71, 1e150, 1.1e150, -infinity, infinity,

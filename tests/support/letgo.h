@@ -1,7 +1,9 @@
 // Objects that the module lets go on purpose, told to the leak checker.
 #pragma once
 
-#ifdef __SANITIZE_ADDRESS__
+#include "tests/support/sanitized.h"
+
+#ifdef WATCHED_FOR_ADDRESSES
 #    include <sanitizer/lsan_interface.h>
 #endif
 
@@ -11,7 +13,7 @@ namespace tests
 class LetGo
 {
 public:
-#ifdef __SANITIZE_ADDRESS__
+#ifdef WATCHED_FOR_ADDRESSES
     LetGo()
     {
         __lsan_disable();

@@ -86,7 +86,7 @@ Completion among(Names names, std::wstring_view typed, BeginsWith begins)
 {
     std::erase_if(names, [&](const std::wstring& name) { return !begins(name, typed); });
     std::ranges::sort(names);
-    names.erase(std::ranges::unique(names).begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     if (names.empty())
     {
         return {};

@@ -20,7 +20,7 @@ TEST(TagFile, aPathThatIsNoFileIsRefused)
         {"/dev/null",                          "expected a file, found a device or pipe"    },
     };
     for (const auto& [path, reason] : rows)
-        EXPECT_THAT([&] { TagFile::read(path); },
+        EXPECT_THAT([&file = path] { TagFile::read(file); },
                     testing::ThrowsMessage<Error>(path + ": " + reason));
     ::unlink(pipe.c_str());
 }
