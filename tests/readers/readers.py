@@ -81,6 +81,6 @@ def of_dxflib(path, encoding):
 
 def librecad_draws(path, folder):
     """Whether LibreCAD turns the drawing into a PDF that is more than an empty page."""
-    run("xvfb-run", "-a", "librecad", "dxf2pdf", "-a", "-t", folder, path)
+    run("xvfb-run", "-a", "-s", "-screen 0 1280x1024x24 -nolisten unix", "librecad", "dxf2pdf", "-a", "-t", folder, path)
     pdf = Path(folder) / (Path(path).stem + ".pdf")
     return pdf.exists() and pdf.stat().st_size > 2000

@@ -1,6 +1,7 @@
 #include "tests/scarce/desk.h"
 
 #include <fcntl.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -14,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace
 {
-const unsigned secondsForARun = 5;
+const unsigned secondsForARun = 60;  // only a broken program needs more than one
 
 const std::string oldSettings =
     "[GRID]\r\nHorStep=10.0000\r\nVertStep=10.0000\r\nColor=12\r\nneedText=1\r\nheightText=2."
@@ -26,6 +27,15 @@ std::string contents(const fs::path& path)
 {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// As while somebody installs fonts: the library that draws texts reads its files anew in every run.
+void changeFonts()
+{
+    if (std::getenv("NETRAX_ALONE") != nullptr)  // they are the test's own
+    {
+        utimes(std::getenv("FONTCONFIG_FILE"), nullptr);  // now
+    }
 }
 }  // namespace
 
@@ -39,6 +49,7 @@ Desk::Desk(const fs::path& folder, const Job& job) : m_folder(folder), m_job(job
 
 void Desk::layOut() const
 {
+    changeFonts();
     for (const std::string& name : m_job.results)
     {
         std::ofstream(m_folder / name, std::ios::binary)

@@ -24,7 +24,7 @@ class Desk
 public:
     Desk(const std::filesystem::path& folder, const Job& job);
 
-    // Lays out older files where the results go.
+    // Lays out older files where the results go. The fonts change meanwhile.
     void layOut() const;
     void takeSettingsAway() const;
     Results results() const;

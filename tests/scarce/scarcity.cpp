@@ -45,46 +45,8 @@ bool refuse(Of what)
     return true;
 }
 
-void note(const char* call, const char* path)
-{
-    if (noteOfRefused != nullptr)
-    {
-        std::snprintf(noteOfRefused->last, sizeof noteOfRefused->last, "%s of %s", call, path);
-        noteOfRefused->deletion |= std::strcmp(call, "unlink") == 0;
-    }
-}
-
-bool refuseOn(const char* path, const char* call, Of what = Of::files)
-{
-    const bool refused = refuse(what);
-    const int error = errno;
-    if (refused)
-    {
-        note(call, path);
-    }
-    errno = error;
-    return refused;
-}
-
-bool refuseOn(int file, const char* call, Of what = Of::files)
-{
-    if (!running || scarce == Of::memory)
-    {
-        return false;
-    }
-    char link[32];
-    char path[200] = "";
-    std::snprintf(link, sizeof link, "/proc/self/fd/%d", file);
-    syscall(SYS_readlink, link, path, sizeof path - 1);  // not the one below
-    return refuseOn(path, call, what);
-}
-
-bool refuseWholeOn(auto pathOrFile, const char* call, Of what = Of::files)
-{
-    return scarce != Of::fileLength && refuseOn(pathOrFile, call, what);
-}
-
-// The other libraries ask for memory too, and what they do without it is not ours to mend.
+// The other libraries ask too, and what they do without memory or a file is not ours to mend.
+// The C++ library opens, reads and renames files for us alone.
 bool isOurs(const void* caller)
 {
     dl_find_object found;
@@ -94,8 +56,49 @@ bool isOurs(const void* caller)
     }
     const std::string_view path = found.dlfo_link_map->l_name;  // empty for the program
     const std::string_view file = path.substr(path.rfind('/') + 1);
-    return file == "netrax.arx" || file == "libarxhost_core.so" || file.empty();
+    return file == "netrax.arx" || file == "libarxhost_core.so" || file.empty() ||
+           (scarce != Of::memory && file.starts_with("libstdc++.so"));
 }
+
+void note(const char* call, const char* path)
+{
+    if (noteOfRefused != nullptr)
+    {
+        std::snprintf(noteOfRefused->last, sizeof noteOfRefused->last, "%s of %s", call, path);
+        noteOfRefused->deletion |= std::strcmp(call, "unlink") == 0;
+    }
+}
+
+bool refuseOn(const char* path, const char* call, const void* caller, Of what = Of::files)
+{
+    const bool refused = running && isOurs(caller) && refuse(what);
+    const int error = errno;
+    if (refused)
+    {
+        note(call, path);
+    }
+    errno = error;
+    return refused;
+}
+
+bool refuseOn(int file, const char* call, const void* caller, Of what = Of::files)
+{
+    if (!running || scarce == Of::memory || !isOurs(caller))
+    {
+        return false;
+    }
+    char link[32];
+    char path[200] = "";
+    std::snprintf(link, sizeof link, "/proc/self/fd/%d", file);
+    syscall(SYS_readlink, link, path, sizeof path - 1);  // not the one below
+    return refuseOn(path, call, caller, what);
+}
+
+bool refuseWholeOn(auto pathOrFile, const char* call, const void* caller, Of what = Of::files)
+{
+    return scarce != Of::fileLength && refuseOn(pathOrFile, call, caller, what);
+}
+
 }  // namespace
 
 void start(Of what, long first, bool forGood, int error)
@@ -132,6 +135,7 @@ using scarcity::refuseWholeOn;
 using scarcity::scarce;
 
 #define IN_PLACE extern "C" __attribute__((visibility("default")))
+#define CALLER __builtin_return_address(0)
 
 IN_PLACE int open(const char* path, int flags, ...)
 {
@@ -141,7 +145,7 @@ IN_PLACE int open(const char* path, int flags, ...)
     va_end(more);
     static auto* const next = original<int(const char*, int, ...)>("open");
     const auto what = (flags & O_CREAT) != 0 ? scarcity::Of::space : scarcity::Of::files;
-    return refuseWholeOn(path, "open", what) ? -1 : next(path, flags, mode);
+    return refuseWholeOn(path, "open", CALLER, what) ? -1 : next(path, flags, mode);
 }
 
 // The C++ library opens its streams with fopen64; it reads and closes them by the calls below.
@@ -149,7 +153,7 @@ IN_PLACE int open(const char* path, int flags, ...)
     IN_PLACE FILE* NAME(const char* path, const char* mode)                         \
     {                                                                               \
         static auto* const next = original<FILE*(const char*, const char*)>(#NAME); \
-        return refuseWholeOn(path, #NAME) ? nullptr : next(path, mode);             \
+        return refuseWholeOn(path, #NAME, CALLER) ? nullptr : next(path, mode);     \
     }
 CALL_THAT_OPENS(fopen)
 CALL_THAT_OPENS(fopen64)
@@ -158,7 +162,7 @@ CALL_THAT_OPENS(fopen64)
 IN_PLACE ssize_t write(int file, const void* bytes, std::size_t size)
 {
     static auto* const next = original<ssize_t(int, const void*, std::size_t)>("write");
-    if (!refuseOn(file, "write", scarcity::Of::space))
+    if (!refuseOn(file, "write", CALLER, scarcity::Of::space))
     {
         return next(file, bytes, size);
     }
@@ -168,7 +172,7 @@ IN_PLACE ssize_t write(int file, const void* bytes, std::size_t size)
 IN_PLACE ssize_t read(int file, void* bytes, std::size_t size)
 {
     static auto* const next = original<ssize_t(int, void*, std::size_t)>("read");
-    if (!refuseOn(file, "read"))
+    if (!refuseOn(file, "read", CALLER))
     {
         return next(file, bytes, size);
     }
@@ -176,17 +180,17 @@ IN_PLACE ssize_t read(int file, void* bytes, std::size_t size)
 }
 
 // `on` is the path or the number of the file.
-#define CALL_ON_FILES(NAME, PARAMETERS, ARGUMENTS, ON)             \
-    IN_PLACE int NAME PARAMETERS                                   \
-    {                                                              \
-        static auto* const next = original<int PARAMETERS>(#NAME); \
-        return refuseWholeOn(ON, #NAME) ? -1 : next ARGUMENTS;     \
+#define CALL_ON_FILES(NAME, PARAMETERS, ARGUMENTS, ON)                 \
+    IN_PLACE int NAME PARAMETERS                                       \
+    {                                                                  \
+        static auto* const next = original<int PARAMETERS>(#NAME);     \
+        return refuseWholeOn(ON, #NAME, CALLER) ? -1 : next ARGUMENTS; \
     }
 
 // No power cut comes here: to wait for the disk thousands of times would only take time.
 IN_PLACE int fsync(int file)
 {
-    return refuseWholeOn(file, "fsync") ? -1 : 0;
+    return refuseWholeOn(file, "fsync", CALLER) ? -1 : 0;
 }
 CALL_ON_FILES(rename, (const char* from, const char* to) noexcept, (from, to), to)
 CALL_ON_FILES(fchmod, (int file, mode_t mode) noexcept, (file, mode), file)
@@ -200,20 +204,20 @@ CALL_ON_FILES(fstat, (int file, struct stat* found) noexcept, (file, found), fil
 IN_PLACE ssize_t readlink(const char* path, char* target, std::size_t size) noexcept
 {
     static auto* const next = original<ssize_t(const char*, char*, std::size_t)>("readlink");
-    return refuseWholeOn(path, "readlink") ? -1 : next(path, target, size);
+    return refuseWholeOn(path, "readlink", CALLER) ? -1 : next(path, target, size);
 }
 
 IN_PLACE char* realpath(const char* path, char* resolved) noexcept
 {
     static auto* const next = original<char*(const char*, char*)>("realpath");
-    return refuseWholeOn(path, "realpath") ? nullptr : next(path, resolved);
+    return refuseWholeOn(path, "realpath", CALLER) ? nullptr : next(path, resolved);
 }
 
 // A file is closed all the same when that is told to have failed.
 IN_PLACE int close(int file)
 {
     static auto* const next = original<int(int)>("close");
-    const bool refused = refuseWholeOn(file, "close");
+    const bool refused = refuseWholeOn(file, "close", CALLER);
     const int error = errno;
     const int result = next(file);
     errno = refused ? error : errno;
@@ -232,12 +236,12 @@ static bool refuseMemoryOf(const void* caller)
 
 IN_PLACE void* malloc(std::size_t size) noexcept
 {
-    return refuseMemoryOf(__builtin_return_address(0)) ? nullptr : __libc_malloc(size);
+    return refuseMemoryOf(CALLER) ? nullptr : __libc_malloc(size);
 }
 
 IN_PLACE void* realloc(void* memory, std::size_t size) noexcept
 {
-    return refuseMemoryOf(__builtin_return_address(0)) ? nullptr : __libc_realloc(memory, size);
+    return refuseMemoryOf(CALLER) ? nullptr : __libc_realloc(memory, size);
 }
 
 namespace

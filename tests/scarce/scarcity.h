@@ -1,11 +1,12 @@
-// Memory and files that run out at a chosen moment.
+// Memory and files that run out at a chosen moment, for our own code: what other libraries ask for
+// they get, and it does not count.
 #pragma once
 
 namespace scarcity
 {
 enum class Of
 {
-    memory,      // every request for memory, but for those of other libraries
+    memory,      // every request for memory
     files,       // every call that opens, reads, writes, renames or closes a file
     fileLength,  // likewise, but writes and reads do a part of their work instead of failing
     space,       // every call that makes a file or writes

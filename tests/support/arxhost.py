@@ -2,12 +2,15 @@
 import os
 import shutil
 import subprocess
+import sys
 import tempfile
 from dataclasses import dataclass
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 BUILD = Path(os.environ.get("NETRAX_BUILD", ROOT / "build"))
+if "NETRAX_ALONE" not in os.environ:  # run by hand: apart from the machine, as scripts/test runs it
+    os.execvp("bash", ["bash", "-c", '. "$0"; alone "$@"', str(ROOT / "scripts/alone"), *sys.orig_argv])
 KEYS = """bXBottomScribe bXLeftScribe bXRightScribe bXTopScribe bYBottomScribe bYLeftScribe bYRightScribe
 bYTopScribe Color crossSize delCont heightText HorStep iCountSigns LookType needText textXScribe
 textYScribe VertStep WCSBasePoint""".split()

@@ -11,7 +11,7 @@ import time
 
 from report import Skipped
 
-PATIENCE = 20  # seconds; only a broken program lets them pass
+PATIENCE = 60  # seconds; only a broken program lets them pass
 SEQUENCE = re.compile(rb"\x1b\[[0-9;?]*[A-Za-z]|\x1b[()][A-Z0-9]")
 BLANKS = re.compile(rb"\x1b\[K\x1b\[([0-9]+)C")  # Wine's console steps over them
 
