@@ -89,6 +89,8 @@ void Canvas::text(const Box& box, double x, double middle, std::wstring_view tex
     cairo_move_to(m_cairo, x, middle + (font.ascent - font.descent) / 2);
     cairo_show_text(m_cairo, toUtf8(text).c_str());
     cairo_restore(m_cairo);
+    // The library's point is left where the text ends; a circle would begin with a line from there.
+    cairo_new_path(m_cairo);
 }
 
 void Canvas::veil(const Box& box)

@@ -125,6 +125,57 @@ TEST(Paper, aTextIsAsHighAsItsCapitalsAndLiesOnItsLine)
     EXPECT_EQ(picture.at(stem, 0.985), whitePixel);
 }
 
+namespace
+{
+TextLine letterAt(double x)
+{
+    TextLine line;
+    line.origin = AcGePoint3d(x, 5, 0);
+    line.along = AcGeVector3d(0.5, 0, 0);
+    line.up = AcGeVector3d(0, 0.5, 0);
+    line.text = L"H";
+    return line;
+}
+
+const Points farLine{AcGePoint3d(10, 6, 0), AcGePoint3d(10, 4, 0), AcGePoint3d(9, 4, 0)};
+
+struct Shape
+{
+    const char* what;
+    void (*draw)(Paper& paper);
+};
+
+const Shape shapes[] = {
+    {"a point",    [](Paper& paper) { paper.dot(AcGePoint3d(10, 5, 0), red); }},
+    {"a line",     [](Paper& paper) { paper.path(farLine, false, red); }      },
+    {"an outline", [](Paper& paper) { paper.path(farLine, true, red); }       },
+    {"an area",    [](Paper& paper) { paper.area({farLine}, red); }           },
+};
+}  // namespace
+
+// In a drawing of vectors a way from the text's end to the shape is seen, even as thin as nothing.
+TEST(Paper, whatFollowsATextBeginsAtItsOwnPlace)
+{
+    if (!canWrite(FileKind::svg))
+    {
+        GTEST_SKIP();
+    }
+    for (const Shape& shape : shapes)
+    {
+        const auto svg = [&shape](bool textBefore)
+        {
+            Paper paper(FileKind::svg, plan, {0, 0, 10, 10});
+            textBefore ? paper.text(letterAt(0), red) : void();
+            shape.draw(paper);
+            return paper.finish();
+        };
+        const std::string alone = svg(false);
+        const std::size_t begin = alone.rfind("<path");
+        const std::string drawn = alone.substr(begin, alone.find('>', begin) - begin);
+        EXPECT_NE(svg(true).find(drawn), std::string::npos) << shape.what;
+    }
+}
+
 TEST(Paper, anEmptyDrawingIsAnEmptySheet)
 {
     for (const FileKind kind : {FileKind::png, FileKind::pdf, FileKind::svg})

@@ -142,6 +142,8 @@ void CairoInk::text(const AcGePoint3d& start, const AcGeVector3d& along, const A
     use(color);
     showText(m_cairo, text);
     cairo_restore(m_cairo);
+    // The library's point is left where the text ends; an arc would begin with a line from there.
+    cairo_new_path(m_cairo);
 }
 }  // namespace
 
