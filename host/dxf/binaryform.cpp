@@ -187,13 +187,10 @@ void Reader::readText()
     {
         refuse("the end of a text", "the end of the file");
     }
-    const std::string_view text = take(end - m_at);
-    if (text.find_first_of("\r\n") != text.npos)
-    {
-        m_at -= text.size();
-        refuse("a text of one line", "more lines");
-    }
-    m_form.text += text;
+    const std::size_t start = m_form.text.size();
+    m_form.text += take(end - m_at);
+    std::replace(m_form.text.begin() + std::ptrdiff_t(start), m_form.text.end(), '\n',
+                 lineFeedInText);
     ++m_at;
 }
 
@@ -376,10 +373,17 @@ void BinaryEncoder::encodeTag(std::string_view codeText, std::string_view value)
             return;
         }
         default:
-            m_binary += value;
-            m_binary += '\0';
+            putText(value);
             m_ended = code == 0 && value == "EOF";
     }
+}
+
+void BinaryEncoder::putText(std::string_view value)
+{
+    const std::size_t start = m_binary.size();
+    m_binary += value;
+    std::replace(m_binary.begin() + std::ptrdiff_t(start), m_binary.end(), lineFeedInText, '\n');
+    m_binary += '\0';
 }
 
 void BinaryEncoder::putCode(int code)

@@ -1,7 +1,8 @@
 // Binary DXF as the tags of an ASCII one, and back, with nothing lost on either way.
 //
 // Strings stay in the bytes they have, whatever the code page; numbers are written in the shortest
-// decimals that read back as the same; binary chunks become hexadecimal digits.
+// decimals that read back as the same; binary chunks become hexadecimal digits. Where a text has a
+// line feed, the tags of the ASCII form, which end with one, have `lineFeedInText`.
 #pragma once
 
 #include <cstdint>
@@ -38,6 +39,7 @@ public:
 
 private:
     void encodeTag(std::string_view code, std::string_view value);
+    void putText(std::string_view value);
     void putCode(int code);
     template <class Number>
     void put(Number number);

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "host/dxf/error.h"
+#include "host/dxf/tag.h"
 
 namespace host::dxf
 {
@@ -142,7 +143,7 @@ std::u32string unescaped(std::u32string_view text)
             character = caretCharacter(text, at);
             length = character == 0 ? 1 : 2;
         }
-        result += character == 0 ? text[at] : character;
+        result += character != 0 ? character : text[at] == lineFeedInText ? U'\n' : text[at];
     }
     return result;
 }
@@ -199,7 +200,9 @@ std::wstring CodePage::decode(std::string_view bytes) const
 {
     const bool isAscii =
         std::ranges::all_of(bytes, [](char c) { return static_cast<signed char>(c) >= 0; });
-    if (isAscii && bytes.find_first_of("\\^") == bytes.npos)
+    constexpr std::string_view marks("\\^\0", 3);
+    static_assert(marks.back() == lineFeedInText);
+    if (isAscii && bytes.find_first_of(marks) == bytes.npos)
         return {bytes.begin(), bytes.end()};
     return wide(unescaped(isAscii ? std::u32string(bytes.begin(), bytes.end()) : converted(bytes)));
 }

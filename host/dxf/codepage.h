@@ -23,7 +23,7 @@ public:
     CodePage(const Release& release, std::string_view codePageName);
 
     // One wchar_t a character, two where it does not fit into one. "\U+XXXX", "\M+nXXXX" and "^J"
-    // are taken for the characters they stand for.
+    // are taken for the characters they stand for, `lineFeedInText` for a line feed.
     //
     // A byte that means nothing in the code page becomes U+DC00 plus the byte, which stands for
     // nothing else and which `encode` turns back: a name with such a byte can be written again.

@@ -9,6 +9,10 @@
 
 namespace host::dxf
 {
+// Stands for a line feed within a text of a binary drawing, where a zero ends the text and so is
+// never in it.
+inline constexpr char lineFeedInText = '\0';
+
 struct Tag
 {
     int code;

@@ -89,7 +89,7 @@ std::wstring withoutPercentCodes(std::wstring_view text)
             plain += percentCode(text);
             continue;
         }
-        plain += text[0];
+        plain += text[0] < L' ' ? L' ' : text[0];
         text.remove_prefix(1);
     }
     return plain;

@@ -8,7 +8,7 @@
 namespace host::plot
 {
 // "%%d", "%%p", "%%c" and "%%nnn" are the characters they stand for; "%%u", "%%o" and "%%k" draw
-// lines along the text and are left out.
+// lines along the text and are left out. A control character, as a tab, is a blank.
 std::wstring withoutPercentCodes(std::wstring_view text);
 
 // The lines of a text of many lines, its codes left out; a fraction is written "1/2".

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "host/dxf/codepage.h"
 #include "host/dxf/emptydrawing.h"
 #include "host/dxf/error.h"
 #include "tests/dxf/smalldrawing.h"
@@ -60,27 +61,29 @@ struct Value
 TEST(BinaryForm, everyKindOfValueIsReadAndWrittenAsItWas)
 {
     const Value rows[] = {
-        {1,    text("Steinbruch \xC4"),            "Steinbruch \xC4"},
-        {8,    text(" blank "),                    " blank "        },
-        {10,   bytesOf(1234567.1234567),           "1234567.1234567"},
-        {40,   bytesOf(-0.0),                      "-0"             },
-        {41,   bytesOf(5e-324),                    "5e-324"         },
-        {62,   bytesOf(std::int16_t(-7)),          "-7"             },
-        {90,   bytesOf(std::int32_t(-2147483647)), "-2147483647"    },
-        {100,  text("AcDbLine"),                   "AcDbLine"       },
-        {140,  bytesOf(2.5),                       "2.5"            },
-        {160,  bytesOf(std::int64_t(1) << 40),     "1099511627776"  },
-        {210,  bytesOf(1.0),                       "1"              },
-        {290,  bytesOf(std::uint8_t(1)),           "1"              },
-        {310,  std::string("\x03\x01\xFE\x00",     4),                "01FE00"},
-        {330,    text("1F"),                                    "1F"                                       },
-        {370,    bytesOf(std::int16_t(25)),                                    "25"},
-        {420,    bytesOf(std::int32_t(0xFFFFFF)),                                    "16777215"                                 },
-        {1000,    text("xdata"),                                   "xdata"  },
-        {1004,    std::string("\0",                                   1),                               ""},
-        {1010,  bytesOf(7.0),                                    "7"                   },
-        {1070, bytesOf(std::int16_t(9)),"9"},
-        {1071, bytesOf(std::int32_t(9)),                                    "9"                                                       },
+        {1,                         text("Steinbruch \xC4"),  "Steinbruch \xC4"             },
+        {8,                         text(" blank "),          " blank "                     },
+        {1,                         text("\none\n\ntwo\r\n"), std::string("\0one\0\0two\r\0", 11)},
+        {1,                         text("return\r"),                                                 "return\r"                                      },
+        {10,                         bytesOf(1234567.1234567),                                                "1234567.1234567"},
+        {40,                         bytesOf(-0.0),                                                "-0"                                                 },
+        {41,                         bytesOf(5e-324),                                                "5e-324"},
+        {62,                         bytesOf(std::int16_t(-7)),                                                "-7"                                       },
+        {90,                         bytesOf(std::int32_t(-2147483647)),                                                "-2147483647"},
+        {100,                         text("AcDbLine"),                                               "AcDbLine"                                                        },
+        {140,                         bytesOf(2.5),                                               "2.5"},
+        {160,                         bytesOf(std::int64_t(1) << 40),                                               "1099511627776"                                      },
+        {210,                         bytesOf(1.0),                                               "1"  },
+        {290,                         bytesOf(std::uint8_t(1)),                                               "1"                          },
+        {310,                         std::string("\x03\x01\xFE\x00",                                               4),"01FE00"},
+        {330,                 text("1F"),                                         "1F"                                                                        },
+        {370,                     bytesOf(std::int16_t(25)),     "25"},
+        {420,                     bytesOf(std::int32_t(0xFFFFFF)),                                         "16777215"                                                                                                            },
+        {1000,               text("xdata"),"xdata"},
+        {1004,                  std::string("\0",                                            1),                                                                                                                                                          ""},
+        {1010,                       bytesOf(7.0),  "7"},
+        {1070,bytesOf(std::int16_t(9)),           "9"                                                                                                                                                                  },
+        {1071,           bytesOf(std::int32_t(9)),                      "9"},
     };
     for (const Value& row : rows)
     {
@@ -125,7 +128,6 @@ TEST(BinaryForm, whatNoTagCanBeIsRefusedWithItsOffset)
     const std::pair<std::string, std::string> rows[] = {
         {tag(-5,  ""),                     offset + ": expected a group code of DXF, found -5"              },
         {tag(80,  text("x")),              offset + ": expected a group code of DXF, found 80"              },
-        {tag(1,   text("two\nlines")),     value + ": expected a text of one line, found more lines"        },
         {tag(1,   "no end"),               value + ": expected the end of a text, found the end of the file"},
         {tag(40,  bytesOf(std::nan("7"))), value + ": expected a number, found none"                        },
         {tag(310, "\x7F only this"),
@@ -134,6 +136,28 @@ TEST(BinaryForm, whatNoTagCanBeIsRefusedWithItsOffset)
     for (const auto& [bytes, message] : rows)
     {
         EXPECT_EQ(refusal(start + bytes), "FILE: offset " + message);
+    }
+}
+
+// Real drawings have such tolerances.
+TEST(BinaryForm, aTextWithLineFeedsIsReadPlottedAndWrittenBack)
+{
+    const std::string several("{\\Fgdt;j}%%v0.1\nsecond\n");
+    const std::string binary = start + tag(2, text("ENTITIES")) + tag(0, text("TOLERANCE")) +
+                               tag(1, text(several)) + tag(0, text("ENDSEC")) + tag(0, text("EOF"));
+    const TagFile file = TagFile::fromText(binary, "FILE");
+    ASSERT_EQ(file.records("ENTITIES").size(), 1u);
+    for (const Tag& tag : file.tags(file.records("ENTITIES")[0]))
+    {
+        if (tag.code == 1)
+        {
+            EXPECT_EQ(CodePage(file.release(), "").decode(tag.value),
+                      std::wstring(several.begin(), several.end()));
+        }
+    }
+    for (const std::size_t piece : {1, 5, 1000})
+    {
+        EXPECT_EQ(encoded(std::string(file.bytes()), 2, piece), binary);
     }
 }
 

@@ -10,8 +10,10 @@
 #include "dbgroup.h"
 #include "dbobjptr.h"
 #include "host/database/undo.h"
+#include "host/dxf/binaryform.h"
 #include "host/dxf/emptydrawing.h"
 #include "host/dxf/tagfile.h"
+#include "tests/dxf/smalldrawing.h"
 #include "tests/support/emptydrawing.h"
 
 namespace
@@ -341,6 +343,30 @@ TEST_F(Drawing, aSeedAboveTheHighestHandleIsKeptTo)
 {
     const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\n1000");
     EXPECT_EQ(database->core().nextHandle, 0x1000u);
+}
+
+// Which the ASCII form has no room for.
+TEST_F(Drawing, aTextOfSeveralLinesStaysInABinaryDrawing)
+{
+    const std::string mark = "  2\nENTITIES\n";
+    const std::string note = "  0\nTOLERANCE\n  5\nF0\n  1\nfirst/second\n";
+    std::string binary;
+    host::dxf::BinaryEncoder encoder([&](std::string_view bytes) { binary += bytes; }, 2);
+    encoder.take(replaced(host::dxf::emptyDrawing(), mark, mark + note));
+    encoder.finish();
+    binary = replaced(binary, "first/second", "first\nsecond");
+    const auto database = opened(binary);
+    EXPECT_EQ(saved(*database), binary);
+
+    AcDbBlockTableRecord* space = nullptr;
+    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(database->core().modelSpace), AcDb::kForWrite),
+              Acad::eOk);
+    auto* line = new AcDbLine(AcGePoint3d(), AcGePoint3d(5, 5, 0));
+    space->appendAcDbEntity(line);
+    line->close();
+    space->close();
+    EXPECT_EQ(count(saved(*database), "first\nsecond"), 1u);
+    EXPECT_EQ(count(saved(*database), "LINE"), count(binary, "LINE") + 1);
 }
 
 TEST_F(Drawing, aDrawingThatCannotBeSavedSaysWhy)

@@ -20,6 +20,7 @@ TEST(PlainText, percentCodesAreTheCharactersTheyStandFor)
         {L"5%",           L"5%"       },
         {L"5%%",          L"5%%"      },
         {L"%%x",          L"%%x"      },
+        {L"a\tb\nc",      L"a b c"    },
     };
     for (const auto& row : rows)
     {
