@@ -143,16 +143,23 @@ std::uint32_t reactorsOf(const AcDbStub* stub)
     return entity ? ObjectAccess::reactors(*entity) : 0;
 }
 
+static std::string nameOf(const AcRxClass& type)
+{
+    const std::wstring name = type.name();
+    return std::string(name.begin(), name.end());
+}
+
 std::string describe(const AcDbObject& object)
 {
-    const std::wstring name = object.isA()->name();
     const AcDbStub* stub = ObjectAccess::stub(object);
-    char handle[40] = " that is not in a database";
-    if (stub != nullptr)
-    {
-        std::snprintf(handle, sizeof handle, " with handle %llX",
-                      static_cast<unsigned long long>(stub->handle));
-    }
-    return std::string(name.begin(), name.end()) + handle;
+    return stub != nullptr ? describe(*stub) : nameOf(*object.isA()) + " that is not in a database";
+}
+
+std::string describe(const AcDbStub& stub)
+{
+    char handle[40];
+    std::snprintf(handle, sizeof handle, " with handle %llX",
+                  static_cast<unsigned long long>(stub.handle));
+    return nameOf(*typeOf(&stub)) + handle;
 }
 }  // namespace host

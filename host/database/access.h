@@ -103,4 +103,5 @@ AcDbStub* ownerOf(const AcDbStub* stub);
 std::uint32_t reactorsOf(const AcDbStub* stub);
 // Class and handle, for the line that stops a run.
 std::string describe(const AcDbObject& object);
+std::string describe(const AcDbStub& stub);  // not of a foreign object
 }  // namespace host

@@ -1,4 +1,5 @@
 #include "host/database/access.h"
+#include "host/database/fitness.h"
 
 using host::ObjectAccess;
 
@@ -45,6 +46,10 @@ Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbE
     if (!entity->objectId().isNull())
     {
         return Acad::eAlreadyInDb;
+    }
+    if (!host::isFit(*entity))
+    {
+        return Acad::eInvalidInput;
     }
     AcDbStub* own = objectId().stub();
     host::DatabaseCore& core = host::coreOf(own);

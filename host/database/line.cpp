@@ -1,8 +1,8 @@
-#include <cmath>
 #include <cstring>
 
+#include "host/database/fitness.h"
 #include "host/database/intersections.h"
-#include "dbents.h"
+#include "host/geometry/finite.h"
 
 ACRX_DEFINE_MEMBERS(AcDbCurve, AcDbEntity)
 ACRX_DEFINE_MEMBERS(AcDbLine, AcDbCurve)
@@ -10,6 +10,10 @@ ACRX_DEFINE_MEMBERS(AcDbLine, AcDbCurve)
 Acad::ErrorStatus AcDbLine::setStartPoint(const AcGePoint3d& point)
 {
     assertWriteEnabled("AcDbLine::setStartPoint");
+    if (host::isInDrawing(*this) && !host::isFinite(point))
+    {
+        return Acad::eInvalidInput;
+    }
     m_start = point;
     return Acad::eOk;
 }
@@ -17,6 +21,10 @@ Acad::ErrorStatus AcDbLine::setStartPoint(const AcGePoint3d& point)
 Acad::ErrorStatus AcDbLine::setEndPoint(const AcGePoint3d& point)
 {
     assertWriteEnabled("AcDbLine::setEndPoint");
+    if (host::isInDrawing(*this) && !host::isFinite(point))
+    {
+        return Acad::eInvalidInput;
+    }
     m_end = point;
     return Acad::eOk;
 }
@@ -27,17 +35,12 @@ bool isIdentity(const AcGeMatrix3d& matrix)
 {
     return std::memcmp(matrix.entry, AcGeMatrix3d::kIdentity.entry, sizeof matrix.entry) == 0;
 }
-
-bool isFinite(const AcGePoint3d& point)
-{
-    return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z);
-}
 }  // namespace
 
 Acad::ErrorStatus AcDbLine::transformBy(const AcGeMatrix3d& matrix)
 {
     assertWriteEnabled("AcDbLine::transformBy");
-    if (isIdentity(matrix) && isFinite(m_start) && isFinite(m_end))
+    if (isIdentity(matrix) && host::isFinite(m_start) && host::isFinite(m_end))
     {
         // What the product would give: no negative zero.
         m_start += AcGeVector3d();
@@ -48,9 +51,17 @@ Acad::ErrorStatus AcDbLine::transformBy(const AcGeMatrix3d& matrix)
     {
         return Acad::eCannotScaleNonUniformly;
     }
-    m_start.transformBy(matrix);
-    m_end.transformBy(matrix);
-    setNormal((matrix * normal()).normal());
+    const AcGePoint3d start = matrix * m_start;
+    const AcGePoint3d end = matrix * m_end;
+    const AcGeVector3d moved = (matrix * normal()).normal();
+    if (host::isInDrawing(*this) &&
+        !(host::isFinite(start) && host::isFinite(end) && host::isFinite(moved)))
+    {
+        return Acad::eInvalidInput;
+    }
+    m_start = start;
+    m_end = end;
+    setNormal(moved);
     return Acad::eOk;
 }
 

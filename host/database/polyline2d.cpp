@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <limits>
 #include <memory>
 
 #include "dbents.h"
 #include "host/database/access.h"
+#include "host/database/fitness.h"
 #include "host/database/intersections.h"
 #include "host/geometry/ocs.h"
 
@@ -193,11 +195,26 @@ Acad::ErrorStatus AcDb2dPolyline::transformBy(const AcGeMatrix3d& matrix)
     }
     // The points are moved as they are in the world, so that far from the origin no vertex picks up
     // the rounding of a trip through the plane's system.
-    for (AcGePoint3d& point : m_points)
+    std::vector<AcGePoint3d> moved = m_points;
+    for (AcGePoint3d& point : moved)
     {
         point.transformBy(matrix);
     }
-    setNormal((matrix * normal()).normal());
+    const AcGeVector3d up = (matrix * normal()).normal();
+    const auto isFit = [&](const AcGePoint3d& point) { return host::isFitInPlane(point, up); };
+    if (host::isInDrawing(*this) && !std::ranges::all_of(moved, isFit))
+    {
+        return Acad::eInvalidInput;
+    }
+    setNormal(up);
+    takePoints(std::move(moved));
+    subentSetProperties();
+    return Acad::eOk;
+}
+
+void AcDb2dPolyline::takePoints(std::vector<AcGePoint3d> points)
+{
+    m_points = std::move(points);
     const host::Ocs plane(normal());
     for (std::size_t i = 0; i < m_points.size(); ++i)
     {
@@ -205,8 +222,6 @@ Acad::ErrorStatus AcDb2dPolyline::transformBy(const AcGeMatrix3d& matrix)
         m_elevation = i == 0 ? flat.z : m_elevation;
         m_vertices[i]->m_position.set(flat.x, flat.y, m_elevation);
     }
-    subentSetProperties();
-    return Acad::eOk;
 }
 
 Acad::ErrorStatus AcDb2dPolyline::getStretchPoints(AcGePoint3dArray& points) const

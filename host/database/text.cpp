@@ -3,6 +3,7 @@
 #include "dbents.h"
 #include "host/database/access.h"
 #include "host/database/drawing.h"
+#include "host/database/fitness.h"
 #include "host/database/intersections.h"
 #include "host/geometry/ocs.h"
 
@@ -30,6 +31,10 @@ bool AcDbText::positionRules() const
 Acad::ErrorStatus AcDbText::setPosition(const AcGePoint3d& point)
 {
     assertWriteEnabled("AcDbText::setPosition");
+    if (host::isInDrawing(*this) && !host::isFitInPlane(point, normal()))
+    {
+        return Acad::eInvalidInput;
+    }
     m_position = point;
     return Acad::eOk;
 }
@@ -40,6 +45,10 @@ Acad::ErrorStatus AcDbText::setAlignmentPoint(const AcGePoint3d& point)
     if (m_horizontal == AcDb::kTextLeft && m_vertical == AcDb::kTextBase)
     {
         return Acad::eNotApplicable;
+    }
+    if (host::isInDrawing(*this) && !host::isFitInPlane(point, normal()))
+    {
+        return Acad::eInvalidInput;
     }
     m_alignment = point;
     return Acad::eOk;
@@ -101,6 +110,10 @@ Acad::ErrorStatus AcDbText::setHeight(double height)
 Acad::ErrorStatus AcDbText::setRotation(double angle)
 {
     assertWriteEnabled("AcDbText::setRotation");
+    if (host::isInDrawing(*this) && !host::isAngle(angle))
+    {
+        return Acad::eInvalidInput;
+    }
     m_rotation = angle;
     return Acad::eOk;
 }
@@ -177,7 +190,12 @@ Acad::ErrorStatus AcDbText::adjustAlignment(const AcDbDatabase*)
     const double c = std::cos(m_rotation);
     const double s = std::sin(m_rotation);
     const AcGeVector3d shift(across * c - up * s, across * s + up * c, 0);
-    m_position = m_alignment + host::Ocs(normal()).toWorld(shift);
+    const AcGePoint3d position = m_alignment + host::Ocs(normal()).toWorld(shift);
+    if (host::isInDrawing(*this) && !host::isFitInPlane(position, normal()))
+    {
+        return Acad::eInvalidInput;
+    }
+    m_position = position;
     return Acad::eOk;
 }
 
@@ -188,13 +206,23 @@ Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix)
     {
         return Acad::eCannotScaleNonUniformly;
     }
-    const AcGeVector3d moved = matrix * host::Ocs(normal()).directionWcs(m_rotation);
-    m_position.transformBy(matrix);
-    m_alignment.transformBy(matrix);
-    setNormal((matrix * normal()).normal());
-    m_rotation = host::Ocs(normal()).angleOf(moved);
+    const AcGeVector3d along = matrix * host::Ocs(normal()).directionWcs(m_rotation);
+    const AcGeVector3d up = (matrix * normal()).normal();
+    const AcGePoint3d position = matrix * m_position;
+    const AcGePoint3d alignment = matrix * m_alignment;
     // A turn leaves the height as it is, to the last bit.
-    const double scale = moved.length();
-    m_height *= std::fabs(scale - 1) > 1e-12 ? scale : 1;
+    const double scale = along.length();
+    const double height = m_height * (std::fabs(scale - 1) > 1e-12 ? scale : 1);
+    const bool staysFit = host::isFitInPlane(position, up) && host::isFitInPlane(alignment, up) &&
+                          std::isfinite(height);
+    if (host::isInDrawing(*this) && !staysFit)
+    {
+        return Acad::eInvalidInput;
+    }
+    m_position = position;
+    m_alignment = alignment;
+    setNormal(up);
+    m_rotation = host::Ocs(up).angleOf(along);
+    m_height = height;
     return Acad::eOk;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <stdexcept>
 #include <utility>
 
 #include "host/database/drawing.h"
@@ -47,6 +48,19 @@ void EntityWriter::writeSubclass(std::string_view name, TagWriter& writer) const
 
 void EntityWriter::writeEntitiesOf(const AcDbStub* owner, TagWriter& writer)
 {
+    const AcDbStub* last = nullptr;
+    try
+    {
+        writeAll(owner, writer, last);
+    }
+    catch (const std::domain_error& noTagCanHoldIt)
+    {
+        throw std::domain_error("the " + describe(*last) + ": " + noTagCanHoldIt.what());
+    }
+}
+
+void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDbStub*& last)
+{
     // Many lines in a row share one style; those of another owner have no form here.
     std::uint32_t style = UINT32_MAX;
     const RecordForm* form = nullptr;
@@ -57,6 +71,7 @@ void EntityWriter::writeEntitiesOf(const AcDbStub* owner, TagWriter& writer)
         {
             continue;
         }
+        last = &stub;
         if (!stub.packed())
         {
             writeUnpacked(stub, owner, writer);

@@ -18,9 +18,12 @@ public:
     EntityWriter(DatabaseCore& core, const FileSource& source);
 
     // All entities made since the drawing was opened that belong to `owner` and are not erased.
+    // Throws std::domain_error, which names the entity, for what no tag can hold.
     void writeEntitiesOf(const AcDbStub* owner, TagWriter& writer);
 
 private:
+    // `last` is the one that is being written.
+    void writeAll(const AcDbStub* owner, TagWriter& writer, const AcDbStub*& last);
     void writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, TagWriter& writer);
     void writeText(const AcDbText& text, TagWriter& writer);
     void writePolyline(AcDb2dPolyline& polyline, TagWriter& writer);

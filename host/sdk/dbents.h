@@ -126,6 +126,7 @@ private:
 
     void subentSetProperties() override;
     void placePoints();
+    void takePoints(std::vector<AcGePoint3d> points);  // WCS, in the plane of the normal
 
     std::vector<AcDb2dVertex*> m_vertices;
     std::vector<AcGePoint3d> m_points;  // the vertices in WCS

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <memory>
 
 #include "dbMPolygon.h"
@@ -326,5 +327,106 @@ TEST(MPolygon, takesNoOpenOrCrossingLoop)
     crossing->transformBy(AcGeMatrix3d::translation(AcGeVector3d(1, 1, 0)));
     EXPECT_EQ(area.appendLoopFromBoundary(crossing.get(), true), Acad::eInvalidInput);
     EXPECT_EQ(area.appendLoopFromBoundary(crossing.get(), false), Acad::eOk);
+}
+
+// What no drawing could be saved with.
+struct Unfit
+{
+    const char* what;
+    AcDbEntity* (*make)();
+};
+
+AcDbEntity* polylineAt(double elevation, double width)
+{
+    AcGePoint3dArray points = square(1);
+    return new AcDb2dPolyline(AcDb::k2dSimplePoly, points, elevation, Adesk::kTrue, width);
+}
+
+const double huge = std::numeric_limits<double>::infinity();
+
+AcDbEntity* textAt(double x, double height, double rotation)
+{
+    return new AcDbText(AcGePoint3d(x, 0, 0), L"A", AcDbObjectId::kNull, height, rotation);
+}
+
+const Unfit unfit[] = {
+    {"a line's start",
+     [] { return static_cast<AcDbEntity*>(new AcDbLine(AcGePoint3d(0, NAN, 0), AcGePoint3d())); }                   },
+    {"a line's end",              []
+     { return static_cast<AcDbEntity*>(new AcDbLine(AcGePoint3d(), AcGePoint3d(0, 0, -huge))); }},
+    {"a text's place",            [] { return textAt(huge, 1, 0); }                                                 },
+    {"a text's height",           [] { return textAt(0, NAN, 0); }                                                  },
+    {"a text's rotation",         [] { return textAt(0, 1, huge); }                                                 },
+    {"a rotation beyond degrees", [] { return textAt(0, 1, 1e308); }                                                },
+    {"a polyline's elevation",    [] { return polylineAt(NAN, 0); }                                                 },
+    {"a polyline's width",        [] { return polylineAt(0, huge); }                                                },
+};
+
+TEST(Block, anEntityWithANumberThatIsNotFiniteIsRefusedWhole)
+{
+    EmptyDrawing drawing;
+    AcDbBlockTableRecord* space = nullptr;
+    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(drawing.core().modelSpace), AcDb::kForWrite),
+              Acad::eOk);
+    const std::size_t stubs = drawing.core().stubs.size();
+    const std::uint64_t handle = drawing.core().nextHandle;
+    for (const Unfit& row : unfit)
+    {
+        const std::unique_ptr<AcDbEntity> entity(row.make());
+        AcDbObjectId id = space->objectId();
+        EXPECT_EQ(space->appendAcDbEntity(id, entity.get()), Acad::eInvalidInput) << row.what;
+        EXPECT_TRUE(id.isNull()) << row.what;
+        EXPECT_TRUE(entity->objectId().isNull() && entity->layerId().isNull()) << row.what;
+    }
+    space->close();
+    EXPECT_EQ(drawing.core().stubs.size(), stubs);
+    EXPECT_EQ(drawing.core().nextHandle, handle);
+}
+
+AcGeMatrix3d faraway()
+{
+    AcGeMatrix3d matrix;
+    return matrix.setTranslation(AcGeVector3d(0, huge, 0));
+}
+
+TEST(Entity, ofADrawingIsNotMadeUnfitToBeSaved)
+{
+    const AcGePoint3d nowhere(NAN, 0, 0);
+    EmptyDrawing drawing;
+    const AcDbObjectId ids[] = {drawing.addLine(1, 2, 3, 4), drawing.add(textAt(5, 6, 0)),
+                                drawing.add(polylineAt(7, 0))};
+    AcDbObjectPointer<AcDbLine> line(ids[0], AcDb::kForWrite);
+    EXPECT_EQ(line->setStartPoint(nowhere), Acad::eInvalidInput);
+    EXPECT_EQ(line->setEndPoint(nowhere), Acad::eInvalidInput);
+    EXPECT_EQ(line->transformBy(faraway()), Acad::eInvalidInput);
+    EXPECT_TRUE(line->startPoint() == AcGePoint3d(1, 2, 0));
+    EXPECT_TRUE(line->endPoint() == AcGePoint3d(3, 4, 0));
+
+    AcDbObjectPointer<AcDbText> text(ids[1], AcDb::kForWrite);
+    text->setHorizontalMode(AcDb::kTextRight);
+    EXPECT_EQ(text->setPosition(nowhere), Acad::eInvalidInput);
+    EXPECT_EQ(text->setAlignmentPoint(nowhere), Acad::eInvalidInput);
+    EXPECT_EQ(text->setRotation(huge), Acad::eInvalidInput);
+    EXPECT_EQ(text->setHeight(huge), Acad::eInvalidInput);
+    EXPECT_EQ(text->transformBy(faraway()), Acad::eInvalidInput);
+    EXPECT_TRUE(text->position() == AcGePoint3d(5, 0, 0));
+    EXPECT_EQ(text->rotation(), 0);
+    text->setHeight(1e308);  // its width, and so its place, would be beyond all numbers
+    text->setTextString(L"AAAAAAAAAA");
+    EXPECT_EQ(text->adjustAlignment(), Acad::eInvalidInput);
+
+    AcDbObjectPointer<AcDb2dPolyline> outline(ids[2], AcDb::kForWrite);
+    EXPECT_EQ(outline->transformBy(faraway()), Acad::eInvalidInput);
+    EXPECT_EQ(outline->elevation(), 7);
+    EXPECT_TRUE(outline->vertexAt(2) == AcGePoint3d(1, 1, 7));
+}
+
+// Engines compute with entities that are never seen.
+TEST(Entity, ofNoDrawingMayHaveAnyNumbers)
+{
+    AcDbLine line;
+    EXPECT_EQ(line.setStartPoint(AcGePoint3d(huge, 0, 0)), Acad::eOk);
+    EXPECT_EQ(line.transformBy(faraway()), Acad::eOk);
+    EXPECT_EQ(line.startPoint().x, huge);
 }
 }  // namespace

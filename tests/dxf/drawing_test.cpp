@@ -1,6 +1,7 @@
 // Drawings through the database: opened, added to and saved.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <numbers>
@@ -9,6 +10,7 @@
 #include "dbdict.h"
 #include "dbgroup.h"
 #include "dbobjptr.h"
+#include "host/database/access.h"
 #include "host/database/undo.h"
 #include "host/dxf/binaryform.h"
 #include "host/dxf/emptydrawing.h"
@@ -367,6 +369,36 @@ TEST_F(Drawing, aTextOfSeveralLinesStaysInABinaryDrawing)
     space->close();
     EXPECT_EQ(count(saved(*database), "first\nsecond"), 1u);
     EXPECT_EQ(count(saved(*database), "LINE"), count(binary, "LINE") + 1);
+}
+
+struct Crooked : AcDbText
+{
+    using AcDbEntity::setNormal;
+    using AcDbText::AcDbText;
+};
+
+// No call lets such a number in; should one come in all the same, it is found by its entity.
+TEST_F(Drawing, anEntityThatCannotBeSavedIsNamed)
+{
+    const std::string rest = " with handle 2B: a number is not finite";
+    EmptyDrawing lines;
+    lines.addLine(0, 0, 1, 1);
+    AcDbLine* line = nullptr;
+    ASSERT_EQ(acdbOpenObject(line, lines.addLine(0, 0, 1, 1), AcDb::kForWrite), Acad::eOk);
+    line->setColorIndex(1);
+    host::ObjectAccess::setPoints(*line, AcGePoint3d(), AcGePoint3d(NAN, 0, 0));
+    line->close();
+    EXPECT_EQ(host::saveDrawing(lines.database(), path.string()),
+              path.string() + ": cannot be saved: the AcDbLine" + rest);
+
+    EmptyDrawing texts;
+    texts.addLine(0, 0, 1, 1);
+    auto* text = new Crooked(AcGePoint3d(), L"A", AcDbObjectId::kNull, 1);
+    texts.add(text);
+    text->setNormal(AcGeVector3d(NAN, 0, 1));
+    EXPECT_EQ(host::saveDrawing(texts.database(), path.string()),
+              path.string() + ": cannot be saved: the AcDbText" + rest);
+    EXPECT_FALSE(fs::exists(path));
 }
 
 TEST_F(Drawing, aDrawingThatCannotBeSavedSaysWhy)

@@ -1,0 +1,62 @@
+#include "host/database/fitness.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "host/database/access.h"
+#include "host/geometry/finite.h"
+#include "host/geometry/ocs.h"
+
+namespace host
+{
+namespace
+{
+bool isFitLine(const AcDbLine& line)
+{
+    return isFinite(line.startPoint()) && isFinite(line.endPoint());
+}
+
+bool isFitText(const AcDbText& text)
+{
+    return isFitInPlane(text.position(), text.normal()) &&
+           isFitInPlane(text.alignmentPoint(), text.normal()) && std::isfinite(text.height()) &&
+           std::isfinite(text.widthFactor()) && isAngle(text.rotation()) && isAngle(text.oblique());
+}
+
+bool isFitPolyline(AcDb2dPolyline& polyline)
+{
+    return std::isfinite(polyline.elevation()) && std::isfinite(polyline.defStartWidth()) &&
+           std::isfinite(polyline.defEndWidth()) &&
+           std::ranges::all_of(ObjectAccess::vertices(polyline), [](const AcDb2dVertex* vertex)
+                               { return isFinite(vertex->position()); });
+}
+}  // namespace
+
+bool isAngle(double radians)
+{
+    return std::isfinite(radians * 180 / M_PI);
+}
+
+bool isFitInPlane(const AcGePoint3d& point, const AcGeVector3d& normal)
+{
+    return isFinite(normal) && isFinite(point) && isFinite(Ocs(normal).toObject(point));
+}
+
+bool isFit(const AcDbEntity& entity)
+{
+    if (!isFinite(entity.normal()) || !std::isfinite(entity.linetypeScale()))
+    {
+        return false;
+    }
+    if (const AcDbLine* line = AcDbLine::cast(&entity))
+    {
+        return isFitLine(*line);
+    }
+    if (const AcDbText* text = AcDbText::cast(&entity))
+    {
+        return isFitText(*text);
+    }
+    AcDb2dPolyline* polyline = AcDb2dPolyline::cast(const_cast<AcDbEntity*>(&entity));
+    return polyline == nullptr || isFitPolyline(*polyline);
+}
+}  // namespace host
