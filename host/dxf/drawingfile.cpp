@@ -8,12 +8,12 @@
 
 namespace host
 {
-OpenedDrawing openDrawing(const std::string& path)
+OpenedDrawing openDrawing(const std::string& path, const Progress& progress)
 {
     try
     {
         auto database = std::make_unique<AcDbDatabase>();
-        dxf::load(database->core(), dxf::TagFile::read(path));
+        dxf::load(database->core(), dxf::TagFile::read(path, progress));
         const std::string repairs = dxf::sourceOf(database->core()).file.repairs();
         return {std::move(database), {}, repairs};
     }
@@ -44,11 +44,12 @@ std::uint64_t digestOfChanges(AcDbDatabase& database)
     return dxf::digestOfChanges(database.core());
 }
 
-std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path)
+std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path,
+                                       const Progress& progress)
 {
     try
     {
-        dxf::save(database.core(), path);
+        dxf::save(database.core(), path, progress);
         return std::nullopt;
     }
     catch (const std::bad_alloc&)

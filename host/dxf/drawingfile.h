@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dbmain.h"
+#include "host/dxf/progress.h"
 
 namespace host
 {
@@ -18,7 +19,7 @@ struct OpenedDrawing
     std::string warning{};                   // one line on what was repaired, if anything
 };
 
-OpenedDrawing openDrawing(const std::string& path);
+OpenedDrawing openDrawing(const std::string& path, const Progress& progress = {});
 
 // A new, empty, metric drawing (R2013).
 std::unique_ptr<AcDbDatabase> newDrawing();
@@ -26,7 +27,8 @@ std::unique_ptr<AcDbDatabase> newDrawing();
 // Writes what the drawing was opened from with the changes made since; whatever was not changed
 // stays as it was, tag for tag. All or nothing: on failure, told in the line that comes back, the
 // old file is whole.
-std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path);
+std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path,
+                                       const Progress& progress = {});
 
 // Whether this has the value of another moment tells whether saving would write the same as then.
 std::uint64_t digestOfChanges(AcDbDatabase& database);

@@ -61,7 +61,7 @@ void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& ta
 std::uint64_t digestOfChanges(DatabaseCore& core);
 
 // Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
-void save(DatabaseCore& core, const std::string& path);
+void save(DatabaseCore& core, const std::string& path, const Progress& progress);
 
 // What the file's release cannot hold, a line for each.
 std::vector<std::string> lossesOnSaving(const DatabaseCore& core);

@@ -329,6 +329,13 @@ std::vector<std::string> lossesOnSaving(const DatabaseCore& core)
 
 namespace
 {
+// Bytes of the new file, as far as is known before it is written.
+std::size_t sizeAbout(const DatabaseCore& core, const Edits& edits)
+{
+    const std::size_t bytesOfLine = 160;
+    return edits.file().bytes().size() + core.stubs.size() * bytesOfLine;
+}
+
 void noteChanges(Edits& edits, DatabaseCore& core, const LiveStubs& live, EntityWriter& entities)
 {
     const FileSource& source = sourceOf(core);
@@ -371,8 +378,9 @@ std::uint64_t digestOfChanges(DatabaseCore& core)
     return digest;
 }
 
-void save(DatabaseCore& core, const std::string& path)
+void save(DatabaseCore& core, const std::string& path, const Progress& progress)
 {
-    withChanges(core, [&path](const Edits& edits) { saveAtomically(path, edits); });
+    withChanges(core, [&](const Edits& edits)
+                { saveAtomically(path, edits, progress, sizeAbout(core, edits)); });
 }
 }  // namespace host::dxf

@@ -1,5 +1,6 @@
 #include "host/dxf/save_atomic.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "host/dxf/binaryform.h"
@@ -29,20 +30,68 @@ void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::
     writer.flush();
 }
 
-void saveAtomically(const std::string& path, const TagStyle& style, const Producer& produce)
+namespace
+{
+// Hands bytes on, as much at a time as a person need not wait for.
+class TellingDrain
+{
+public:
+    TellingDrain(Replacement& file, const Progress& progress, std::size_t size)
+        : m_file(file), m_progress(progress), m_size(size)
+    {
+    }
+
+    void take(std::string_view bytes)
+    {
+        const std::size_t atOnce = m_progress ? std::size_t(1) << 22 : bytes.size();
+        for (; !bytes.empty(); bytes.remove_prefix(std::min(atOnce, bytes.size())))
+        {
+            write(bytes.substr(0, atOnce));
+        }
+    }
+
+private:
+    void write(std::string_view bytes)
+    {
+        m_file.write(bytes);
+        m_done += bytes.size();
+        if (m_progress)
+        {
+            m_progress(std::min(double(m_done) / double(m_size), 1.0));
+        }
+    }
+
+    Replacement& m_file;
+    const Progress& m_progress;
+    std::size_t m_size;
+    std::size_t m_done = 0;
+};
+
+void replaceFile(const std::string& path, const TagStyle& style, const Producer& produce,
+                 const Progress& progress, std::size_t size)
 try
 {
     Replacement file(path);
-    writeTags(style, produce, [&](std::string_view bytes) { file.write(bytes); });
+    TellingDrain drain(file, progress, size);
+    writeTags(style, produce, [&](std::string_view bytes) { drain.take(bytes); });
     file.takePlace();
 }
 catch (const std::domain_error& noTagCanHoldIt)
 {
     failSaving(path, noTagCanHoldIt.what());
 }
+}  // namespace
 
-void saveAtomically(const std::string& path, const Edits& edits)
+void saveAtomically(const std::string& path, const TagStyle& style, const Producer& produce)
 {
-    saveAtomically(path, edits.file().style(), [&](TagWriter& writer) { edits.write(writer); });
+    replaceFile(path, style, produce, {}, 1);
+}
+
+void saveAtomically(const std::string& path, const Edits& edits, const Progress& progress,
+                    std::size_t size)
+{
+    replaceFile(
+        path, edits.file().style(), [&](TagWriter& writer) { edits.write(writer); }, progress,
+        size);
 }
 }  // namespace host::dxf

@@ -5,6 +5,7 @@
 
 #include "host/dxf/edits.h"
 #include "host/dxf/error.h"
+#include "host/dxf/progress.h"
 
 namespace host::dxf
 {
@@ -15,7 +16,9 @@ namespace host::dxf
 //
 // Errors and exceptions of `produce` pass through with the same promise.
 void saveAtomically(const std::string& path, const TagStyle& style, const Producer& produce);
-void saveAtomically(const std::string& path, const Edits& edits);
+// `size` is about how many bytes the file will have.
+void saveAtomically(const std::string& path, const Edits& edits, const Progress& progress = {},
+                    std::size_t size = 1);
 
 // The bytes that these write, text or binary. Throws std::domain_error for what no tag can hold.
 void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::Drain& drain);

@@ -34,26 +34,27 @@ std::string quoted(std::string_view value)
 
 // The file is copied, not mapped: another program that writes it meanwhile must not change the
 // drawing under our feet.
-TagFile TagFile::read(const std::string& path)
+TagFile TagFile::read(const std::string& path, const Progress& progress)
 {
     WholeFile file = readWholeFile(path);
-    return TagFile(path, std::move(file.bytes), file.size);
+    return TagFile(path, std::move(file.bytes), file.size, progress);
 }
 
-TagFile TagFile::fromText(std::string_view text, std::string name)
+TagFile TagFile::fromText(std::string_view text, std::string name, const Progress& progress)
 {
     auto bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
     text.copy(bytes.get(), text.size());
-    return TagFile(std::move(name), std::move(bytes), text.size());
+    return TagFile(std::move(name), std::move(bytes), text.size(), progress);
 }
 
-TagFile::TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size)
+TagFile::TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size,
+                 const Progress& progress)
     : m_name(std::move(name)), m_bytes(std::move(bytes)), m_size(size)
 {
     if (isBinary(this->bytes()))
         takeAsciiForm();
     m_bytes[m_size] = '\n';
-    TagFileScanner(*this).scan();
+    TagFileScanner(*this, progress).scan();
 }
 
 void TagFile::takeAsciiForm()

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/dxf/error.h"
+#include "host/dxf/progress.h"
 #include "host/dxf/release.h"
 #include "host/dxf/tag.h"
 
@@ -50,9 +51,9 @@ struct HeaderVariable
 class TagFile
 {
 public:
-    static TagFile read(const std::string& path);
+    static TagFile read(const std::string& path, const Progress& progress = {});
     // `name` stands for the file in messages.
-    static TagFile fromText(std::string_view text, std::string name);
+    static TagFile fromText(std::string_view text, std::string name, const Progress& progress = {});
 
     const std::string& name() const { return m_name; }
     std::string_view bytes() const { return {m_bytes.get(), m_size}; }
@@ -102,7 +103,8 @@ public:
 private:
     friend class TagFileScanner;
 
-    TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size);
+    TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size,
+            const Progress& progress);
     void takeAsciiForm();
     std::string place(std::uint32_t line) const;
 

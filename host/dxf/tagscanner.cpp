@@ -20,7 +20,8 @@ bool holdsRecords(std::string_view section)
 }
 }  // namespace
 
-TagFileScanner::TagFileScanner(TagFile& file) : m_file(file), m_reader(file)
+TagFileScanner::TagFileScanner(TagFile& file, const Progress& progress)
+    : m_file(file), m_progress(progress), m_reader(file)
 {
     file.m_records.reserve(file.m_size / 100);  // costs nothing until it is used
 }
@@ -110,8 +111,19 @@ void TagFileScanner::readRecords()
     m_reader.nextButComments();
     if (m_tag.code != 0)
         m_reader.refuse("a record (group code 0)");
+    constexpr std::size_t recordsBetween = 1 << 13;
     while (!m_reader.is("ENDSEC"))
+    {
         readRecord();
+        if (m_file.m_records.size() % recordsBetween == 0)
+            tellProgress();
+    }
+}
+
+void TagFileScanner::tellProgress() const
+{
+    if (m_progress)
+        m_progress(double(m_tag.begin) / double(m_file.m_size));
 }
 
 // From its first tag to the next record's, which is the current one afterwards.

@@ -11,7 +11,7 @@ namespace host::dxf
 class TagFileScanner
 {
 public:
-    explicit TagFileScanner(TagFile& file);
+    TagFileScanner(TagFile& file, const Progress& progress);  // [borrowed]
 
     void scan();  // throws Error
 
@@ -22,6 +22,7 @@ private:
     void readHeaderValue(std::string_view variable);
     void readRecords();
     void readRecord();
+    void tellProgress() const;
     std::uint64_t readHandle(int handleCode);
     void skipContents();
 
@@ -35,6 +36,7 @@ private:
     std::uint32_t typeIndex(std::string_view name);
 
     TagFile& m_file;
+    const Progress& m_progress;
     TagReader m_reader;
     const Tag& m_tag = m_reader.tag();
 

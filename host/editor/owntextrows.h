@@ -121,6 +121,11 @@ inline constexpr OwnTextRow ownTextRows[] = {
     {L"saves the drawing as DXF", L"сохраняет чертёж в DXF"},
     {L"draws model space as a picture", L"рисует пространство модели в файл"},
 
+    // Progress.
+    {L"Opening", L"Открытие"},
+    {L"Saving", L"Сохранение"},
+    {L"Plotting", L"Вывод на лист"},
+
     // Dialogs.
     {L"Dialog: ", L"Диалог: "},
     {L"set ID TEXT, check ID on|off, click ID, select ID TEXT or #N, color ID N, show, close; "

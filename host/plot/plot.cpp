@@ -38,7 +38,7 @@ std::optional<FileKind> kindOf(const std::string& path)
 }
 
 // What the drawing's file would be by now.
-dxf::TagFile asSaved(AcDbDatabase& database)
+dxf::TagFile asSaved(AcDbDatabase& database, const Progress& progress)
 {
     std::string text;
     dxf::withChanges(database.core(),
@@ -49,16 +49,16 @@ dxf::TagFile asSaved(AcDbDatabase& database)
                          edits.write(writer);
                          writer.flush();
                      });
-    return dxf::TagFile::fromText(text, "drawing");
+    return dxf::TagFile::fromText(text, "drawing", progress);
 }
 
-std::string plotted(Scene& scene, const View& view, FileKind kind)
+std::string plotted(Scene& scene, const View& view, FileKind kind, const Progress& progress)
 {
     const AcGeMatrix3d toView = viewFrame(view).inverse();
     Extents extents(toView);
-    scene.draw(extents);
+    scene.draw(extents, partOf(progress, 0, 0.4));
     Paper paper(kind, toView, extents.window());
-    scene.draw(paper);
+    scene.draw(paper, partOf(progress, 0.4, 1));
     return paper.finish();
 }
 }  // namespace
@@ -68,7 +68,7 @@ bool isPlotFile(const std::string& path)
     return kindOf(path).has_value();
 }
 
-Plotted plotDrawing(AcDbDatabase& database, const std::string& path)
+Plotted plotDrawing(AcDbDatabase& database, const std::string& path, const Progress& progress)
 {
     const auto kind = kindOf(path);
     if (!kind)
@@ -81,9 +81,10 @@ Plotted plotDrawing(AcDbDatabase& database, const std::string& path)
     }
     try
     {
-        const dxf::TagFile file = asSaved(database);
+        const dxf::TagFile file = asSaved(database, partOf(progress, 0, 0.2));
         Scene scene(file);
-        const std::string bytes = plotted(scene, database.core().state.view, *kind);
+        const std::string bytes =
+            plotted(scene, database.core().state.view, *kind, partOf(progress, 0.2, 1));
         if (bytes.empty())
         {
             return {path + ": cannot be drawn: not enough memory", {}};

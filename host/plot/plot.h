@@ -5,6 +5,7 @@
 #include <string>
 
 #include "dbmain.h"
+#include "host/dxf/progress.h"
 
 namespace host
 {
@@ -19,5 +20,5 @@ bool isPlotFile(const std::string& path);
 
 // Model space as it would be saved, looked at as in the drawing's view, all of it, on white paper.
 // Writes the whole file or nothing.
-Plotted plotDrawing(AcDbDatabase& database, const std::string& path);
+Plotted plotDrawing(AcDbDatabase& database, const std::string& path, const Progress& progress = {});
 }  // namespace host

@@ -49,11 +49,20 @@ Scene::Scene(const dxf::TagFile& file, long mostFromBlocks)
 {
 }
 
-void Scene::draw(Sink& sink)
+void Scene::draw(Sink& sink, const Progress& progress)
 {
+    const Place world{AcGeMatrix3d(), nullptr, black, 0};
+    const Records all = m_file.records("ENTITIES");
     m_leftOut.clear();
     m_budget = m_mostEntities;
-    drawAll(m_file.records("ENTITIES"), {AcGeMatrix3d(), nullptr, black, 0}, sink);
+    for (Records rest = all; !rest.empty() && spend();)
+    {
+        rest = rest.subspan(drawOne(rest, world, sink));
+        if (progress)
+        {
+            progress(1 - double(rest.size()) / double(all.size()));
+        }
+    }
 }
 
 void Scene::drawAll(Records records, const Place& place, Sink& sink)

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "gemat3d.h"
+#include "host/dxf/progress.h"
 #include "host/plot/entitytags.h"
 #include "host/plot/sink.h"
 #include "host/plot/tables.h"
@@ -19,7 +20,7 @@ public:
     explicit Scene(const dxf::TagFile& file, long mostFromBlocks = 3'000'000);
 
     // Everything that is to be seen, in the drawing's order; on every call the same.
-    void draw(Sink& sink);
+    void draw(Sink& sink, const Progress& progress = {});
 
     // After `draw`: what of it was not drawn, by kind and number, "1 IMAGE, 2 MESH"; empty when
     // nothing is left out.

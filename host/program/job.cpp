@@ -12,6 +12,7 @@
 #include "host/editor/hostcommands.h"
 #include "host/pictures/dialogpicture.h"
 #include "host/plot/plot.h"
+#include "host/program/longwork.h"
 #include "host/program/plotcommand.h"
 #include "host/program/saveas.h"
 #include "host/program/unsaved.h"
@@ -44,10 +45,32 @@ bool canBeWritten(const Options& options, FrontEnd& frontEnd)
     return true;
 }
 
+OpenedDrawing openOrMake(const std::string& path, FrontEnd& frontEnd)
+{
+    if (path.empty())
+    {
+        return {newDrawing(), {}};
+    }
+    LongWork work(L"Opening", frontEnd);
+    return openDrawing(path, work.progress());
+}
+
+std::optional<std::string> saveShown(AcDbDatabase& database, const std::string& path,
+                                     FrontEnd& frontEnd)
+{
+    LongWork work(L"Saving", frontEnd);
+    return saveDrawing(database, path, work.progress());
+}
+
+Plotted plotShown(AcDbDatabase& database, const std::string& path, FrontEnd& frontEnd)
+{
+    LongWork work(L"Plotting", frontEnd);
+    return plotDrawing(database, path, work.progress());
+}
+
 bool openDocument(const Options& options, FrontEnd& frontEnd)
 {
-    OpenedDrawing drawing =
-        options.drawing.empty() ? OpenedDrawing{newDrawing(), {}} : openDrawing(options.drawing);
+    OpenedDrawing drawing = openOrMake(options.drawing, frontEnd);
     if (!drawing.database)
     {
         frontEnd.report(drawing.error);
@@ -88,7 +111,7 @@ bool save(const Options& options, Editor& editor, FrontEnd& frontEnd)
         return true;
     }
     AcDbDatabase& database = *documents().document()->database();
-    const auto error = saveDrawing(database, options.save);
+    const auto error = saveShown(database, options.save, frontEnd);
     if (error)
     {
         frontEnd.report(*error);
@@ -131,7 +154,7 @@ bool plot(const Options& options, FrontEnd& frontEnd)
     {
         return true;
     }
-    const Plotted plotted = plotDrawing(*documents().document()->database(), options.plot);
+    const Plotted plotted = plotShown(*documents().document()->database(), options.plot, frontEnd);
     if (!plotted.error.empty())
     {
         frontEnd.report(plotted.error);

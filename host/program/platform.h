@@ -29,4 +29,7 @@ bool makeNewFile(const std::filesystem::path& file);
 // Runs with what a person types at the terminal, status of the program; nothing when nobody sits
 // at standard input and output.
 std::optional<int> runAtTerminal(const Options& options);
+
+// Of the terminal that standard error is; 0 when it is none, or one that cannot go back in a line.
+int errorColumns();
 }  // namespace host

@@ -4,6 +4,7 @@
 #include "host/editor/hostcommands.h"
 #include "host/editor/prompts.h"
 #include "host/plot/plot.h"
+#include "host/program/longwork.h"
 #include "host/program/unsaved.h"
 #include "host/windows/text.h"
 
@@ -11,6 +12,12 @@ namespace host
 {
 namespace
 {
+Plotted plotShown(AcDbDatabase& database, const std::string& path, Editor& editor)
+{
+    LongWork work(L"Plotting", editor);
+    return plotDrawing(database, path, work.progress());
+}
+
 void plotCommand()
 {
     Editor& editor = *Editor::current();
@@ -25,7 +32,7 @@ void plotCommand()
     {
         return;
     }
-    const Plotted plotted = plotDrawing(*documents().document()->database(), path);
+    const Plotted plotted = plotShown(*documents().document()->database(), path, editor);
     if (!plotted.error.empty())
     {
         editor.fail(fromUtf8(plotted.error));

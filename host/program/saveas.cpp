@@ -4,6 +4,7 @@
 #include "host/dxf/drawingfile.h"
 #include "host/editor/hostcommands.h"
 #include "host/editor/prompts.h"
+#include "host/program/longwork.h"
 #include "host/program/unsaved.h"
 #include "host/runtime/linker.h"
 #include "host/windows/text.h"
@@ -29,6 +30,13 @@ std::optional<std::filesystem::path> askPath(Editor& editor, const Document& doc
     return path.empty() ? std::nullopt : std::optional(path);
 }
 
+std::optional<std::string> saveShown(AcDbDatabase& database, const std::string& path,
+                                     Editor& editor)
+{
+    LongWork work(L"Saving", editor);
+    return saveDrawing(database, path, work.progress());
+}
+
 // The drawing has the new name from then on.
 void saveAsCommand()
 {
@@ -40,7 +48,7 @@ void saveAsCommand()
         return;
     }
     linker().broadcast(AcRx::kSaveMsg);
-    if (const auto error = saveDrawing(*document.database(), path->string()))
+    if (const auto error = saveShown(*document.database(), path->string(), editor))
     {
         editor.fail(fromUtf8(*error));
         return;

@@ -6,17 +6,23 @@
 #include <exception>
 #include <ios>
 #include <new>
+#include <string>
 #include <utility>
 
 #include "host/program/job.h"
+#include "host/program/meterbar.h"
+#include "host/program/platform.h"
 #include "host/runtime/outofmemory.h"
 
 namespace host
 {
 namespace
 {
+bool lineIsOpen = false;
+
 void printOut(std::string_view text)
 {
+    lineIsOpen = text.empty() ? lineIsOpen : !text.ends_with('\n');
     std::fwrite(text.data(), 1, text.size(), stdout);
     // Whoever sits at the other end of a pipe has to see a prompt, which has no line end.
     if (!text.ends_with('\n'))
@@ -24,6 +30,32 @@ void printOut(std::string_view text)
         std::fflush(stdout);
     }
 }
+
+// The last line of the terminal that standard error is. Nothing of it goes to standard output.
+class ErrorMeter
+{
+public:
+    explicit ErrorMeter(int columns) : m_columns(columns) {}
+
+    void show(const std::optional<Meter>& meter)
+    {
+        const std::string bar = meter ? meterBar(*meter, m_columns) : "";
+        if (bar == m_bar)
+        {
+            return;
+        }
+        std::fflush(stdout);
+        const bool beside = std::exchange(lineIsOpen, false);
+        const std::string blanks(std::size_t(m_columns - 1), ' ');
+        std::fprintf(stderr, "%s\r%s\r%s", beside ? "\n" : "", blanks.c_str(), bar.c_str());
+        std::fflush(stderr);
+        m_bar = bar;
+    }
+
+private:
+    int m_columns;
+    std::string m_bar;
+};
 
 std::atomic<bool> failureTold = false;
 
@@ -54,11 +86,21 @@ void printError(std::string_view line)
 
 LineOutput standardOutput()
 {
-    return {.print = printOut, .report = printError};
+    LineOutput output{.print = printOut, .report = printError};
+    if (const int columns = errorColumns(); columns > 0)
+    {
+        output.showMeter = [meter = ErrorMeter(columns)](const std::optional<Meter>& shown) mutable
+        { meter.show(shown); };
+    }
+    return output;
 }
 
 int runSession(const Options& options, AnswerReader& reader, LineOutput output)
 {
+    if (options.quiet)
+    {
+        output.showMeter = nullptr;
+    }
     LineFrontEnd frontEnd(reader, std::move(output));
     int status = EXIT_FAILURE;
     frontEnd.serve([&] { status = runGuarded(options, frontEnd); });

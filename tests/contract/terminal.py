@@ -77,6 +77,29 @@ def each_prompt_is_shown_once_and_each_answer_ends_its_line():
                             "Command: ^D"], "lines")
 
 
+def many_circles(count):
+    circles = "".join(f"0\nCIRCLE\n10\n{i % 300}\n20\n{i // 300}\n40\n{i % 7 + 1}.5\n" for i in range(count))
+    return f"0\nSECTION\n2\nENTITIES\n{circles}0\nENDSEC\n0\nEOF\n"
+
+
+@check
+@not_on_windows("a terminal of Unix")
+def long_work_shows_how_far_it_has_come_and_leaves_no_trace():
+    work = ["circles.dxf", "--script", "nothing.txt", "--plot", "circles.png"]
+    with Desk() as desk:
+        (desk / "circles.dxf").write_text(many_circles(16000))
+        (desk / "nothing.txt").write_text("")
+        with console(desk, *work) as terminal:
+            terminal.wait_for("Plotting [")
+            terminal.wait_for("] 100%")
+            expect_equal(terminal.wait_for_end(), 0, "exit status")
+            expect(terminal.shown.endswith("\r" + " " * 99 + "\r"), f"something is left: {terminal.shown[-200:]!r}")
+        with console(desk, *work, "--quiet") as terminal:
+            expect_equal((terminal.wait_for_end(), terminal.shown), (0, ""), "quiet: exit status and what is shown")
+        run = desk.run(*work)
+        expect_equal((run.said.strip(), run.errors), ("Command:", ""), "what a script's reader is shown")
+
+
 @check
 @not_on_windows("a terminal of Unix")
 def arrow_up_brings_earlier_lines_back_also_in_the_next_session():

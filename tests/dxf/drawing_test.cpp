@@ -1,6 +1,7 @@
 // Drawings through the database: opened, added to and saved.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -347,6 +348,22 @@ TEST_F(Drawing, aSeedAboveTheHighestHandleIsKeptTo)
     EXPECT_EQ(database->core().nextHandle, 0x1000u);
 }
 
+std::string corner(const std::string& name, const std::string& x, const std::string& y)
+{
+    return "$" + name + "\n 10\n" + x + "\n 20\n" + y + "\n 30\n";
+}
+
+void addLine(AcDbDatabase& database, const AcGePoint3d& start, const AcGePoint3d& end)
+{
+    AcDbBlockTableRecord* space = nullptr;
+    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(database.core().modelSpace), AcDb::kForWrite),
+              Acad::eOk);
+    auto* line = new AcDbLine(start, end);
+    space->appendAcDbEntity(line);
+    line->close();
+    space->close();
+}
+
 // Which the ASCII form has no room for.
 TEST_F(Drawing, aTextOfSeveralLinesStaysInABinaryDrawing)
 {
@@ -360,15 +377,30 @@ TEST_F(Drawing, aTextOfSeveralLinesStaysInABinaryDrawing)
     const auto database = opened(binary);
     EXPECT_EQ(saved(*database), binary);
 
-    AcDbBlockTableRecord* space = nullptr;
-    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(database->core().modelSpace), AcDb::kForWrite),
-              Acad::eOk);
-    auto* line = new AcDbLine(AcGePoint3d(), AcGePoint3d(5, 5, 0));
-    space->appendAcDbEntity(line);
-    line->close();
-    space->close();
+    addLine(*database, AcGePoint3d(), AcGePoint3d(5, 5, 0));
     EXPECT_EQ(count(saved(*database), "first\nsecond"), 1u);
     EXPECT_EQ(count(saved(*database), "LINE"), count(binary, "LINE") + 1);
+}
+
+TEST_F(Drawing, longWorkTellsHowFarItHasCome)
+{
+    EmptyDrawing drawing;
+    for (int i = 0; i < 40'000; ++i)
+    {
+        drawing.addLine(i, 0, i, 1);
+    }
+    const auto rises = [](const std::vector<double>& parts)
+    {
+        return parts.size() > 2 && parts.front() < 0.9 && parts.back() <= 1 &&
+               std::ranges::is_sorted(parts);
+    };
+    std::vector<double> parts;
+    const auto note = [&parts](double part) { parts.push_back(part); };
+    EXPECT_FALSE(host::saveDrawing(drawing.database(), path.string(), note));
+    EXPECT_TRUE(rises(parts)) << "saving";
+    parts.clear();
+    EXPECT_EQ(host::openDrawing(path.string(), note).error, "");
+    EXPECT_TRUE(rises(parts)) << "opening";
 }
 
 struct Crooked : AcDbText

@@ -146,6 +146,13 @@ std::filesystem::path stateFolder()
     return folder;
 }
 
+int errorColumns()
+{
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    const HANDLE console = GetStdHandle(STD_ERROR_HANDLE);
+    return GetConsoleScreenBufferInfo(console, &info) != 0 ? info.dwSize.X : 0;
+}
+
 bool makeNewFile(const std::filesystem::path& file)
 {
     const HANDLE made = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,

@@ -1,6 +1,7 @@
 #include "host/program/platform.h"
 
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -69,6 +70,14 @@ bool makeNewFile(const std::filesystem::path& file)
 {
     const int made = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     return made >= 0 && ::close(made) == 0;
+}
+
+int errorColumns()
+{
+    winsize size{};
+    const bool known =
+        isatty(STDERR_FILENO) && canEdit() && ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0;
+    return !known ? 0 : size.ws_col > 0 ? size.ws_col : 80;
 }
 
 std::optional<int> runAtTerminal(const Options& options)

@@ -3,46 +3,20 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <utility>
 
-#include "host/editor/numbertext.h"
-#include "host/windows/text.h"
+#include "host/program/meterbar.h"
 
 namespace host
 {
 namespace
 {
-const int widestBar = 40;
-
 int columns()
 {
     winsize size{};
     const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     return known ? size.ws_col : 80;
-}
-
-int percentOf(const Meter& meter)
-{
-    const double length = double(meter.most) - meter.least;
-    const double done = double(meter.position) - meter.least;
-    return length > 0 ? int(100 * std::clamp(done / length, 0.0, 1.0)) : 100;
-}
-
-// Stays clear of the last column, where a terminal would begin a new line.
-std::string barText(const Meter& meter)
-{
-    const std::wstring label(trimmed(meter.label));
-    const int percent = percentOf(meter);
-    const int width = std::min(widestBar, columns() - 1 - int(label.size()) - 8);
-    if (width <= 0)
-    {
-        return std::to_string(percent) + "%";
-    }
-    const int full = width * percent / 100;
-    return toUtf8(label) + " [" + std::string(full, '#') + std::string(width - full, '.') + "] " +
-           std::to_string(percent) + "%";
 }
 }  // namespace
 
@@ -70,7 +44,7 @@ void Screen::report(std::string_view line)
 
 void Screen::showMeter(const std::optional<Meter>& meter)
 {
-    const std::string bar = meter ? barText(*meter) : "";
+    const std::string bar = meter ? meterBar(*meter, columns()) : "";
     if (bar != m_bar)
     {
         showBar(bar);
