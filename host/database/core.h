@@ -13,6 +13,7 @@
 #include "dbmain.h"
 #include "dbsymtb.h"
 #include "host/database/drawingstate.h"
+#include "host/database/extents.h"
 #include "host/database/linestyle.h"
 #include "host/database/stub.h"
 
@@ -24,6 +25,8 @@ namespace host
 struct DrawingSource
 {
     virtual ~DrawingSource() = default;
+    // Of what the file holds in model space.
+    virtual const WorldExtents& modelExtents() = 0;
 };
 
 // What new entities get when nothing else is said.

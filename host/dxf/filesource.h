@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "host/database/core.h"
 #include "host/dxf/codepage.h"
@@ -32,6 +33,10 @@ struct FileSource : DrawingSource
     {
     }
 
+    // As the header states them. A file whose header states none, or a single point, as some
+    // programs do, is measured when they are first asked for.
+    const WorldExtents& modelExtents() override;
+
     TagFile file;
     CodePage codePage;
     DrawingState state;
@@ -41,7 +46,15 @@ struct FileSource : DrawingSource
     const Record* viewport = nullptr;        // the first "*ACTIVE" one
     const Record* rootDictionary = nullptr;  // of named objects
     const Record* groupDictionary = nullptr;
+
+private:
+    std::optional<WorldExtents> m_extents;
 };
+
+// Tells what the entities of a file's model space take up; set by whoever knows all their kinds.
+// While there is none, a file that does not state its extents counts as empty.
+using Measure = WorldExtents (*)(const TagFile&);
+void setMeasure(Measure measure);
 
 inline FileSource& sourceOf(const DatabaseCore& core)
 {

@@ -266,6 +266,30 @@ void saveVariables(Edits& edits, const FileSource& source, const DrawingState& s
                         });
     }
 }
+
+// A file without the variables is given none. Shrunk they are never: what the file says of its own
+// entities is taken as it is.
+void saveExtents(Edits& edits, const DatabaseCore& core)
+{
+    const FileSource& source = sourceOf(core);
+    const bool isStated = source.file.header("$EXTMIN") && source.file.header("$EXTMAX");
+    if (!isStated || madeExtents(core).empty())
+    {
+        return;
+    }
+    const WorldExtents now = modelExtents(core);
+    const auto set = [&](const std::wstring& name, const AcGePoint3d& corner)
+    {
+        const VariableValue& before = source.state.variables.at(name);
+        if (!same(before, VariableValue(corner)))
+        {
+            edits.setHeader("$" + std::string(name.begin(), name.end()),
+                            [corner](TagWriter& writer) { putPoint(10, corner, writer); });
+        }
+    };
+    set(L"EXTMIN", now.low);
+    set(L"EXTMAX", now.high);
+}
 }  // namespace
 
 void saveState(Edits& edits, const DatabaseCore& core)
@@ -275,6 +299,7 @@ void saveState(Edits& edits, const DatabaseCore& core)
     saveViewport(edits, source, state);
     saveCurrent(edits, source, core.current);
     saveVariables(edits, source, state);
+    saveExtents(edits, core);
     if (!same(source.state.modelUcs, state.modelUcs))
     {
         saveUcs(edits, source.codePage, "", state.modelUcs);

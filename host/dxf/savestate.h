@@ -5,6 +5,7 @@
 
 namespace host::dxf
 {
-// View, coordinate systems, current properties and variables that are not as they were read.
+// View, coordinate systems, current properties and variables that are not as they were read; the
+// extents of model space, if the file states them and something has been made there.
 void saveState(Edits& edits, const DatabaseCore& core);
 }  // namespace host::dxf

@@ -201,6 +201,33 @@ VariableError setLastPoint(Context at, Value value)
     return done;
 }
 
+// Of the current space, in WCS: of model space all that is in it now, of a layout what its file
+// says.
+WorldExtents extents(Context at)
+{
+    if (!at.state.paperSpace)
+    {
+        return modelExtents(at.document.database()->core());
+    }
+    const auto corner = [&](const wchar_t* name, const AcGePoint3d& fallback)
+    {
+        const auto kept = at.state.variables.find(name);
+        const bool known = kept != at.state.variables.end() && kept->second.index() == 2;
+        return known ? std::get<AcGePoint3d>(kept->second) : fallback;
+    };
+    return {corner(L"PEXTMIN", WorldExtents().low), corner(L"PEXTMAX", WorldExtents().high)};
+}
+
+VariableValue extentsLow(Context at)
+{
+    return extents(at).low;
+}
+
+VariableValue extentsHigh(Context at)
+{
+    return extents(at).high;
+}
+
 VariableValue locale(Context)
 {
     return acrxProductLCID() == russianLocale ? L"RUS" : L"ENU";
@@ -305,6 +332,8 @@ const VariableRow rows[] = {
     {L"DWGPREFIX",   text,     anyShort,  drawingFolder, nullptr         },
     {L"DWGTITLED",   integer,  anyShort,  titled,        nullptr         },
     {L"ERRNO",       integer,  anyShort,  errorNumber,   setErrorNumber  },
+    {L"EXTMAX",      point,    anyShort,  extentsHigh,   nullptr         },
+    {L"EXTMIN",      point,    anyShort,  extentsLow,    nullptr         },
     {L"LASTPOINT",   point,    anyShort,  lastPoint,     setLastPoint    },
     {L"LOCALE",      text,     anyShort,  locale,        nullptr         },
     {L"TARGET",      point,    anyShort,  target,        nullptr         },

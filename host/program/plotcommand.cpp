@@ -1,8 +1,10 @@
 #include "host/program/plotcommand.h"
 
 #include "host/documents/documentmanager.h"
+#include "host/dxf/filesource.h"
 #include "host/editor/hostcommands.h"
 #include "host/editor/prompts.h"
+#include "host/plot/measure.h"
 #include "host/plot/plot.h"
 #include "host/program/longwork.h"
 #include "host/program/unsaved.h"
@@ -48,6 +50,7 @@ void plotCommand()
 
 void registerPlot()
 {
+    dxf::setMeasure(plot::entityExtents);
     registerHostCommand(L"PLOT", ACRX_CMD_NO_UNDO_MARKER, plotCommand,
                         L"draws model space as a picture");
 }

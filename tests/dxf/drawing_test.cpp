@@ -15,6 +15,7 @@
 #include "host/database/undo.h"
 #include "host/dxf/binaryform.h"
 #include "host/dxf/emptydrawing.h"
+#include "host/dxf/filesource.h"
 #include "host/dxf/tagfile.h"
 #include "tests/dxf/smalldrawing.h"
 #include "tests/support/emptydrawing.h"
@@ -380,6 +381,50 @@ TEST_F(Drawing, aTextOfSeveralLinesStaysInABinaryDrawing)
     addLine(*database, AcGePoint3d(), AcGePoint3d(5, 5, 0));
     EXPECT_EQ(count(saved(*database), "first\nsecond"), 1u);
     EXPECT_EQ(count(saved(*database), "LINE"), count(binary, "LINE") + 1);
+}
+
+TEST_F(Drawing, theHeaderCoversWhatHasBeenAdded)
+{
+    EmptyDrawing drawing;
+    drawing.addLine(-1, 2, 10, 20.5);
+    const std::string text = saved(drawing.database());
+    EXPECT_EQ(count(text, corner("EXTMIN", "-1.0", "2.0")), 1u);
+    EXPECT_EQ(count(text, corner("EXTMAX", "10.0", "20.5")), 1u);
+}
+
+// In whatever form the numbers are written there.
+TEST_F(Drawing, theHeaderStaysWhereItCoversAllAlready)
+{
+    const std::string stated =
+        replaced(host::dxf::emptyDrawing(), corner("EXTMIN", "1e+20", "1e+20") + "1e+20",
+                 corner("EXTMIN", "0.000", "-5") + "0");
+    const auto database = opened(replaced(stated, corner("EXTMAX", "-1e+20", "-1e+20") + "-1e+20",
+                                          corner("EXTMAX", "100.000", "1e2") + "0"));
+    addLine(*database, AcGePoint3d(10, 10, 0), AcGePoint3d(90, 90, 0));
+    const std::string inside = saved(*database);
+    EXPECT_EQ(count(inside, corner("EXTMIN", "0.000", "-5") + "0"), 1u);
+    EXPECT_EQ(count(inside, corner("EXTMAX", "100.000", "1e2") + "0"), 1u);
+
+    addLine(*database, AcGePoint3d(10, 10, 0), AcGePoint3d(200, 90, 0));
+    const std::string outside = saved(*database);
+    EXPECT_EQ(count(outside, corner("EXTMIN", "0.000", "-5") + "0"), 1u);
+    EXPECT_EQ(count(outside, corner("EXTMAX", "200.0", "100.0") + "0.0"), 1u);
+}
+
+// Another program's drawing, with entities but without their extents.
+TEST_F(Drawing, aFileThatDoesNotStateItsExtentsIsMeasured)
+{
+    const auto measure = [](const host::dxf::TagFile&) {
+        return host::WorldExtents{AcGePoint3d(-7, -8, 0), AcGePoint3d(7, 8, 0)};
+    };
+    host::dxf::setMeasure(measure);
+    EmptyDrawing drawing;
+    EXPECT_EQ(saved(drawing.database()), host::dxf::emptyDrawing());
+    drawing.addLine(0, 0, 100, 1);
+    const std::string text = saved(drawing.database());
+    host::dxf::setMeasure(nullptr);
+    EXPECT_EQ(count(text, corner("EXTMIN", "-7.0", "-8.0")), 1u);
+    EXPECT_EQ(count(text, corner("EXTMAX", "100.0", "8.0")), 1u);
 }
 
 TEST_F(Drawing, longWorkTellsHowFarItHasCome)

@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "accmd.h"
+#include "dbents.h"
 #include "host/database/drawing.h"
 #include "host/editor/ucs.h"
 #include "host/editor/view.h"
@@ -310,6 +311,26 @@ TEST(SetvarCommand, asksForAValueAndPrintsTheVariable)
         EXPECT_TRUE(has(said, row.said)) << said;
         EXPECT_FALSE(session.endedInsideCommand) << said;
     }
+}
+
+TEST(SetvarCommand, theExtentsAreThoseOfTheCurrentSpaceAsItIsNow)
+{
+    Session session;
+    EXPECT_TRUE(has(session.type({"EXTMIN"}), "\nEXTMIN = 1e+20,1e+20,1e+20\n"))
+        << session.type({"EXTMIN"});
+    AcDbBlockTableRecord* space = nullptr;
+    ASSERT_EQ(
+        acdbOpenObject(space, AcDbObjectId(session.drawing().core().modelSpace), AcDb::kForWrite),
+        Acad::eOk);
+    auto* line = new AcDbLine(AcGePoint3d(1, 2, 0), AcGePoint3d(30, 4, 5));
+    space->appendAcDbEntity(line);
+    line->close();
+    space->close();
+    const std::string said = session.type({"EXTMIN", "SETVAR", "extmax", "UCS", "10,10", "EXTMIN"});
+    EXPECT_TRUE(has(said, "\nEXTMIN = 1,2,0\n")) << said;
+    EXPECT_TRUE(has(said, "\nEXTMAX = 30,4,5\n")) << said;
+    EXPECT_EQ(said.rfind("EXTMIN = 1,2,0"), said.rfind("EXTMIN =")) << "in WCS";
+    EXPECT_FALSE(has(session.type({"SETVAR", "TILEMODE", "0", "EXTMIN"}), "EXTMIN = 1,2,0"));
 }
 
 TEST(SetvarCommand, readOnlyVariableIsPrintedAndTheNextLineIsACommand)
