@@ -127,6 +127,18 @@ def the_old_content_is_unchanged(drawing):
     expect(drawing.compared.seed_is_above, "$HANDSEED does not lie above the new handles")
 
 
+def the_header_covers_the_new_lines(drawing):
+    saved = {r.kind: [float(t.value) for t in r.tags[1:3]] for r in drawing.compared.new
+             if r.kind in ("$EXTMIN", "$EXTMAX")}
+    if not saved:
+        return  # as in the drawing that was opened
+    for line in (r for r in drawing.compared.added if r.kind == "LINE"):
+        for codes in ((10, 20), (11, 21)):
+            for i, code in enumerate(codes):
+                expect(saved["$EXTMIN"][i] <= float(line.first(code)) <= saved["$EXTMAX"][i],
+                       f"{line} lies outside {saved}")
+
+
 def the_new_content_is_what_the_transcript_tells(drawing):
     kinds = Counter(record.kind for record in drawing.compared.added)
     grid = kinds["LINE"] + kinds["TEXT"]
@@ -239,7 +251,8 @@ def main():
     readable = [path for path in drawings if is_readable(path)]
     for path in readable:
         drawing = Drawing(path)
-        tests = [the_old_content_is_unchanged, the_new_content_is_what_the_transcript_tells,
+        tests = [the_old_content_is_unchanged, the_header_covers_the_new_lines,
+                 the_new_content_is_what_the_transcript_tells,
                  no_rule_of_the_tags_is_broken_that_was_not, a_cancelled_run_saves_the_opened_file,
                  a_plot_leaves_out_only_what_has_no_lines_of_its_own]
         if not is_binary(path):  # which neither of the two reads

@@ -1,8 +1,9 @@
 """Tells whether a saved drawing is the opened one, tag for tag, plus an accepted grid and nothing else.
 
-Allowed, each only where it belongs: another $HANDSEED; new LINE, TEXT, POLYLINE, VERTEX and SEQEND
-records at the end of ENTITIES; new GROUP records in OBJECTS; one more pair of tags for each new group in
-the group dictionary; and, where the drawing had none, that dictionary with its pair in the root dictionary.
+Allowed, each only where it belongs: another $HANDSEED; others of $EXTMIN and $EXTMAX; new LINE, TEXT,
+POLYLINE, VERTEX and SEQEND records at the end of ENTITIES; new GROUP records in OBJECTS; one more pair of
+tags for each new group in the group dictionary; and, where the drawing had none, that dictionary with its
+pair in the root dictionary.
 """
 import sys
 from pathlib import Path
@@ -17,6 +18,8 @@ def changed_as_expected(old, new, fresh):
     """True when `new` is `old` with no more changed than a grid has to change."""
     if old.kind == "$HANDSEED" == new.kind:
         return [t.code for t in new.tags] == [9, 5]
+    if old.kind in ("$EXTMIN", "$EXTMAX") and old.kind == new.kind:
+        return [t.code for t in new.tags] == [9, 10, 20, 30]
     if old.kind != "DICTIONARY" or old.handle != new.handle:
         return False
     kept = []
