@@ -1,5 +1,6 @@
 #!/usr/bin/python3
 """Checks what scripts/package puts together, with stand-ins for what is built for Windows."""
+import functools
 import re
 import subprocess
 import sys
@@ -31,10 +32,21 @@ MISTAKES = [
 ]
 
 
+@functools.cache
+def stand_in(name):
+    """A library of Windows with a name in its code and more in its debug information."""
+    source = f'.globl f\nf: .ascii "stand-in for {name}"\n.section .debug_info,"dr"\n.ascii "for the debugger"\n'
+    with tempfile.TemporaryDirectory() as folder:
+        made, library = Path(folder) / "made.o", Path(folder) / "made.dll"
+        subprocess.run(["x86_64-w64-mingw32-as", "-o", made], input=source, text=True, check=True)
+        subprocess.run(["x86_64-w64-mingw32-ld", "-shared", "-o", library, made], check=True)
+        return library.read_bytes()
+
+
 class Packing:
     """A folder that holds a build for Windows, and what became of packing it."""
 
-    def __init__(self, *arguments, without=()):
+    def __init__(self, *arguments, without=(), broken=None):
         self._folder = tempfile.TemporaryDirectory()
         self.folder = Path(self._folder.name)
         self.out = self.folder / "out"
@@ -42,7 +54,9 @@ class Packing:
         build.mkdir()
         for name in {"arxhost.exe", "arxhost_core.dll", "libwinpthread-1.dll", "netrax.arx",
                      "properties.ini", "build.ninja"} - {*without}:
-            (build / name).write_bytes(f"stand-in for {name}".encode())
+            (build / name).write_bytes(stand_in(name))
+        if broken:
+            (build / broken).write_bytes(b"no program")
         self.module = self.folder / "module.arx"
         self.module.write_bytes(b"MZ of another maker")
         self.for_arxhost = self.folder / "other.arx"
@@ -164,8 +178,31 @@ def the_archive_holds_the_program_and_an_example():
     packing = Packing()
     files = packing.archive()
     expect_equal(sorted(files), sorted(f"netrax-windows/{name}" for name in ARCHIVE), "files")
-    expect_equal(files["netrax-windows/netrax.arx"], b"stand-in for netrax.arx", "module")
+    expect(b"stand-in for netrax.arx" in files["netrax-windows/netrax.arx"], "another module")
     expect_equal(files["netrax-windows/example/site.dxf"], (ROOT / "examples/site.dxf").read_bytes(), "example")
+
+
+@check
+def programs_and_libraries_are_packed_without_what_only_a_debugger_reads():
+    files = Packing().archive()
+    for name in ("arxhost.exe", "arxhost_core.dll", "libwinpthread-1.dll", "netrax.arx"):
+        content = files[f"netrax-windows/{name}"]
+        expect(b"for the debugger" in stand_in(name), f"the stand-in for {name} has no debug information")
+        expect(f"stand-in for {name}".encode() in content, f"{name} is not what was built")
+        expect(b"for the debugger" not in content, f"{name} has its debug information")
+
+
+@check
+def a_file_that_is_no_program_is_not_packed():
+    packing = Packing(broken="netrax.arx")
+    wanted = f"package: {packing.folder}/build/netrax.arx is no program or library of Windows\n"
+    expect_equal((packing.status, packing.said, packing.errors), (1, "", wanted), "result")
+
+
+@check
+def the_readme_promises_no_bundle():
+    for name, text in Packing().archive().items():
+        expect(not name.endswith("README.txt") or b"bundle" not in text, "a bundle that is not in the archive")
 
 
 @check
