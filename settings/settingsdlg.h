@@ -81,6 +81,7 @@ private:
 
     // settingsok.cpp: from the controls to the settings
     bool readLength(const Length& length, double& value);
+    void goToEdit(int edit);
     bool readStep(Step& step, double& value);
     bool readAppearance(GridSettings& settings);
     void readLabels(GridSettings& settings);

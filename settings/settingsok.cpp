@@ -33,10 +33,21 @@ bool CSettingsDlg::readLength(const Length& length, double& value)
     {
         const RestingDialog resting(*this);
         acedAlert(length.texts->notSet);
+        goToEdit(length.edit);
         return false;
     }
     value = typed;
     return true;
+}
+
+// Where the user types on; the host leaves the focus where it is when the edit is disabled.
+void CSettingsDlg::goToEdit(int edit)
+{
+    CWnd* control = GetDlgItem(edit);
+    if (control != nullptr)
+    {
+        GotoDlgCtrl(control);
+    }
 }
 
 bool CSettingsDlg::readStep(Step& step, double& value)

@@ -90,6 +90,13 @@ void CDialog::EndDialog(int result)
     m_ended = true;
 }
 
+void CDialog::GotoDlgCtrl(CWnd* control)
+{
+    ::SendMessageW(host::windowOf(*this, "CDialog::GotoDlgCtrl"), WM_NEXTDLGCTL,
+                   reinterpret_cast<WPARAM>(host::windowOf(*control, "CDialog::GotoDlgCtrl")),
+                   TRUE);
+}
+
 BOOL CDialog::OnInitDialog()
 {
     UpdateData(FALSE);

@@ -76,6 +76,15 @@ void initialise(HWND dialog, LPARAM parameter)
         SetFocus(now);
     }
 }
+
+// Only to a control that is named: nobody asks for the next or the one before.
+void goTo(WPARAM control, LPARAM isControl)
+{
+    if (isControl != FALSE)
+    {
+        SetFocus(reinterpret_cast<HWND>(control));
+    }
+}
 }  // namespace
 
 LRESULT dialogMessage(Window& dialog, UINT message, WPARAM wParam, LPARAM lParam)
@@ -96,6 +105,9 @@ LRESULT dialogMessage(Window& dialog, UINT message, WPARAM wParam, LPARAM lParam
             return 0;
         case DM_GETDEFID:
             return defaultButton(dialog);
+        case WM_NEXTDLGCTL:
+            goTo(wParam, lParam);
+            return 0;
         default:
             return anyMessage(dialog, message, wParam, lParam);
     }

@@ -140,6 +140,8 @@ public:
     // it could not be made [prints].
     virtual INT_PTR DoModal();
     void EndDialog(int result);
+    // The control has the keyboard, and the text of an edit is marked.
+    void GotoDlgCtrl(CWnd* control);
 
     // The exchange FALSE runs in it. TRUE lets the first control have the focus.
     virtual BOOL OnInitDialog();

@@ -93,6 +93,22 @@ TEST(ModalDialogs, aRefusedOkLeavesTheDialogOpen)
     EXPECT_EQ(resultOf(panel, {"", "click 1", ""}), IDOK);
 }
 
+TEST(ModalDialogs, goToAControlThatIsNotDisabled)
+{
+    Panel panel;
+    std::vector<int> focused;
+    panel.onPick = [&]
+    {
+        for (const int id : {Panel::erase, Panel::size, Panel::step})
+        {
+            panel.GotoDlgCtrl(panel.GetDlgItem(id));
+            focused.push_back(GetDlgCtrlID(GetFocus()));
+        }
+    };
+    EXPECT_EQ(resultOf(panel, {"click 12", "^C"}), IDCANCEL);
+    EXPECT_EQ(focused, (std::vector<int>{Panel::erase, Panel::erase, Panel::step}));
+}
+
 TEST(ModalDialogs, enterDoesNothingWhileTheDefaultButtonIsDisabled)
 {
     Panel panel;

@@ -54,6 +54,8 @@ SILENT_CALL(failCheck, "_ZN4CWnd14CheckDlgButtonEij", "CWnd::CheckDlgButton",
             (CWnd * self, int id, UINT check), (self, id, check), NOTHING)
 SILENT_CALL(failRadio, "_ZN4CWnd16CheckRadioButtonEiii", "CWnd::CheckRadioButton",
             (CWnd * self, int first, int last, int checked), (self, first, last, checked), NOTHING)
+SILENT_CALL(failGoTo, "_ZN7CDialog11GotoDlgCtrlEP4CWnd", "CDialog::GotoDlgCtrl",
+            (CDialog * self, CWnd* control), (self, control), NOTHING)
 
 CALL_THAT_FAILS(int, failCount, "_ZNK9CComboBox8GetCountEv", "CComboBox::GetCount",
                 (const CComboBox* self), (self), NOTHING, 0, CB_ERR)

@@ -226,6 +226,7 @@ DECLARED(CWnd::CheckRadioButton, void (CWnd::*)(int, int, int));
 DECLARED(CWnd::SendDlgItemMessage, LRESULT (CWnd::*)(int, UINT, WPARAM, LPARAM));
 DECLARED(CDialog::DoModal, INT_PTR (CDialog::*)());
 DECLARED(CDialog::OnInitDialog, BOOL (CDialog::*)());
+DECLARED(CDialog::GotoDlgCtrl, void (CDialog::*)(CWnd*));
 DECLARED(CComboBox::GetCount, int (CComboBox::*)() const);
 DECLARED(CComboBox::AddString, int (CComboBox::*)(LPCTSTR));
 DECLARED(CComboBox::SetCurSel, int (CComboBox::*)(int));

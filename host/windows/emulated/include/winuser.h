@@ -74,10 +74,12 @@ struct RECT
 // parameter of the call. WM_COMMAND brings id and code (MAKEWPARAM) and the control; its result is
 // 0. WM_CLOSE that the procedure leaves becomes WM_COMMAND with IDCANCEL unless that button is
 // disabled. DM_GETDEFID: id of the default button and DC_HASDEFID in the high word; 0 for none.
+// WM_NEXTDLGCTL with a control and TRUE: the control has the focus.
 #define WM_CLOSE 0x0010
 #define WM_INITDIALOG 0x0110
 #define WM_COMMAND 0x0111
 #define DM_GETDEFID 0x0400
+#define WM_NEXTDLGCTL 0x0028
 #define DC_HASDEFID 0x534B
 
 // Messages of buttons. A click gives the focus, toggles an automatic check box, checks an automatic

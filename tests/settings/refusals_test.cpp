@@ -1,0 +1,75 @@
+// What the user meets after a value was refused, and how the dialog is laid out.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "host/dialogs/modalloop.h"
+#include "resources/resource.h"
+#include "tests/settings/dialogrun.h"
+
+namespace
+{
+void observed(const std::string& lines, const std::function<void(HWND dialog)>& look)
+{
+    host::setDialogObserver(look);
+    DialogRun{}.with(typed(lines));
+    host::setDialogObserver({});
+}
+
+struct Refusal
+{
+    const char* lines;
+    int focus;
+};
+
+const Refusal refusals[] = {
+    {"set 107 0 | <Enter> | ^C",                                IDC_VERT_STEP  },
+    {"set 109 -5 | <Enter> | ^C",                               IDC_HOR_STEP   },
+    {"click 116 | set 117 x | <Enter> | ^C",                    IDC_CROSS_SIZE },
+    {"check 154 on | set 132 | <Enter> | ^C",                   IDC_TEXT_HEIGHT},
+ // An edit that is grey takes no keys: what was pressed keeps them.
+    {"check 154 on | set 132 0 | check 154 off | <Enter> | ^C", IDOK           },
+};
+
+TEST(SettingsRefusals, bringTheUserToTheEditThatIsToBeSetRight)
+{
+    for (const Refusal& refusal : refusals)
+    {
+        int focus = 0;
+        observed(refusal.lines, [&](HWND) { focus = GetDlgCtrlID(GetFocus()); });
+        EXPECT_EQ(focus, refusal.focus) << refusal.lines;
+    }
+}
+
+RECT placeOf(HWND dialog, int control)
+{
+    RECT place = {};
+    GetWindowRect(GetDlgItem(dialog, control), &place);
+    return place;
+}
+
+// Of pixels, which round what the template says.
+bool isNear(LONG one, LONG other)
+{
+    return std::abs(one - other) <= 1;
+}
+
+TEST(FrameOfTheDialog, hasCellsOfOneHeightAndVerticalsThatEndAtItsBottomLine)
+{
+    const auto look = [](HWND dialog)
+    {
+        const LONG top = placeOf(dialog, IDC_FRAME_TOP).top;
+        const LONG cell = placeOf(dialog, IDC_FRAME_ROW_1).top - top;
+        const RECT bottom = placeOf(dialog, IDC_FRAME_BOTTOM);
+        EXPECT_TRUE(isNear(bottom.top, top + 3 * cell)) << top << " " << cell << " " << bottom.top;
+        for (const int line : {IDC_FRAME_LEFT, IDC_FRAME_RIGHT, IDC_FRAME_COLUMN_1,
+                               IDC_FRAME_COLUMN_2, IDC_FRAME_COLUMN_3})
+        {
+            EXPECT_EQ(placeOf(dialog, line).top, top) << line;
+            const LONG end = placeOf(dialog, line).bottom;
+            EXPECT_TRUE(end >= bottom.top && end <= bottom.bottom) << line << " " << end;
+        }
+    };
+    observed("^C", look);
+}
+}  // namespace
