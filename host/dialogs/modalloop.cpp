@@ -134,13 +134,13 @@ void runModalLoop(HWND dialog, const bool& ended)
         Question question = viewer.question();
         question.isWithdrawn = [&] { return ended || viewer.hasStoodAside(); };
         const Answer answer = editor->askSilently(question);
-        if (answer.kind == Answer::Kind::withdrawn)
-        {
-            continue;
-        }
         if (answer.visible)
         {
             editor->echo(answer, {});
+        }
+        if (answer.kind == Answer::Kind::withdrawn)
+        {
+            continue;
         }
         take(*editor, dialog, answer);
         dispatchPendingMessages();  // some of what a message leads to is posted

@@ -54,7 +54,8 @@ struct Answer
 
     Kind kind = Kind::endOfInput;
     std::wstring text{};   // of a line, as typed
-    bool visible = false;  // the user sees what was typed: it is not echoed
+    bool visible = false;  // the user sees what was typed: it is not echoed; of a withdrawn
+                           // question, the line has been ended
 };
 
 // The progress meter of the status bar.

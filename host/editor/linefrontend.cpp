@@ -100,7 +100,9 @@ Answer LineReader::next(const Question&)
 }
 
 LineFrontEnd::LineFrontEnd(AnswerReader& reader, LineOutput output)
-    : m_reader(reader), m_output(std::move(output))
+    : m_reader(reader),
+      m_output(std::move(output)),
+      m_rendezvous({}, [this] { return m_reader.endWait(); })
 {
 }
 

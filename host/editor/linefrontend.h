@@ -21,6 +21,9 @@ public:
 
     // After the end of the input it gives nothing else.
     virtual Answer next(const Question& question) = 0;
+    // Makes a `next` that waits on another thread give an answer that does not count. False where
+    // that cannot be done.
+    virtual bool endWait() { return false; }
     // Whoever types sees the line already, as at a terminal.
     virtual bool visible() const { return false; }
 };

@@ -109,7 +109,7 @@ int askBox(Editor& editor, const ShownBox& shown)
         const Answer answer = editor.askSilently(question);
         if (answer.kind == Answer::Kind::withdrawn)
         {
-            editor.printLine(L"");
+            editor.echo(answer, L"");
             return 0;
         }
         if (const Button* button = pressed(box, answer, shown.type))

@@ -5,6 +5,7 @@
 #include "acutads.h"
 #include "host/editor/editor.h"
 #include "host/windows/format.h"
+#include "host/windows/messagebox.h"
 #include "host/windows/text.h"
 
 int acutPrintf(const ACHAR* format, ...)
@@ -34,6 +35,11 @@ int acedAlert(const ACHAR* str)
     {
         return RTERROR;
     }
-    editor->printLine(L"[alert] " + std::wstring(str));
+    // Whoever works a dialog on the screen looks there and not at the console.
+    const bool looksElsewhere = editor->interactive() && editor->shownDialogs > 0;
+    if (!looksElsewhere || !host::alertOverDialog(str))
+    {
+        editor->printLine(L"[alert] " + std::wstring(str));
+    }
     return RTNORM;
 }

@@ -102,10 +102,8 @@ inline constexpr OwnTextRow ownTextRows[] = {
     {L"%1: not drawn: %2", L"%1: не нарисовано: %2"},
 
     // HELP and the line at a session's start.
-    {L"arxhost %1 works on DXF drawings. %2 runs the module, SAVEAS saves, QUIT ends, HELP lists all commands.",
-     L"arxhost %1: чертежи DXF. %2 — команда модуля, SAVEAS — сохранить, QUIT — закончить, HELP — все команды."},
-    {L"arxhost %1 works on DXF drawings. SAVEAS saves, QUIT ends, HELP lists all commands.",
-     L"arxhost %1: чертежи DXF. SAVEAS — сохранить, QUIT — закончить, HELP — все команды."},
+    {L"arxhost %1 for DXF drawings: %2SAVEAS, QUIT; HELP lists the rest.",
+     L"arxhost %1, чертежи DXF: %2SAVEAS, QUIT; остальное перечислит HELP."},
     {L"a command of a module, group %1", L"команда модуля, группа %1"},
     {L"the same as HELP", L"то же, что HELP"},
     {L"loads or unloads a module", L"загружает или выгружает модуль"},
@@ -125,6 +123,8 @@ inline constexpr OwnTextRow ownTextRows[] = {
     {L"Opening", L"Открытие"},
     {L"Saving", L"Сохранение"},
     {L"Plotting", L"Вывод на лист"},
+
+    {L"Press Enter to close the window.", L"Нажмите Enter, чтобы закрыть окно."},
 
     // Dialogs.
     {L"Dialog: ", L"Диалог: "},

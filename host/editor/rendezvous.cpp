@@ -7,7 +7,16 @@
 
 namespace host
 {
-Rendezvous::Rendezvous(std::function<void()> onQuestion) : m_onQuestion(std::move(onQuestion)) {}
+namespace
+{
+// Ending a wait takes no time unless the console is gone.
+const std::chrono::seconds patience(2);
+}  // namespace
+
+Rendezvous::Rendezvous(std::function<void()> onQuestion, std::function<bool()> endWait)
+    : m_onQuestion(std::move(onQuestion)), m_endWait(std::move(endWait))
+{
+}
 
 Answer Rendezvous::ask(const Question& question)
 {
@@ -22,8 +31,7 @@ Answer Rendezvous::ask(const Question& question)
         waitALittle(lock);
         if (!m_answer && question.isWithdrawn && question.isWithdrawn())
         {
-            m_isOwed = !std::exchange(m_question, std::nullopt);
-            return {.kind = Answer::Kind::withdrawn};
+            return withdraw(lock);
         }
     }
     return *std::exchange(m_answer, std::nullopt);
@@ -57,6 +65,21 @@ void Rendezvous::waitALittle(std::unique_lock<std::mutex>& lock)
     {
         m_changed.wait(lock, isAnswered);
     }
+}
+
+// Windows rest meanwhile: what they ask would get the answer that is to be dropped.
+Answer Rendezvous::withdraw(std::unique_lock<std::mutex>& lock)
+{
+    Answer dropped{.kind = Answer::Kind::withdrawn};
+    m_isOwed = !std::exchange(m_question, std::nullopt);
+    if (m_isOwed && m_endWait && m_endWait() &&
+        m_changed.wait_for(lock, patience, [this] { return m_answer.has_value(); }))
+    {
+        dropped.visible = m_answer->visible;
+        m_answer.reset();
+        m_isOwed = false;
+    }
+    return dropped;
 }
 
 void Rendezvous::finish()

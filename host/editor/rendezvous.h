@@ -16,10 +16,13 @@ class Rendezvous
 public:
     // onQuestion, if given, wakes an owner that has an event loop of its own; it is called on the
     // command's thread, and the owner then takes the question with waitForQuestion.
-    explicit Rendezvous(std::function<void()> onQuestion = {});
+    // endWait, if given, makes an owner answer at once who waits for a line that is not needed any
+    // more; it is called on the command's thread too, and gives false when it cannot.
+    explicit Rendezvous(std::function<void()> onQuestion = {}, std::function<bool()> endWait = {});
 
-    // The command's side: blocks until the owner has answered, or the question is withdrawn. Then
-    // the answer to it, when it comes, is that of the next question.
+    // The command's side: blocks until the owner has answered, or the question is withdrawn. What
+    // the owner brings when his wait is ended is dropped. Where it cannot be ended, the answer to
+    // the withdrawn question is, when it comes, that of the next one.
     Answer ask(const Question& question);
     // The command's side: nothing more will be asked.
     void finish();
@@ -32,8 +35,10 @@ public:
 private:
     void post(const Question& question, std::unique_lock<std::mutex>& lock);
     void waitALittle(std::unique_lock<std::mutex>& lock);
+    Answer withdraw(std::unique_lock<std::mutex>& lock);
 
     std::function<void()> m_onQuestion;
+    std::function<bool()> m_endWait;
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::optional<Question> m_question;

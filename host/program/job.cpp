@@ -198,17 +198,12 @@ bool runInputAndDraw(Editor& editor, const std::string& picture)
     return ended && !error;
 }
 
-// What whoever sits down at the terminal has to know.
+// What whoever sits down at the terminal has to know, in one line of eighty letters.
 std::wstring welcome()
 {
-    const std::wstring version = fromUtf8(ARXHOST_VERSION);
     const std::wstring names = moduleCommandNames();
-    return names.empty() ? own(L"arxhost %1 works on DXF drawings. SAVEAS saves, QUIT ends, HELP "
-                               L"lists all commands.",
-                               {version})
-                         : own(L"arxhost %1 works on DXF drawings. %2 runs the module, SAVEAS "
-                               L"saves, QUIT ends, HELP lists all commands.",
-                               {version, names});
+    return own(L"arxhost %1 for DXF drawings: %2SAVEAS, QUIT; HELP lists the rest.",
+               {fromUtf8(ARXHOST_VERSION), names.empty() ? names : names + L", "});
 }
 
 bool runDocument(const Options& options, FrontEnd& frontEnd)

@@ -95,5 +95,10 @@ int main(int count, char** arguments)
     host::beginProcess();
     int status = EXIT_SUCCESS;
     const auto options = host::parseOptions(host::givenArguments(count, arguments), status);
-    return options ? run(*options) : status;
+    if (options)
+    {
+        status = run(*options);
+    }
+    host::beforeTheEnd(status);
+    return status;
 }

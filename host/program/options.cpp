@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "host/plot/plot.h"
+#include "host/program/session.h"
 #include "host/runtime/foldcase.h"
 #include "host/runtime/locale.h"
 #include "host/windows/modules.h"
@@ -75,8 +76,8 @@ int reportUsage(CLI::App& app, const CLI::ParseError& error)
         app.exit(error);
         return EXIT_SUCCESS;
     }
-    std::fprintf(stderr, "arxhost: %s\nusage: arxhost [DRAWING] [options]; see arxhost --help\n",
-                 error.what());
+    printError(error.what() +
+               std::string("\nusage: arxhost [DRAWING] [options]; see arxhost --help"));
     return wrongUsage;
 }
 
@@ -138,7 +139,7 @@ std::optional<Options> parseOptions(std::vector<std::string> arguments, int& sta
     }
     if (const std::string wrong = wrongName(options); !wrong.empty())
     {
-        std::fprintf(stderr, "arxhost: %s\n", wrong.c_str());
+        printError(wrong);
         status = wrongUsage;
         return std::nullopt;
     }

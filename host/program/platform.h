@@ -1,9 +1,11 @@
 // What arxhost asks of the system that it runs on.
 #pragma once
 
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/program/options.h"
@@ -22,6 +24,13 @@ bool silenceOutput();
 // Where the user's programs keep what outlasts a session, made if that was possible; empty if there
 // is no such place.
 std::filesystem::path stateFolder();
+
+// Writes to standard output or standard error.
+void write(std::FILE* stream, std::string_view text);
+
+// Last of all: lets whoever sees the output in a window that closes with the program read why it
+// failed.
+void beforeTheEnd(int status);
 
 // Makes an empty file; false if there is one of that name, or it cannot be made.
 bool makeNewFile(const std::filesystem::path& file);

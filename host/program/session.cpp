@@ -23,7 +23,7 @@ bool lineIsOpen = false;
 void printOut(std::string_view text)
 {
     lineIsOpen = text.empty() ? lineIsOpen : !text.ends_with('\n');
-    std::fwrite(text.data(), 1, text.size(), stdout);
+    write(stdout, text);
     // Whoever sits at the other end of a pipe has to see a prompt, which has no line end.
     if (!text.ends_with('\n'))
     {
@@ -81,7 +81,7 @@ int runGuarded(const Options& options, FrontEnd& frontEnd)
 void printError(std::string_view line)
 {
     failureTold = true;
-    std::fprintf(stderr, "arxhost: %.*s\n", int(line.size()), line.data());
+    write(stderr, "arxhost: " + std::string(line) + "\n");
 }
 
 LineOutput standardOutput()

@@ -19,4 +19,8 @@ using MessageBoxHandler = std::function<int(const ShownBox& box)>;
 
 // The editor answers from now on; an empty handler takes it away. Without one MessageBoxW gives 0.
 void setMessageBoxHandler(MessageBoxHandler handler);
+
+// Shows the text in a box over the dialog at which the user works; it is answered like any other.
+// False where no dialog is on a screen.
+bool alertOverDialog(const std::wstring& text);
 }  // namespace host

@@ -381,10 +381,8 @@ def a_script_reads_the_hosts_own_questions_in_english_whatever_the_language():
         expect("Enter variable name: UCSICON\n" in said[1], f"no such prompt in {said[1]!r}")
 
 
-WELCOME = {"en-US": "arxhost 1.0.0 works on DXF drawings. zv_netrax runs the module, SAVEAS saves, QUIT ends, "
-                    "HELP lists all commands.\n",
-           "ru-RU": "arxhost 1.0.0: чертежи DXF. zv_netrax — команда модуля, SAVEAS — сохранить, QUIT — закончить, "
-                    "HELP — все команды.\n"}
+WELCOME = {"en-US": "arxhost 1.0.0 for DXF drawings: zv_netrax, SAVEAS, QUIT; HELP lists the rest.\n",
+           "ru-RU": "arxhost 1.0.0, чертежи DXF: zv_netrax, SAVEAS, QUIT; остальное перечислит HELP.\n"}
 
 
 @check

@@ -10,10 +10,10 @@ ENTER, CTRL_C = "\r", "\x03"
 HERE = "a console of Windows"
 
 
-def console(desk):
+def console(desk, *arguments, before=()):
     wine, arxhost = program(desk.build)
-    command = ["/usr/bin/env", wine, arxhost, "--module", "netrax.arx", "--save", "saved.dxf"]
-    return Console(command, desk.folder, **os.environ)
+    given = arguments or ("--module", "netrax.arx", "--save", "saved.dxf")
+    return Console(["/usr/bin/env", wine, *before, arxhost, *given], desk.folder, **os.environ)
 
 
 def answer(shown, prompt, typed):
@@ -81,3 +81,26 @@ def ctrl_c_cancels_the_dialog_at_a_console_of_windows():
         shown.wait_for("[dialog closed] cancel")
         cancel(shown, "[Settings]: ")
         leave(shown)
+
+
+@check
+@only_on_windows(HERE)
+def russian_letters_are_whole_at_a_console_of_windows():
+    with Desk() as desk, console(desk, "--module", "netrax.arx", "--locale", "ru-RU") as shown:
+        answer(shown, "остальное перечислит HELP.\nКоманда: ", "ПРИВЕТ" + ENTER)
+        answer(shown, 'Неизвестная команда "ПРИВЕТ".', "QUIT" + ENTER)
+        expect_equal(shown.wait_for_end(), 0, f"exit status after {shown.shown!r}")
+
+
+@check
+@only_on_windows(HERE)
+def a_console_of_its_own_stays_open_until_a_failure_has_been_read():
+    error = "arxhost: плохой.dxf: cannot be opened: No such file or directory\n"
+    with Desk() as desk:
+        with console(desk, "плохой.dxf") as shown:
+            answer(shown, error + "Press Enter to close the window.", ENTER)
+            expect_equal(shown.wait_for_end(), 1, "exit status")
+        with console(desk, "плохой.dxf", before=("cmd", "/c")) as shown:
+            shown.wait_for(error)
+            expect_equal(shown.wait_for_end(), 1, "exit status in the console of another program")
+            expect_equal("Press Enter" in shown.shown, False, "waits all the same")

@@ -5,6 +5,7 @@
 #include "commctrl.h"
 #include "host/dialogs/bitmapbutton.h"
 #include "host/dialogs/indexcolors.h"
+#include "host/dialogs/windows/sizeonscreen.h"
 
 namespace host
 {
@@ -77,15 +78,16 @@ const void* pixelsOf(const BITMAPINFOHEADER& header)
 // The light grey of the picture is the face of the button.
 void drawPicture(HDC device, const RECT& box, const BITMAPINFOHEADER& header)
 {
-    const int width = header.biWidth;
-    const int height = header.biHeight;
+    const SIZE size = {header.biWidth, header.biHeight};
+    const SIZE shown = sizeOnScreen(size, GetDeviceCaps(device, LOGPIXELSY));
     const HDC memory = CreateCompatibleDC(device);
-    const HBITMAP bitmap = CreateCompatibleBitmap(device, width, height);
+    const HBITMAP bitmap = CreateCompatibleBitmap(device, size.cx, size.cy);
     const HGDIOBJ before = SelectObject(memory, bitmap);
-    SetDIBitsToDevice(memory, 0, 0, width, height, 0, 0, 0, height, pixelsOf(header),
+    SetDIBitsToDevice(memory, 0, 0, size.cx, size.cy, 0, 0, 0, size.cy, pixelsOf(header),
                       reinterpret_cast<const BITMAPINFO*>(&header), DIB_RGB_COLORS);
-    TransparentBlt(device, (box.left + box.right - width) / 2, (box.top + box.bottom - height) / 2,
-                   width, height, memory, 0, 0, width, height, RGB(192, 192, 192));
+    TransparentBlt(device, (box.left + box.right - shown.cx) / 2,
+                   (box.top + box.bottom - shown.cy) / 2, shown.cx, shown.cy, memory, 0, 0, size.cx,
+                   size.cy, RGB(192, 192, 192));
     SelectObject(memory, before);
     DeleteObject(bitmap);
     DeleteDC(memory);
@@ -145,6 +147,12 @@ HWND tooltipsOf(HWND dialog)
     return tooltips;
 }
 }  // namespace
+
+SIZE sizeOnScreen(SIZE picture, int dotsPerInch)
+{
+    const int usual = 96;
+    return {MulDiv(picture.cx, dotsPerInch, usual), MulDiv(picture.cy, dotsPerInch, usual)};
+}
 
 INT_PTR answerDrawing(UINT message, LPARAM lParam)
 {

@@ -3,14 +3,19 @@
 #include <fcntl.h>
 #include <io.h>
 
-#include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
+#include <optional>
 #include <span>
 #include <string_view>
+#include <utility>
 
+#include "host/editor/owntexts.h"
 #include "host/program/session.h"
+#include "host/runtime/locale.h"
 #include "host/windows/text.h"
+#include "rxregsvc.h"
 #include "shellapi.h"
 #include "windows.h"
 
@@ -18,14 +23,14 @@ namespace host
 {
 namespace
 {
+// Windows 7 refuses a text of more than 64 kilobytes.
+const std::size_t most = 8192;
+
 bool isConsole(DWORD which)
 {
     DWORD mode = 0;
     return GetConsoleMode(GetStdHandle(which), &mode) != 0;
 }
-
-std::atomic<unsigned> reads = 0;  // begun and ended: odd while one goes on
-std::atomic<bool> isRefused = false;
 
 void pressEnter()
 {
@@ -40,22 +45,71 @@ void pressEnter()
     WriteConsoleInputW(GetStdHandle(STD_INPUT_HANDLE), &enter, 1, &count);
 }
 
+// The read that waits for the user, and who ends it before the user does.
+class PendingRead
+{
+public:
+    // The number of the read; 0 when none waits.
+    unsigned number()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_waits ? m_number : 0;
+    }
+
+    // Ends the read of that number, if it still waits, as if Enter had been pressed. Whoever reads
+    // is told `as`.
+    bool end(unsigned number, Answer::Kind as)
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!m_waits || m_number != number || m_endedAs)
+        {
+            return false;
+        }
+        m_endedAs = as;
+        pressEnter();
+        return true;
+    }
+
+    void begin()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waits = true;
+        ++m_number;
+    }
+
+    // What the read was ended as. The Enter key of the user may have come first: then ours still
+    // waits to be read.
+    std::optional<Answer::Kind> ended()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waits = false;
+        if (m_endedAs)
+        {
+            FlushConsoleInputBuffer(GetStdHandle(STD_INPUT_HANDLE));
+        }
+        return std::exchange(m_endedAs, std::nullopt);
+    }
+
+private:
+    std::mutex m_mutex;
+    bool m_waits = false;
+    unsigned m_number = 0;
+    std::optional<Answer::Kind> m_endedAs;
+};
+
+PendingRead pendingRead;
+
 // Ctrl-C cancels the question; a command that computes is not stopped by it. Windows ends the read,
 // Wine reads on: there the line is ended and does not count.
 BOOL WINAPI onControl(DWORD event)
 {
-    const unsigned read = reads;
-    if (event != CTRL_C_EVENT || read % 2 == 0)
+    const unsigned read = event == CTRL_C_EVENT ? pendingRead.number() : 0;
+    if (read != 0)
     {
-        return event == CTRL_C_EVENT;
+        Sleep(100);
+        pendingRead.end(read, Answer::Kind::cancel);
     }
-    Sleep(100);
-    if (reads == read)
-    {
-        isRefused = true;
-        pressEnter();
-    }
-    return TRUE;
+    return event == CTRL_C_EVENT;
 }
 
 // What has been typed; nothing once the input has ended, or at Ctrl-C, of which the error tells.
@@ -63,10 +117,8 @@ std::wstring_view readUnits(std::span<wchar_t> units)
 {
     DWORD count = 0;
     SetLastError(ERROR_SUCCESS);
-    ++reads;
     const BOOL isRead = ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), units.data(),
                                      DWORD(units.size()), &count, nullptr);
-    ++reads;
     const bool isEnd = !isRead || units[0] == L'\x1A';
     return {units.data(), isEnd ? 0 : count};
 }
@@ -77,10 +129,29 @@ class ConsoleReader : public AnswerReader
 {
 public:
     Answer next(const Question& question) override;
+    bool endWait() override
+    {
+        return pendingRead.end(pendingRead.number(), Answer::Kind::withdrawn);
+    }
     bool visible() const override { return true; }
+
+private:
+    static Answer read();
 };
 
 Answer ConsoleReader::next(const Question& question)
+{
+    pendingRead.begin();
+    const Answer answer = read();
+    if (const auto kind = pendingRead.ended())
+    {
+        return {.kind = *kind, .visible = true};
+    }
+    const bool isComment = answer.text.starts_with(L';');
+    return isComment ? next(question) : answer;
+}
+
+Answer ConsoleReader::read()
 {
     std::wstring line;
     while (!line.ends_with(L'\n'))
@@ -94,13 +165,17 @@ Answer ConsoleReader::next(const Question& question)
         }
         line += typed;
     }
-    if (isRefused.exchange(false))
-    {
-        return {.kind = Answer::Kind::cancel, .visible = true};
-    }
     line.resize(line.find_last_not_of(L"\r\n") + 1);
-    const bool isComment = line.starts_with(L';');
-    return isComment ? next(question) : answerOf(toUtf8(line), true);
+    return answerOf(toUtf8(line), true);
+}
+
+// Whether the console was opened for this program alone, as for a drawing that is dropped on it:
+// it closes at the end.
+bool isConsoleOurs()
+{
+    DWORD processes[2];
+    return isConsole(STD_INPUT_HANDLE) && isConsole(STD_OUTPUT_HANDLE) &&
+           GetConsoleProcessList(processes, 2) == 1;
 }
 }  // namespace
 
@@ -131,6 +206,39 @@ std::vector<std::string> givenArguments(int, char**)
 bool silenceOutput()
 {
     return std::freopen("NUL", "w", stdout) != nullptr;
+}
+
+// Whole texts, and not as bytes: a letter of several bytes would come apart where a stream that is
+// not buffered hands them on one by one.
+void write(std::FILE* stream, std::string_view text)
+{
+    const HANDLE handle = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
+    DWORD mode = 0;
+    if (!GetConsoleMode(handle, &mode))
+    {
+        std::fwrite(text.data(), 1, text.size(), stream);
+        return;
+    }
+    const std::wstring units = fromUtf8(text);
+    DWORD count = 0;
+    for (std::size_t at = 0; at < units.size(); at += most)
+    {
+        const std::wstring_view part = std::wstring_view(units).substr(at, most);
+        WriteConsoleW(handle, part.data(), DWORD(part.size()), &count, nullptr);
+    }
+}
+
+void beforeTheEnd(int status)
+{
+    if (status == EXIT_SUCCESS || !isConsoleOurs())
+    {
+        return;
+    }
+    const OwnText text(L"Press Enter to close the window.");
+    const bool isRussian = acrxProductLCID() == russianLocale;
+    write(stdout, toUtf8(isRussian ? text.russian() : text.english()));
+    wchar_t units[256];
+    readUnits(units);
 }
 
 std::filesystem::path stateFolder()

@@ -66,6 +66,13 @@ bool silenceOutput()
     return nothing != nullptr;
 }
 
+void write(std::FILE* stream, std::string_view text)
+{
+    std::fwrite(text.data(), 1, text.size(), stream);
+}
+
+void beforeTheEnd(int) {}
+
 bool makeNewFile(const std::filesystem::path& file)
 {
     const int made = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

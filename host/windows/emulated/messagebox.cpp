@@ -18,6 +18,11 @@ void host::setMessageBoxHandler(MessageBoxHandler newHandler)
     handler() = std::move(newHandler);
 }
 
+bool host::alertOverDialog(const std::wstring&)
+{
+    return false;
+}
+
 int MessageBoxW(HWND, LPCWSTR text, LPCWSTR caption, UINT type)
 {
     if (!handler())

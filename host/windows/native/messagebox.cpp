@@ -125,7 +125,25 @@ LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam)
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
+
+// The topmost dialog of the thread.
+BOOL CALLBACK findDialog(HWND window, LPARAM found)
+{
+    wchar_t name[16] = L"";
+    GetClassNameW(window, name, 16);
+    const bool isDialog = IsWindowVisible(window) && lstrcmpW(name, L"#32770") == 0;
+    *reinterpret_cast<HWND*>(found) = isDialog ? window : nullptr;
+    return !isDialog;
+}
 }  // namespace
+
+bool alertOverDialog(const std::wstring& text)
+{
+    HWND dialog = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), findDialog, reinterpret_cast<LPARAM>(&dialog));
+    return dialog != nullptr &&
+           MessageBoxW(dialog, text.c_str(), L"arxhost", MB_OK | MB_ICONWARNING) != 0;
+}
 
 void setMessageBoxHandler(MessageBoxHandler handler)
 {

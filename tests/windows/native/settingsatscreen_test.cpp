@@ -245,6 +245,37 @@ TEST(AtTheScreen, aClickWithdrawsTheQuestionAtTheConsole)
     EXPECT_EQ(person.answers, (Kinds{Kind::withdrawn, Kind::line}));
 }
 
+HWND boxOver(HWND dialog)
+{
+    const HWND box = GetLastActivePopup(dialog);
+    return box != dialog && IsWindowVisible(box) ? box : nullptr;
+}
+
+// Whoever clicks OK looks at the dialog and not at the console.
+TEST(AtTheScreen, aRefusedValueShowsABoxOverTheDialogAndLeadsToTheEdit)
+{
+    bool isBoxShown = false;
+    bool isEditReached = false;
+    std::wstring text;
+    const Shown after = shown(atTheDialog(
+        [&](HWND dialog)
+        {
+            SetWindowTextW(GetDlgItem(dialog, IDC_HOR_STEP), L"0");
+            clickOn(GetDlgItem(dialog, IDOK));
+            isBoxShown = comesTrue([&] { return boxOver(dialog) != nullptr; });
+            wchar_t shownText[80] = L"";
+            GetDlgItemTextW(boxOver(dialog), 0xFFFF, shownText, 80);
+            text = shownText;
+            press(VK_RETURN);
+            comesTrue([&] { return boxOver(dialog) == nullptr; });
+            isEditReached = comesTrue([&] { return focusedId(dialog) == IDC_HOR_STEP; });
+        }));
+    EXPECT_TRUE(isBoxShown);
+    EXPECT_EQ(text, L"Horizontal step is not set");
+    EXPECT_TRUE(isEditReached);
+    EXPECT_EQ(after.result, IDCANCEL);
+}
+
 // The pick is typed where the console waited for a line to the dialog; then the dialog asks again.
 TEST(AtTheScreen, aPickButtonThatIsClickedAsksAtTheConsole)
 {
