@@ -31,8 +31,10 @@ bool CSettingsDlg::readLength(const Length& length, double& value)
     const double typed = shownReal(length.edit);
     if (typed == notSetReal() || !(typed > 0.0))
     {
-        const RestingDialog resting(*this);
-        acedAlert(length.texts->notSet);
+        {
+            const RestingDialog resting(*this);
+            acedAlert(length.texts->notSet);
+        }
         goToEdit(length.edit);
         return false;
     }
