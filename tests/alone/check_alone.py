@@ -13,10 +13,16 @@ from report import check, expect, expect_equal, run_all  # noqa: E402
 
 DRAWING = ROOT / "tests/golden/drawings/r12-cyrillic.dxf"  # its texts need fonts
 
+PLOT = 'cd "$TMPDIR"; "$0" "$1" --plot x.svg </dev/null >/dev/null && grep -c glyph x.svg && sha256sum x.svg; rm x.svg'
+SIGNALS = """import os, sys
+sys.path.insert(0, 'tests/support')
+import arxhost
+os.execvp('cat', ['cat', '/proc/self/status'])"""
 
-def alone(*command, **machine):
+
+def alone(*command, first="", **machine):
     """Runs a command as the tests run on a machine with these variables; what it says, and its status."""
-    done = subprocess.run(["bash", "-c", '. "$0"; alone "$@"', ROOT / "scripts/alone", *command],
+    done = subprocess.run(["bash", "-c", f'{first} . "$0"; alone "$@"', ROOT / "scripts/alone", *command],
                           env={"PATH": os.environ["PATH"]} | machine, capture_output=True, text=True, check=False)
     return done.stdout, done.returncode
 
@@ -34,7 +40,7 @@ class Machine:
         self.variables = {
             "HOME": f"{folder}/home", "XDG_CACHE_HOME": f"{folder}/cache", "XDG_STATE_HOME": f"{folder}/state",
             "TMPDIR": f"{folder}/temporary", "FONTCONFIG_FILE": f"{folder}/fonts.conf", "LC_ALL": "ru_RU.KOI8-R",
-            "TZ": "Asia/Kathmandu", "LD_PRELOAD": "", "GTEST_FILTER": "-*", "ASAN_OPTIONS": "help=1", "MALLOC_PERTURB_": "7"}
+            "TZ": "Asia/Kathmandu", "GTEST_FILTER": "-*", "ASAN_OPTIONS": "help=1", "MALLOC_PERTURB_": "7"}
 
     def files(self):
         return {str(path): (path.stat().st_mtime_ns, path.stat().st_size) for path in self.folder.rglob("*")}
@@ -60,10 +66,16 @@ def a_test_sees_the_same_on_every_machine():
 
 @check
 def a_text_is_drawn_with_the_same_fonts_on_every_machine():
-    plot = f'cd "$TMPDIR" && "{ROOT}/build/arxhost" "{DRAWING}" --plot x.svg </dev/null >/dev/null && grep -c glyph x.svg && sha256sum x.svg; rm x.svg'
-    first, second = on_two_machines("bash", "-c", plot)
+    first, second = on_two_machines("bash", "-c", PLOT, ROOT / "build/arxhost", DRAWING)
     expect("x.svg" in first[0], f"no text in the plot: {first}")
     expect_equal(first, second, "the plots")
+
+
+@check
+def signals_that_the_caller_ignores_reach_the_program():
+    said, _ = alone("python3", "-c", SIGNALS, first=f"trap '' HUP INT QUIT TERM; cd '{ROOT}';")
+    ignored = int(re.search(r"SigIgn:\s*(\w+)", said)[1], 16)
+    expect_equal(ignored & 0x4007, 0, "ignored signals")
 
 
 @check

@@ -1,6 +1,7 @@
 """Runs arxhost in a folder of its own, with a private link to the module and its own options."""
 import os
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -11,6 +12,10 @@ ROOT = Path(__file__).resolve().parents[2]
 BUILD = Path(os.environ.get("NETRAX_BUILD", ROOT / "build"))
 if "NETRAX_ALONE" not in os.environ:  # run by hand: apart from the machine, as scripts/test runs it
     os.execvp("bash", ["bash", "-c", '. "$0"; alone "$@"', str(ROOT / "scripts/alone"), *sys.orig_argv])
+# Started by nohup or in the background, a test would hand on that these are ignored.
+for number in (signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGTERM):
+    if signal.getsignal(number) == signal.SIG_IGN:
+        signal.signal(number, signal.SIG_DFL)
 KEYS = """bXBottomScribe bXLeftScribe bXRightScribe bXTopScribe bYBottomScribe bYLeftScribe bYRightScribe
 bYTopScribe Color crossSize delCont heightText HorStep iCountSigns LookType needText textXScribe
 textYScribe VertStep WCSBasePoint""".split()
