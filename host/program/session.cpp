@@ -47,7 +47,7 @@ public:
         std::fflush(stdout);
         const bool beside = std::exchange(lineIsOpen, false);
         const std::string blanks(std::size_t(m_columns - 1), ' ');
-        std::fprintf(stderr, "%s\r%s\r%s", beside ? "\n" : "", blanks.c_str(), bar.c_str());
+        write(stderr, (beside ? "\n\r" : "\r") + blanks + "\r" + bar);
         std::fflush(stderr);
         m_bar = bar;
     }
@@ -81,7 +81,10 @@ int runGuarded(const Options& options, FrontEnd& frontEnd)
 void printError(std::string_view line)
 {
     failureTold = true;
-    write(stderr, "arxhost: " + std::string(line) + "\n");
+    // In three parts, for which no memory is needed.
+    write(stderr, "arxhost: ");
+    write(stderr, line);
+    write(stderr, "\n");
 }
 
 LineOutput standardOutput()
