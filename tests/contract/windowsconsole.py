@@ -31,7 +31,7 @@ def cancel(shown, prompt):
 
 
 def leave(shown):
-    answer(shown, "\nCommand: ", "QUIT" + ENTER)
+    answer(shown, "Command: ", "QUIT" + ENTER)
     expect_equal(shown.wait_for_end(), 0, f"exit status after {shown.shown!r}")
 
 
