@@ -80,6 +80,8 @@ protected:
     // Makes the case's UCS current and draws its outline. What earlier calls gave may be gone then:
     // nothing is erased between them, but now and then the drawing is left for a new one.
     AcDbObjectId drawOutline(const GridCase& asked);
+    // None with a number that is not finite.
+    static AcDbObjectId addOutline(const AcGePoint3dArray& points);
     // Everything that the grid made.
     static AcDbObjectIdArray drawGrid(const AcDbObjectId& outline, const GridCase& asked,
                                       decltype(buildGrid)* build = &buildGrid);

@@ -239,7 +239,7 @@ protected:
             const double across = asked.steps[0] * chance.below(3);
             points.append(asked.outline[i % 4] + AcGeVector3d(across, asked.steps[1], 0));
         }
-        return addPolylineFrame(false, points, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
+        return addOutline(points);
     }
     std::size_t objects() const { return database().core().stubs.size(); }
 };
