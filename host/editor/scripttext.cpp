@@ -70,10 +70,11 @@ std::string scriptText(std::string_view bytes, const std::string& name)
     return fromUtf8Text(bytes.substr(bytes.starts_with(utf8Mark) ? utf8Mark.size() : 0), name);
 }
 
-// What does not come back as it went has lost a byte that means nothing.
+// What does not come back as it went has lost a byte that means nothing. No text holds a zero, but
+// UTF-16 without its mark does.
 void requireUtf8(std::string_view line, const std::string& name, int number)
 {
-    if (toUtf8(fromUtf8(line)) != line)
+    if (line.find('\0') != line.npos || toUtf8(fromUtf8(line)) != line)
     {
         refuse(name, number, "UTF-8, or UTF-16 behind a byte-order mark");
     }

@@ -19,7 +19,8 @@ namespace
 {
 int runStandardInput(const host::Options& options)
 {
-    if (const auto status = host::runAtTerminal(options))
+    // Nobody can answer questions that are not shown.
+    if (const auto status = options.quiet ? std::nullopt : host::runAtTerminal(options))
     {
         return *status;
     }

@@ -92,12 +92,14 @@ bool endsIn(const std::string& file, std::wstring_view ending)
     return equalNoCase(fromUtf8(pathOf(file).extension().string()), ending);
 }
 
-// A device, a pipe or a folder needs no ending; which of them can be written shows later.
+// A device, a pipe or a folder needs no ending, nor does an output of the run that leads to a file;
+// which of them can be written shows later.
 bool isNoFile(const std::string& name)
 {
     std::error_code ignored;
     const fs::file_status status = fs::status(pathOf(name), ignored);
-    return name.starts_with("/dev/") || (fs::exists(status) && !fs::is_regular_file(status));
+    return name == "/dev/stdout" || name == "/dev/stderr" || name.starts_with("/dev/fd/") ||
+           (fs::exists(status) && !fs::is_regular_file(status));
 }
 
 // One line on a name that is wrong; empty if all are right.

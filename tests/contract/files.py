@@ -138,6 +138,7 @@ def saving_that_fails_is_one_line_and_status_1():
 def a_name_of_the_wrong_kind_is_refused_in_one_line():
     with Desk() as desk:
         for option, name in (("--save", "out.txt"), ("--save", "out.dwg"), ("--save", "out"), ("--save", "dxf"),
+                             ("--save", "/dev/nosuch"), ("--save", "/dev/shm/netrax-out.txt"),
                              ("--dialog-picture", "picture.svg"), ("--dialog-picture", "picture")):
             said = refused(desk, option, name, status=2, script=GRID)
             expect(one_line(said) and name in said, f"{option} {name}: {said!r}")

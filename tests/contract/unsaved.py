@@ -94,6 +94,16 @@ def quit_asks_a_person_before_it_gives_changes_up():
 
 @check
 @not_on_windows("a terminal of Unix")
+def a_quiet_run_at_a_terminal_asks_nothing():
+    with Desk() as desk:
+        plan_on(desk)
+        with console(desk, "drawing.dxf", "--quiet") as terminal:
+            terminal.type("zv_netrax\n10,20\n260,170\nA\nQUIT\n")
+            expect_equal(terminal.wait_for_end(), 0, "exit status")
+
+
+@check
+@not_on_windows("a terminal of Unix")
 def quit_asks_nothing_where_nothing_would_be_lost():
     with Desk() as desk:
         plan_on(desk)

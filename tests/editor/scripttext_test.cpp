@@ -73,6 +73,7 @@ TEST(ScriptText, ofOtherBytesIsRefusedWithItsLine)
         {"a\nb\n\xCD\xE0\n",            "s.txt: line 3" + utf8 }, // Windows' Cyrillic
         {"\xE9",                        "s.txt: line 1" + utf8 },
         {"a\n\xC3",                     "s.txt: line 2" + utf8 },
+        {"a\nb\0\n"s,                   "s.txt: line 2" + utf8 }, // UTF-16 without its mark
         {"a\n\xED\xA0\x80\n",           "s.txt: line 2" + utf8 }, // half a pair
         {"\xFF\xFE"
          "a\0\n\0\0\xD8\n\0"s, "s.txt: line 2" + utf16},

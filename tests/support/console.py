@@ -29,11 +29,12 @@ class Console:
             raise Skipped(f"no pseudo-terminal: {error}") from error
         if self._process == 0:
             try:
+                self._terminal = 0
+                self.resize(columns)  # before the program can ask
                 os.chdir(folder)
                 os.execve(command[0], command, {"TERM": "xterm", "PATH": os.environ["PATH"]} | environment)
             finally:
                 os._exit(127)
-        self.resize(columns)
 
     def __enter__(self):
         return self

@@ -67,8 +67,10 @@ bool rewrite(int file, const std::string& path, std::string_view bytes)
     const int replacement = target.empty() ? -1 : createUnfinishedFile(beside, 0600);
     if (replacement < 0)
     {
-        // A disk that is full or broken takes neither, and what stands in the file is to stay.
-        const bool fails = !target.empty() && (errno == ENOSPC || errno == EDQUOT || errno == EIO);
+        // A disk that is full or broken takes neither, a run that a signal ends has no time for
+        // either, and what stands in the file is to stay.
+        const bool fails = !target.empty() &&
+                           (errno == ENOSPC || errno == EDQUOT || errno == EIO || errno == EBUSY);
         return !fails && rewriteInPlace(file, bytes);
     }
     const bool done =
