@@ -87,7 +87,7 @@ def many_circles(count):
 def long_work_shows_how_far_it_has_come_and_leaves_no_trace():
     work = ["circles.dxf", "--script", "nothing.txt", "--plot", "circles.png"]
     with Desk() as desk:
-        (desk / "circles.dxf").write_text(many_circles(16000))
+        (desk / "circles.dxf").write_text(many_circles(32000))
         (desk / "nothing.txt").write_text("")
         with console(desk, *work) as terminal:
             terminal.wait_for("Plotting [")
