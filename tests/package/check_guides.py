@@ -201,7 +201,7 @@ def scripts_draw_a_grid(locale):
 
 def lines_for_the_dialog_do_the_same_in_every_run(locale):
     text = text_of("README.md")
-    part = text[text.index("the dialog is worked by lines"):text.index("After a click on a pick button")]
+    part = text[text.index("the dialog is worked by lines"):text.index("After a click on a pick")]
     lines = [line for line in re.findall(r"`([a-z]+ \d+[^`]*)`", part) if line not in ("click 1", "click 2")]
     expect_equal(sorted({line.split()[0] for line in lines}), ["check", "click", "color", "select", "set"], "kinds of lines")
     settings = "Н" if locale == "ru-RU" else "S"
