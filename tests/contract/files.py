@@ -202,7 +202,7 @@ def a_script_may_come_through_a_pipe_line_by_line():
     with Desk() as desk:
         os.mkfifo(desk / "pipe")
         command = [str(desk.build / "arxhost"), "--module", "netrax.arx", "--script", "pipe"]
-        with subprocess.Popen(command, cwd=desk.folder, stdout=subprocess.PIPE) as run:
+        with subprocess.Popen(command, cwd=desk.folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE) as run:
             with open(desk / "pipe", "wb", buffering=0) as pipe:
                 pipe.write(b"UCSICON\n")
                 said = b""
@@ -210,6 +210,7 @@ def a_script_may_come_through_a_pipe_line_by_line():
                     said += run.stdout.read(1) or b"<3>: the program ended"
                 pipe.write(b"1\n\xe4\n")
             expect(b"UCSICON = 1\n" in run.stdout.read(), "the answer was not taken")
+            expect(b"pipe: line 3: expected UTF-8" in run.stderr.read(), "the line is not named")
             expect_equal(run.wait(20), 1, "exit status after a line that is no UTF-8")
 
 
