@@ -1,4 +1,5 @@
-// What the machine needs at least: the same bytes formatted, written or read with nothing around it.
+// What the machine needs at least: the same bytes formatted, written or read with nothing around
+// it.
 //
 //   floor format LINES FILE   the tags of a drawing with that many lines in one group
 //   floor write BYTES FILE    that many bytes
@@ -211,7 +212,8 @@ void readPairs(const char* path, bool converting)
     const char* const end = at + bytes.size();
     while (at < end)
     {
-        const auto* codeEnd = static_cast<const char*>(std::memchr(at, '\n', std::size_t(end - at)));
+        const auto* codeEnd =
+            static_cast<const char*>(std::memchr(at, '\n', std::size_t(end - at)));
         const char* value = codeEnd + 1;
         const auto* valueEnd =
             static_cast<const char*>(std::memchr(value, '\n', std::size_t(end - value)));

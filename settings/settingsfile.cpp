@@ -16,26 +16,26 @@ struct Field
 };
 
 const Field<int> intFields[] = {
-    {L"Color",          &GridSettings::Color         },
-    {L"LookType",       &GridSettings::LookType      },
-    {L"WCSBasePoint",   &GridSettings::WCSBasePoint  },
-    {L"delCont",        &GridSettings::delCont       },
-    {L"iCountSigns",    &GridSettings::iCountSigns   },
-    {L"needText",       &GridSettings::needText      },
-    {L"bXTopScribe",    &GridSettings::bXTopScribe   },
+    {L"Color", &GridSettings::Color},
+    {L"LookType", &GridSettings::LookType},
+    {L"WCSBasePoint", &GridSettings::WCSBasePoint},
+    {L"delCont", &GridSettings::delCont},
+    {L"iCountSigns", &GridSettings::iCountSigns},
+    {L"needText", &GridSettings::needText},
+    {L"bXTopScribe", &GridSettings::bXTopScribe},
     {L"bXBottomScribe", &GridSettings::bXBottomScribe},
-    {L"bXLeftScribe",   &GridSettings::bXLeftScribe  },
-    {L"bXRightScribe",  &GridSettings::bXRightScribe },
-    {L"bYTopScribe",    &GridSettings::bYTopScribe   },
+    {L"bXLeftScribe", &GridSettings::bXLeftScribe},
+    {L"bXRightScribe", &GridSettings::bXRightScribe},
+    {L"bYTopScribe", &GridSettings::bYTopScribe},
     {L"bYBottomScribe", &GridSettings::bYBottomScribe},
-    {L"bYLeftScribe",   &GridSettings::bYLeftScribe  },
-    {L"bYRightScribe",  &GridSettings::bYRightScribe },
+    {L"bYLeftScribe", &GridSettings::bYLeftScribe},
+    {L"bYRightScribe", &GridSettings::bYRightScribe},
 };
 
 const Field<double> realFields[] = {
-    {L"VertStep",   &GridSettings::VertStep  },
-    {L"HorStep",    &GridSettings::HorStep   },
-    {L"crossSize",  &GridSettings::crossSize },
+    {L"VertStep", &GridSettings::VertStep},
+    {L"HorStep", &GridSettings::HorStep},
+    {L"crossSize", &GridSettings::crossSize},
     {L"heightText", &GridSettings::heightText},
 };
 

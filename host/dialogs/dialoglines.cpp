@@ -112,11 +112,11 @@ struct Verb
 };
 
 const Verb verbs[] = {
-    {L"set",    set,    {ControlKind::edit}                                          },
-    {L"check",  check,  {ControlKind::check, ControlKind::radio}                     },
-    {L"click",  click,  {ControlKind::button, ControlKind::check, ControlKind::radio}},
-    {L"select", select, {ControlKind::combo}                                         },
-    {L"color",  color,  {ControlKind::combo}                                         },
+    {L"set", set, {ControlKind::edit}},
+    {L"check", check, {ControlKind::check, ControlKind::radio}},
+    {L"click", click, {ControlKind::button, ControlKind::check, ControlKind::radio}},
+    {L"select", select, {ControlKind::combo}},
+    {L"color", color, {ControlKind::combo}},
 };
 
 Wrong act(const Verb& verb, HWND dialog, std::wstring_view rest)

@@ -40,17 +40,16 @@ Color wheelColor(int index)
 
 Color indexColor(int index)
 {
-    const std::array<Color, 10> first{
-        {black,
-         {1, 0, 0},
-         {1, 1, 0},
-         {0, 1, 0},
-         {0, 1, 1},
-         {0, 0, 1},
-         {1, 0, 1},
-         black, gray(0.5),
-         gray(0.75)}
-    };
+    const std::array<Color, 10> first{{black,
+                                       {1, 0, 0},
+                                       {1, 1, 0},
+                                       {0, 1, 0},
+                                       {0, 1, 1},
+                                       {0, 0, 1},
+                                       {1, 0, 1},
+                                       black,
+                                       gray(0.5),
+                                       gray(0.75)}};
     if (index < 0 || index > 255)
     {
         return black;

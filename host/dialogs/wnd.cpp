@@ -66,9 +66,7 @@ std::wstring host::windowText(HWND window)
 // The root of all maps.
 const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
 {
-    static const AFX_MSGMAP_ENTRY none[] = {
-        {0, 0, nullptr}
-    };
+    static const AFX_MSGMAP_ENTRY none[] = {{0, 0, nullptr}};
     static const AFX_MSGMAP map = {nullptr, none};
     return &map;
 }

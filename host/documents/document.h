@@ -50,8 +50,8 @@ public:
     UcsHistory ucsHistory;
     std::vector<UndoStep> undo;
     std::vector<RedoStep> redo;  // until something else is done
-    AcGePoint3d lastPoint;     // WCS
-    bool blockEditor = false;  // a block is being edited
+    AcGePoint3d lastPoint;       // WCS
+    bool blockEditor = false;    // a block is being edited
     std::vector<AcAp::DocLockMode> locks;
     std::uint64_t savedDigest = 0;  // of the changes that its file holds
 

@@ -33,15 +33,23 @@ char32_t joined(char32_t high, char32_t low)
 std::string converterName(const Release& release, std::string_view codePage)
 {
     if (release.utf8)
+    {
         return "UTF-8";
+    }
     if (codePage.empty())
+    {
         return "CP1252";
+    }
 
     std::string name(codePage);
     std::ranges::transform(name, name.begin(), [](unsigned char c) { return std::toupper(c); });
     for (const std::string_view prefix : {"ANSI_", "DOS"})
+    {
         if (name.starts_with(prefix))
+        {
             return "CP" + name.substr(prefix.size());
+        }
+    }
     return name.starts_with("ISO8859-") ? name : "unknown";
 }
 
@@ -50,7 +58,9 @@ bool parseHex(std::u32string_view digits, unsigned& value)
     for (const char32_t c : digits)
     {
         if (c > 'f' || !std::isxdigit(static_cast<int>(c)))
+        {
             return false;
+        }
         value = value * 16 + unsigned(c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
     }
     return true;
@@ -62,7 +72,9 @@ char32_t escaped(std::u32string_view text, std::size_t at)
     unsigned value = 0;
     if (text.substr(at, 3) != U"\\U+" || text.size() - at < 7 ||
         !parseHex(text.substr(at + 3, 4), value))
+    {
         return 0;
+    }
     return value;
 }
 
@@ -72,7 +84,9 @@ char32_t escapedCharacter(std::u32string_view text, std::size_t at, std::size_t&
     const char32_t first = escaped(text, at);
     length = 7;
     if (!isHigh(first))
+    {
         return isLow(first) ? 0 : first;
+    }
     const char32_t second = escaped(text, std::min(at + length, text.size()));
     length = 14;
     return isLow(second) ? joined(first, second) : 0;
@@ -85,11 +99,7 @@ struct MultibytePage
 };
 
 constexpr MultibytePage multibytePages[] = {
-    {U'1', "CP932"},
-    {U'2', "CP950"},
-    {U'3', "CP949"},
-    {U'4', "JOHAB"},
-    {U'5', "CP936"},
+    {U'1', "CP932"}, {U'2', "CP950"}, {U'3', "CP949"}, {U'4', "JOHAB"}, {U'5', "CP936"},
 };
 
 char32_t convertedFrom(const char* codePage, const std::string& bytes)
@@ -105,14 +115,20 @@ char32_t convertedFrom(const char* codePage, const std::string& bytes)
 char32_t multibyteCharacter(std::u32string_view text, std::size_t at)
 {
     if (text.substr(at, 3) != U"\\M+" || text.size() - at < 8)
+    {
         return 0;
+    }
     const auto page = std::ranges::find(multibytePages, text[at + 3], &MultibytePage::digit);
     unsigned code = 0;
     if (page == std::end(multibytePages) || !parseHex(text.substr(at + 4, 4), code))
+    {
         return 0;
+    }
     std::string bytes{static_cast<char>(code)};
     if (code > 0xFF)
+    {
         bytes.insert(bytes.begin(), static_cast<char>(code >> 8));
+    }
     return convertedFrom(page->name, bytes);
 }
 
@@ -120,10 +136,14 @@ char32_t multibyteCharacter(std::u32string_view text, std::size_t at)
 char32_t caretCharacter(std::u32string_view text, std::size_t at)
 {
     if (text[at] != '^' || at + 1 == text.size())
+    {
         return 0;
+    }
     const char32_t next = text[at + 1];
     if (next == ' ')
+    {
         return '^';
+    }
     return 'A' <= next && next <= '_' ? next - '@' : 0;
 }
 
@@ -152,13 +172,17 @@ std::u32string unescaped(std::u32string_view text)
 std::wstring wide(std::u32string_view text)
 {
     if (sizeof(wchar_t) == sizeof(char32_t))
+    {
         return {text.begin(), text.end()};
+    }
     std::wstring units;
     for (const char32_t character : text)
     {
         const char32_t rest = character - 0x10000;
         if (character > 0xFFFF)
+        {
             units += static_cast<wchar_t>(0xD800 + (rest >> 10));
+        }
         units += static_cast<wchar_t>(character > 0xFFFF ? 0xDC00 + (rest & 0x3FF) : character);
     }
     return units;
@@ -193,7 +217,9 @@ CodePage::CodePage(const Release& release, std::string_view codePageName)
 {
     m_converter = ByteConverter::open(converterName(release, codePageName));
     if (!m_converter)
+    {
         throw Error("expected a known code page, found \"" + std::string(codePageName) + '"');
+    }
 }
 
 std::wstring CodePage::decode(std::string_view bytes) const
@@ -203,7 +229,9 @@ std::wstring CodePage::decode(std::string_view bytes) const
     constexpr std::string_view marks("\\^\0", 3);
     static_assert(marks.back() == lineFeedInText);
     if (isAscii && bytes.find_first_of(marks) == bytes.npos)
+    {
         return {bytes.begin(), bytes.end()};
+    }
     return wide(unescaped(isAscii ? std::u32string(bytes.begin(), bytes.end()) : converted(bytes)));
 }
 
@@ -214,7 +242,9 @@ std::u32string CodePage::converted(std::string_view bytes) const
     {
         bytes.remove_prefix(m_converter->decode(bytes, text));
         if (bytes.empty())
+        {
             return text;
+        }
         text += rawBytes + static_cast<unsigned char>(bytes[0]);
         bytes.remove_prefix(1);
     }
@@ -232,7 +262,9 @@ std::string CodePage::encode(std::wstring_view text) const
             ++at;
         }
         else
+        {
             append(bytes, text[at]);
+        }
     }
     return bytes;
 }
@@ -240,22 +272,36 @@ std::string CodePage::encode(std::wstring_view text) const
 void CodePage::append(std::string& bytes, char32_t character) const
 {
     if (character == '^')
+    {
         bytes += "^ ";
+    }
     else if (character < ' ')
+    {
         (bytes += '^') += static_cast<char>(character + '@');
+    }
     else if (character < 0x80)
+    {
         bytes += static_cast<char>(character);
+    }
     else if (isRawByte(character))
+    {
         bytes += static_cast<char>(character - rawBytes);
+    }
     else
+    {
         appendConverted(bytes, character > 0x10FFFF ? 0xFFFD : character);
+    }
 }
 
 void CodePage::appendConverted(std::string& bytes, char32_t character) const
 {
     if (const auto converted = m_converter->encode(character))
+    {
         bytes += *converted;
+    }
     else
+    {
         appendEscape(bytes, character);
+    }
 }
 }  // namespace host::dxf

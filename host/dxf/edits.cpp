@@ -13,7 +13,9 @@ void Edits::replace(std::size_t begin, std::size_t end, Producer produce)
 void Edits::setValue(const Tag& tag, std::string_view encoded)
 {
     if (trimmed(tag.value) == trimmed(encoded))
+    {
         return;
+    }
     const std::size_t begin = tag.value.data() - m_file.bytes().data();
     replace(begin, begin + tag.value.size(),
             [text = std::string(encoded)](TagWriter& writer) { writer.raw(text); });
@@ -25,7 +27,9 @@ void Edits::setHeader(std::string_view name, const Producer& produce)
     TagWriter writer([&tags](std::string_view bytes) { tags += bytes; }, m_file.style());
     const HeaderVariable* variable = m_file.header(name);
     if (!variable)
+    {
         writer.text(9, name);
+    }
     produce(writer);
     writer.flush();
 
@@ -38,7 +42,9 @@ void Edits::setHeader(std::string_view name, const Producer& produce)
     const std::size_t begin = variable ? variable->begin : header->end;
     const std::size_t end = variable ? variable->end : header->end;
     if (m_file.bytes().substr(begin, end - begin) != tags)
+    {
         replace(begin, end, [tags](TagWriter& out) { out.raw(tags); });
+    }
 }
 
 void Edits::writeNewHeader(TagWriter& writer) const
@@ -55,9 +61,13 @@ void Edits::write(TagWriter& writer) const
     const std::size_t first = m_file.firstTag();
     const Edit header{first, first, [this](TagWriter& out) { writeNewHeader(out); }};
     if (!m_newHeader.empty())
+    {
         inOrder.push_back(&header);
+    }
     for (const Edit& edit : m_edits)
+    {
         inOrder.push_back(&edit);
+    }
     // An insertion goes before a replacement that begins at the same place.
     std::ranges::stable_sort(inOrder, {},
                              [](const Edit* e) { return std::pair(e->begin, e->end); });
@@ -66,10 +76,14 @@ void Edits::write(TagWriter& writer) const
     for (const Edit* edit : inOrder)
     {
         if (edit->begin < done)
+        {
             throw std::logic_error("changes of a drawing file overlap");
+        }
         writer.raw(m_file.bytes().substr(done, edit->begin - done));
         if (edit->produce)
+        {
             edit->produce(writer);
+        }
         done = edit->end;
     }
     writer.raw(m_file.bytes().substr(done));
@@ -82,7 +96,9 @@ void Edits::writeChanges(TagWriter& writer) const
     {
         writer.raw(std::to_string(edit.begin) + '-' + std::to_string(edit.end) + '\n');
         if (edit.produce)
+        {
             edit.produce(writer);
+        }
     }
 }
 }  // namespace host::dxf

@@ -184,7 +184,9 @@ std::string emptyDrawing()
     std::string text;
     TagWriter writer([&text](std::string_view bytes) { text += bytes; }, TagStyle());
     for (const std::string_view tags : {header, tables, objects})
+    {
         writeTags(tags, writer);
+    }
     writer.flush();
     return text;
 }

@@ -8,15 +8,11 @@ namespace host::dxf
 namespace
 {
 constexpr Release releases[] = {
-    {"AC1009", "R12",   false, false, false},
-    {"AC1012", "R13",   true,  false, false},
-    {"AC1014", "R14",   true,  false, false},
-    {"AC1015", "R2000", true,  true,  false},
-    {"AC1018", "R2004", true,  true,  false},
-    {"AC1021", "R2007", true,  true,  true },
-    {"AC1024", "R2010", true,  true,  true },
-    {"AC1027", "R2013", true,  true,  true },
-    {"AC1032", "R2018", true,  true,  true },
+    {"AC1009", "R12", false, false, false}, {"AC1012", "R13", true, false, false},
+    {"AC1014", "R14", true, false, false},  {"AC1015", "R2000", true, true, false},
+    {"AC1018", "R2004", true, true, false}, {"AC1021", "R2007", true, true, true},
+    {"AC1024", "R2010", true, true, true},  {"AC1027", "R2013", true, true, true},
+    {"AC1032", "R2018", true, true, true},
 };
 }  // namespace
 

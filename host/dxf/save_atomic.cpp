@@ -24,7 +24,9 @@ void writeBinary(const TagStyle& style, const Producer& produce, const TagWriter
 void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::Drain& drain)
 {
     if (style.binaryCodeSize != 0)
+    {
         return writeBinary(style, produce, drain);
+    }
     TagWriter writer(drain, style);
     produce(writer);
     writer.flush();

@@ -18,6 +18,8 @@ namespace host::dxf
 inline void requireSaved(bool done, const std::string& path)
 {
     if (!done)
+    {
         failSaving(path, std::strerror(errno));
+    }
 }
 }  // namespace host::dxf

@@ -96,13 +96,11 @@ void put(Reals& reals, int code, const AcGePoint3d& point)
 
 Reals viewReals(const View& view)
 {
-    Reals reals = {
-        {12, view.centreX           },
-        {22, view.centreY           },
-        {40, view.height            },
-        {41, view.aspect            },
-        {51, view.twist * 180 / M_PI}
-    };
+    Reals reals = {{12, view.centreX},
+                   {22, view.centreY},
+                   {40, view.height},
+                   {41, view.aspect},
+                   {51, view.twist * 180 / M_PI}};
     put(reals, 16, asPoint(view.direction));
     put(reals, 17, view.target);
     return reals;
@@ -255,14 +253,22 @@ void saveVariables(Edits& edits, const FileSource& source, const DrawingState& s
                         [&, &value = value](TagWriter& writer)
                         {
                             if (const auto* number = std::get_if<int>(&value))
+                            {
                                 writer.integer(code, *number);
+                            }
                             else if (const auto* real = std::get_if<double>(&value))
+                            {
                                 writer.real(code, *real);
+                            }
                             else if (const auto* point = std::get_if<AcGePoint3d>(&value))
+                            {
                                 putPoint(code, *point, writer);
+                            }
                             else
+                            {
                                 writer.text(code,
                                             source.codePage.encode(std::get<std::wstring>(value)));
+                            }
                         });
     }
 }

@@ -81,8 +81,8 @@ struct Kind
 
 // In the order of a file.
 constexpr Kind kinds[] = {
-    {"LTYPE", "AcDbLinetypeTableRecord",  writeLinetype },
-    {"LAYER", "AcDbLayerTableRecord",     writeLayer    },
+    {"LTYPE", "AcDbLinetypeTableRecord", writeLinetype},
+    {"LAYER", "AcDbLayerTableRecord", writeLayer},
     {"STYLE", "AcDbTextStyleTableRecord", writeTextStyle},
 };
 

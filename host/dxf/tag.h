@@ -35,7 +35,9 @@ inline std::string_view trimmed(std::string_view value)
 {
     const std::size_t first = value.find_first_not_of(" \t");
     if (first == value.npos)
+    {
         return {};
+    }
     return value.substr(first, value.find_last_not_of(" \t") - first + 1);
 }
 
@@ -94,25 +96,29 @@ private:
 inline void Tags::Iterator::readTag()
 {
     if (m_at == m_end)
+    {
         return;
+    }
 
     const char* p = m_at;
     while (*p == ' ' || *p == '\t')
+    {
         ++p;
+    }
     int code = 0;
     for (; *p >= '0' && *p <= '9'; ++p)
+    {
         code = code * 10 + (*p - '0');
+    }
     while (*p++ != '\n')
     {
     }
     const char* lineEnd = static_cast<const char*>(std::memchr(p, '\n', m_end - p));
     const char* valueEnd = lineEnd > p && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
-    m_tag = {
-        code,
-        {p, static_cast<std::size_t>(valueEnd - p)},
-        static_cast<std::size_t>(m_at - m_file),
-        static_cast<std::size_t>(lineEnd + 1 - m_file),
-        m_line
-    };
+    m_tag = {code,
+             {p, static_cast<std::size_t>(valueEnd - p)},
+             static_cast<std::size_t>(m_at - m_file),
+             static_cast<std::size_t>(lineEnd + 1 - m_file),
+             m_line};
 }
 }  // namespace host::dxf

@@ -52,7 +52,9 @@ TagFile::TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t si
     : m_name(std::move(name)), m_bytes(std::move(bytes)), m_size(size)
 {
     if (isBinary(this->bytes()))
+    {
         takeAsciiForm();
+    }
     m_bytes[m_size] = '\n';
     TagFileScanner(*this, progress).scan();
 }
@@ -70,7 +72,9 @@ void TagFile::takeAsciiForm()
 std::string TagFile::place(std::uint32_t line) const
 {
     if (m_offsets.empty())
+    {
         return "line " + std::to_string(line);
+    }
     const std::size_t tag = std::min<std::size_t>((line - 1) / 2, m_offsets.size() - 1);
     return "offset " + std::to_string(m_offsets[tag]);
 }
@@ -106,9 +110,13 @@ Tag TagFile::handleTag(const Record& record) const
     for (const Tag& tag : tags(record))
     {
         if (tag.code == 102)
+        {
             inBraces = trimmed(tag.value).starts_with('{');
+        }
         else if (tag.code == code && !inBraces)
+        {
             return tag;
+        }
     }
     return {};
 }
@@ -116,7 +124,9 @@ Tag TagFile::handleTag(const Record& record) const
 std::string TagFile::repairs() const
 {
     if (m_repaired.empty())
+    {
         return {};
+    }
     const Tag first = handleTag(m_records[m_repaired.front()]);
     const std::size_t count = m_repaired.size();
     return m_name + ": " + place(first.line + 1) + ": the handle " + quoted(trimmed(first.value)) +
@@ -135,7 +145,9 @@ double TagFile::real(const Tag& tag) const
 {
     double number;
     if (!parse(tag.value, number) || !std::isfinite(number))
+    {
         refuseValue(tag, "a number");
+    }
     return number;
 }
 
@@ -143,7 +155,9 @@ std::int64_t TagFile::integer(const Tag& tag) const
 {
     std::int64_t number;
     if (!parse(tag.value, number))
+    {
         refuseValue(tag, "an integer");
+    }
     return number;
 }
 
@@ -151,7 +165,9 @@ std::uint64_t TagFile::handle(const Tag& tag) const
 {
     std::uint64_t number;
     if (trimmed(tag.value).size() > 16 || !parse(tag.value, number, 16))
+    {
         refuseValue(tag, "a handle of 1 to 16 hexadecimal digits");
+    }
     return number;
 }
 

@@ -49,22 +49,36 @@ inline int TagReader::readCode()
 {
     const char* at = m_next;
     if (at >= m_end)
+    {
         m_file.refuse(m_nextLine, "EOF", "the end of the file");
+    }
     while (isBlank(*at))
+    {
         ++at;
+    }
     const char* digits = at;
     int code = 0;
     for (; isDigit(*at) && code <= highestCode; ++at)
+    {
         code = code * 10 + (*at - '0');
+    }
     if (at == digits || code > highestCode)
+    {
         refuseLine();
+    }
     while (isBlank(*at))
+    {
         ++at;
+    }
     at += *at == '\r';
     if (*at != '\n')
+    {
         refuseLine();
+    }
     if (at + 1 >= m_end)
+    {
         m_file.refuse(m_nextLine + 1, "a value", "the end of the file");
+    }
     m_next = at + 1;
     return code;
 }
@@ -72,14 +86,17 @@ inline int TagReader::readCode()
 void TagReader::nextButComments()
 {
     do
+    {
         next();
-    while (m_tag.code == commentCode);
+    } while (m_tag.code == commentCode);
 }
 
 void TagReader::skipTo(int code)
 {
     while (m_tag.code != code)
+    {
         next();
+    }
 }
 
 std::string_view TagReader::rest() const
@@ -91,17 +108,16 @@ void TagReader::refuseLine() const
 {
     const char* end = std::find(m_next, m_end, '\n');
     end -= end > m_next && end[-1] == '\r';
-    const Tag line{
-        0, {m_next, end},
-         0, 0, m_nextLine - 1
-    };
+    const Tag line{0, {m_next, end}, 0, 0, m_nextLine - 1};
     m_file.refuseValue(line, "a group code from 0 to 1071");
 }
 
 void TagReader::refuse(std::string_view expected) const
 {
     if (m_tag.code == 0 || m_tag.code == 2)
+    {
         m_file.refuseValue(m_tag, expected);
+    }
     m_file.refuse(m_tag.line, expected, "group code " + std::to_string(m_tag.code));
 }
 }  // namespace host::dxf

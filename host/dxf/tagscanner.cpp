@@ -32,12 +32,16 @@ void TagFileScanner::scan()
     for (m_reader.nextButComments(); !m_reader.is("EOF"); m_reader.nextButComments())
     {
         if (!m_reader.is("SECTION"))
+        {
             m_reader.refuse("SECTION or EOF");
+        }
         readSection();
     }
     m_file.m_eofOffset = m_tag.begin;
     if (m_file.m_release == nullptr)
+    {
         m_file.m_release = findRelease(unstatedVersion);
+    }
     requireKnownCodePage();
     requireNothingAfterEof();
     findSharedHandles();
@@ -48,29 +52,45 @@ void TagFileScanner::refuseOtherFormats() const
 {
     const std::string_view bytes = m_file.bytes();
     if (bytes.empty() && m_file.style().binaryCodeSize == 0)
+    {
         m_file.refuse(1, "a DXF drawing", "an empty file");
+    }
     if (const std::string_view other = otherFormat(bytes); !other.empty())
+    {
         m_file.refuse(1, "a DXF drawing", std::string(other));
+    }
 }
 
 void TagFileScanner::readSection()
 {
     if (m_file.m_sections.empty())
+    {
         takeStyle();
+    }
     m_reader.nextButComments();
     const std::string_view name = trimmed(m_tag.value);
     if (m_tag.code != 2)
+    {
         m_reader.refuse("the section's name (group code 2)");
+    }
     if (!m_sectionNames.insert(name).second)
+    {
         m_reader.refuse("a section that was not there before");
+    }
     m_file.m_sections.push_back(
         {name, m_tag.end, 0, m_reader.nextLine(), m_file.m_records.size(), 0});
     if (name == "HEADER")
+    {
         readHeader();
+    }
     else if (holdsRecords(name))
+    {
         readRecords();
+    }
     else
+    {
         skipContents();
+    }
 
     Section& section = m_file.m_sections.back();
     section.end = m_tag.begin;
@@ -88,52 +108,72 @@ void TagFileScanner::readHeader()
             continue;
         }
         if (variables.empty())
+        {
             m_reader.refuse("a variable's name (group code 9)");
+        }
         variables.back().end = m_tag.end;
         readHeaderValue(variables.back().name);
     }
     if (!m_reader.is("ENDSEC"))
+    {
         m_reader.refuse("ENDSEC");
+    }
 }
 
 void TagFileScanner::readHeaderValue(std::string_view variable)
 {
     if (variable == "$ACADVER")
+    {
         takeVersion();
+    }
     else if (variable == "$DWGCODEPAGE")
+    {
         m_file.m_codePage = trimmed(m_tag.value);
+    }
     else if (70 <= m_tag.code && m_tag.code < 80 && m_tag.value.starts_with(' '))
+    {
         m_file.m_style.padIntegers = true;
+    }
 }
 
 void TagFileScanner::readRecords()
 {
     m_reader.nextButComments();
     if (m_tag.code != 0)
+    {
         m_reader.refuse("a record (group code 0)");
+    }
     constexpr std::size_t recordsBetween = 1 << 13;
     while (!m_reader.is("ENDSEC"))
     {
         readRecord();
         if (m_file.m_records.size() % recordsBetween == 0)
+        {
             tellProgress();
+        }
     }
 }
 
 void TagFileScanner::tellProgress() const
 {
     if (m_progress)
+    {
         m_progress(double(m_tag.begin) / double(m_file.m_size));
+    }
 }
 
 // From its first tag to the next record's, which is the current one afterwards.
 void TagFileScanner::readRecord()
 {
     if (m_reader.is("SECTION") || m_reader.is("EOF"))
+    {
         m_reader.refuse("ENDSEC");
+    }
     const std::string_view type = trimmed(m_tag.value);
     if (type.empty())
+    {
         m_reader.refuse("a record's type");
+    }
     Record record{m_tag.begin, 0, 0, m_tag.line, typeIndex(type)};
     record.handle = readHandle(type == "DIMSTYLE" ? 105 : 5);
     m_reader.skipTo(0);
@@ -151,25 +191,36 @@ std::uint64_t TagFileScanner::readHandle(int handleCode)
     for (m_reader.next(); m_tag.code != 0 && m_tag.code != 100; m_reader.next())
     {
         if (m_tag.code == 102)
+        {
             inBraces = trimmed(m_tag.value).starts_with('{');
+        }
         else if (m_tag.code == handleCode && !inBraces)
+        {
             break;
+        }
     }
     if (m_tag.code != handleCode)
+    {
         return 0;
+    }
     const std::uint64_t handle = trimmed(m_tag.value).empty() ? 0 : m_file.handle(m_tag);
     if (handle == 0)
+    {
         m_file.m_repaired.push_back(m_file.m_records.size());  // where the record will be
+    }
     return handle;
 }
 
 void TagFileScanner::skipContents()
 {
     do
+    {
         m_reader.next();
-    while (!m_reader.is("ENDSEC") && !m_reader.is("SECTION") && !m_reader.is("EOF"));
+    } while (!m_reader.is("ENDSEC") && !m_reader.is("SECTION") && !m_reader.is("EOF"));
     if (!m_reader.is("ENDSEC"))
+    {
         m_reader.refuse("ENDSEC");
+    }
 }
 
 // From the first tag of the first section, whose code has one digit.
@@ -187,13 +238,17 @@ void TagFileScanner::takeVersion()
 {
     m_file.m_release = findRelease(trimmed(m_tag.value));
     if (m_file.m_release == nullptr)
+    {
         m_file.refuseValue(m_tag, readableVersions);
+    }
 }
 
 void TagFileScanner::requireKnownCodePage() const
 {
     if (CodePage::isKnown(*m_file.m_release, m_file.m_codePage))
+    {
         return;
+    }
     const Tag tag = *m_file.tags(*m_file.header("$DWGCODEPAGE")).begin();
     m_file.refuseValue(tag, "a known code page");
 }
@@ -204,7 +259,9 @@ void TagFileScanner::requireNothingAfterEof() const
 {
     constexpr std::string_view blanks(" \t\r\n\x1a\0", 6);
     if (m_reader.rest().find_first_not_of(blanks) != std::string_view::npos)
+    {
         m_file.refuse(m_reader.nextLine(), "nothing after EOF", "more");
+    }
 }
 
 // Of records with one handle the first keeps it.
@@ -213,18 +270,26 @@ void TagFileScanner::findSharedHandles()
     std::vector<std::uint64_t> handles;
     handles.reserve(m_file.m_records.size());
     for (const Record& record : m_file.m_records)
+    {
         if (record.handle != 0)
+        {
             handles.push_back(record.handle);
+        }
+    }
     std::ranges::sort(handles);
     if (std::ranges::adjacent_find(handles) == handles.end())
+    {
         return;
+    }
 
     std::unordered_set<std::uint64_t> taken;
     for (std::size_t i = 0; i < m_file.m_records.size(); ++i)
     {
         const std::uint64_t handle = m_file.m_records[i].handle;
         if (handle != 0 && !taken.insert(handle).second)
+        {
             m_file.m_repaired.push_back(i);
+        }
     }
     std::ranges::sort(m_file.m_repaired);
 }
@@ -232,19 +297,27 @@ void TagFileScanner::findSharedHandles()
 void TagFileScanner::repairHandles()
 {
     if (m_file.m_highestHandle > UINT64_MAX - m_file.m_repaired.size())
+    {
         m_file.refuse(1, "handles that leave room for others", "one above all others");
+    }
     for (const std::size_t index : m_file.m_repaired)
+    {
         m_file.m_records[index].handle = ++m_file.m_highestHandle;
+    }
 }
 
 std::uint32_t TagFileScanner::typeIndex(std::string_view name)
 {
     if (name == m_lastType)
+    {
         return m_lastTypeIndex;
+    }
     const auto index = static_cast<std::uint32_t>(m_file.m_types.size());
     const auto [found, isNew] = m_typeIndexes.try_emplace(name, index);
     if (isNew)
+    {
         m_file.m_types.push_back(name);
+    }
     m_lastType = name;
     m_lastTypeIndex = found->second;
     return found->second;

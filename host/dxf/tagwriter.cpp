@@ -20,16 +20,22 @@ int integerWidth(int code)
 {
     const auto in = [code](int first, int last) { return first <= code && code <= last; };
     if (in(90, 99) || in(420, 429) || in(440, 459) || code == 1071)
+    {
         return 9;
+    }
     if (in(160, 169))
+    {
         return 18;
+    }
     return 6;
 }
 
 char* appendReal(char* at, double value)
 {
     if (!std::isfinite(value))
+    {
         throw std::domain_error("a number is not finite");
+    }
 
     const double magnitude = std::fabs(value);
     // Whole numbers are common in drawings and much faster as integers.
@@ -40,7 +46,9 @@ char* appendReal(char* at, double value)
     }
     // Within these bounds the digits are easier to read than an exponent and hardly longer.
     if (1e-5 <= magnitude && magnitude < 1e15)
+    {
         return std::to_chars(at, at + slack, value, std::chars_format::fixed).ptr;
+    }
     return std::to_chars(at, at + slack, value, std::chars_format::scientific).ptr;
 }
 // Eight digits at once, a byte of `digits` each: the upper half of the number goes to the upper
@@ -60,7 +68,9 @@ char* appendDigits(char* at, std::uint32_t value, int count)
 {
     std::uint64_t digits = eightDigits(value) << (64 - 8 * count);
     if constexpr (std::endian::native == std::endian::little)
+    {
         digits = __builtin_bswap64(digits);
+    }
     std::memcpy(at, &digits, sizeof digits);
     return at + count;
 }
@@ -70,7 +80,9 @@ char* appendHandle(char* at, std::uint64_t value)
 {
     const int count = (std::bit_width(value | 1) + 3) / 4;
     if (count <= 8) [[likely]]
+    {
         return appendDigits(at, std::uint32_t(value), count);
+    }
     at = appendDigits(at, std::uint32_t(value >> 32), count - 8);
     return appendDigits(at, std::uint32_t(value), 8);
 }
@@ -86,7 +98,9 @@ std::string realText(double value)
 inline void TagWriter::copy(std::string_view bytes)
 {
     if (m_full - m_at < static_cast<std::ptrdiff_t>(bytes.size()))
+    {
         return copyLong(bytes);
+    }
     std::memcpy(m_at, bytes.data(), bytes.size());
     m_at += bytes.size();
 }
@@ -96,7 +110,9 @@ inline char* TagWriter::appendKnownReal(char* at, double value)
     const auto bits = std::bit_cast<std::uint64_t>(value);
     RealText& known = m_realTexts[(bits * 0x9E3779B97F4A7C15u) >> (64 - realTextBits)];
     if (known.bits != bits)
+    {
         return appendNewReal(at, value, known);
+    }
     std::memcpy(at, known.text, sizeof known.text);
     return at + known.length;
 }
@@ -120,7 +136,9 @@ TagWriter::TagWriter(Drain drain, const TagStyle& style)
     {
         std::string line = std::to_string(code);
         if (line.size() < static_cast<std::size_t>(style.codeWidth))
+        {
             line.insert(0, style.codeWidth - line.size(), ' ');
+        }
         line += style.newline;
         std::copy(line.begin(), line.end(), m_codes[code].text);
         m_codes[code].length = line.size();
@@ -131,7 +149,9 @@ TagWriter::TagWriter(Drain drain, const TagStyle& style)
 void TagWriter::text(int code, std::string_view encoded)
 {
     if (encoded.find('\n') != encoded.npos)
+    {
         throw std::domain_error("a text has more than one line");
+    }
     m_at = begin(code);
     copy(encoded);
     end(m_at);
@@ -143,7 +163,9 @@ void TagWriter::integer(int code, std::int64_t value)
     const char* last = std::to_chars(digits, digits + sizeof digits, value).ptr;
     char* at = begin(code);
     for (auto width = last - digits; width < m_codes[code].integerWidth; ++width)
+    {
         *at++ = ' ';
+    }
     end(std::copy(static_cast<const char*>(digits), last, at));
 }
 
@@ -190,7 +212,9 @@ void TagWriter::record(const RecordForm& form, std::uint64_t handle, const doubl
 {
     copy(form.head);
     if (form.hasHandle)
+    {
         m_at = appendHandle(m_at, handle);
+    }
     copy(form.common);
     char* at = appendKnownReal(m_at, numbers[0]);
     for (int i = 0; i < 5; ++i)
@@ -217,14 +241,18 @@ void TagWriter::flush()
     const std::string_view filled(m_buffer.get(), m_at - m_buffer.get());
     m_at = m_buffer.get();
     if (!filled.empty())
+    {
         m_drain(filled);
+    }
 }
 
 // Where the value goes, with room for a number and the line ending.
 char* TagWriter::begin(int code)
 {
     if (m_full - m_at < static_cast<std::ptrdiff_t>(slack))
+    {
         flush();
+    }
     const CodeLine& line = m_codes.at(code);
     std::memcpy(m_at, line.text, sizeof line.text);
     return m_at + line.length;
@@ -240,7 +268,9 @@ void TagWriter::copyLong(std::string_view bytes)
 {
     flush();
     if (bytes.size() > bufferSize)
+    {
         return m_drain(bytes);
+    }
     m_at = std::copy(bytes.begin(), bytes.end(), m_at);
 }
 }  // namespace host::dxf

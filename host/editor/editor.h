@@ -64,8 +64,8 @@ public:
     std::optional<Meter> meter;
     bool quit = false;
     std::function<bool()> mayQuit{};  // asked by QUIT; left out: it may
-    int shownDialogs = 0;      // no prompt may be asked while there are any
-    int picksFromDialogs = 0;  // times that a dialog has stepped aside
+    int shownDialogs = 0;             // no prompt may be asked while there are any
+    int picksFromDialogs = 0;         // times that a dialog has stepped aside
 
     bool interactive() const { return m_frontEnd.interactive(); }
 

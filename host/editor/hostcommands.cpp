@@ -20,18 +20,18 @@ struct Row
 // Those without an undo marker change nothing that U could take back.
 const int helpFlags = ACRX_CMD_TRANSPARENT | ACRX_CMD_NO_UNDO_MARKER;
 const Row rows[] = {
-    {L"?",      helpFlags,               helpCommand,   L"the same as HELP"                             },
-    {L"ARX",    ACRX_CMD_NO_UNDO_MARKER, arxCommand,    L"loads or unloads a module"                    },
-    {L"DVIEW",  ACRX_CMD_NOPAPERSPACE,   dviewCommand,  L"twists the view"                              },
-    {L"HELP",   helpFlags,               helpCommand,   L"lists the commands"                           },
-    {L"PLAN",   ACRX_CMD_NOPAPERSPACE,   planCommand,   L"looks straight at a coordinate system's plane"},
-    {L"QUIT",   ACRX_CMD_NO_UNDO_MARKER, quitCommand,   L"ends the session"                             },
-    {L"REDO",   ACRX_CMD_NO_UNDO_MARKER, redoCommand,   L"does again what U has undone"                 },
-    {L"SETVAR", ACRX_CMD_TRANSPARENT,    setvarCommand,
-     L"shows or sets a variable, as its name alone does"                                                },
-    {L"U",      ACRX_CMD_NO_UNDO_MARKER, undoCommand,   L"undoes the last command"                      },
-    {L"UCS",    ACRX_CMD_MODAL,          ucsCommand,    L"sets the user coordinate system"              },
-    {L"VPOINT", ACRX_CMD_NOPAPERSPACE,   vpointCommand, L"sets the direction of view"                   },
+    {L"?", helpFlags, helpCommand, L"the same as HELP"},
+    {L"ARX", ACRX_CMD_NO_UNDO_MARKER, arxCommand, L"loads or unloads a module"},
+    {L"DVIEW", ACRX_CMD_NOPAPERSPACE, dviewCommand, L"twists the view"},
+    {L"HELP", helpFlags, helpCommand, L"lists the commands"},
+    {L"PLAN", ACRX_CMD_NOPAPERSPACE, planCommand, L"looks straight at a coordinate system's plane"},
+    {L"QUIT", ACRX_CMD_NO_UNDO_MARKER, quitCommand, L"ends the session"},
+    {L"REDO", ACRX_CMD_NO_UNDO_MARKER, redoCommand, L"does again what U has undone"},
+    {L"SETVAR", ACRX_CMD_TRANSPARENT, setvarCommand,
+     L"shows or sets a variable, as its name alone does"},
+    {L"U", ACRX_CMD_NO_UNDO_MARKER, undoCommand, L"undoes the last command"},
+    {L"UCS", ACRX_CMD_MODAL, ucsCommand, L"sets the user coordinate system"},
+    {L"VPOINT", ACRX_CMD_NOPAPERSPACE, vpointCommand, L"sets the direction of view"},
 };
 }  // namespace
 

@@ -27,20 +27,11 @@ Box boxOf(unsigned type)
     switch (type & 0xF)
     {
         case MB_OKCANCEL:
-            return {
-                {{L"OK", IDOK}, {L"Cancel", IDCANCEL}},
-                true
-            };
+            return {{{L"OK", IDOK}, {L"Cancel", IDCANCEL}}, true};
         case MB_YESNOCANCEL:
-            return {
-                {{L"Yes", IDYES}, {L"No", IDNO}, {L"Cancel", IDCANCEL}},
-                true
-            };
+            return {{{L"Yes", IDYES}, {L"No", IDNO}, {L"Cancel", IDCANCEL}}, true};
         case MB_YESNO:
-            return {
-                {{L"Yes", IDYES}, {L"No", IDNO}},
-                false
-            };
+            return {{{L"Yes", IDYES}, {L"No", IDNO}}, false};
         default:
             return {{{L"OK", IDOK}}, true};
     }

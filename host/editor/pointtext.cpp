@@ -77,12 +77,7 @@ Direction directionOf(double degrees)
     const double quarter = turn / 90;
     if (quarter == std::trunc(quarter))
     {
-        static const Direction exact[] = {
-            {1,  0 },
-            {0,  1 },
-            {-1, 0 },
-            {0,  -1}
-        };
+        static const Direction exact[] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
         return exact[(int(quarter) + 4) % 4];
     }
     const double radians = turn * std::numbers::pi / 180;

@@ -54,10 +54,7 @@ void turnAbout(int axis, double degrees)
 
 void askTurn(Editor& editor, wchar_t axis)
 {
-    const std::wstring prompt =
-        own(L"Specify rotation angle about %1 axis <90>: ", {
-                                                                {&axis, 1}
-    });
+    const std::wstring prompt = own(L"Specify rotation angle about %1 axis <90>: ", {{&axis, 1}});
     if (const std::optional<double> degrees = askDegrees(editor, prompt, 90))
     {
         turnAbout(axis - L'X', *degrees);

@@ -141,12 +141,10 @@ AcGeMatrix3d& AcGeMatrix3d::setTranslation(const AcGeVector3d& vector)
 AcGeMatrix3d& AcGeMatrix3d::setCoordSystem(const AcGePoint3d& origin, const AcGeVector3d& xAxis,
                                            const AcGeVector3d& yAxis, const AcGeVector3d& zAxis)
 {
-    const double rows[4][4] = {
-        {xAxis.x, yAxis.x, zAxis.x, origin.x},
-        {xAxis.y, yAxis.y, zAxis.y, origin.y},
-        {xAxis.z, yAxis.z, zAxis.z, origin.z},
-        {0,       0,       0,       1       }
-    };
+    const double rows[4][4] = {{xAxis.x, yAxis.x, zAxis.x, origin.x},
+                               {xAxis.y, yAxis.y, zAxis.y, origin.y},
+                               {xAxis.z, yAxis.z, zAxis.z, origin.z},
+                               {0, 0, 0, 1}};
     std::copy_n(&rows[0][0], 16, &entry[0][0]);
     return *this;
 }

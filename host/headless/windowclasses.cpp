@@ -12,12 +12,9 @@ namespace
 {
 // Nobody talks to list boxes and scroll bars yet: they lie in their dialog as a text does.
 const WindowClass controlClasses[] = {
-    {0x80, L"Button",    buttonMessage  },
-    {0x81, L"Edit",      editMessage    },
-    {0x82, L"Static",    anyMessage     },
-    {0x83, L"ListBox",   anyMessage     },
-    {0x84, L"ScrollBar", anyMessage     },
-    {0x85, L"ComboBox",  comboBoxMessage},
+    {0x80, L"Button", buttonMessage}, {0x81, L"Edit", editMessage},
+    {0x82, L"Static", anyMessage},    {0x83, L"ListBox", anyMessage},
+    {0x84, L"ScrollBar", anyMessage}, {0x85, L"ComboBox", comboBoxMessage},
 };
 }  // namespace
 

@@ -142,21 +142,14 @@ struct Kind
 };
 
 const Kind kinds[] = {
-    {"LINE",       drawLine         },
-    {"CIRCLE",     drawCircle       },
-    {"ARC",        drawArc          },
-    {"ELLIPSE",    drawEllipse      },
-    {"POINT",      drawPoint        },
-    {"SOLID",      drawSolid        },
-    {"TRACE",      drawSolid        },
-    {"3DFACE",     drawFace         },
-    {"SPLINE",     drawSpline       },
-    {"XLINE",      drawXline        },
-    {"RAY",        drawRay          },
-    {"LEADER",     drawLeader       },
-    {"MLINE",      drawMultiline    },
-    {"LWPOLYLINE", drawLightPolyline},
-    {"HATCH",      drawHatch        },
+    {"LINE", drawLine},       {"CIRCLE", drawCircle},
+    {"ARC", drawArc},         {"ELLIPSE", drawEllipse},
+    {"POINT", drawPoint},     {"SOLID", drawSolid},
+    {"TRACE", drawSolid},     {"3DFACE", drawFace},
+    {"SPLINE", drawSpline},   {"XLINE", drawXline},
+    {"RAY", drawRay},         {"LEADER", drawLeader},
+    {"MLINE", drawMultiline}, {"LWPOLYLINE", drawLightPolyline},
+    {"HATCH", drawHatch},
 };
 
 struct TextKind
@@ -166,10 +159,10 @@ struct TextKind
 };
 
 const TextKind textKinds[] = {
-    {"TEXT",   drawText               },
-    {"ATTRIB", drawText               },
+    {"TEXT", drawText},
+    {"ATTRIB", drawText},
     {"ATTDEF", drawAttributeDefinition},
-    {"MTEXT",  drawParagraphs         },
+    {"MTEXT", drawParagraphs},
 };
 }  // namespace
 

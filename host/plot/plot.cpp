@@ -20,8 +20,7 @@ using namespace plot;
 std::optional<FileKind> kindOf(const std::string& path)
 {
     const std::array<std::pair<const char*, FileKind>, 3> kinds{
-        {{".png", FileKind::png}, {".pdf", FileKind::pdf}, {".svg", FileKind::svg}}
-    };
+        {{".png", FileKind::png}, {".pdf", FileKind::pdf}, {".svg", FileKind::svg}}};
     std::string extension = pathOf(path).extension().string();
     for (char& letter : extension)
     {

@@ -143,10 +143,7 @@ void drawLightPolyline(const EntityTags& polyline, const Pen& pen)
     {
         if (tag.code == 10)
         {
-            vertices.push_back({
-                {polyline.real(tag), 0, elevation},
-                0, width, width
-            });
+            vertices.push_back({{polyline.real(tag), 0, elevation}, 0, width, width});
             continue;
         }
         if (vertices.empty())
@@ -190,12 +187,10 @@ void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertic
         }
         const AcGePoint3d point = vertex.point(10);
         points.push_back(point);
-        flat.push_back({
-            {point.x, point.y, elevation},
-            vertex.real(42),
-            vertex.real(40, startWidth),
-            vertex.real(41, endWidth)
-        });
+        flat.push_back({{point.x, point.y, elevation},
+                        vertex.real(42),
+                        vertex.real(40, startWidth),
+                        vertex.real(41, endWidth)});
     }
     const bool closed = (flags & closedFlag) != 0;
     if ((flags & meshFlag) != 0)

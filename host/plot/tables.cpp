@@ -40,9 +40,7 @@ OwnColor ownColor(int index, std::optional<int> rgb)
     if (rgb)
     {
         const auto part = [&](int shift) { return (*rgb >> shift & 255) / 255.0; };
-        return {
-            false, false, {part(16), part(8), part(0)}
-        };
+        return {false, false, {part(16), part(8), part(0)}};
     }
     return {index == 256, index == 0, indexColor(std::abs(index))};
 }

@@ -22,9 +22,7 @@ public:
 
 private:
     const std::map<std::wstring, AcRxObject*> m_entries{
-        {ACRX_DYNAMIC_LINKER,         &linker()      },
-        {L"ACAD_REGISTERED_COMMANDS", &commandStack()}
-    };
+        {ACRX_DYNAMIC_LINKER, &linker()}, {L"ACAD_REGISTERED_COMMANDS", &commandStack()}};
 };
 
 LCID theLocale = englishLocale;

@@ -41,28 +41,28 @@ struct AFX_MSGMAP
     const AFX_MSGMAP_ENTRY* entries;  // ended by a null handler
 };
 
-#define DECLARE_MESSAGE_MAP()                       \
-protected:                                          \
-    static const AFX_MSGMAP* GetThisMessageMap();   \
+#define DECLARE_MESSAGE_MAP()                     \
+protected:                                        \
+    static const AFX_MSGMAP* GetThisMessageMap(); \
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)               \
-    const AFX_MSGMAP* theClass::GetMessageMap() const        \
-    {                                                        \
-        return GetThisMessageMap();                          \
-    }                                                        \
-    const AFX_MSGMAP* theClass::GetThisMessageMap()          \
-    {                                                        \
-        const auto baseMap = &baseClass::GetThisMessageMap;  \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)              \
+    const AFX_MSGMAP* theClass::GetMessageMap() const       \
+    {                                                       \
+        return GetThisMessageMap();                         \
+    }                                                       \
+    const AFX_MSGMAP* theClass::GetThisMessageMap()         \
+    {                                                       \
+        const auto baseMap = &baseClass::GetThisMessageMap; \
         static const AFX_MSGMAP_ENTRY mapEntries[] = {
 #define ON_BN_CLICKED(id, handler) {BN_CLICKED, id, static_cast<AFX_PMSG>(handler)},
 
-#define END_MESSAGE_MAP()                                  \
-    {                                                      \
-        0, 0, nullptr                                      \
-    }                                                      \
-    }                                                      \
-    ;                                                      \
-    static const AFX_MSGMAP map = {baseMap, mapEntries};   \
-    return &map;                                           \
+#define END_MESSAGE_MAP()                                \
+    {                                                    \
+        0, 0, nullptr                                    \
+    }                                                    \
+    }                                                    \
+    ;                                                    \
+    static const AFX_MSGMAP map = {baseMap, mapEntries}; \
+    return &map;                                         \
     }

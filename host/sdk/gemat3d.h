@@ -11,15 +11,7 @@ class AcGePlane;
 class AcGeMatrix3d
 {
 public:
-    constexpr AcGeMatrix3d()
-        : entry{
-              {1, 0, 0, 0},
-              {0, 1, 0, 0},
-              {0, 0, 1, 0},
-              {0, 0, 0, 1}
-    }
-    {
-    }
+    constexpr AcGeMatrix3d() : entry{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}} {}
 
     static const AcGeMatrix3d kIdentity;
 

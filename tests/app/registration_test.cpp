@@ -146,12 +146,7 @@ TEST(LispTable, areNumberedByThePresentEntries)
     EXPECT_THAT(host.take(),
                 ElementsAre(L"acedUndef one 0", L"acedUndef two 1", L"acedUndef three 2"));
 
-    for (const auto& [code, called] : {
-             std::pair(0, 1), {1,  2},
-               {2,  3},
-               {3,  0},
-               {-1, 0}
-    })
+    for (const auto& [code, called] : {std::pair(0, 1), {1, 2}, {2, 3}, {3, 0}, {-1, 0}})
     {
         calledFunction = 0;
         host.functionCode = code;

@@ -13,9 +13,9 @@ TEST(Corners, makeARectangleOfWhateverTurn)
         AcGePoint3d first, other;  // [ucs]
     };
     const Row rows[] = {
-        {AcGePoint3d(10,  20,  0), AcGePoint3d(310, 220, 0)},
-        {AcGePoint3d(310, 220, 0), AcGePoint3d(10,  20,  0)},
-        {AcGePoint3d(10,  220, 0), AcGePoint3d(310, 20,  7)},
+        {AcGePoint3d(10, 20, 0), AcGePoint3d(310, 220, 0)},
+        {AcGePoint3d(310, 220, 0), AcGePoint3d(10, 20, 0)},
+        {AcGePoint3d(10, 220, 0), AcGePoint3d(310, 20, 7)},
     };
     for (const Row& row : rows)
     {

@@ -61,12 +61,7 @@ TEST(GridCommand, speaksRussianToTheRussianProductAlone)
         LCID locale;
         bool russian;
     };
-    for (const Row row : {
-             Row{0x0419, true },
-             {0x0409, false},
-             {0x0407, false},
-             {0xFFFE, false}
-    })
+    for (const Row row : {Row{0x0419, true}, {0x0409, false}, {0x0407, false}, {0xFFFE, false}})
     {
         ScriptedEditor editor;
         editor.locale = row.locale;
@@ -101,12 +96,12 @@ TEST(GridCommand, tellsTheSettingsAsLoaded)
     const Row rows[] = {
         {"",
          L"\n*** horizontal dist: 100.00; vertical dist: 100.00; color: 12; appearance: "
-         L"continuous line ***"                                                           },
-        {"[GRID]\nHorStep=1,005\nVertStep=-2\nColor=-3\nLookType=2\n", // only 1 means crosses
+         L"continuous line ***"},
+        {"[GRID]\nHorStep=1,005\nVertStep=-2\nColor=-3\nLookType=2\n",  // only 1 means crosses
          L"\n*** horizontal dist: 1.00; vertical dist: -2.00; color: -3; appearance: continuous "
          L"line ***"},
         {"[GRID]\nHorStep=\nVertStep=x\nLookType=1\ncrossSize=\n",
-         L"\n*** horizontal dist: " + largest                                             },
+         L"\n*** horizontal dist: " + largest},
     };
     for (const Row& row : rows)
     {
@@ -142,15 +137,15 @@ TEST(GridCommand, asksForTheFirstCornerUntilItGetsOneOrIsStopped)
         bool opensDialog = false;
     };
     const Row rows[] = {
-        {enter,         true               },
-        {text(RTKWORD,  L"x"),               true},
-        {text(RTKWORD,             L"S"),                     true, true},
-        {text(RTKWORD,         L"Settings"),    true, true},
-        {text(RTKWORD,  L"settings"), true},
-        {text(RTKWORD,         L""),                            true},
-        {code(RTREJ),true              },
-        {esc,  false        },
-        {code(RTERROR),             false                     },
+        {enter, true},
+        {text(RTKWORD, L"x"), true},
+        {text(RTKWORD, L"S"), true, true},
+        {text(RTKWORD, L"Settings"), true, true},
+        {text(RTKWORD, L"settings"), true},
+        {text(RTKWORD, L""), true},
+        {code(RTREJ), true},
+        {esc, false},
+        {code(RTERROR), false},
     };
     for (const Row& row : rows)
     {
@@ -265,12 +260,10 @@ TEST(GridCommand, onlyTheWholeKeywordOpensTheSettingsOfAGrid)
         bool opensDialog;
     };
     const Row rows[] = {
-        {L"S",        true },
-        {L"s",        false},
-        {L"Settings", false}, // its first letter is enough at the first corner alone
-        {L"S ",       false},
-        {L"",         false},
-        {L"AS",       false},
+        {L"S", true},         {L"s", false},
+        {L"Settings", false},  // its first letter is enough at the first corner alone
+        {L"S ", false},       {L"", false},
+        {L"AS", false},
     };
     for (const Row& row : rows)
     {
@@ -329,12 +322,7 @@ TEST(GridCommand, erasesTheOutlineOnAcceptanceOnlyWhenItIsTold)
         const char* delCont;
         int outlines;
     };
-    for (const Row row : {
-             Row{"0",  1},
-             {"1",  0},
-             {"2",  1},
-             {"-1", 1}
-    })
+    for (const Row row : {Row{"0", 1}, {"1", 0}, {"2", 1}, {"-1", 1}})
     {
         ScriptedEditor editor;
         editor.settings.write(std::string("[GRID]\nHorStep=10\nVertStep=10\ndelCont=") +
@@ -353,7 +341,7 @@ TEST(GridCommand, keepsTheGridWhenTheSettingsCannotBeSaved)
         const wchar_t* said;
     };
     const Row rows[] = {
-        {0x0409, L"***\n*** failed to save changes in options data"                                                                           },
+        {0x0409, L"***\n*** failed to save changes in options data"},
         {0x0419, L"***\n*** не получилось сохранить последние изменения в файле настроек"},
     };
     for (const Row& row : rows)
@@ -507,11 +495,9 @@ TEST(GridCommand, labelsAreDrawnInTheDrawingsTextStyle)
         const wchar_t* currentStyle;  // null: none
         const wchar_t* labelStyle;
     };
-    for (const Row& row : {
-             Row{L"Sheet", L"Sheet"   },
-             {L"",      L"Standard"}, // the record of a shape file has no name
-             {nullptr,  L"Standard"}
-    })
+    for (const Row& row : {Row{L"Sheet", L"Sheet"},
+                           {L"", L"Standard"},  // the record of a shape file has no name
+                           {nullptr, L"Standard"}})
     {
         ScriptedEditor editor;
         host::DatabaseCore& core = editor.database->core();

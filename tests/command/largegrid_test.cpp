@@ -21,17 +21,17 @@ const wchar_t* const horizontal = L"Large number of horizontal lines in grid. Pr
 const wchar_t* const both = L"Large number of vertical and horizontal lines in grid. Proceed?";
 
 const Question questions[] = {
-    {5100,  100,  100,    100,    horizontal}, // the width is said to be horizontal lines
-    {100,   5100, 100,    100,    vertical  },
-    {5100,  5100, 100,    100,    both      },
-    {5000,  5000, 100,    100,    nullptr   }, // exactly 50 is not many
-    {5001,  5000, 100,    100,    horizontal},
-    {5100,  100,  -100,   100,    horizontal},
-    {100,   100,  0,      100,    horizontal}, // no end of lines
-    {100,   100,  100,    0,      vertical  },
-    {0,     100,  0,      100,    nullptr   }, // no number at all
-    {0,     0,    0,      0,      nullptr   },
-    {1e300, 1e9,  notSet, notSet, nullptr   },
+    {5100, 100, 100, 100, horizontal},  // the width is said to be horizontal lines
+    {100, 5100, 100, 100, vertical},
+    {5100, 5100, 100, 100, both},
+    {5000, 5000, 100, 100, nullptr},  // exactly 50 is not many
+    {5001, 5000, 100, 100, horizontal},
+    {5100, 100, -100, 100, horizontal},
+    {100, 100, 0, 100, horizontal},  // no end of lines
+    {100, 100, 100, 0, vertical},
+    {0, 100, 0, 100, nullptr},  // no number at all
+    {0, 0, 0, 0, nullptr},
+    {1e300, 1e9, notSet, notSet, nullptr},
 };
 
 TEST(LargeGrid, isAskedAboutAboveFiftySteps)
@@ -66,8 +66,8 @@ TEST(LargeGrid, isAskedAboutInRussian)
         const wchar_t* asked;
     };
     const Row rows[] = {
-        {100,  5100, L"Большое количество вертикальных линий в сетке. Продолжить?"                    },
-        {5100, 100,  L"Большое количество горизонтальных линий в сетке. Продолжить?"                },
+        {100, 5100, L"Большое количество вертикальных линий в сетке. Продолжить?"},
+        {5100, 100, L"Большое количество горизонтальных линий в сетке. Продолжить?"},
         {5100, 5100,
          L"Большое количество вертикальных и горизонтальных линий в сетке. Продолжить?"},
     };

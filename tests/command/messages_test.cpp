@@ -14,13 +14,8 @@ TEST(Messages, areRussianForTheRussianProductWhateverTheCaseOfItsName)
         const wchar_t* settingsKeyword;
     };
     const Row rows[] = {
-        {L"ru-RU", L"\x041D"},
-        {L"RU-ru", L"\x041D"},
-        {L"ru-ru", L"\x041D"},
-        {L"en-US", L"S"     },
-        {L"ru",    L"S"     },
-        {L"ru-UA", L"S"     },
-        {L"",      L"S"     },
+        {L"ru-RU", L"\x041D"}, {L"RU-ru", L"\x041D"}, {L"ru-ru", L"\x041D"}, {L"en-US", L"S"},
+        {L"ru", L"S"},         {L"ru-UA", L"S"},      {L"", L"S"},
     };
     for (const Row& row : rows)
     {
@@ -34,11 +29,7 @@ TEST(Messages, areInTheLanguageOfTheProductAndInEnglishWhereItHasNone)
         LCID locale;
         const wchar_t* name;
     };
-    for (const Row row : {
-             Row{0x0419, L"ru-RU"},
-             {0x0407, L"de-DE"},
-             {0xFFFE, L"en-US"}
-    })
+    for (const Row row : {Row{0x0419, L"ru-RU"}, {0x0407, L"de-DE"}, {0xFFFE, L"en-US"}})
     {
         ScriptedEditor editor;
         editor.locale = row.locale;

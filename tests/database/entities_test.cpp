@@ -148,16 +148,16 @@ struct Meeting
 TEST(Intersection, ofALineWithAnOutlineGivesTheFarEndFirst)
 {
     const Meeting meetings[] = {
-        {{-1, 2, 0},  {5, 2, 0},  AcDb::kOnBothOperands, {{4, 2, 0}, {0, 2, 0}}, "right across"                },
-        {{5, 2, 0},   {-1, 2, 0}, AcDb::kOnBothOperands, {{0, 2, 0}, {4, 2, 0}}, "the other way"               },
-        {{1, 2, 0},   {5, 2, 0},  AcDb::kOnBothOperands, {{4, 2, 0}},            "from inside"                 },
-        {{1, 2, 0},   {3, 2, 0},  AcDb::kOnBothOperands, {},                     "wholly inside"               },
-        {{1, 2, 0},   {3, 2, 0},  AcDb::kExtendThis,     {{4, 2, 0}, {0, 2, 0}}, "carried on"                  },
-        {{1, 2, 0},   {3, 2, 0},  AcDb::kExtendArg,      {},                     "an outline is not carried on"},
-        {{-1, -1, 0}, {5, 5, 0},  AcDb::kOnBothOperands, {{4, 4, 0}, {0, 0, 0}}, "corners once"                },
-        {{0, -1, 0},  {0, 5, 0},  AcDb::kOnBothOperands, {{0, 4, 0}, {0, 0, 0}}, "along a side"                },
-        {{0, 2, 0},   {2, 2, 0},  AcDb::kOnBothOperands, {{0, 2, 0}},            "from the outline"            },
-        {{-1, 2, 1},  {5, 2, 1},  AcDb::kOnBothOperands, {},                     "above it"                    },
+        {{-1, 2, 0}, {5, 2, 0}, AcDb::kOnBothOperands, {{4, 2, 0}, {0, 2, 0}}, "right across"},
+        {{5, 2, 0}, {-1, 2, 0}, AcDb::kOnBothOperands, {{0, 2, 0}, {4, 2, 0}}, "the other way"},
+        {{1, 2, 0}, {5, 2, 0}, AcDb::kOnBothOperands, {{4, 2, 0}}, "from inside"},
+        {{1, 2, 0}, {3, 2, 0}, AcDb::kOnBothOperands, {}, "wholly inside"},
+        {{1, 2, 0}, {3, 2, 0}, AcDb::kExtendThis, {{4, 2, 0}, {0, 2, 0}}, "carried on"},
+        {{1, 2, 0}, {3, 2, 0}, AcDb::kExtendArg, {}, "an outline is not carried on"},
+        {{-1, -1, 0}, {5, 5, 0}, AcDb::kOnBothOperands, {{4, 4, 0}, {0, 0, 0}}, "corners once"},
+        {{0, -1, 0}, {0, 5, 0}, AcDb::kOnBothOperands, {{0, 4, 0}, {0, 0, 0}}, "along a side"},
+        {{0, 2, 0}, {2, 2, 0}, AcDb::kOnBothOperands, {{0, 2, 0}}, "from the outline"},
+        {{-1, 2, 1}, {5, 2, 1}, AcDb::kOnBothOperands, {}, "above it"},
     };
     const auto outline = closedSquare(4);
     for (const Meeting& meeting : meetings)
@@ -191,12 +191,10 @@ TEST(Intersection, ofTwoLines)
     {
         AcDb::Intersect type;
         int count;
-    } rows[] = {
-        {AcDb::kOnBothOperands, 0},
-        {AcDb::kExtendThis,     0},
-        {AcDb::kExtendArg,      0},
-        {AcDb::kExtendBoth,     1}
-    };
+    } rows[] = {{AcDb::kOnBothOperands, 0},
+                {AcDb::kExtendThis, 0},
+                {AcDb::kExtendArg, 0},
+                {AcDb::kExtendBoth, 1}};
     for (const auto& row : rows)
     {
         AcGePoint3dArray points;
@@ -299,14 +297,8 @@ TEST(MPolygon, tellsInsideFromOutside)
         AcGePoint3d point;
         int loops;
     } rows[] = {
-        {{2, 2, 0},       1},
-        {{5, 2, 0},       0},
-        {{-1, 4, 0},      0},
-        {{-1, 0, 0},      0},
-        {{2, 2, 1},       0},
-        {{4, 2, 0},       1},
-        {{0, 0, 0},       1},
-        {{4.00001, 2, 0}, 0},
+        {{2, 2, 0}, 1}, {{5, 2, 0}, 0}, {{-1, 4, 0}, 0}, {{-1, 0, 0}, 0},
+        {{2, 2, 1}, 0}, {{4, 2, 0}, 1}, {{0, 0, 0}, 1},  {{4.00001, 2, 0}, 0},
     };
     for (const auto& row : rows)
     {
@@ -351,15 +343,15 @@ AcDbEntity* textAt(double x, double height, double rotation)
 
 const Unfit unfit[] = {
     {"a line's start",
-     [] { return static_cast<AcDbEntity*>(new AcDbLine(AcGePoint3d(0, NAN, 0), AcGePoint3d())); }                   },
-    {"a line's end",              []
+     [] { return static_cast<AcDbEntity*>(new AcDbLine(AcGePoint3d(0, NAN, 0), AcGePoint3d())); }},
+    {"a line's end", []
      { return static_cast<AcDbEntity*>(new AcDbLine(AcGePoint3d(), AcGePoint3d(0, 0, -huge))); }},
-    {"a text's place",            [] { return textAt(huge, 1, 0); }                                                 },
-    {"a text's height",           [] { return textAt(0, NAN, 0); }                                                  },
-    {"a text's rotation",         [] { return textAt(0, 1, huge); }                                                 },
-    {"a rotation beyond degrees", [] { return textAt(0, 1, 1e308); }                                                },
-    {"a polyline's elevation",    [] { return polylineAt(NAN, 0); }                                                 },
-    {"a polyline's width",        [] { return polylineAt(0, huge); }                                                },
+    {"a text's place", [] { return textAt(huge, 1, 0); }},
+    {"a text's height", [] { return textAt(0, NAN, 0); }},
+    {"a text's rotation", [] { return textAt(0, 1, huge); }},
+    {"a rotation beyond degrees", [] { return textAt(0, 1, 1e308); }},
+    {"a polyline's elevation", [] { return polylineAt(NAN, 0); }},
+    {"a polyline's width", [] { return polylineAt(0, huge); }},
 };
 
 TEST(Block, anEntityWithANumberThatIsNotFiniteIsRefusedWhole)

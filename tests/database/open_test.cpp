@@ -50,24 +50,24 @@ private:
 };
 
 const Step steps[] = {
-    {"r",     Acad::eOk                },
-    {"w",     Acad::eOk                },
-    {"rr",    Acad::eOk                },
-    {"rw",    Acad::eWasOpenForRead    },
-    {"wr",    Acad::eWasOpenForWrite   },
-    {"ww",    Acad::eWasOpenForWrite   },
-    {"ru",    Acad::eOk                },
-    {"rru",   Acad::eHadMultipleReaders},
-    {"rruc",  Acad::eOk                }, // a refused upgrade leaves both readers
-    {"rrucc", Acad::eOk                },
-    {"rrcu",  Acad::eOk                },
-    {"wu",    Acad::eWasOpenForWrite   },
-    {"wd",    Acad::eOk                },
-    {"wdr",   Acad::eOk                }, // a second reader beside the downgraded one
-    {"wdw",   Acad::eWasOpenForRead    },
-    {"rd",    Acad::eWasOpenForRead    },
-    {"rcw",   Acad::eOk                },
-    {"wcwcr", Acad::eOk                },
+    {"r", Acad::eOk},
+    {"w", Acad::eOk},
+    {"rr", Acad::eOk},
+    {"rw", Acad::eWasOpenForRead},
+    {"wr", Acad::eWasOpenForWrite},
+    {"ww", Acad::eWasOpenForWrite},
+    {"ru", Acad::eOk},
+    {"rru", Acad::eHadMultipleReaders},
+    {"rruc", Acad::eOk},  // a refused upgrade leaves both readers
+    {"rrucc", Acad::eOk},
+    {"rrcu", Acad::eOk},
+    {"wu", Acad::eWasOpenForWrite},
+    {"wd", Acad::eOk},
+    {"wdr", Acad::eOk},  // a second reader beside the downgraded one
+    {"wdw", Acad::eWasOpenForRead},
+    {"rd", Acad::eWasOpenForRead},
+    {"rcw", Acad::eOk},
+    {"wcwcr", Acad::eOk},
 };
 
 TEST(Open, eachWayToOpenMeetsTheOthersWithItsStatus)

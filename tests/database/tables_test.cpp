@@ -99,11 +99,9 @@ TEST(SymbolTables, theIteratorSkipsErasedRecords)
         std::vector<std::wstring> left;
     };
     const Row rows[] = {
-        {{L"Standard"},                  {L"B", L"A", L""}       },
-        {{L"A"},                         {L"Standard", L"B", L""}},
-        {{L"B", L"A"},                   {L"Standard", L""}      },
-        {{L"A", L""},                    {L"Standard", L"B"}     },
-        {{L"Standard", L"B", L"A", L""}, {}                      },
+        {{L"Standard"}, {L"B", L"A", L""}},   {{L"A"}, {L"Standard", L"B", L""}},
+        {{L"B", L"A"}, {L"Standard", L""}},   {{L"A", L""}, {L"Standard", L"B"}},
+        {{L"Standard", L"B", L"A", L""}, {}},
     };
     for (const Row& row : rows)
     {

@@ -22,16 +22,16 @@ struct Loading
 };
 
 const Loading loadings[] = {
-    {nullptr,     L"PICK_IMG|Pick a step", Panel::pick, TRUE,  L"Pick a step"  },
-    {nullptr,     L"pick_img|Pick|again",  Panel::pick, TRUE,  L"Pick|again"   }, // the first bar
-    {nullptr,     L"PICK_IMG|",            Panel::pick, TRUE,  L""             },
-    {nullptr,     L"OTHER|Pick",           Panel::pick, FALSE, L"Pick"         },
-    {nullptr,     L"|Pick",                Panel::pick, FALSE, L"Pick"         },
-    {nullptr,     L"PICK_IMG",             Panel::pick, FALSE, L"PICK_IMG"     },
-    {nullptr,     L"",                     Panel::pick, FALSE, L""             },
-    {L"PICK_IMG", L"A|B",                  Panel::pick, TRUE,  L"A|B"          },
-    {L"OTHER",    L"PICK_IMG|Pick",        Panel::pick, FALSE, L"PICK_IMG|Pick"},
-    {L"PICK_IMG", L"OK",                   IDOK,        FALSE, L"OK"           }, // it draws itself
+    {nullptr, L"PICK_IMG|Pick a step", Panel::pick, TRUE, L"Pick a step"},
+    {nullptr, L"pick_img|Pick|again", Panel::pick, TRUE, L"Pick|again"},  // the first bar
+    {nullptr, L"PICK_IMG|", Panel::pick, TRUE, L""},
+    {nullptr, L"OTHER|Pick", Panel::pick, FALSE, L"Pick"},
+    {nullptr, L"|Pick", Panel::pick, FALSE, L"Pick"},
+    {nullptr, L"PICK_IMG", Panel::pick, FALSE, L"PICK_IMG"},
+    {nullptr, L"", Panel::pick, FALSE, L""},
+    {L"PICK_IMG", L"A|B", Panel::pick, TRUE, L"A|B"},
+    {L"OTHER", L"PICK_IMG|Pick", Panel::pick, FALSE, L"PICK_IMG|Pick"},
+    {L"PICK_IMG", L"OK", IDOK, FALSE, L"OK"},  // it draws itself
 };
 
 TEST(BitmapButtons, loadTheirPictureByName)

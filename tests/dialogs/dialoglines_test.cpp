@@ -36,15 +36,11 @@ struct Typed
 };
 
 const Typed edits[] = {
-    {"set 11 5",        L"5"       },
-    {"SET 11 5",        L"5"       },
-    {"\t set   11 5 ",  L"5 "      }, // one blank after the number belongs to the line
-    {"set 11  a  b",    L" a  b"   },
-    {"set 11 \"1 2\"",  L"\"1 2\"" },
-    {"set 11 шаг",   L"шаг"  },
-    {"set 11 set 11 5", L"set 11 5"},
-    {"set 11 ",         L""        },
-    {"set 11",          L""        },
+    {"set 11 5", L"5"},         {"SET 11 5", L"5"},
+    {"\t set   11 5 ", L"5 "},  // one blank after the number belongs to the line
+    {"set 11  a  b", L" a  b"}, {"set 11 \"1 2\"", L"\"1 2\""},
+    {"set 11 шаг", L"шаг"},     {"set 11 set 11 5", L"set 11 5"},
+    {"set 11 ", L""},           {"set 11", L""},
 };
 
 TEST(DialogLines, anEditTakesTheRestOfTheLineAsItStands)
@@ -70,19 +66,19 @@ struct Clicked
 
 // "Lines" is checked to begin with.
 const Clicked clicks[] = {
-    {{"click 12"},                      {"12 0"},         true,  false, false},
-    {{"click 22"},                      {"22 0"},         false, true,  false},
-    {{"click 21"},                      {"21 0"},         true,  false, false}, // all the same
-    {{"click 23"},                      {"23 0"},         true,  false, true },
-    {{"click 23", "click 23"},          {"23 0", "23 0"}, true,  false, false},
-    {{"check 23 on"},                   {"23 0"},         true,  false, true },
-    {{"check 23 off"},                  {},               true,  false, false},
-    {{"check 23 on", "check 23 on"},    {"23 0"},         true,  false, true },
-    {{"check 23 on", "CHECK 23  OFF "}, {"23 0", "23 0"}, true,  false, false},
-    {{"check 22 on"},                   {"22 0"},         false, true,  false},
-    {{"check 22 off"},                  {},               true,  false, false},
-    {{"check 21 on"},                   {},               true,  false, false}, // it is on already
-    {{"check 22 on", "check 21 on"},    {"22 0", "21 0"}, true,  false, false},
+    {{"click 12"}, {"12 0"}, true, false, false},
+    {{"click 22"}, {"22 0"}, false, true, false},
+    {{"click 21"}, {"21 0"}, true, false, false},  // all the same
+    {{"click 23"}, {"23 0"}, true, false, true},
+    {{"click 23", "click 23"}, {"23 0", "23 0"}, true, false, false},
+    {{"check 23 on"}, {"23 0"}, true, false, true},
+    {{"check 23 off"}, {}, true, false, false},
+    {{"check 23 on", "check 23 on"}, {"23 0"}, true, false, true},
+    {{"check 23 on", "CHECK 23  OFF "}, {"23 0", "23 0"}, true, false, false},
+    {{"check 22 on"}, {"22 0"}, false, true, false},
+    {{"check 22 off"}, {}, true, false, false},
+    {{"check 21 on"}, {}, true, false, false},  // it is on already
+    {{"check 22 on", "check 21 on"}, {"22 0", "21 0"}, true, false, false},
 };
 
 TEST(DialogLines, buttonsAreClickedAsByAHand)
@@ -110,16 +106,16 @@ struct Chosen
 };
 
 const Chosen choices[] = {
-    {"select 30 Notes",       1, "30 1"},
-    {"select 30 NOTES",       1, "30 1"},
+    {"select 30 Notes", 1, "30 1"},
+    {"select 30 NOTES", 1, "30 1"},
     {"Select 30  two words ", 2, "30 1"},
-    {"select 30 #0",          0, "30 1"},
-    {"select 30 # 2",         2, "30 1"},
-    {"select 31 cyan",        5, "31 1"},
-    {"color 31 3",            4, "31 1"},
-    {"color 31 0",            1, "31 1"},
-    {"color 31 256",          0, "31 1"},
-    {"color 31 255",          0, "31 1"}, // joins the recent ones
+    {"select 30 #0", 0, "30 1"},
+    {"select 30 # 2", 2, "30 1"},
+    {"select 31 cyan", 5, "31 1"},
+    {"color 31 3", 4, "31 1"},
+    {"color 31 0", 1, "31 1"},
+    {"color 31 256", 0, "31 1"},
+    {"color 31 255", 0, "31 1"},  // joins the recent ones
 };
 
 TEST(DialogLines, anItemIsChosenAndTheDialogIsTold)
@@ -143,38 +139,38 @@ struct Wrong
 
 // 50 is hidden.
 const Wrong wrongs[] = {
-    {"set",             "Say which control: set ID"                                            },
-    {"click ",          "Say which control: click ID"                                          },
-    {"set 999 5",       "There is no control 999 in this dialog."                              },
-    {"set -1 5",        "There is no control -1 in this dialog."                               },
-    {"set abc 5",       "There is no control abc in this dialog."                              },
-    {"set 11.0 5",      "There is no control 11.0 in this dialog."                             },
-    {"set 99999999999", "There is no control 99999999999 in this dialog."                      },
-    {"set 65547 5",     "There is no control 65547 in this dialog."                            },
-    {"set 10 5",        "Control 10 is a label, which does not take set."                      },
-    {"set 30 5",        "Control 30 is a combo, which does not take set."                      },
-    {"click 11",        "Control 11 is an edit, which does not take click."                    },
-    {"click 20",        "Control 20 is a group, which does not take click."                    },
-    {"click 41",        "Control 41 is a line, which does not take click."                     },
-    {"check 12 on",     "Control 12 is a button, which does not take check."                   },
-    {"select 11 5",     "Control 11 is an edit, which does not take select."                   },
-    {"COLOR 23 5",      "Control 23 is a check, which does not take color."                    },
-    {"set 14 5",        "Control 14 is disabled."                                              },
-    {"click 50",        "Control 50 is disabled."                                              },
-    {"check 23",        "Say on or off: check 23 on"                                           },
-    {"check 23 maybe",  "Say on or off: check 23 on"                                           },
-    {"check 21 off",    "Control 21 goes off only when another button of its group is clicked."},
-    {"select 30",       "Control 30 has no item \"\"."                                         },
-    {"select 30 Note",  "Control 30 has no item \"Note\"."                                     },
-    {"select 30 #3",    "Control 30 has no item #3."                                           },
-    {"select 30 #-1",   "Control 30 has no item #-1."                                          },
-    {"select 30 #",     "Control 30 has no item #."                                            },
-    {"select 30 #two",  "Control 30 has no item #two."                                         },
-    {"color 30 5",      "Control 30 is no list of colours."                                    },
-    {"color 31 257",    "Control 31 has no item for the colour \"257\"."                       },
-    {"color 31 -1",     "Control 31 has no item for the colour \"-1\"."                        },
-    {"color 31 red",    "Control 31 has no item for the colour \"red\"."                       },
-    {"color 31",        "Control 31 has no item for the colour \"\"."                          },
+    {"set", "Say which control: set ID"},
+    {"click ", "Say which control: click ID"},
+    {"set 999 5", "There is no control 999 in this dialog."},
+    {"set -1 5", "There is no control -1 in this dialog."},
+    {"set abc 5", "There is no control abc in this dialog."},
+    {"set 11.0 5", "There is no control 11.0 in this dialog."},
+    {"set 99999999999", "There is no control 99999999999 in this dialog."},
+    {"set 65547 5", "There is no control 65547 in this dialog."},
+    {"set 10 5", "Control 10 is a label, which does not take set."},
+    {"set 30 5", "Control 30 is a combo, which does not take set."},
+    {"click 11", "Control 11 is an edit, which does not take click."},
+    {"click 20", "Control 20 is a group, which does not take click."},
+    {"click 41", "Control 41 is a line, which does not take click."},
+    {"check 12 on", "Control 12 is a button, which does not take check."},
+    {"select 11 5", "Control 11 is an edit, which does not take select."},
+    {"COLOR 23 5", "Control 23 is a check, which does not take color."},
+    {"set 14 5", "Control 14 is disabled."},
+    {"click 50", "Control 50 is disabled."},
+    {"check 23", "Say on or off: check 23 on"},
+    {"check 23 maybe", "Say on or off: check 23 on"},
+    {"check 21 off", "Control 21 goes off only when another button of its group is clicked."},
+    {"select 30", "Control 30 has no item \"\"."},
+    {"select 30 Note", "Control 30 has no item \"Note\"."},
+    {"select 30 #3", "Control 30 has no item #3."},
+    {"select 30 #-1", "Control 30 has no item #-1."},
+    {"select 30 #", "Control 30 has no item #."},
+    {"select 30 #two", "Control 30 has no item #two."},
+    {"color 30 5", "Control 30 is no list of colours."},
+    {"color 31 257", "Control 31 has no item for the colour \"257\"."},
+    {"color 31 -1", "Control 31 has no item for the colour \"-1\"."},
+    {"color 31 red", "Control 31 has no item for the colour \"red\"."},
+    {"color 31", "Control 31 has no item for the colour \"\"."},
 };
 
 TEST(DialogLines, aWrongLineIsToldAndChangesNothing)

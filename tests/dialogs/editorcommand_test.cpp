@@ -119,10 +119,10 @@ struct Prompt
 };
 
 const Prompt prompts[] = {
-    {"acedGetPoint",  askPoint   },
-    {"acedGetCorner", askCorner  },
-    {"acedGetDist",   askDistance},
-    {"acedGetKword",  askKeyword },
+    {"acedGetPoint", askPoint},
+    {"acedGetCorner", askCorner},
+    {"acedGetDist", askDistance},
+    {"acedGetKword", askKeyword},
 };
 
 TEST(EditorCommandsInDialogs, aPromptUnderAShownDialogIsABreachThatNamesIt)
@@ -168,16 +168,16 @@ struct Fault
 };
 
 const Fault faults[] = {
-    {"bb",  "BeginEditorCommand: called again before CompleteEditorCommand"},
-    {"c",   std::string("Complete") + notBegun                             },
-    {"bcc", std::string("Complete") + notBegun                             },
-    {"x",   std::string("Cancel") + notBegun                               },
-    {"bxx", std::string("Cancel") + notBegun                               },
-    {"b",   began                                                          },
-    {"be",  began                                                          },
-    {"bd",  "DestroyWindow: a dialog that is shown ends with EndDialog"    },
-    {"bde", "DestroyWindow: a dialog that is shown ends with EndDialog"    },
-    {"bf",  "CDialog::DoModal: the dialog is hidden"                       },
+    {"bb", "BeginEditorCommand: called again before CompleteEditorCommand"},
+    {"c", std::string("Complete") + notBegun},
+    {"bcc", std::string("Complete") + notBegun},
+    {"x", std::string("Cancel") + notBegun},
+    {"bxx", std::string("Cancel") + notBegun},
+    {"b", began},
+    {"be", began},
+    {"bd", "DestroyWindow: a dialog that is shown ends with EndDialog"},
+    {"bde", "DestroyWindow: a dialog that is shown ends with EndDialog"},
+    {"bf", "CDialog::DoModal: the dialog is hidden"},
 };
 
 void step(Panel& panel, char name)

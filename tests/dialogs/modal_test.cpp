@@ -41,12 +41,12 @@ struct Way
 };
 
 const Way waysOut[] = {
-    {"",        IDOK    },
-    {"  ",      IDOK    },
-    {"click 1", IDOK    },
-    {"^C",      IDCANCEL},
+    {"", IDOK},
+    {"  ", IDOK},
+    {"click 1", IDOK},
+    {"^C", IDCANCEL},
     {"click 2", IDCANCEL},
-    {"close",   IDCANCEL},
+    {"close", IDCANCEL},
     {" CLOSE ", IDCANCEL},
 };
 

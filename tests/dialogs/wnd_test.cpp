@@ -61,12 +61,10 @@ struct Telling
 };
 
 const Telling tellings[] = {
-    {10,   BN_CLICKED, "plain 10;", "special 10;"}, // a class is asked before its base
-    {11,   BN_CLICKED, "plain 11;", "plain 11;"  }, // the first entry of a map is taken
-    {12,   BN_CLICKED, "",          "special 12;"},
-    {13,   BN_CLICKED, "",          ""           },
-    {10,   EN_CHANGE,  "",          ""           },
-    {IDOK, BN_CLICKED, "plain OK;", "plain OK;"  }, // by CDialog's own map
+    {10, BN_CLICKED, "plain 10;", "special 10;"},  // a class is asked before its base
+    {11, BN_CLICKED, "plain 11;", "plain 11;"},    // the first entry of a map is taken
+    {12, BN_CLICKED, "", "special 12;"},          {13, BN_CLICKED, "", ""}, {10, EN_CHANGE, "", ""},
+    {IDOK, BN_CLICKED, "plain OK;", "plain OK;"},  // by CDialog's own map
 };
 
 TEST(MessageMaps, goFromTheClassToItsRoot)
@@ -232,35 +230,35 @@ struct Call
 };
 
 const Call callsForAWindow[] = {
-    {"CWnd::GetDlgItem",               [](Panel& p) { p.GetDlgItem(1); }                    },
-    {"CWnd::SetWindowText",            [](Panel& p) { p.SetWindowText(L""); }               },
-    {"CWnd::GetWindowText",            [](Panel& p) { p.GetWindowText(aText); }             },
-    {"CWnd::SetDlgItemText",           [](Panel& p) { p.SetDlgItemText(1, L""); }           },
-    {"CWnd::GetDlgItemText",           [](Panel& p) { p.GetDlgItemText(1, aText); }         },
-    {"CWnd::EnableWindow",             [](Panel& p) { p.EnableWindow(); }                   },
-    {"CWnd::IsWindowEnabled",          [](Panel& p) { p.IsWindowEnabled(); }                },
-    {"CWnd::ShowWindow",               [](Panel& p) { p.ShowWindow(SW_SHOW); }              },
-    {"CWnd::IsWindowVisible",          [](Panel& p) { p.IsWindowVisible(); }                },
-    {"CWnd::SendMessage",              [](Panel& p) { p.SendMessage(WM_CLOSE); }            },
-    {"CWnd::SendDlgItemMessage",       [](Panel& p) { p.SendDlgItemMessage(1, BM_CLICK); }  },
-    {"CWnd::CheckDlgButton",           [](Panel& p) { p.CheckDlgButton(1, 1); }             },
-    {"CWnd::IsDlgButtonChecked",       [](Panel& p) { p.IsDlgButtonChecked(1); }            },
-    {"CWnd::CheckRadioButton",         [](Panel& p) { p.CheckRadioButton(1, 2, 1); }        },
-    {"CWnd::UpdateData",               [](Panel& p) { p.UpdateData(FALSE); }                },
-    {"CDialog::EndDialog",             [](Panel& p) { p.EndDialog(IDOK); }                  },
-    {"BeginEditorCommand",             [](Panel& p) { p.BeginEditorCommand(); }             },
-    {"CComboBox::GetCount",            [](Panel& p) { p.styles.GetCount(); }                },
-    {"CComboBox::GetCurSel",           [](Panel& p) { p.colors.GetCurrentItemColorIndex(); }},
-    {"CComboBox::SetCurSel",           [](Panel& p) { p.styles.SetCurSel(0); }              },
-    {"CComboBox::AddString",           [](Panel& p) { p.styles.AddString(L""); }            },
-    {"CComboBox::InsertString",        [](Panel& p) { p.styles.InsertString(0, L""); }      },
-    {"CComboBox::DeleteString",        [](Panel& p) { p.styles.DeleteString(0); }           },
-    {"CComboBox::ResetContent",        [](Panel& p) { p.styles.ResetContent(); }            },
-    {"CComboBox::FindStringExact",     [](Panel& p) { p.styles.FindStringExact(-1, L""); }  },
-    {"CComboBox::GetLBText",           [](Panel& p) { p.styles.GetLBText(0, aText); }       },
-    {"CComboBox::GetItemData",         [](Panel& p) { p.styles.GetItemData(0); }            },
-    {"CComboBox::SetItemData",         [](Panel& p) { p.styles.SetItemData(0, 0); }         },
-    {"CAdUiOwnerDrawButton::AutoLoad", [](Panel&) { CAdUiBitmapButton(L"A").AutoLoad(); }   },
+    {"CWnd::GetDlgItem", [](Panel& p) { p.GetDlgItem(1); }},
+    {"CWnd::SetWindowText", [](Panel& p) { p.SetWindowText(L""); }},
+    {"CWnd::GetWindowText", [](Panel& p) { p.GetWindowText(aText); }},
+    {"CWnd::SetDlgItemText", [](Panel& p) { p.SetDlgItemText(1, L""); }},
+    {"CWnd::GetDlgItemText", [](Panel& p) { p.GetDlgItemText(1, aText); }},
+    {"CWnd::EnableWindow", [](Panel& p) { p.EnableWindow(); }},
+    {"CWnd::IsWindowEnabled", [](Panel& p) { p.IsWindowEnabled(); }},
+    {"CWnd::ShowWindow", [](Panel& p) { p.ShowWindow(SW_SHOW); }},
+    {"CWnd::IsWindowVisible", [](Panel& p) { p.IsWindowVisible(); }},
+    {"CWnd::SendMessage", [](Panel& p) { p.SendMessage(WM_CLOSE); }},
+    {"CWnd::SendDlgItemMessage", [](Panel& p) { p.SendDlgItemMessage(1, BM_CLICK); }},
+    {"CWnd::CheckDlgButton", [](Panel& p) { p.CheckDlgButton(1, 1); }},
+    {"CWnd::IsDlgButtonChecked", [](Panel& p) { p.IsDlgButtonChecked(1); }},
+    {"CWnd::CheckRadioButton", [](Panel& p) { p.CheckRadioButton(1, 2, 1); }},
+    {"CWnd::UpdateData", [](Panel& p) { p.UpdateData(FALSE); }},
+    {"CDialog::EndDialog", [](Panel& p) { p.EndDialog(IDOK); }},
+    {"BeginEditorCommand", [](Panel& p) { p.BeginEditorCommand(); }},
+    {"CComboBox::GetCount", [](Panel& p) { p.styles.GetCount(); }},
+    {"CComboBox::GetCurSel", [](Panel& p) { p.colors.GetCurrentItemColorIndex(); }},
+    {"CComboBox::SetCurSel", [](Panel& p) { p.styles.SetCurSel(0); }},
+    {"CComboBox::AddString", [](Panel& p) { p.styles.AddString(L""); }},
+    {"CComboBox::InsertString", [](Panel& p) { p.styles.InsertString(0, L""); }},
+    {"CComboBox::DeleteString", [](Panel& p) { p.styles.DeleteString(0); }},
+    {"CComboBox::ResetContent", [](Panel& p) { p.styles.ResetContent(); }},
+    {"CComboBox::FindStringExact", [](Panel& p) { p.styles.FindStringExact(-1, L""); }},
+    {"CComboBox::GetLBText", [](Panel& p) { p.styles.GetLBText(0, aText); }},
+    {"CComboBox::GetItemData", [](Panel& p) { p.styles.GetItemData(0); }},
+    {"CComboBox::SetItemData", [](Panel& p) { p.styles.SetItemData(0, 0); }},
+    {"CAdUiOwnerDrawButton::AutoLoad", [](Panel&) { CAdUiBitmapButton(L"A").AutoLoad(); }},
 };
 
 TEST(WindowObjects, aCallWithoutAWindowIsABreachThatNamesTheCall)

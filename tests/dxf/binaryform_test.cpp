@@ -61,29 +61,29 @@ struct Value
 TEST(BinaryForm, everyKindOfValueIsReadAndWrittenAsItWas)
 {
     const Value rows[] = {
-        {1,                         text("Steinbruch \xC4"),  "Steinbruch \xC4"             },
-        {8,                         text(" blank "),          " blank "                     },
-        {1,                         text("\none\n\ntwo\r\n"), std::string("\0one\0\0two\r\0", 11)},
-        {1,                         text("return\r"),                                                 "return\r"                                      },
-        {10,                         bytesOf(1234567.1234567),                                                "1234567.1234567"},
-        {40,                         bytesOf(-0.0),                                                "-0"                                                 },
-        {41,                         bytesOf(5e-324),                                                "5e-324"},
-        {62,                         bytesOf(std::int16_t(-7)),                                                "-7"                                       },
-        {90,                         bytesOf(std::int32_t(-2147483647)),                                                "-2147483647"},
-        {100,                         text("AcDbLine"),                                               "AcDbLine"                                                        },
-        {140,                         bytesOf(2.5),                                               "2.5"},
-        {160,                         bytesOf(std::int64_t(1) << 40),                                               "1099511627776"                                      },
-        {210,                         bytesOf(1.0),                                               "1"  },
-        {290,                         bytesOf(std::uint8_t(1)),                                               "1"                          },
-        {310,                         std::string("\x03\x01\xFE\x00",                                               4),"01FE00"},
-        {330,                 text("1F"),                                         "1F"                                                                        },
-        {370,                     bytesOf(std::int16_t(25)),     "25"},
-        {420,                     bytesOf(std::int32_t(0xFFFFFF)),                                         "16777215"                                                                                                            },
-        {1000,               text("xdata"),"xdata"},
-        {1004,                  std::string("\0",                                            1),                                                                                                                                                          ""},
-        {1010,                       bytesOf(7.0),  "7"},
-        {1070,bytesOf(std::int16_t(9)),           "9"                                                                                                                                                                  },
-        {1071,           bytesOf(std::int32_t(9)),                      "9"},
+        {1, text("Steinbruch \xC4"), "Steinbruch \xC4"},
+        {8, text(" blank "), " blank "},
+        {1, text("\none\n\ntwo\r\n"), std::string("\0one\0\0two\r\0", 11)},
+        {1, text("return\r"), "return\r"},
+        {10, bytesOf(1234567.1234567), "1234567.1234567"},
+        {40, bytesOf(-0.0), "-0"},
+        {41, bytesOf(5e-324), "5e-324"},
+        {62, bytesOf(std::int16_t(-7)), "-7"},
+        {90, bytesOf(std::int32_t(-2147483647)), "-2147483647"},
+        {100, text("AcDbLine"), "AcDbLine"},
+        {140, bytesOf(2.5), "2.5"},
+        {160, bytesOf(std::int64_t(1) << 40), "1099511627776"},
+        {210, bytesOf(1.0), "1"},
+        {290, bytesOf(std::uint8_t(1)), "1"},
+        {310, std::string("\x03\x01\xFE\x00", 4), "01FE00"},
+        {330, text("1F"), "1F"},
+        {370, bytesOf(std::int16_t(25)), "25"},
+        {420, bytesOf(std::int32_t(0xFFFFFF)), "16777215"},
+        {1000, text("xdata"), "xdata"},
+        {1004, std::string("\0", 1), ""},
+        {1010, bytesOf(7.0), "7"},
+        {1070, bytesOf(std::int16_t(9)), "9"},
+        {1071, bytesOf(std::int32_t(9)), "9"},
     };
     for (const Value& row : rows)
     {
@@ -126,12 +126,12 @@ TEST(BinaryForm, whatNoTagCanBeIsRefusedWithItsOffset)
     const std::string offset = std::to_string(start.size());
     const std::string value = std::to_string(start.size() + 2);
     const std::pair<std::string, std::string> rows[] = {
-        {tag(-5,  ""),                     offset + ": expected a group code of DXF, found -5"              },
-        {tag(80,  text("x")),              offset + ": expected a group code of DXF, found 80"              },
-        {tag(1,   "no end"),               value + ": expected the end of a text, found the end of the file"},
-        {tag(40,  bytesOf(std::nan("7"))), value + ": expected a number, found none"                        },
+        {tag(-5, ""), offset + ": expected a group code of DXF, found -5"},
+        {tag(80, text("x")), offset + ": expected a group code of DXF, found 80"},
+        {tag(1, "no end"), value + ": expected the end of a text, found the end of the file"},
+        {tag(40, bytesOf(std::nan("7"))), value + ": expected a number, found none"},
         {tag(310, "\x7F only this"),
-         std::to_string(start.size() + 3) + ": expected a whole value, found the end of the file"           },
+         std::to_string(start.size() + 3) + ": expected a whole value, found the end of the file"},
     };
     for (const auto& [bytes, message] : rows)
     {

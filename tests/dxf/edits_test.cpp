@@ -22,8 +22,12 @@ std::string written(const Edits& edits)
 Tag tagOf(const TagFile& file, std::size_t record, int code)
 {
     for (const Tag& tag : file.tags(file.records()[record]))
+    {
         if (tag.code == code)
+        {
             return tag;
+        }
+    }
     throw std::logic_error("no such tag");
 }
 
@@ -142,7 +146,9 @@ TEST(Edits, newRecordsAreMadeOnlyWhileTheFileIsWritten)
                  [&](TagWriter& w)
                  {
                      for (; made < 100000; ++made)
+                     {
                          w.handle(5, made + 0x100);
+                     }
                  });
     EXPECT_EQ(made, 0);
     EXPECT_GT(written(edits).size(), 700000u);

@@ -29,8 +29,12 @@ std::vector<std::string> drawings()
     std::vector<std::string> paths;
     std::error_code isNotThere;
     for (const auto& entry : fs::directory_iterator(drawingsFolder(), isNotThere))
+    {
         if (entry.path().extension() == ".dxf")
+        {
             paths.push_back(entry.path().string());
+        }
+    }
     std::ranges::sort(paths);
     return paths;
 }
@@ -79,7 +83,9 @@ std::string complaintAboutCuts(const std::string& drawing)
         const std::string said = refusal(drawing.substr(0, size));
         const bool inOneLine = said.starts_with("FILE: ") && said.find('\n') == said.npos;
         if (size < eof ? !inOneLine : said != "read")
+        {
             return "cut after " + std::to_string(size) + " bytes: " + said;
+        }
     }
     return "";
 }
@@ -92,7 +98,9 @@ TEST(SharedDrawings, aDrawingSavedUnchangedIsTheSameByteForByte)
     for (const std::string& path : drawings())
     {
         if (!shouldBeRead(path))
+        {
             continue;
+        }
         const TagFile file = TagFile::read(path);
         saveAtomically(copy.string(), Edits(file));
         EXPECT_EQ(bytesOf(copy), bytesOf(path)) << path;
@@ -101,7 +109,9 @@ TEST(SharedDrawings, aDrawingSavedUnchangedIsTheSameByteForByte)
     }
     fs::remove(copy);
     if (count == 0)
+    {
         GTEST_SKIP() << "no drawings in " << drawingsFolder();
+    }
     std::cout << count << " drawings saved unchanged\n";
 }
 
@@ -111,7 +121,9 @@ TEST(SharedDrawings, theRecordsOfASectionFollowEachOtherWithoutGaps)
     for (const std::string& path : drawings())
     {
         if (!shouldBeRead(path))
+        {
             continue;
+        }
         const TagFile file = TagFile::read(path);
         for (const Section& section : file.sections())
         {
@@ -126,7 +138,9 @@ TEST(SharedDrawings, theRecordsOfASectionFollowEachOtherWithoutGaps)
         ++count;
     }
     if (count == 0)
+    {
         GTEST_SKIP() << "no drawings in " << drawingsFolder();
+    }
 }
 
 TEST(SharedDrawings, brokenOnesAreRefusedInOneLine)
@@ -135,14 +149,18 @@ TEST(SharedDrawings, brokenOnesAreRefusedInOneLine)
     for (const std::string& path : drawings())
     {
         if (shouldBeRead(path))
+        {
             continue;
+        }
         const std::string message = refusalOfFile(path);
         EXPECT_TRUE(message.starts_with(path + ": line ")) << path << " -> " << message;
         EXPECT_EQ(message.find('\n'), message.npos);
         ++count;
     }
     if (count == 0)
+    {
         GTEST_SKIP() << "no such drawings in " << drawingsFolder();
+    }
     std::cout << count << " drawings refused\n";
 }
 
@@ -152,11 +170,15 @@ TEST(SharedDrawings, cutAnywhereTheyAreRefusedInOneLine)
     for (const std::string& path : drawings())
     {
         if (!shouldBeRead(path))
+        {
             continue;
+        }
         EXPECT_EQ(complaintAboutCuts(bytesOf(path)), "") << path;
         ++count;
     }
     if (count == 0)
+    {
         GTEST_SKIP() << "no drawings in " << drawingsFolder();
+    }
     std::cout << count << " drawings cut\n";
 }

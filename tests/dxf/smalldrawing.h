@@ -17,7 +17,9 @@ inline std::string drawingWith(const std::string& entities, const std::string& v
 inline std::string replaced(std::string text, const std::string& from, const std::string& to)
 {
     for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
+    {
         text.replace(at, from.size(), to);
+    }
     return text;
 }
 

@@ -32,7 +32,9 @@ TEST(TagFile, whatIsNoReadableDrawingIsRefusedInOneLine)
          "FILE: line 8: expected version AC1009 (R12) to AC1032 (R2018), found \"AC1033\""},
     };
     for (const Refused& row : rows)
+    {
         EXPECT_EQ(refusal(row.text), row.message);
+    }
 }
 
 TEST(TagFile, tagsOutOfStepAreRefusedWithTheirLine)
@@ -40,19 +42,21 @@ TEST(TagFile, tagsOutOfStepAreRefusedWithTheirLine)
     const std::string tooLong(60, 'a');
     const std::string shortened = tooLong.substr(0, 40) + "...";
     const std::pair<std::string, std::string> rows[] = {
-        {"x",                    "x"                   },
-        {"",                     ""                    },
-        {"-1",                   "-1"                  },
-        {"1072",                 "1072"                },
+        {"x", "x"},
+        {"", ""},
+        {"-1", "-1"},
+        {"1072", "1072"},
         {"99999999999999999999", "99999999999999999999"},
-        {"8 8",                  "8 8"                 },
-        {"10.5",                 "10.5"                },
-        {"1\x02",                "1?"                  },
-        {tooLong,                shortened             },
+        {"8 8", "8 8"},
+        {"10.5", "10.5"},
+        {"1\x02", "1?"},
+        {tooLong, shortened},
     };
     for (const auto& [code, found] : rows)
+    {
         EXPECT_EQ(refusal(drawingWith("0\nLINE\n" + code + "\n7\n")),
                   "FILE: line 21: expected a group code from 0 to 1071, found \"" + found + '"');
+    }
 }
 
 TEST(TagFile, sectionsOutOfOrderAreRefused)
@@ -61,31 +65,33 @@ TEST(TagFile, sectionsOutOfOrderAreRefused)
     const std::string end = "0\nENDSEC\n0\nEOF\n";
     const std::string open = good.substr(0, good.size() - end.size());
     const Refused rows[] = {
-        {open + "0\nEOF\n",                                                  "FILE: line 30: expected ENDSEC, found \"EOF\""           },
+        {open + "0\nEOF\n", "FILE: line 30: expected ENDSEC, found \"EOF\""},
         {open + "0\nSECTION\n2\nOBJECTS\n" + end,
-         "FILE: line 30: expected ENDSEC, found \"SECTION\""                                                                           },
-        {open + "0\nENDSEC\n" + end,                                         "FILE: line 32: expected SECTION or EOF, found \"ENDSEC\""},
+         "FILE: line 30: expected ENDSEC, found \"SECTION\""},
+        {open + "0\nENDSEC\n" + end, "FILE: line 32: expected SECTION or EOF, found \"ENDSEC\""},
         {open + "0\nENDSEC\n8\nx\n0\nEOF\n",
-         "FILE: line 31: expected SECTION or EOF, found group code 8"                                                                  },
+         "FILE: line 31: expected SECTION or EOF, found group code 8"},
         {open + "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + end,
-         "FILE: line 34: expected a section that was not there before, found \"ENTITIES\""                                             },
+         "FILE: line 34: expected a section that was not there before, found \"ENTITIES\""},
         {open + "0\nENDSEC\n0\nSECTION\n0\nLINE\n" + end,
-         "FILE: line 34: expected the section's name (group code 2), found \"LINE\""                                                   },
-        {open + "0\nENDSEC\n",                                               "FILE: line 31: expected EOF, found the end of the file"  },
-        {open,                                                               "FILE: line 29: expected EOF, found the end of the file"  },
-        {good + "0\nLINE\n",                                                 "FILE: line 33: expected nothing after EOF, found more"   },
-        {drawingWith("0\n \n"),                                              "FILE: line 20: expected a record's type, found \" \""    },
+         "FILE: line 34: expected the section's name (group code 2), found \"LINE\""},
+        {open + "0\nENDSEC\n", "FILE: line 31: expected EOF, found the end of the file"},
+        {open, "FILE: line 29: expected EOF, found the end of the file"},
+        {good + "0\nLINE\n", "FILE: line 33: expected nothing after EOF, found more"},
+        {drawingWith("0\n \n"), "FILE: line 20: expected a record's type, found \" \""},
         {drawingWith("8\nWalls\n"),
-         "FILE: line 19: expected a record (group code 0), found group code 8"                                                         },
+         "FILE: line 19: expected a record (group code 0), found group code 8"},
         {"0\nSECTION\n2\nHEADER\n70\n1\n0\nENDSEC\n0\nEOF\n",
-         "FILE: line 5: expected a variable's name (group code 9), found group code 70"                                                },
+         "FILE: line 5: expected a variable's name (group code 9), found group code 70"},
         {"0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1027\n0\nLINE\n0\nEOF\n",
-         "FILE: line 10: expected ENDSEC, found \"LINE\""                                                                              },
+         "FILE: line 10: expected ENDSEC, found \"LINE\""},
         {"0\nSECTION\n2\nTHUMBNAILIMAGE\n90\n1\n0\nEOF\n",
-         "FILE: line 8: expected ENDSEC, found \"EOF\""                                                                                },
+         "FILE: line 8: expected ENDSEC, found \"EOF\""},
     };
     for (const Refused& row : rows)
+    {
         EXPECT_EQ(refusal(row.text), row.message);
+    }
 }
 
 TEST(TagFile, aHandleMustBeHexadecimal)
@@ -109,7 +115,9 @@ TEST(TagFile, aHandleThatIsNoRecordsOwnGivesWayToANewOne)
 {
     const Repair rows[] = {
         {"0\nLINE\n5\nA\n0\nLINE\n5\nB\n", {0xA, 0xB}, ""},
-        {"0\nLINE\n5\n\n", {1}, "22: the handle \"\" is no record's own; 1 record is given a new one"},
+        {"0\nLINE\n5\n\n",
+         {1},
+         "22: the handle \"\" is no record's own; 1 record is given a new one"},
         {"0\nLINE\n5\n0\n0\nLINE\n5\nA\n",
          {0xB, 0xA},
          "22: the handle \"0\" is no record's own; 1 record is given a new one"},
@@ -122,7 +130,9 @@ TEST(TagFile, aHandleThatIsNoRecordsOwnGivesWayToANewOne)
         const TagFile file = TagFile::fromText(drawingWith(row.entities), "FILE");
         std::vector<std::uint64_t> handles;
         for (const Record& record : file.records())
+        {
             handles.push_back(record.handle);
+        }
         EXPECT_EQ(handles, row.handles);
         EXPECT_EQ(file.highestHandle(), *std::ranges::max_element(row.handles));
         EXPECT_EQ(file.repairs(), row.said.empty() ? "" : "FILE: line " + row.said);
@@ -132,17 +142,17 @@ TEST(TagFile, aHandleThatIsNoRecordsOwnGivesWayToANewOne)
 TEST(TagFile, onlyTheRecordsOwnHandleCounts)
 {
     const Refused rows[] = {
-        {"0\nLINE\n5\n2F\n",                                                  "2F"              },
-        {"0\nLINE\n  5 \n  2f \n",                                            "2F"              },
-        {"0\nLINE\n8\nWalls\n5\nFFFFFFFFFFFFFFFF\n",                          "FFFFFFFFFFFFFFFF"},
-        {"0\nLINE\n8\nWalls\n",                                               "0"               },
-        {"0\nLINE\n102\n{X\n5\nno handle\n102\n}\n5\n2F\n",                   "2F"              },
-        {"0\nLINE\n5\n2F\n5\nno handle\n",                                    "2F"              },
-        {"0\nSORTENTSTABLE\n5\n2F\n100\nAcDbSortentsTable\n331\n30\n5\n2F\n", "2F"              },
-        {"0\nXRECORD\n100\nAcDbXrecord\n5\nno handle\n",                      "0"               },
-        {"0\nDIMSTYLE\n105\n27\n100\nAcDbDimStyleTableRecord\n5\n_DOT\n",     "27"              },
-        {"0\nDIMSTYLE\n5\n_DOT\n105\n27\n",                                   "27"              },
-        {"0\nTABLE\n2\nDIMSTYLE\n5\nA\n105\nB\n",                             "A"               },
+        {"0\nLINE\n5\n2F\n", "2F"},
+        {"0\nLINE\n  5 \n  2f \n", "2F"},
+        {"0\nLINE\n8\nWalls\n5\nFFFFFFFFFFFFFFFF\n", "FFFFFFFFFFFFFFFF"},
+        {"0\nLINE\n8\nWalls\n", "0"},
+        {"0\nLINE\n102\n{X\n5\nno handle\n102\n}\n5\n2F\n", "2F"},
+        {"0\nLINE\n5\n2F\n5\nno handle\n", "2F"},
+        {"0\nSORTENTSTABLE\n5\n2F\n100\nAcDbSortentsTable\n331\n30\n5\n2F\n", "2F"},
+        {"0\nXRECORD\n100\nAcDbXrecord\n5\nno handle\n", "0"},
+        {"0\nDIMSTYLE\n105\n27\n100\nAcDbDimStyleTableRecord\n5\n_DOT\n", "27"},
+        {"0\nDIMSTYLE\n5\n_DOT\n105\n27\n", "27"},
+        {"0\nTABLE\n2\nDIMSTYLE\n5\nA\n105\nB\n", "A"},
     };
     for (const Refused& row : rows)
     {
@@ -192,7 +202,9 @@ TEST(TagFile, aTagTellsItsPlaceAndKeepsTheBlanksOfItsValue)
 
     std::vector<Tag> tags;
     for (const Tag& tag : file.tags(file.records().front()))
+    {
         tags.push_back(tag);
+    }
 
     ASSERT_EQ(tags.size(), 5u);
     EXPECT_EQ(tags[0].value, "TEXT");
@@ -222,7 +234,9 @@ TEST(TagFile, headerVariablesHoldTheirValueTags)
     EXPECT_EQ(origin->line, 17u);
     double sum = 0;
     for (const Tag& tag : file.tags(*origin))
+    {
         sum = sum * 10 + file.real(tag);
+    }
     EXPECT_EQ(sum, 123);
     EXPECT_EQ((*file.tags(*file.header("$LTSCALE")).begin()).value, "5.0");
     EXPECT_EQ(file.headerVariables().size(), 5u);
@@ -242,13 +256,13 @@ TEST(TagFile, theFilesOwnWayOfWritingIsRecognised)
     const std::string padded =
         replaced(replaced(plain, "0\nSECTION", "  0\nSECTION"), "\n4", "\n     4");
     const Row rows[] = {
-        {plain,                        "\n",         1,                          false   },
-        {withCrLf(plain),              "\r\n",       1,                          false   },
-        {padded,                       "\n",         3,                          true    },
-        {withCrLf(padded),             "\r\n",       3,                          true    },
-        {"999\nby someone\n" + padded, "\n",         3,                          true    },
-        {std::string(99,               ' ') + plain, "\n",                       6,        false},
-        {"\xEF\xBB\xBF" + withCrLf(padded),                            "\r\n",        3, true},
+        {plain, "\n", 1, false},
+        {withCrLf(plain), "\r\n", 1, false},
+        {padded, "\n", 3, true},
+        {withCrLf(padded), "\r\n", 3, true},
+        {"999\nby someone\n" + padded, "\n", 3, true},
+        {std::string(99, ' ') + plain, "\n", 6, false},
+        {"\xEF\xBB\xBF" + withCrLf(padded), "\r\n", 3, true},
     };
     for (const Row& row : rows)
     {
@@ -318,9 +332,10 @@ TEST(TagFile, aDamagedByteIsReadOrRefusedButNeverMore)
 TEST(TagFile, whatFollowsEofMayOnlyBeBlank)
 {
     for (const std::string end : {"", "\n", "\r\n\r\n", "  \t\n", "\x1a"})
+    {
         EXPECT_EQ(refusal(drawingWith("") + end), "read");
+    }
     std::string unended = drawingWith("");
     unended.pop_back();
     EXPECT_EQ(refusal(unended), "read");
 }
-

@@ -27,26 +27,28 @@ std::string written(const TagStyle& style, const Write& write)
 TEST(TagWriter, realsAreShortAndAlwaysLookLikeReals)
 {
     const std::pair<double, const char*> rows[] = {
-        {0.0,                                "0.0"                    },
-        {-0.0,                               "0.0"                    },
-        {100.0,                              "100.0"                  },
-        {-0.5,                               "-0.5"                   },
-        {0.1,                                "0.1"                    },
-        {1.0 / 3.0,                          "0.3333333333333333"     },
-        {123456.789,                         "123456.789"             },
-        {100000.0,                           "100000.0"               },
-        {999999999999999.0,                  "999999999999999.0"      },
-        {1e15,                               "1e+15"                  },
-        {1e20,                               "1e+20"                  },
-        {-1e20,                              "-1e+20"                 },
-        {0.00001,                            "0.00001"                },
-        {0.0000099,                          "9.9e-06"                },
-        {5e-324,                             "5e-324"                 },
+        {0.0, "0.0"},
+        {-0.0, "0.0"},
+        {100.0, "100.0"},
+        {-0.5, "-0.5"},
+        {0.1, "0.1"},
+        {1.0 / 3.0, "0.3333333333333333"},
+        {123456.789, "123456.789"},
+        {100000.0, "100000.0"},
+        {999999999999999.0, "999999999999999.0"},
+        {1e15, "1e+15"},
+        {1e20, "1e+20"},
+        {-1e20, "-1e+20"},
+        {0.00001, "0.00001"},
+        {0.0000099, "9.9e-06"},
+        {5e-324, "5e-324"},
         {std::numeric_limits<double>::max(), "1.7976931348623157e+308"},
-        {999999999999999.9,                  "999999999999999.9"      },
+        {999999999999999.9, "999999999999999.9"},
     };
     for (const auto& [value, text] : rows)
+    {
         EXPECT_EQ(realText(value), text);
+    }
 }
 
 TEST(TagWriter, aRealReadsBackAsTheSameNumber)
@@ -59,7 +61,9 @@ TEST(TagWriter, aRealReadsBackAsTheSameNumber)
         for (const double value : {any, usual})
         {
             if (!std::isfinite(value))
+            {
                 continue;
+            }
             const std::string text = realText(value);
             ASSERT_EQ(std::strtod(text.c_str(), nullptr), value) << text;
             ASSERT_NE(text.find_first_of(".e"), text.npos) << text;
@@ -162,8 +166,10 @@ RecordForm formOf(const TagStyle& style, bool hasHandle, const std::string& laye
         });
     const int codes[] = {20, 30, 11, 21, 31};
     for (int i = 0; i < 5; ++i)
+    {
         form.gaps[i] =
             RecordForm::Gap(piece([&](TagWriter& w) { w.lineEnd(), w.codeLine(codes[i]); }));
+    }
     form.tail = piece([](TagWriter& w) { w.lineEnd(), w.text(210, "tail"); });
     return form;
 }
@@ -176,7 +182,9 @@ std::string tagsOneByOne(const TagStyle& style, bool hasHandle, const std::strin
                    {
                        w.text(0, "LINE");
                        if (hasHandle)
+                       {
                            w.handle(5, handle);
+                       }
                        w.text(8, layer);
                        w.point(10, numbers[0], numbers[1], numbers[2]);
                        w.point(11, numbers[3], numbers[4], numbers[5]);
@@ -217,7 +225,9 @@ TEST(TagWriter, manyTagsAndLongTextsArriveInOrder)
     const std::string longText(3 << 20, 'x');
     std::string expected;
     for (int i = 0; i < 100000; ++i)
+    {
         expected += " 90\n" + std::to_string(i) + "\n  1\ntext\n";
+    }
     expected += "  1\n" + longText + "\n" + longText;
 
     const std::string text = written({},
@@ -239,7 +249,9 @@ TEST(TagWriter, theBytesLeaveInPiecesOfTheBuffersSize)
     std::size_t pieces = 0;
     TagWriter writer([&](std::string_view) { ++pieces; }, {});
     for (std::size_t i = 0; i < TagWriter::bufferSize; ++i)
+    {
         writer.text(1, "12345");  // ten bytes a tag
+    }
     writer.flush();
     EXPECT_NEAR(double(pieces), 10, 1);
     const std::size_t before = pieces;

@@ -65,15 +65,15 @@ TEST(UcsCommand, turnsAboutItsOwnAxes)
     };
     const double h = std::sqrt(3) / 2;
     const Row rows[] = {
-        {{"UCS", "Z", "30"},                   {h, 0.5, 0}, {-0.5, h, 0}},
-        {{"UCS", "X", "90"},                   {1, 0, 0},   {0, 0, 1}   },
-        {{"UCS", "Y", "90"},                   {0, 0, -1},  {0, 1, 0}   },
-        {{"UCS", "X", "90", "UCS", "Z", "90"}, {0, 0, 1},   {-1, 0, 0}  },
-        {{"UCS", "z", "wrong", "-90"},         {0, -1, 0},  {1, 0, 0}   },
-        {{"UCS", "Z", "^C"},                   {1, 0, 0},   {0, 1, 0}   },
-        {{"UCS", "^C"},                        {1, 0, 0},   {0, 1, 0}   },
-        {{"UCS", "Z", "30", "UCS", "P"},       {1, 0, 0},   {0, 1, 0}   },
-        {{"UCS", "Z", "30", "UCS", ""},        {1, 0, 0},   {0, 1, 0}   },
+        {{"UCS", "Z", "30"}, {h, 0.5, 0}, {-0.5, h, 0}},
+        {{"UCS", "X", "90"}, {1, 0, 0}, {0, 0, 1}},
+        {{"UCS", "Y", "90"}, {0, 0, -1}, {0, 1, 0}},
+        {{"UCS", "X", "90", "UCS", "Z", "90"}, {0, 0, 1}, {-1, 0, 0}},
+        {{"UCS", "z", "wrong", "-90"}, {0, -1, 0}, {1, 0, 0}},
+        {{"UCS", "Z", "^C"}, {1, 0, 0}, {0, 1, 0}},
+        {{"UCS", "^C"}, {1, 0, 0}, {0, 1, 0}},
+        {{"UCS", "Z", "30", "UCS", "P"}, {1, 0, 0}, {0, 1, 0}},
+        {{"UCS", "Z", "30", "UCS", ""}, {1, 0, 0}, {0, 1, 0}},
     };
     for (const Row& row : rows)
     {
@@ -191,15 +191,12 @@ TEST(ViewCommands, twistIsKeptWithinOneTurn)
         double twist;
     };
     const Row rows[] = {
-        {{"DVIEW", "", "TW", "-30", ""},    11 * pi / 6},
-        {{"DVIEW", "", "TW", "390", ""},    pi / 6     },
-        {{"DVIEW", "", "TW", "-750", ""},   11 * pi / 6},
-        {{"DVIEW", "", "TW", "360", ""},    0          },
-        {{"DVIEW", "", "TW", "-1e-20", ""}, 0          }, // rounds to the full turn
-        {{"DVIEW", "", "TW", "1e308", ""},  0          }, // has no radians
-        {{"UCS", "Z", "-90", "PLAN", ""},   pi / 2     },
-        {{"UCS", "Z", "180", "PLAN", ""},   pi         },
-        {{"UCS", "Z", "1e-20", "PLAN", ""}, 0          },
+        {{"DVIEW", "", "TW", "-30", ""}, 11 * pi / 6},  {{"DVIEW", "", "TW", "390", ""}, pi / 6},
+        {{"DVIEW", "", "TW", "-750", ""}, 11 * pi / 6}, {{"DVIEW", "", "TW", "360", ""}, 0},
+        {{"DVIEW", "", "TW", "-1e-20", ""}, 0},  // rounds to the full turn
+        {{"DVIEW", "", "TW", "1e308", ""}, 0},   // has no radians
+        {{"UCS", "Z", "-90", "PLAN", ""}, pi / 2},      {{"UCS", "Z", "180", "PLAN", ""}, pi},
+        {{"UCS", "Z", "1e-20", "PLAN", ""}, 0},
     };
     for (const Row& row : rows)
     {
@@ -240,13 +237,13 @@ TEST(ViewCommands, planLooksAlongTheUcs)
     };
     const double h = std::sqrt(3) / 2;
     const Row rows[] = {
-        {{"UCS", "Z", "30", "PLAN", ""},            {h, 0.5, 0}, {-0.5, h, 0}},
-        {{"UCS", "Z", "30", "PLAN", "C"},           {h, 0.5, 0}, {-0.5, h, 0}},
-        {{"UCS", "Z", "30", "PLAN", "W"},           {1, 0, 0},   {0, 1, 0}   },
-        {{"UCS", "X", "90", "PLAN", ""},            {1, 0, 0},   {0, 0, 1}   },
-        {{"DVIEW", "", "TW", "30", "", "PLAN", ""}, {1, 0, 0},   {0, 1, 0}   },
-        {{"UCS", "Z", "30", "PLAN", "^C"},          {1, 0, 0},   {0, 1, 0}   },
-        {{"UCS", "Z", "30", "PLAN", "U", "site"},   {1, 0, 0},   {0, 1, 0}   },
+        {{"UCS", "Z", "30", "PLAN", ""}, {h, 0.5, 0}, {-0.5, h, 0}},
+        {{"UCS", "Z", "30", "PLAN", "C"}, {h, 0.5, 0}, {-0.5, h, 0}},
+        {{"UCS", "Z", "30", "PLAN", "W"}, {1, 0, 0}, {0, 1, 0}},
+        {{"UCS", "X", "90", "PLAN", ""}, {1, 0, 0}, {0, 0, 1}},
+        {{"DVIEW", "", "TW", "30", "", "PLAN", ""}, {1, 0, 0}, {0, 1, 0}},
+        {{"UCS", "Z", "30", "PLAN", "^C"}, {1, 0, 0}, {0, 1, 0}},
+        {{"UCS", "Z", "30", "PLAN", "U", "site"}, {1, 0, 0}, {0, 1, 0}},
     };
     for (const Row& row : rows)
     {
@@ -290,19 +287,19 @@ TEST(SetvarCommand, asksForAValueAndPrintsTheVariable)
         const char* said;
     };
     const Row rows[] = {
-        {{"SETVAR", "ucsicon", ""},           "Enter new value for UCSICON <3>: \nUCSICON = 3\n" },
-        {{"SETVAR", "UCSICON", "1"},          "UCSICON = 1\n"                                    },
-        {{"UCSICON", "0"},                    "Enter new value for UCSICON <3>: 0\nUCSICON = 0\n"},
+        {{"SETVAR", "ucsicon", ""}, "Enter new value for UCSICON <3>: \nUCSICON = 3\n"},
+        {{"SETVAR", "UCSICON", "1"}, "UCSICON = 1\n"},
+        {{"UCSICON", "0"}, "Enter new value for UCSICON <3>: 0\nUCSICON = 0\n"},
         {{"SETVAR", "UCSICON", "9", "2"},
          "Requires an integer between 0 and 3.\n"
-         "Enter new value for UCSICON <3>: 2\nUCSICON = 2\n"                                     },
-        {{"SETVAR", "ELEVATION", "x", "1.5"}, "Requires numeric value.\n"                        },
-        {{"SETVAR", "ELEVATION", "1.50"},     "ELEVATION = 1.5\n"                                },
-        {{"SETVAR", "LTSCALE", "0", "2"},     "Value must be positive and nonzero.\n"            },
-        {{"SETVAR", "CLAYER", "absent", ""},  "Cannot set CLAYER to that value.\n"               },
-        {{"SETVAR", "LASTPOINT", "1,2,3"},    "LASTPOINT = 1,2,3\n"                              },
-        {{"SETVAR", "nothing", ""},           "Unknown variable name.\nEnter variable name: \n"  },
-        {{"SETVAR", "UCSICON", "^C"},         "<3>: ^C\nCommand: "                               },
+         "Enter new value for UCSICON <3>: 2\nUCSICON = 2\n"},
+        {{"SETVAR", "ELEVATION", "x", "1.5"}, "Requires numeric value.\n"},
+        {{"SETVAR", "ELEVATION", "1.50"}, "ELEVATION = 1.5\n"},
+        {{"SETVAR", "LTSCALE", "0", "2"}, "Value must be positive and nonzero.\n"},
+        {{"SETVAR", "CLAYER", "absent", ""}, "Cannot set CLAYER to that value.\n"},
+        {{"SETVAR", "LASTPOINT", "1,2,3"}, "LASTPOINT = 1,2,3\n"},
+        {{"SETVAR", "nothing", ""}, "Unknown variable name.\nEnter variable name: \n"},
+        {{"SETVAR", "UCSICON", "^C"}, "<3>: ^C\nCommand: "},
     };
     for (const Row& row : rows)
     {
@@ -336,9 +333,9 @@ TEST(SetvarCommand, theExtentsAreThoseOfTheCurrentSpaceAsItIsNow)
 TEST(SetvarCommand, readOnlyVariableIsPrintedAndTheNextLineIsACommand)
 {
     const std::vector<std::string> rows[] = {
-        {"VIEWTWIST",  "UCSICON", ""},
-        { "SETVAR", "VIEWTWIST", "UCSICON", ""},
-        { "'SETVAR", "viewtwist", "UCSICON", ""},
+        {"VIEWTWIST", "UCSICON", ""},
+        {"SETVAR", "VIEWTWIST", "UCSICON", ""},
+        {"'SETVAR", "viewtwist", "UCSICON", ""},
     };
     for (const std::vector<std::string>& lines : rows)
     {

@@ -30,15 +30,9 @@ TEST(LineReader, linesAreAnswers)
         Kind kind;
         const wchar_t* text;
     } expected[] = {
-        {Kind::line,       L"zv_netrax"         },
-        {Kind::enter,      L""                  },
-        {Kind::cancel,     L""                  },
-        {Kind::line,       L" ^C"               },
-        {Kind::line,       L"Настройки"},
-        {Kind::enter,      L""                  },
-        {Kind::line,       L"last"              },
-        {Kind::endOfInput, L""                  },
-        {Kind::endOfInput, L""                  },
+        {Kind::line, L"zv_netrax"}, {Kind::enter, L""},         {Kind::cancel, L""},
+        {Kind::line, L" ^C"},       {Kind::line, L"Настройки"}, {Kind::enter, L""},
+        {Kind::line, L"last"},      {Kind::endOfInput, L""},    {Kind::endOfInput, L""},
     };
     for (const auto& row : expected)
     {

@@ -78,18 +78,19 @@ struct BoxRow
 TEST(MessageBoxes, answerIsAButton)
 {
     const BoxRow rows[] = {
-        {MB_YESNO,                 {"yes"},       IDYES,    "(Yes/No) -> yes\n"                                                },
-        {MB_YESNO,                 {" NO "},      IDNO,     "(Yes/No) -> no\n"                                                 },
-        {MB_YESNO,                 {""},          IDYES,    "(Yes/No) -> yes\n"                                                },
-        {MB_YESNO | MB_DEFBUTTON2, {""},          IDNO,     "(Yes/No) -> no\n"                                                 },
+        {MB_YESNO, {"yes"}, IDYES, "(Yes/No) -> yes\n"},
+        {MB_YESNO, {" NO "}, IDNO, "(Yes/No) -> no\n"},
+        {MB_YESNO, {""}, IDYES, "(Yes/No) -> yes\n"},
+        {MB_YESNO | MB_DEFBUTTON2, {""}, IDNO, "(Yes/No) -> no\n"},
         {MB_YESNO,
          {"maybe", "no"},
-         IDNO,                                              "-> maybe\nAnswer with one of the buttons: Yes/No.\n[message box] "},
-        {MB_YESNO,                 {"^C", "yes"}, IDYES,    "-> ^C\nAnswer with one of"                                        },
-        {MB_OK,                    {""},          IDOK,     "(OK) -> ok\n"                                                     },
-        {MB_OK,                    {"^C"},        IDOK,     "(OK) -> ok\n"                                                     },
-        {MB_OKCANCEL,              {"^C"},        IDCANCEL, "(OK/Cancel) -> cancel\n"                                          },
-        {MB_YESNOCANCEL,           {"cancel"},    IDCANCEL, "(Yes/No/Cancel) -> cancel\n"                                      },
+         IDNO,
+         "-> maybe\nAnswer with one of the buttons: Yes/No.\n[message box] "},
+        {MB_YESNO, {"^C", "yes"}, IDYES, "-> ^C\nAnswer with one of"},
+        {MB_OK, {""}, IDOK, "(OK) -> ok\n"},
+        {MB_OK, {"^C"}, IDOK, "(OK) -> ok\n"},
+        {MB_OKCANCEL, {"^C"}, IDCANCEL, "(OK/Cancel) -> cancel\n"},
+        {MB_YESNOCANCEL, {"cancel"}, IDCANCEL, "(Yes/No/Cancel) -> cancel\n"},
     };
     for (const BoxRow& row : rows)
     {

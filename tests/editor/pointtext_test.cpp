@@ -17,25 +17,11 @@ TEST(NumberText, wholeTextHasToBeTheNumber)
     };
     const std::optional<double> none;
     const Row rows[] = {
-        {L"12.5",  12.5},
-        {L" 7 ",   7   },
-        {L"+.5",   0.5 },
-        {L"-3.",   -3  },
-        {L"1.7e2", 170 },
-        {L"2E-1",  0.2 },
-        {L"12,5",  none}, // the point alone is decimal
-        {L"1-2",   none},
-        {L"+-1",   none},
-        {L"++1",   none},
-        {L"",      none},
-        {L".",     none},
-        {L"1e",    none},
-        {L"inf",   none},
-        {L"nan",   none},
-        {L"1e999", none},
-        {L"0x10",  none},
-        {L"1 2",   none},
-        {L"１",   none}, // a digit of another script
+        {L"12.5", 12.5}, {L" 7 ", 7},     {L"+.5", 0.5},  {L"-3.", -3},     {L"1.7e2", 170},
+        {L"2E-1", 0.2},  {L"12,5", none},  // the point alone is decimal
+        {L"1-2", none},  {L"+-1", none},  {L"++1", none}, {L"", none},      {L".", none},
+        {L"1e", none},   {L"inf", none},  {L"nan", none}, {L"1e999", none}, {L"0x10", none},
+        {L"1 2", none},  {L"１", none},  // a digit of another script
     };
     for (const Row& row : rows)
     {
@@ -51,15 +37,15 @@ TEST(NumberText, numbersAreShownInFullAndPlain)
         const wchar_t* text;
     };
     const Row rows[] = {
-        {0,           L"0"          },
-        {-0.0,        L"0"          },
-        {3,           L"3"          },
-        {100000,      L"100000"     },
-        {0.1,         L"0.1"        },
-        {-2.5,        L"-2.5"       },
+        {0, L"0"},
+        {-0.0, L"0"},
+        {3, L"3"},
+        {100000, L"100000"},
+        {0.1, L"0.1"},
+        {-2.5, L"-2.5"},
         {1234567.125, L"1234567.125"},
-        {1e20,        L"1e+20"      },
-        {1e-9,        L"1e-09"      },
+        {1e20, L"1e+20"},
+        {1e-9, L"1e-09"},
     };
     for (const Row& row : rows)
     {
@@ -86,18 +72,18 @@ struct PointRow
 TEST(PointText, formsOfAPoint)
 {
     const PointRow rows[] = {
-        {L"1,2",        {1, 2, 0},    false, false, false},
-        {L"1,2,3",      {1, 2, 3},    true,  false, false},
+        {L"1,2", {1, 2, 0}, false, false, false},
+        {L"1,2,3", {1, 2, 3}, true, false, false},
         {L" 1 , -2.5 ", {1, -2.5, 0}, false, false, false},
-        {L"@3,4",       {3, 4, 0},    false, true,  false},
-        {L"@3,4,5",     {3, 4, 5},    true,  true,  false},
-        {L"@ 3, 4",     {3, 4, 0},    false, true,  false},
-        {L"@",          {0, 0, 0},    false, true,  false},
-        {L"@10<90",     {0, 10, 0},   false, true,  false},
-        {L"10<180",     {-10, 0, 0},  false, false, false},
-        {L"10<-90",     {0, -10, 0},  false, false, false},
-        {L"*5,6",       {5, 6, 0},    false, false, true },
-        {L"*5,6,7",     {5, 6, 7},    true,  false, true },
+        {L"@3,4", {3, 4, 0}, false, true, false},
+        {L"@3,4,5", {3, 4, 5}, true, true, false},
+        {L"@ 3, 4", {3, 4, 0}, false, true, false},
+        {L"@", {0, 0, 0}, false, true, false},
+        {L"@10<90", {0, 10, 0}, false, true, false},
+        {L"10<180", {-10, 0, 0}, false, false, false},
+        {L"10<-90", {0, -10, 0}, false, false, false},
+        {L"*5,6", {5, 6, 0}, false, false, true},
+        {L"*5,6,7", {5, 6, 7}, true, false, true},
     };
     for (const PointRow& row : rows)
     {

@@ -76,36 +76,36 @@ struct Row
 TEST(Prompts, oneAnswerIsWhatTheOptionsMakeOfIt)
 {
     const Row rows[] = {
-        {Ask::point,    0,            nullptr,  "",         RTNONE,  L""        },
-        {Ask::point,    128,          L"S",     "",         RTNONE,  L""        },
-        {Ask::point,    129,          L"S",     "",         RTKWORD, L""        }, // any text, but not none
-        {Ask::point,    128,          L"S",     "   ",      RTNONE,  L""        }, // a blank is Enter
-        {Ask::point,    128,          L"S",     "s",        RTKWORD, L"S"       },
-        {Ask::point,    128,          L"S",     "settings", RTKWORD, L"settings"}, // as typed, no keyword
-        {Ask::point,    128,          L"S",     "Settings", RTKWORD, L"Settings"},
-        {Ask::point,    128,          L"Н",    "н",       RTKWORD, L"Н"      },
-        {Ask::point,    128,          L"S",     "5",        RTKWORD, L"5"       }, // a number is no point
-        {Ask::point,    128,          L"S",     "1,2",      RTNORM,  L""        },
-        {Ask::point,    0,            nullptr,  "^C",       RTCAN,   L""        },
-        {Ask::point,    129,          L"S",     "^C",       RTCAN,   L""        },
-        {Ask::corner,   0,            nullptr,  "",         RTNONE,  L""        },
-        {Ask::corner,   128,          L"U",     "u",        RTKWORD, L"U"       },
-        {Ask::corner,   0,            nullptr,  "^C",       RTCAN,   L""        },
-        {Ask::distance, 0,            nullptr,  "",         RTNONE,  L""        },
-        {Ask::distance, 0,            nullptr,  "-5",       RTNORM,  L""        },
-        {Ask::distance, 0,            nullptr,  "0",        RTNORM,  L""        },
-        {Ask::distance, 128,          L"D",     "d",        RTKWORD, L"D"       },
-        {Ask::distance, 134,          L"D",     "1e5",      RTNORM,  L""        },
-        {Ask::distance, 128,          L"D",     "x",        RTKWORD, L"x"       },
-        {Ask::distance, 0,            nullptr,  "^C",       RTCAN,   L""        },
-        {Ask::keyword,  0,            L"A S",   "",         RTNONE,  L""        },
-        {Ask::keyword,  0,            L"A S",   "a",        RTNORM,  L"A"       },
-        {Ask::keyword,  128,          L"A S",   "a",        RTNORM,  L"A"       },
-        {Ask::keyword,  128,          L"A S",   "apply",    RTKWORD, L"apply"   },
-        {Ask::keyword,  128,          L"П Н", "п",       RTNORM,  L"П"      },
-        {Ask::keyword,  128,          L"A S",   "",         RTNONE,  L""        },
-        {Ask::keyword,  128,          L"A S",   "^C",       RTCAN,   L""        },
-        {Ask::keyword,  8 | 32 | 128, L"A",     "a",        RTNORM,  L"A"       },
+        {Ask::point, 0, nullptr, "", RTNONE, L""},
+        {Ask::point, 128, L"S", "", RTNONE, L""},
+        {Ask::point, 129, L"S", "", RTKWORD, L""},    // any text, but not none
+        {Ask::point, 128, L"S", "   ", RTNONE, L""},  // a blank is Enter
+        {Ask::point, 128, L"S", "s", RTKWORD, L"S"},
+        {Ask::point, 128, L"S", "settings", RTKWORD, L"settings"},  // as typed, no keyword
+        {Ask::point, 128, L"S", "Settings", RTKWORD, L"Settings"},
+        {Ask::point, 128, L"Н", "н", RTKWORD, L"Н"},
+        {Ask::point, 128, L"S", "5", RTKWORD, L"5"},  // a number is no point
+        {Ask::point, 128, L"S", "1,2", RTNORM, L""},
+        {Ask::point, 0, nullptr, "^C", RTCAN, L""},
+        {Ask::point, 129, L"S", "^C", RTCAN, L""},
+        {Ask::corner, 0, nullptr, "", RTNONE, L""},
+        {Ask::corner, 128, L"U", "u", RTKWORD, L"U"},
+        {Ask::corner, 0, nullptr, "^C", RTCAN, L""},
+        {Ask::distance, 0, nullptr, "", RTNONE, L""},
+        {Ask::distance, 0, nullptr, "-5", RTNORM, L""},
+        {Ask::distance, 0, nullptr, "0", RTNORM, L""},
+        {Ask::distance, 128, L"D", "d", RTKWORD, L"D"},
+        {Ask::distance, 134, L"D", "1e5", RTNORM, L""},
+        {Ask::distance, 128, L"D", "x", RTKWORD, L"x"},
+        {Ask::distance, 0, nullptr, "^C", RTCAN, L""},
+        {Ask::keyword, 0, L"A S", "", RTNONE, L""},
+        {Ask::keyword, 0, L"A S", "a", RTNORM, L"A"},
+        {Ask::keyword, 128, L"A S", "a", RTNORM, L"A"},
+        {Ask::keyword, 128, L"A S", "apply", RTKWORD, L"apply"},
+        {Ask::keyword, 128, L"П Н", "п", RTNORM, L"П"},
+        {Ask::keyword, 128, L"A S", "", RTNONE, L""},
+        {Ask::keyword, 128, L"A S", "^C", RTCAN, L""},
+        {Ask::keyword, 8 | 32 | 128, L"A", "a", RTNORM, L"A"},
     };
     for (const Row& row : rows)
     {
@@ -129,18 +129,18 @@ struct Refusal
 TEST(Prompts, refusedAnswerIsToldAndTheSamePromptComesAgain)
 {
     const Refusal rows[] = {
-        {Ask::point,    0,   "abc", "1,1", "Invalid point."                          },
-        {Ask::point,    1,   "",    "1,1", "Invalid point."                          },
-        {Ask::point,    0,   "5",   "1,1", "Invalid point."                          },
-        {Ask::corner,   1,   "",    "1,1", "Invalid point."                          },
-        {Ask::distance, 0,   "abc", "1",   "Requires numeric distance or two points."},
-        {Ask::distance, 1,   "",    "1",   "Requires numeric distance or two points."},
-        {Ask::distance, 2,   "0",   "1",   "Value must be nonzero."                  },
-        {Ask::distance, 4,   "-1",  "1",   "Value must be positive."                 },
-        {Ask::distance, 6,   "-1",  "1",   "Value must be positive and nonzero."     },
-        {Ask::distance, 130, "0",   "1",   "Value must be nonzero."                  },
-        {Ask::keyword,  0,   "x",   "K",   "Invalid option keyword."                 },
-        {Ask::keyword,  1,   "",    "K",   "Invalid option keyword."                 },
+        {Ask::point, 0, "abc", "1,1", "Invalid point."},
+        {Ask::point, 1, "", "1,1", "Invalid point."},
+        {Ask::point, 0, "5", "1,1", "Invalid point."},
+        {Ask::corner, 1, "", "1,1", "Invalid point."},
+        {Ask::distance, 0, "abc", "1", "Requires numeric distance or two points."},
+        {Ask::distance, 1, "", "1", "Requires numeric distance or two points."},
+        {Ask::distance, 2, "0", "1", "Value must be nonzero."},
+        {Ask::distance, 4, "-1", "1", "Value must be positive."},
+        {Ask::distance, 6, "-1", "1", "Value must be positive and nonzero."},
+        {Ask::distance, 130, "0", "1", "Value must be nonzero."},
+        {Ask::keyword, 0, "x", "K", "Invalid option keyword."},
+        {Ask::keyword, 1, "", "K", "Invalid option keyword."},
     };
     for (const Refusal& row : rows)
     {

@@ -52,12 +52,12 @@ std::string lastOf(host::AnswerReader& reader)
 TEST(ScriptText, isUtf8OrUtf16BehindItsMark)
 {
     const Row rows[] = {
-        {"",                          ""      },
-        {"\xEF\xBB\xBFГ\n",          "Г\n"  },
+        {"", ""},
+        {"\xEF\xBB\xBFГ\n", "Г\n"},
         {"\xFF\xFE\x13\x04\r\0\n\0"s, "Г\r\n"},
-        {"\xFE\xFF\x04\x13\0\n"s,     "Г\n"  },
-        {"\xFF\xFE\x3D\xD8\x00\xDE"s, "😀"  },
-        {"\xFF\xFE",                  ""      },
+        {"\xFE\xFF\x04\x13\0\n"s, "Г\n"},
+        {"\xFF\xFE\x3D\xD8\x00\xDE"s, "😀"},
+        {"\xFF\xFE", ""},
     };
     for (const Row& row : rows)
     {
@@ -70,16 +70,18 @@ TEST(ScriptText, ofOtherBytesIsRefusedWithItsLine)
     const std::string utf8 = ": expected UTF-8, or UTF-16 behind a byte-order mark";
     const std::string utf16 = ": expected whole characters of UTF-16";
     const Row rows[] = {
-        {"a\nb\n\xCD\xE0\n",            "s.txt: line 3" + utf8 }, // Windows' Cyrillic
-        {"\xE9",                        "s.txt: line 1" + utf8 },
-        {"a\n\xC3",                     "s.txt: line 2" + utf8 },
-        {"a\nb\0\n"s,                   "s.txt: line 2" + utf8 }, // UTF-16 without its mark
-        {"a\n\xED\xA0\x80\n",           "s.txt: line 2" + utf8 }, // half a pair
+        {"a\nb\n\xCD\xE0\n", "s.txt: line 3" + utf8},  // Windows' Cyrillic
+        {"\xE9", "s.txt: line 1" + utf8},
+        {"a\n\xC3", "s.txt: line 2" + utf8},
+        {"a\nb\0\n"s, "s.txt: line 2" + utf8},          // UTF-16 without its mark
+        {"a\n\xED\xA0\x80\n", "s.txt: line 2" + utf8},  // half a pair
         {"\xFF\xFE"
-         "a\0\n\0\0\xD8\n\0"s, "s.txt: line 2" + utf16},
+         "a\0\n\0\0\xD8\n\0"s,
+         "s.txt: line 2" + utf16},
         {"\xFF\xFE"
          "a\0\n\0"
-         "b"s,                 "s.txt: line 2" + utf16},
+         "b"s,
+         "s.txt: line 2" + utf16},
     };
     for (const Row& row : rows)
     {
@@ -93,9 +95,10 @@ TEST(ScriptText, isTheSameForEveryReader)
     const Row rows[] = {
         {"\xFF\xFE"
          "a\0\n\0"
-         "b\0"s, "b"                   },
-        {"a\nb\n",        "b"                   },
-        {"a\n\xE9\n",     "s.txt: line 2" + utf8},
+         "b\0"s,
+         "b"},
+        {"a\nb\n", "b"},
+        {"a\n\xE9\n", "s.txt: line 2" + utf8},
     };
     for (const Row& row : rows)
     {

@@ -66,32 +66,32 @@ TEST(SystemVariables, newDrawingHasItsInitialValues)
         const wchar_t* text;
     };
     const Row rows[] = {
-        {L"UCSICON",     RTSHORT,   L"3"               },
-        {L"ucsfollow",   RTSHORT,   L"0"               }, // letter case does not count
-        {L"UCSORG",      RT3DPOINT, L"0,0,0"           },
-        {L"UCSXDIR",     RT3DPOINT, L"1,0,0"           },
-        {L"UCSYDIR",     RT3DPOINT, L"0,1,0"           },
-        {L"UCSNAME",     RTSTR,     L""                },
-        {L"VIEWDIR",     RT3DPOINT, L"0,0,1"           },
-        {L"VIEWTWIST",   RTREAL,    L"0"               },
-        {L"TARGET",      RT3DPOINT, L"0,0,0"           },
-        {L"ELEVATION",   RTREAL,    L"0"               },
-        {L"TILEMODE",    RTSHORT,   L"1"               },
-        {L"CVPORT",      RTSHORT,   L"2"               },
-        {L"CLAYER",      RTSTR,     L"0"               },
-        {L"TEXTSTYLE",   RTSTR,     L"Standard"        },
-        {L"CECOLOR",     RTSTR,     L"BYLAYER"         },
-        {L"CELTYPE",     RTSTR,     L"ByLayer"         },
-        {L"CELTSCALE",   RTREAL,    L"1"               },
-        {L"CELWEIGHT",   RTSHORT,   L"-1"              },
-        {L"WORLDUCS",    RTSHORT,   L"1"               },
-        {L"WORLDVIEW",   RTSHORT,   L"1"               },
-        {L"BLOCKEDITOR", RTSHORT,   L"0"               },
-        {L"CMDACTIVE",   RTSHORT,   L"0"               },
-        {L"DWGTITLED",   RTSHORT,   L"0"               },
-        {L"DWGNAME",     RTSTR,     L"Drawing1.dwg"    },
-        {L"LOCALE",      RTSTR,     L"ENU"             },
-        {L"ACADVER",     RTSTR,     L"19.1s (LMS Tech)"},
+        {L"UCSICON", RTSHORT, L"3"},
+        {L"ucsfollow", RTSHORT, L"0"},  // letter case does not count
+        {L"UCSORG", RT3DPOINT, L"0,0,0"},
+        {L"UCSXDIR", RT3DPOINT, L"1,0,0"},
+        {L"UCSYDIR", RT3DPOINT, L"0,1,0"},
+        {L"UCSNAME", RTSTR, L""},
+        {L"VIEWDIR", RT3DPOINT, L"0,0,1"},
+        {L"VIEWTWIST", RTREAL, L"0"},
+        {L"TARGET", RT3DPOINT, L"0,0,0"},
+        {L"ELEVATION", RTREAL, L"0"},
+        {L"TILEMODE", RTSHORT, L"1"},
+        {L"CVPORT", RTSHORT, L"2"},
+        {L"CLAYER", RTSTR, L"0"},
+        {L"TEXTSTYLE", RTSTR, L"Standard"},
+        {L"CECOLOR", RTSTR, L"BYLAYER"},
+        {L"CELTYPE", RTSTR, L"ByLayer"},
+        {L"CELTSCALE", RTREAL, L"1"},
+        {L"CELWEIGHT", RTSHORT, L"-1"},
+        {L"WORLDUCS", RTSHORT, L"1"},
+        {L"WORLDVIEW", RTSHORT, L"1"},
+        {L"BLOCKEDITOR", RTSHORT, L"0"},
+        {L"CMDACTIVE", RTSHORT, L"0"},
+        {L"DWGTITLED", RTSHORT, L"0"},
+        {L"DWGNAME", RTSTR, L"Drawing1.dwg"},
+        {L"LOCALE", RTSTR, L"ENU"},
+        {L"ACADVER", RTSTR, L"19.1s (LMS Tech)"},
     };
     support::Session session;
     for (const Row& row : rows)
@@ -116,19 +116,19 @@ TEST(SystemVariables, valuesThatDoNotFitAreRefusedAndErrnoTells)
         int error;
     };
     const Row rows[] = {
-        {L"NOSUCHVAR", shortValue(0),        18},
-        {L"UCSICON",   realValue(0),         19},
-        {L"ELEVATION", shortValue(1),        19}, // a whole number is no real
-        {L"CLAYER",    shortValue(0),        19},
-        {L"VIEWTWIST", realValue(0),         20},
-        {L"UCSORG",    realValue(0),         20},
-        {L"CMDNAMES",  textValue(L"X"),      20},
-        {L"UCSFOLLOW", shortValue(2),        22},
-        {L"UCSICON",   shortValue(-1),       22},
-        {L"CELTSCALE", realValue(0),         22},
-        {L"CLAYER",    textValue(L"absent"), 25},
-        {L"CELTYPE",   textValue(L"absent"), 26},
-        {L"CECOLOR",   textValue(L"256"),    27},
+        {L"NOSUCHVAR", shortValue(0), 18},
+        {L"UCSICON", realValue(0), 19},
+        {L"ELEVATION", shortValue(1), 19},  // a whole number is no real
+        {L"CLAYER", shortValue(0), 19},
+        {L"VIEWTWIST", realValue(0), 20},
+        {L"UCSORG", realValue(0), 20},
+        {L"CMDNAMES", textValue(L"X"), 20},
+        {L"UCSFOLLOW", shortValue(2), 22},
+        {L"UCSICON", shortValue(-1), 22},
+        {L"CELTSCALE", realValue(0), 22},
+        {L"CLAYER", textValue(L"absent"), 25},
+        {L"CELTYPE", textValue(L"absent"), 26},
+        {L"CECOLOR", textValue(L"256"), 27},
         {L"TEXTSTYLE", textValue(L"absent"), 28},
     };
     support::Session session;
@@ -154,18 +154,18 @@ TEST(SystemVariables, valuesThatFitAreTaken)
         const wchar_t* text;
     };
     const Row rows[] = {
-        {L"ucsicon",   shortValue(0),          L"0"       },
-        {L"UCSFOLLOW", shortValue(1),          L"1"       },
-        {L"ELEVATION", realValue(-2.5),        L"-2.5"    },
-        {L"LTSCALE",   realValue(10),          L"10"      },
-        {L"CECOLOR",   textValue(L"7"),        L"7"       },
-        {L"CECOLOR",   textValue(L"byblock"),  L"BYBLOCK" },
-        {L"CELTYPE",   textValue(L"BYBLOCK"),  L"ByBlock" },
+        {L"ucsicon", shortValue(0), L"0"},
+        {L"UCSFOLLOW", shortValue(1), L"1"},
+        {L"ELEVATION", realValue(-2.5), L"-2.5"},
+        {L"LTSCALE", realValue(10), L"10"},
+        {L"CECOLOR", textValue(L"7"), L"7"},
+        {L"CECOLOR", textValue(L"byblock"), L"BYBLOCK"},
+        {L"CELTYPE", textValue(L"BYBLOCK"), L"ByBlock"},
         {L"TEXTSTYLE", textValue(L"standard"), L"Standard"},
-        {L"CLAYER",    textValue(L"0"),        L"0"       },
-        {L"CELWEIGHT", shortValue(25),         L"25"      },
-        {L"TILEMODE",  shortValue(0),          L"0"       },
-        {L"ERRNO",     shortValue(0),          L"0"       },
+        {L"CLAYER", textValue(L"0"), L"0"},
+        {L"CELWEIGHT", shortValue(25), L"25"},
+        {L"TILEMODE", shortValue(0), L"0"},
+        {L"ERRNO", shortValue(0), L"0"},
     };
     support::Session session;
     for (const Row& row : rows)
@@ -183,8 +183,8 @@ TEST(SystemVariables, valueThatWasReadCanBeSetAgain)
         int value, other;
     };
     const Row rows[] = {
-        {L"UCSICON",   3, 0},
-        {L"UCSICON",   0, 1},
+        {L"UCSICON", 3, 0},
+        {L"UCSICON", 0, 1},
         {L"UCSFOLLOW", 0, 1},
         {L"UCSFOLLOW", 1, 0},
     };
@@ -231,11 +231,11 @@ TEST(SystemVariables, viewTwistIsWithinOneTurnWhateverTheDrawingHolds)
         const wchar_t* text;
     };
     const Row rows[] = {
-        {-pi / 6,     11 * pi / 6, L"330"},
-        {13 * pi / 6, pi / 6,      L"30" },
-        {-pi,         pi,          L"180"},
-        {2 * pi,      0,           L"0"  },
-        {-1e-20,      0,           L"0"  }, // rounds to the full turn
+        {-pi / 6, 11 * pi / 6, L"330"},
+        {13 * pi / 6, pi / 6, L"30"},
+        {-pi, pi, L"180"},
+        {2 * pi, 0, L"0"},
+        {-1e-20, 0, L"0"},  // rounds to the full turn
     };
     support::Session session;
     for (const Row& row : rows)

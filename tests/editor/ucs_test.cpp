@@ -236,14 +236,9 @@ TEST(Angle, isInTheHalfOpenFullTurn)
         double dx, dy, angle;
     };
     const Row rows[] = {
-        {1,  0,      0       },
-        {0,  1,      pi / 2  },
-        {-1, 0,      pi      },
-        {-1, -0.0,   pi      },
-        {0,  -1,     1.5 * pi},
-        {1,  -0.0,   0       },
-        {1,  -1e-20, 0       }, // rounds to the full turn
-        {0,  0,      0       },
+        {1, 0, 0},         {0, 1, pi / 2}, {-1, 0, pi},    {-1, -0.0, pi},
+        {0, -1, 1.5 * pi}, {1, -0.0, 0},   {1, -1e-20, 0},  // rounds to the full turn
+        {0, 0, 0},
     };
     for (const Row& row : rows)
     {

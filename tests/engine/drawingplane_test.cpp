@@ -48,13 +48,11 @@ TEST_F(DrawingPlane, theTextIsInTheLanguageOfTheHost)
 {
     const wchar_t* const english = L"Current plane is not parallel to XY plane in WCS";
     const wchar_t* const russian = L"Плоскость рисования не параллельна плоскости XY в МСК";
-    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
-        {L"ru-RU", russian},
-        {L"RU-ru", russian},
-        {L"ru",    english},
-        {L"",      english},
-        {L"de-DE", english}
-    };
+    const std::pair<const wchar_t*, const wchar_t*> rows[] = {{L"ru-RU", russian},
+                                                              {L"RU-ru", russian},
+                                                              {L"ru", english},
+                                                              {L"", english},
+                                                              {L"de-DE", english}};
     pickSheet();
     corner2.z = 1;
     for (const auto& [locale, text] : rows)

@@ -26,12 +26,7 @@ AcGePoint3dArray points(std::initializer_list<AcGePoint3d> list)
 // 100 x 50, counter-clockwise from the origin.
 AcGePoint3dArray sheet()
 {
-    return points({
-        {0,   0,  0},
-        {100, 0,  0},
-        {100, 50, 0},
-        {0,   50, 0}
-    });
+    return points({{0, 0, 0}, {100, 0, 0}, {100, 50, 0}, {0, 50, 0}});
 }
 
 TEST(PointInQuad, tellsInsideEdgeOutsideAndCorner)
@@ -42,27 +37,27 @@ TEST(PointInQuad, tellsInsideEdgeOutsideAndCorner)
         int place;
     };
     const Row rows[] = {
-        {{50, 25, 0},           1 },
-        {{1e-3, 1e-3, 0},       1 },
-        {{99.9, 49.9, 0},       1 },
-        {{50, 0, 0},            0 },
-        {{100, 25, 0},          0 },
-        {{50, 50, 0},           0 },
-        {{0, 25, 0},            0 },
-        {{50, 5e-11, 0},        0 }, // within the host's tolerance on either side
-        {{50, -5e-11, 0},       0 },
-        {{50, -2e-10, 0},       1 }, // off the edge, but too near for the angles to tell
-        {{50, -1e-5, 0},        1 }, // a millionth of an angle is the most that is not seen
-        {{50, -2e-5, 0},        -1},
-        {{0, 0, 0},             2 },
-        {{100, 50, 0},          2 },
-        {{5e-13, 0, 0},         2 },
-        {{5e-12, 0, 0},         0 }, // no longer at the corner, still on the edge
-        {{-1, 25, 0},           -1},
-        {{101, 25, 0},          -1},
-        {{150, 0, 0},           -1}, // on the line of an edge, past its end
-        {{50, 25, 1},           -1}, // above the sheet
-        {{infinity, 25, 0},     -1},
+        {{50, 25, 0}, 1},
+        {{1e-3, 1e-3, 0}, 1},
+        {{99.9, 49.9, 0}, 1},
+        {{50, 0, 0}, 0},
+        {{100, 25, 0}, 0},
+        {{50, 50, 0}, 0},
+        {{0, 25, 0}, 0},
+        {{50, 5e-11, 0}, 0},  // within the host's tolerance on either side
+        {{50, -5e-11, 0}, 0},
+        {{50, -2e-10, 0}, 1},  // off the edge, but too near for the angles to tell
+        {{50, -1e-5, 0}, 1},   // a millionth of an angle is the most that is not seen
+        {{50, -2e-5, 0}, -1},
+        {{0, 0, 0}, 2},
+        {{100, 50, 0}, 2},
+        {{5e-13, 0, 0}, 2},
+        {{5e-12, 0, 0}, 0},  // no longer at the corner, still on the edge
+        {{-1, 25, 0}, -1},
+        {{101, 25, 0}, -1},
+        {{150, 0, 0}, -1},  // on the line of an edge, past its end
+        {{50, 25, 1}, -1},  // above the sheet
+        {{infinity, 25, 0}, -1},
         {{std::nan(""), 25, 0}, -1},
         {{DBL_MAX, DBL_MAX, 0}, -1},
     };
@@ -113,12 +108,7 @@ TEST(PointInQuad, findsEdgesAndCornersAtSurveyCoordinates)
 // An edge is as uncertain along all its length as at its furthest end.
 TEST(PointInQuad, takesTheRoundingOfTheFurthestCorner)
 {
-    const AcGePoint3d q[] = {
-        {16777216, 0,   0},
-        {1048576,  100, 0},
-        {0,        100, 0},
-        {0,        0,   0}
-    };
+    const AcGePoint3d q[] = {{16777216, 0, 0}, {1048576, 100, 0}, {0, 100, 0}, {0, 0, 0}};
     for (int i = 0; i < 4; ++i)
     {
         const auto place = [&](const AcGePoint3d& P)
@@ -139,12 +129,7 @@ TEST(PointInOutlinePoints, countsTheFirstFourPointsOnly)
 TEST(PointInOutlinePoints, refusesAnOutlineOfFewerThanFour)
 {
     EXPECT_EQ(pointInOutlinePoints({0, 0, 0}, points({})), -99);
-    EXPECT_EQ(pointInOutlinePoints(
-                  {
-                      1, 1, 0
-    },
-                  points({{0, 0, 0}, {9, 0, 0}, {0, 9, 0}})),
-              -99);
+    EXPECT_EQ(pointInOutlinePoints({1, 1, 0}, points({{0, 0, 0}, {9, 0, 0}, {0, 9, 0}})), -99);
 }
 
 TEST(PointInCurve, tellsInsideOnAndOutside)
@@ -170,13 +155,8 @@ TEST(PointInCurve, usesTheToleranceOfTheHostAsItStands)
 
 TEST(PointInCurve, takesACurveOfAnyShape)
 {
-    AcGePoint3dArray corners = points({
-        {0,   0,   0},
-        {100, 0,   0},
-        {100, 100, 0},
-        {50,  10,  0},
-        {0,   100, 0}
-    });
+    AcGePoint3dArray corners =
+        points({{0, 0, 0}, {100, 0, 0}, {100, 100, 0}, {50, 10, 0}, {0, 100, 0}});
     const AcDb2dPolyline notched(AcDb::k2dSimplePoly, corners, 0, true);
     EXPECT_EQ(pointInCurve({50, 5, 0}, notched), 1);
     EXPECT_EQ(pointInCurve({50, 50, 0}, notched), -1);
@@ -218,10 +198,7 @@ TEST(PointInCurve, refusesACurveThatTheHostCannotMeasure)
 
 TEST(ContainsPoint, findsAPointThatLiesCloserThanAMillionth)
 {
-    const AcGePoint3dArray list = points({
-        {0,  0,  0 },
-        {10, 20, 30}
-    });
+    const AcGePoint3dArray list = points({{0, 0, 0}, {10, 20, 30}});
     EXPECT_TRUE(containsPoint(list, {10, 20, 30}));
     EXPECT_TRUE(containsPoint(list, {0, 0, 9e-7}));
     EXPECT_FALSE(containsPoint(list, {0, 0, 1e-6}));  // strictly closer
@@ -232,9 +209,7 @@ TEST(ContainsPoint, findsAPointThatLiesCloserThanAMillionth)
 TEST(ContainsPoint, givesTheGlobalToleranceBack)
 {
     const BorrowedTolerance tolerance(0.125);
-    const AcGePoint3dArray list = points({
-        {0, 0, 0}
-    });
+    const AcGePoint3dArray list = points({{0, 0, 0}});
     EXPECT_TRUE(containsPoint(list, {0, 0, 0}));
     EXPECT_EQ(AcGeContext::gTol.equalPoint(), 0.125);
     EXPECT_FALSE(containsPoint(list, {1, 0, 0}));

@@ -25,17 +25,17 @@ TEST(Positions, runFromOneStepBeforeTheRectangleToOneStepAfterIt)
         Positions positions;
     };
     const Row rows[] = {
-        {0,   20,  0,    10,  {-10, 0, 10, 20, 30} },
-        {5,   20,  0,    10,  {0, 10, 20, 30}      }, // towards zero: -5 / 10 is 0
-        {5,   20,  10,   10,  {0, 10, 20, 30}      }, // towards zero: -15 / 10 is -1
-        {5,   20,  -100, 10,  {-10, 0, 10, 20, 30} }, // 95 / 10 is 9, and so a step further out
-        {5,   5,   5,    10,  {-5, 5, 15}          }, // no width at all
-        {1,   2,   1.5,  0.5, {0.5, 1, 1.5, 2, 2.5}},
-        {-20, -15, 0,    10,  {-30, -20, -10}      },
-        {-25, -15, 0,    10,  {-30, -20, -10}      }, // towards zero: a step further in than -40
-        {0,   10,  0,    100, {-100, 0, 100}       },
-        {20,  0,   0,    10,  {10}                 }, // corners never come so; it ends all the same
-        {50,  0,   0,    10,  {}                   },
+        {0, 20, 0, 10, {-10, 0, 10, 20, 30}},
+        {5, 20, 0, 10, {0, 10, 20, 30}},          // towards zero: -5 / 10 is 0
+        {5, 20, 10, 10, {0, 10, 20, 30}},         // towards zero: -15 / 10 is -1
+        {5, 20, -100, 10, {-10, 0, 10, 20, 30}},  // 95 / 10 is 9, and so a step further out
+        {5, 5, 5, 10, {-5, 5, 15}},               // no width at all
+        {1, 2, 1.5, 0.5, {0.5, 1, 1.5, 2, 2.5}},
+        {-20, -15, 0, 10, {-30, -20, -10}},
+        {-25, -15, 0, 10, {-30, -20, -10}},  // towards zero: a step further in than -40
+        {0, 10, 0, 100, {-100, 0, 100}},
+        {20, 0, 0, 10, {10}},  // corners never come so; it ends all the same
+        {50, 0, 0, 10, {}},
     };
     for (const Row& row : rows)
     {
@@ -80,31 +80,31 @@ TEST(Positions, thereAreNoneForNumbersThatMakeNoRow)
         double low, high, base, step;
     };
     const Row rows[] = {
-        {0,         20,         0,        0        },
-        {0,         20,         0,        -0.0     },
-        {0,         20,         0,        -10      },
-        {0,         20,         0,        DBL_MAX  }, // not set
-        {0,         20,         0,        -DBL_MAX },
-        {0,         20,         0,        nan      },
-        {0,         20,         0,        infinity },
-        {0,         20,         0,        -infinity},
-        {0,         20,         0,        DBL_MIN  },
-        {0,         20,         0,        4e-324   },
-        {0,         20,         1e20,     10       }, // 10^19 steps to the base
-        {0,         20,         -1e20,    10       },
-        {0,         20,         DBL_MAX,  10       },
-        {0,         20,         nan,      10       },
-        {0,         20,         infinity, 10       },
-        {nan,       20,         0,        10       },
-        {0,         nan,        0,        10       },
-        {-infinity, infinity,   0,        10       },
-        {-DBL_MAX,  DBL_MAX,    0,        10       },
-        {1e17,      1e17 + 100, 1e17,     1        }, // too small to move the coordinate
-        {1e300,     1e300,      1e300,    1        },
-        {1e300,     2e300,      0,        1e299    }, // distances there cannot be taken
-        {0,         2e150,      0,        1e149    },
-        {-2e150,    0,          0,        1e149    },
-        {0,         3e9,        0,        1        }, // too many lines
+        {0, 20, 0, 0},
+        {0, 20, 0, -0.0},
+        {0, 20, 0, -10},
+        {0, 20, 0, DBL_MAX},  // not set
+        {0, 20, 0, -DBL_MAX},
+        {0, 20, 0, nan},
+        {0, 20, 0, infinity},
+        {0, 20, 0, -infinity},
+        {0, 20, 0, DBL_MIN},
+        {0, 20, 0, 4e-324},
+        {0, 20, 1e20, 10},  // 10^19 steps to the base
+        {0, 20, -1e20, 10},
+        {0, 20, DBL_MAX, 10},
+        {0, 20, nan, 10},
+        {0, 20, infinity, 10},
+        {nan, 20, 0, 10},
+        {0, nan, 0, 10},
+        {-infinity, infinity, 0, 10},
+        {-DBL_MAX, DBL_MAX, 0, 10},
+        {1e17, 1e17 + 100, 1e17, 1},  // too small to move the coordinate
+        {1e300, 1e300, 1e300, 1},
+        {1e300, 2e300, 0, 1e299},  // distances there cannot be taken
+        {0, 2e150, 0, 1e149},
+        {-2e150, 0, 0, 1e149},
+        {0, 3e9, 0, 1},  // too many lines
     };
     for (const Row& row : rows)
     {

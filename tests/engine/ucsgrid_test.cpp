@@ -61,10 +61,7 @@ TEST_F(UcsGrid, cornersPickedInAnyOrderGiveTheSameGrid)
     options.basePoint = toWcs({0, 0, 0});
     options.needText = true;
     const AcGePoint3d picks[][2] = {
-        {{0, 0, 0},   {30, 20, 0}},
-        {{30, 20, 0}, {0, 0, 0}  },
-        {{30, 0, 0},  {0, 20, 0} }
-    };
+        {{0, 0, 0}, {30, 20, 0}}, {{30, 20, 0}, {0, 0, 0}}, {{30, 0, 0}, {0, 20, 0}}};
     for (const auto& corners : picks)
     {
         pick(corners[0], corners[1]);
@@ -120,14 +117,9 @@ TEST_F(UcsGrid, linesBesideAnEdgeAreDrawnInsideAndDroppedOutside)
     };
     const double off = 2e-6;
     const Row rows[] = {
-        {0 + off,  10,       false, true },
-        {0 - off,  10,       false, false},
-        {30 - off, 10,       false, true },
-        {30 + off, 10,       false, false},
-        {10,       0 + off,  true,  true },
-        {10,       0 - off,  true,  false},
-        {10,       20 - off, true,  true },
-        {10,       20 + off, true,  false},
+        {0 + off, 10, false, true},   {0 - off, 10, false, false}, {30 - off, 10, false, true},
+        {30 + off, 10, false, false}, {10, 0 + off, true, true},   {10, 0 - off, true, false},
+        {10, 20 - off, true, true},   {10, 20 + off, true, false},
     };
     pickSheet();
     for (const Row& row : rows)
@@ -206,12 +198,12 @@ TEST_F(UcsGrid, labelsStandAtTheEndsAndReadUpright)
     const double right = 30 * M_PI / 180;
     const double up = right + M_PI / 2;
     const LabelSeen expected[] = {
-        {L"X=10.00", {10, 20, 0}, up,    AcDb::kTextRight},
-        {L"X=10.00", {10, 0, 0},  up,    AcDb::kTextLeft },
-        {L"X=20.00", {20, 20, 0}, up,    AcDb::kTextRight},
-        {L"X=20.00", {20, 0, 0},  up,    AcDb::kTextLeft },
+        {L"X=10.00", {10, 20, 0}, up, AcDb::kTextRight},
+        {L"X=10.00", {10, 0, 0}, up, AcDb::kTextLeft},
+        {L"X=20.00", {20, 20, 0}, up, AcDb::kTextRight},
+        {L"X=20.00", {20, 0, 0}, up, AcDb::kTextLeft},
         {L"Y=10.00", {30, 10, 0}, right, AcDb::kTextRight},
-        {L"Y=10.00", {0, 10, 0},  right, AcDb::kTextLeft },
+        {L"Y=10.00", {0, 10, 0}, right, AcDb::kTextLeft},
     };
     const std::vector<LabelSeen> seen = labels();
     ASSERT_EQ(seen.size(), std::size(expected));
@@ -234,14 +226,14 @@ TEST_F(UcsGrid, onlyTheEdgesThatLinesEndOnAreAsked)
         AcGePoint3d first;
     };
     const Row rows[] = {
-        {&tests::GridOptions::bXTopScribe,    2, {10, 20, 0}},
-        {&tests::GridOptions::bXBottomScribe, 2, {10, 0, 0} },
-        {&tests::GridOptions::bXLeftScribe,   0, {}         },
-        {&tests::GridOptions::bXRightScribe,  0, {}         },
-        {&tests::GridOptions::bYTopScribe,    0, {}         },
-        {&tests::GridOptions::bYBottomScribe, 0, {}         },
-        {&tests::GridOptions::bYLeftScribe,   1, {0, 10, 0} },
-        {&tests::GridOptions::bYRightScribe,  1, {30, 10, 0}},
+        {&tests::GridOptions::bXTopScribe, 2, {10, 20, 0}},
+        {&tests::GridOptions::bXBottomScribe, 2, {10, 0, 0}},
+        {&tests::GridOptions::bXLeftScribe, 0, {}},
+        {&tests::GridOptions::bXRightScribe, 0, {}},
+        {&tests::GridOptions::bYTopScribe, 0, {}},
+        {&tests::GridOptions::bYBottomScribe, 0, {}},
+        {&tests::GridOptions::bYLeftScribe, 1, {0, 10, 0}},
+        {&tests::GridOptions::bYRightScribe, 1, {30, 10, 0}},
     };
     options.needText = true;
     pickSheet();

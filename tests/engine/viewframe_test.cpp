@@ -61,12 +61,7 @@ TEST_F(ViewFrame, ofATwistedViewLiesAlongTheScreen)
 TEST_F(ViewFrame, ofAnObliqueViewLooksAtTheViewer)
 {
     const AcGeVector3d directions[] = {
-        {1,     1,  1 },
-        {0,     -1, 0 },
-        {0,     0,  -2},
-        {0.001, 0,  1 },
-        {3,     -4, 12}
-    };
+        {1, 1, 1}, {0, -1, 0}, {0, 0, -2}, {0.001, 0, 1}, {3, -4, 12}};
     for (const AcGeVector3d& direction : directions)
     {
         setUcs({1, 2, 3});

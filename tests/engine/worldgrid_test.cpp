@@ -48,28 +48,11 @@ TEST_F(WorldGrid, continuousLinesAreChainsOfPiecesOneStepLong)
     options.VertStep = 5;
     pickSheet();
     build();
-    const std::vector<Span> up = {
-        {0,    2.5 },
-        {2.5,  7.5 },
-        {7.5,  12.5},
-        {12.5, 17.5},
-        {17.5, 20  }
-    };
-    const std::vector<Span> across = {
-        {0,  5 },
-        {5,  15},
-        {15, 25},
-        {25, 30}
-    };
-    EXPECT_EQ(uprights(lines()), (std::map<double, std::vector<Span>>{
-                                     {10, up},
-                                     {20, up}
-    }));
-    EXPECT_EQ(levels(lines()), (std::map<double, std::vector<Span>>{
-                                   {5,  across},
-                                   {10, across},
-                                   {15, across}
-    }));
+    const std::vector<Span> up = {{0, 2.5}, {2.5, 7.5}, {7.5, 12.5}, {12.5, 17.5}, {17.5, 20}};
+    const std::vector<Span> across = {{0, 5}, {5, 15}, {15, 25}, {25, 30}};
+    EXPECT_EQ(uprights(lines()), (std::map<double, std::vector<Span>>{{10, up}, {20, up}}));
+    EXPECT_EQ(levels(lines()),
+              (std::map<double, std::vector<Span>>{{5, across}, {10, across}, {15, across}}));
 }
 
 TEST_F(WorldGrid, linesOnTheOutlineAreNotDrawn)
@@ -94,12 +77,10 @@ TEST_F(WorldGrid, aLineThatAFarBasePutsOnTheOutlineIsNotDrawn)
 
 TEST_F(WorldGrid, cornersPickedInAnyOrderGiveTheSameGrid)
 {
-    const AcGePoint3d picks[][2] = {
-        {{0, 0, 0},   {30, 20, 0}},
-        {{30, 20, 0}, {0, 0, 0}  },
-        {{30, 0, 0},  {0, 20, 0} },
-        {{0, 20, 0},  {30, 0, 0} }
-    };
+    const AcGePoint3d picks[][2] = {{{0, 0, 0}, {30, 20, 0}},
+                                    {{30, 20, 0}, {0, 0, 0}},
+                                    {{30, 0, 0}, {0, 20, 0}},
+                                    {{0, 20, 0}, {30, 0, 0}}};
     options.needText = true;
     for (const auto& corners : picks)
     {

@@ -32,12 +32,12 @@ TEST_F(WorldLabels, standAtBothEndsOfEachLineAndRunAlongItInside)
     build();
     const double up = M_PI / 2;
     const LabelSeen expected[] = {
-        {L"X=10.00", {10, 0, 0},  up, AcDb::kTextLeft }, // starts at the bottom edge
-        {L"X=10.00", {10, 20, 0}, up, AcDb::kTextRight}, // ends at the top edge
-        {L"X=20.00", {20, 0, 0},  up, AcDb::kTextLeft },
+        {L"X=10.00", {10, 0, 0}, up, AcDb::kTextLeft},    // starts at the bottom edge
+        {L"X=10.00", {10, 20, 0}, up, AcDb::kTextRight},  // ends at the top edge
+        {L"X=20.00", {20, 0, 0}, up, AcDb::kTextLeft},
         {L"X=20.00", {20, 20, 0}, up, AcDb::kTextRight},
-        {L"Y=10.00", {0, 10, 0},  0,  AcDb::kTextLeft },
-        {L"Y=10.00", {30, 10, 0}, 0,  AcDb::kTextRight},
+        {L"Y=10.00", {0, 10, 0}, 0, AcDb::kTextLeft},
+        {L"Y=10.00", {30, 10, 0}, 0, AcDb::kTextRight},
     };
     const std::vector<LabelSeen> seen = labels();
     ASSERT_EQ(seen.size(), std::size(expected));
@@ -82,14 +82,14 @@ TEST_F(WorldLabels, areMadeOnTheEdgesThatAreWanted)
         AcGePoint3d first;
     };
     const Row rows[] = {
-        {&tests::GridOptions::bXTopScribe,    2, {10, 20, 0}},
-        {&tests::GridOptions::bXBottomScribe, 2, {10, 0, 0} },
-        {&tests::GridOptions::bXLeftScribe,   0, {}         }, // no upright line ends there
-        {&tests::GridOptions::bXRightScribe,  0, {}         },
-        {&tests::GridOptions::bYTopScribe,    0, {}         },
-        {&tests::GridOptions::bYBottomScribe, 0, {}         },
-        {&tests::GridOptions::bYLeftScribe,   1, {0, 10, 0} },
-        {&tests::GridOptions::bYRightScribe,  1, {30, 10, 0}},
+        {&tests::GridOptions::bXTopScribe, 2, {10, 20, 0}},
+        {&tests::GridOptions::bXBottomScribe, 2, {10, 0, 0}},
+        {&tests::GridOptions::bXLeftScribe, 0, {}},  // no upright line ends there
+        {&tests::GridOptions::bXRightScribe, 0, {}},
+        {&tests::GridOptions::bYTopScribe, 0, {}},
+        {&tests::GridOptions::bYBottomScribe, 0, {}},
+        {&tests::GridOptions::bYLeftScribe, 1, {0, 10, 0}},
+        {&tests::GridOptions::bYRightScribe, 1, {30, 10, 0}},
     };
     pickSheet();
     for (const Row& row : rows)
@@ -153,10 +153,10 @@ TEST_F(WorldLabels, belongToAnEdgeThatIsAsFarAsTheTolerance)
         AcGePoint3d end;
     };
     const Row rows[] = {
-        {&LabelRequest::top,    {10, 21, 0}},
+        {&LabelRequest::top, {10, 21, 0}},
         {&LabelRequest::bottom, {10, -1, 0}},
-        {&LabelRequest::left,   {-1, 10, 0}},
-        {&LabelRequest::right,  {31, 10, 0}},
+        {&LabelRequest::left, {-1, 10, 0}},
+        {&LabelRequest::right, {31, 10, 0}},
     };
     const BorrowedTolerance tolerance(1);
     for (const Row& row : rows)
@@ -266,19 +266,19 @@ TEST_F(WorldLabels, turnOverUnderATwistInTheFirstAndThirdQuarterOnly)
     };
     const double pi = 3.14159265359;
     const Row rows[] = {
-        {0,            false},
-        {M_PI / 6,     true },
-        {pi / 2,       false},
-        {2,            false},
-        {pi,           false},
-        {M_PI,         false},
-        {pi + 1,       true },
-        {pi / 2 + pi,  false},
-        {6,            false},
-        {-0.5,         false},
-        {M_PI / 2,     true }, // a little less than the quarter
-  // turn of twelve decimals
-        {3 * M_PI / 2, true },
+        {0, false},
+        {M_PI / 6, true},
+        {pi / 2, false},
+        {2, false},
+        {pi, false},
+        {M_PI, false},
+        {pi + 1, true},
+        {pi / 2 + pi, false},
+        {6, false},
+        {-0.5, false},
+        {M_PI / 2, true},  // a little less than the quarter
+                           // turn of twelve decimals
+        {3 * M_PI / 2, true},
     };
     pickSheet();
     for (const Row& row : rows)

@@ -55,13 +55,13 @@ std::string complaintsOfState()
     const State& before = *atFirst;
     const State after = stateNow();
     const std::pair<const char*, bool> rows[] = {
-        {"UCS",                                                                            std::memcmp(&before.ucs, &after.ucs, sizeof before.ucs) != 0},
-        {"UCSICON",                                                         before.icon != after.icon                                                                               },
-        {"UCSFOLLOW",before.follow != after.follow},
+        {"UCS", std::memcmp(&before.ucs, &after.ucs, sizeof before.ucs) != 0},
+        {"UCSICON", before.icon != after.icon},
+        {"UCSFOLLOW", before.follow != after.follow},
         {"tolerance",
-         before.equalPoint != after.equalPoint || before.equalVector != after.equalVector                                                                                                                                     },
+         before.equalPoint != after.equalPoint || before.equalVector != after.equalVector},
         {"resource handles", before.resources != after.resources},
-        {"open files",                                             before.openFiles != after.openFiles                                                                                                                                                                                 },
+        {"open files", before.openFiles != after.openFiles},
     };
     std::string list;
     for (const auto& [name, differs] : rows)

@@ -12,24 +12,24 @@ namespace
 
 // Two columns and one row of cells, so that every call has its turn and a run is short.
 const Script all[] = {
-    {"loaded and unloaded",     "",                                                           "zv_netrax|^C",Script::Kind::loads},
-    {"cancelled at the first corner",                         "",                                                       "zv_netrax|^C",Script::Kind::allPairs},
-    {"a large grid that is not wanted",   "HorStep=0.2 VertStep=0.2",                                                               GRID "no",
+    {"loaded and unloaded", "", "zv_netrax|^C", Script::Kind::loads},
+    {"cancelled at the first corner", "", "zv_netrax|^C", Script::Kind::allPairs},
+    {"a large grid that is not wanted", "HorStep=0.2 VertStep=0.2", GRID "no",
      Script::Kind::allPairs},
-    {"lines along the world",                "",                                                                  GRID "A"},
-    {"lines along the UCS",        "WCSBasePoint=1",GRID "A"},
-    {"crosses",  "LookType=1 crossSize=4",                                                            GRID "A"},
-    {"labels along the world",LABELS,GRID "A"},
-    {"labels along the UCS",                    LABELS "WCSBasePoint=1",                                                                                GRID "A"                                                                                 },
-    {"cancelled","",GRID "^C"},
-    {"drawn again and accepted",                                         "",                                                                                                                                         GRID "x|A"                                                                                                                                                                                                                                                                      },
-    {"two grids","",GRID "A|" GRID "A"},
-    {"a dialog with picks",                                         "",
-     "zv_netrax|S|click 110|0,0|10,0|click 124|5,5|set 107 12|click 1|0,0|25,15|A"                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                        },
-    {"a dialog that is cancelled","",           "zv_netrax|S|set 107 12|click 2|^C"},
-    {"a dialog that refuses",                                         "",                                                        "zv_netrax|S|set 107 0|click 1|click 2|^C"                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                     },
- // Its second line lies so near to the edge that only the polygon tells.
-    {"a line along the edge","HorStep=13.999995 WCSBasePoint=1",GRID "A"},
+    {"lines along the world", "", GRID "A"},
+    {"lines along the UCS", "WCSBasePoint=1", GRID "A"},
+    {"crosses", "LookType=1 crossSize=4", GRID "A"},
+    {"labels along the world", LABELS, GRID "A"},
+    {"labels along the UCS", LABELS "WCSBasePoint=1", GRID "A"},
+    {"cancelled", "", GRID "^C"},
+    {"drawn again and accepted", "", GRID "x|A"},
+    {"two grids", "", GRID "A|" GRID "A"},
+    {"a dialog with picks", "",
+     "zv_netrax|S|click 110|0,0|10,0|click 124|5,5|set 107 12|click 1|0,0|25,15|A"},
+    {"a dialog that is cancelled", "", "zv_netrax|S|set 107 12|click 2|^C"},
+    {"a dialog that refuses", "", "zv_netrax|S|set 107 0|click 1|click 2|^C"},
+    // Its second line lies so near to the edge that only the polygon tells.
+    {"a line along the edge", "HorStep=13.999995 WCSBasePoint=1", GRID "A"},
 };
 }  // namespace
 

@@ -68,8 +68,10 @@ void addGrid(AcDbDatabase& database)
 void switchLayers(AcDbDatabase& database)
 {
     for (const LoadedLayer& loaded : sourceOf(database.core()).layers)
+    {
         host::ObjectAccess::setLayerFlags(
             {loaded.layer, !loaded.frozen, !loaded.locked, !loaded.off});
+    }
 }
 
 void turn(host::DrawingState& state)
@@ -80,7 +82,9 @@ void turn(host::DrawingState& state)
     state.ucsIcon ^= 1;
     state.modelUcs.toWorld = AcGeMatrix3d::rotation(0.25, AcGeVector3d(1, 2, 3));
     for (const wchar_t* name : {L"ELEVATION", L"GRIDUNIT", L"TEXTSIZE"})
+    {
         state.variables[name] = 2.5;
+    }
 }
 
 // Throws an Error if they are refused.
@@ -114,7 +118,9 @@ std::string complaintAboutChanges(AcDbDatabase& database)
     const std::string bytes = saved(database);
     const std::string why = refusal(bytes);
     if (!why.empty())
+    {
         return "saved with changes it is refused: " + why;
+    }
     const TagFile file = TagFile::fromText(bytes, "FILE");
     return file.records("ENTITIES").size() == before + newEntities
                ? ""
@@ -134,10 +140,14 @@ std::string complaintAboutSaving(std::string_view bytes, AcDbDatabase& database)
     look(sourceOf(database.core()).file);
     const std::string unchanged = saved(database);
     if (sourceOf(database.core()).file.repairedRecords().empty() && unchanged != bytes)
+    {
         return "saved unchanged it has other bytes";
+    }
     const std::string why = refusal(unchanged);
     if (!why.empty())
+    {
         return "saved unchanged it is refused: " + why;
+    }
     return complaintAboutChanges(database);
 }
 }  // namespace

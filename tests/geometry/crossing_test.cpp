@@ -28,12 +28,7 @@ Box rectangleIn(const AcGeMatrix3d& frame, double width, double height)
 {
     const host::Ocs ocs(frame * AcGeVector3d::kZAxis);
     const double elevation = ocs.toObject(frame * AcGePoint3d()).z;
-    const AcGePoint3d corners[] = {
-        {0,     0,      0},
-        {width, 0,      0},
-        {width, height, 0},
-        {0,     height, 0}
-    };
+    const AcGePoint3d corners[] = {{0, 0, 0}, {width, 0, 0}, {width, height, 0}, {0, height, 0}};
     const auto stored = [&](int i)
     {
         AcGePoint3d p = ocs.toObject(frame * corners[i % 4]);
@@ -76,34 +71,27 @@ TEST(Crossings, areFoundWhereThePiecesMeet)
         StraightPiece asking, other;
         double parameter;  // -1: they do not meet
     };
-    const StraightPiece level{
-        {0,  0, 0},
-        {10, 0, 0}
-    };
-    const StraightPiece endless{
-        {0,  0, 0},
-        {10, 0, 0},
-        true
-    };
+    const StraightPiece level{{0, 0, 0}, {10, 0, 0}};
+    const StraightPiece endless{{0, 0, 0}, {10, 0, 0}, true};
     const Row rows[] = {
-        {"in their middles",                level,                  {{4, -1, 0}, {4, 1, 0}},           0.4},
-        {"at the start of the asking one",  level,                  {{0, -1, 0}, {0, 1, 0}},           0  },
-        {"at the end of the asking one",    level,                  {{10, -1, 0}, {10, 1, 0}},         1  },
-        {"at an end of the other",          level,                  {{7, 0, 0}, {7, 1, 0}},            0.7},
-        {"before the asking one begins",    level,                  {{-1, -1, 0}, {-1, 1, 0}},         -1 },
-        {"beyond the asking one",           level,                  {{10.001, -1, 0}, {10.001, 1, 0}}, -1 },
-        {"beyond, the asking one extended", endless,                {{30, -1, 0}, {30, 1, 0}},         3  },
-        {"before the other begins",         level,                  {{4, 0.001, 0}, {4, 1, 0}},        -1 },
-        {"the other extended",              level,                  {{4, 1, 0}, {4, 3, 0}, true},      0.4},
-        {"only when both are extended",     level,                  {{30, 1, 0}, {30, 3, 0}, true},    -1 },
-        {"both extended",                   endless,                {{30, 1, 0}, {30, 3, 0}, true},    3  },
-        {"in space",                        level,                  {{4, -1, -2}, {4, 1, 2}},          0.4},
-        {"in parallel planes",              level,                  {{4, -1, 0.001}, {4, 1, 0.001}},   -1 },
-        {"parallel",                        endless,                {{0, 1, 0}, {10, 1, 0}, true},     -1 },
-        {"overlapping",                     level,                  {{5, 0, 0}, {15, 0, 0}},           -1 },
-        {"overlapping the other way round", endless,                {{5, 0, 0}, {-5, 0, 0}},           -1 },
-        {"no length on the line",           level,                  {{5, 0, 0}, {5, 0, 0}},            -1 },
-        {"asked by a point",                {{5, 0, 0}, {5, 0, 0}}, {{5, -1, 0}, {5, 1, 0}},           -1 },
+        {"in their middles", level, {{4, -1, 0}, {4, 1, 0}}, 0.4},
+        {"at the start of the asking one", level, {{0, -1, 0}, {0, 1, 0}}, 0},
+        {"at the end of the asking one", level, {{10, -1, 0}, {10, 1, 0}}, 1},
+        {"at an end of the other", level, {{7, 0, 0}, {7, 1, 0}}, 0.7},
+        {"before the asking one begins", level, {{-1, -1, 0}, {-1, 1, 0}}, -1},
+        {"beyond the asking one", level, {{10.001, -1, 0}, {10.001, 1, 0}}, -1},
+        {"beyond, the asking one extended", endless, {{30, -1, 0}, {30, 1, 0}}, 3},
+        {"before the other begins", level, {{4, 0.001, 0}, {4, 1, 0}}, -1},
+        {"the other extended", level, {{4, 1, 0}, {4, 3, 0}, true}, 0.4},
+        {"only when both are extended", level, {{30, 1, 0}, {30, 3, 0}, true}, -1},
+        {"both extended", endless, {{30, 1, 0}, {30, 3, 0}, true}, 3},
+        {"in space", level, {{4, -1, -2}, {4, 1, 2}}, 0.4},
+        {"in parallel planes", level, {{4, -1, 0.001}, {4, 1, 0.001}}, -1},
+        {"parallel", endless, {{0, 1, 0}, {10, 1, 0}, true}, -1},
+        {"overlapping", level, {{5, 0, 0}, {15, 0, 0}}, -1},
+        {"overlapping the other way round", endless, {{5, 0, 0}, {-5, 0, 0}}, -1},
+        {"no length on the line", level, {{5, 0, 0}, {5, 0, 0}}, -1},
+        {"asked by a point", {{5, 0, 0}, {5, 0, 0}}, {{5, -1, 0}, {5, 1, 0}}, -1},
     };
     for (const Row& row : rows)
     {
@@ -119,22 +107,10 @@ TEST(Crossings, areFoundWhereThePiecesMeet)
 
 TEST(Crossings, followTheSharedPointToleranceAtTheEndsAndAcross)
 {
-    const StraightPiece level{
-        {0,  0, 0},
-        {10, 0, 0}
-    };
-    const StraightPiece justBeyond{
-        {10 + 5e-7, -1, 0},
-        {10 + 5e-7, 1,  0}
-    };
-    const StraightPiece justShort{
-        {5, 5e-7, 0},
-        {5, 1,    0}
-    };
-    const StraightPiece justAbove{
-        {5, -1, 5e-7},
-        {5, 1,  5e-7}
-    };
+    const StraightPiece level{{0, 0, 0}, {10, 0, 0}};
+    const StraightPiece justBeyond{{10 + 5e-7, -1, 0}, {10 + 5e-7, 1, 0}};
+    const StraightPiece justShort{{5, 5e-7, 0}, {5, 1, 0}};
+    const StraightPiece justAbove{{5, -1, 5e-7}, {5, 1, 5e-7}};
     const AcGeTol before = AcGeContext::gTol;
     for (const StraightPiece& other : {justBeyond, justShort, justAbove})
     {
@@ -148,18 +124,8 @@ TEST(Crossings, followTheSharedPointToleranceAtTheEndsAndAcross)
 TEST(Crossings, areNoneWithWhatIsNotANumber)
 {
     const double none = std::nan("");
-    EXPECT_FALSE(crossing(
-        {
-            {0,  0, 0},
-            {10, 0, 0}
-    },
-        {{none, -1, 0}, {4, 1, 0}}));
-    EXPECT_FALSE(crossing(
-        {
-            {0,  0, none},
-            {10, 0, 0   }
-    },
-        {{4, -1, 0}, {4, 1, 0}}));
+    EXPECT_FALSE(crossing({{0, 0, 0}, {10, 0, 0}}, {{none, -1, 0}, {4, 1, 0}}));
+    EXPECT_FALSE(crossing({{0, 0, none}, {10, 0, 0}}, {{4, -1, 0}, {4, 1, 0}}));
 }
 
 TEST(Crossings, ofUprightLinesWithLevelEdgesAreExactlyOnBoth)
@@ -170,15 +136,10 @@ TEST(Crossings, ofUprightLinesWithLevelEdgesAreExactlyOnBoth)
         const double x = dice.measured(0, 1e7);
         const double y = dice.measured(0, 1e7);
         const double z = dice.measured(0, 500);
-        const StraightPiece edge{
-            {x - dice.between(1, 1e5), y, z},
-            {x + dice.between(1, 1e5), y, z}
-        };
+        const StraightPiece edge{{x - dice.between(1, 1e5), y, z},
+                                 {x + dice.between(1, 1e5), y, z}};
         const StraightPiece line{
-            {x, y - dice.between(1, 100), z},
-            {x, y - dice.between(0, 1),   z},
-            true
-        };
+            {x, y - dice.between(1, 100), z}, {x, y - dice.between(0, 1), z}, true};
         for (const auto& found : {crossing(line, edge), crossing(edge, line)})
         {
             ASSERT_TRUE(found);

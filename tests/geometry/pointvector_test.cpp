@@ -168,10 +168,7 @@ TEST(Vectors, theAngleIsGoodNearZeroAndNearPi)
 
 TEST(Vectors, aZeroVectorMakesNoAngleInEitherSignOfZero)
 {
-    const AcGeVector3d zeros[] = {
-        {0,    0,    0   },
-        {-0.0, -0.0, -0.0}
-    };
+    const AcGeVector3d zeros[] = {{0, 0, 0}, {-0.0, -0.0, -0.0}};
     for (const AcGeVector3d& zero : zeros)
     {
         EXPECT_EQ(zero.angleTo(AcGeVector3d(1, 1, 1)), 0);
@@ -199,12 +196,7 @@ TEST(Vectors, theAnglesRoundAPointInsideAQuadrilateralMakeAFullTurn)
     {
         const AcGeMatrix3d frame = dice.tiltedFrame(1e7);
         const AcGePoint3d inside = frame * AcGePoint3d(dice.between(1, 9), dice.between(1, 9), 0);
-        const AcGePoint3d corners[] = {
-            {0,  0,  0},
-            {10, 0,  0},
-            {10, 10, 0},
-            {0,  10, 0}
-        };
+        const AcGePoint3d corners[] = {{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}};
         double sum = 0;
         for (int k = 0; k < 4; ++k)
         {

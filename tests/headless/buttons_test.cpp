@@ -84,13 +84,13 @@ TEST(Buttons, aRadioButtonUnchecksTheOthersOfItsGroupOnly)
         int clicked;
         std::vector<int> checked;
     } rows[] = {
-        {24, {24}            },
-        {10, {10, 24}        },
-        {21, {10, 21, 24}    },
+        {24, {24}},
+        {10, {10, 24}},
+        {21, {10, 21, 24}},
         {30, {10, 21, 24, 30}},
         {23, {10, 23, 24, 30}},
         {31, {10, 23, 24, 31}},
-        {31, {10, 23, 24, 31}}, // stays
+        {31, {10, 23, 24, 31}},  // stays
         {21, {10, 21, 24, 31}},
     };
     for (const auto& row : rows)

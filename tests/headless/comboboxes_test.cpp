@@ -85,10 +85,10 @@ TEST(ComboBoxes, insertingTakesAnyPositionUpToTheEnd)
         LRESULT result;
         LPCWSTR items;
     } rows[] = {
-        {0,    0,      L"x a b"    },
-        {3,    3,      L"x a b x"  },
-        {none, 4,      L"x a b x x"},
-        {6,    CB_ERR, L"x a b x x"},
+        {0, 0, L"x a b"},
+        {3, 3, L"x a b x"},
+        {none, 4, L"x a b x x"},
+        {6, CB_ERR, L"x a b x x"},
     };
     for (const auto& row : rows)
     {
@@ -106,11 +106,7 @@ TEST(ComboBoxes, selectingTellsNobody)
         LRESULT result;
         LPCWSTR text;
     } rows[] = {
-        {1,    1,      L"b"},
-        {0,    0,      L"a"},
-        {2,    CB_ERR, L"" },
-        {1,    1,      L"b"},
-        {none, CB_ERR, L"" },
+        {1, 1, L"b"}, {0, 0, L"a"}, {2, CB_ERR, L""}, {1, 1, L"b"}, {none, CB_ERR, L""},
     };
     EXPECT_EQ(box.tell(CB_GETCURSEL), CB_ERR);
     for (const auto& row : rows)
@@ -159,16 +155,11 @@ TEST(ComboBoxes, exactTextIsFoundInAnyCaseAndRoundTheEnd)
         LPCWSTR text;
         LRESULT found;
     } rows[] = {
-        {none, L"точка", 0     },
-        {0,    L"точка", 2     },
-        {2,    L"точка", 0     },
-        {1,    L"POINT",      1     }, // itself last
-        {none, L"poin",       CB_ERR},
-        {none, L"point  2",   CB_ERR},
-        {none, L"POINT 2",    3     },
-        {3,    L"точка", 0     },
-        {9,    L"точка", 0     },
-        {none, L"",           CB_ERR},
+        {none, L"точка", 0},     {0, L"точка", 2},
+        {2, L"точка", 0},        {1, L"POINT", 1},  // itself last
+        {none, L"poin", CB_ERR}, {none, L"point  2", CB_ERR},
+        {none, L"POINT 2", 3},   {3, L"точка", 0},
+        {9, L"точка", 0},        {none, L"", CB_ERR},
     };
     for (const auto& row : rows)
     {

@@ -37,11 +37,8 @@ TEST(Controls, aTextIsCutToTheBuffer)
         int copied;
         LPCWSTR text;
     } rows[] = {
-        {4,  3, L"100"},
-        {3,  2, L"10" },
-        {1,  0, L""   },
-        {0,  0, L"?"  }, // nothing is touched
-        {-1, 0, L"?"  },
+        {4, 3, L"100"}, {3, 2, L"10"}, {1, 0, L""}, {0, 0, L"?"},  // nothing is touched
+        {-1, 0, L"?"},
     };
     for (const auto& row : rows)
     {
@@ -72,9 +69,8 @@ TEST(Controls, anEditTellsThatItsTextHasChanged)
     EXPECT_TRUE(dialog.told.empty());  // the text of the template is no change
     EXPECT_TRUE(SetWindowTextW(dialog.control(edit), L"12,5"));
     EXPECT_EQ(textOf(dialog.control(edit)), L"12,5");
-    EXPECT_EQ(dialog.told, (std::vector<Told>{
-                               {WM_COMMAND, edit, EN_CHANGE, dialog.control(edit)}
-    }));
+    EXPECT_EQ(dialog.told,
+              (std::vector<Told>{{WM_COMMAND, edit, EN_CHANGE, dialog.control(edit)}}));
 }
 
 TEST(Controls, theBannerOfAnEditIsNotItsText)

@@ -105,7 +105,7 @@ TEST(Dialogs, aCloseThatIsNotAnsweredIsACancel)
     const TestDialog dialog(question(), always(FALSE));
     EXPECT_EQ(SendMessageW(dialog.window, WM_CLOSE, 0, 0), 0);
     const std::vector<Told> expected = {
-        {WM_CLOSE,   0,        0,          nullptr                 },
+        {WM_CLOSE, 0, 0, nullptr},
         {WM_COMMAND, IDCANCEL, BN_CLICKED, dialog.control(IDCANCEL)},
     };
     EXPECT_EQ(dialog.told, expected);

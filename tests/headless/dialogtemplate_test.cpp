@@ -72,25 +72,25 @@ TEST(DialogTemplates, classesAreKnownByNameInAnyCaseAndByNumber)
         LPCWSTR given;
         LPCWSTR known;  // null: refused
     } rows[] = {
-        {L"Button",              L"Button"   },
-        {L"bUTTON",              L"Button"   },
-        {L"EDIT",                L"Edit"     },
-        {L"static",              L"Static"   },
-        {L"ListBox",             L"ListBox"  },
-        {L"ScrollBar",           L"ScrollBar"},
-        {L"ComboBox",            L"ComboBox" },
-        {MAKEINTRESOURCEW(0x80), L"Button"   },
-        {MAKEINTRESOURCEW(0x81), L"Edit"     },
-        {MAKEINTRESOURCEW(0x82), L"Static"   },
-        {MAKEINTRESOURCEW(0x83), L"ListBox"  },
+        {L"Button", L"Button"},
+        {L"bUTTON", L"Button"},
+        {L"EDIT", L"Edit"},
+        {L"static", L"Static"},
+        {L"ListBox", L"ListBox"},
+        {L"ScrollBar", L"ScrollBar"},
+        {L"ComboBox", L"ComboBox"},
+        {MAKEINTRESOURCEW(0x80), L"Button"},
+        {MAKEINTRESOURCEW(0x81), L"Edit"},
+        {MAKEINTRESOURCEW(0x82), L"Static"},
+        {MAKEINTRESOURCEW(0x83), L"ListBox"},
         {MAKEINTRESOURCEW(0x84), L"ScrollBar"},
-        {MAKEINTRESOURCEW(0x85), L"ComboBox" },
-        {MAKEINTRESOURCEW(0x7F), nullptr     },
-        {MAKEINTRESOURCEW(0x86), nullptr     },
-        {MAKEINTRESOURCEW(0),    nullptr     },
-        {L"SysListView32",       nullptr     },
-        {L"Buttons",             nullptr     },
-        {L"",                    nullptr     },
+        {MAKEINTRESOURCEW(0x85), L"ComboBox"},
+        {MAKEINTRESOURCEW(0x7F), nullptr},
+        {MAKEINTRESOURCEW(0x86), nullptr},
+        {MAKEINTRESOURCEW(0), nullptr},
+        {L"SysListView32", nullptr},
+        {L"Buttons", nullptr},
+        {L"", nullptr},
     };
     for (const auto& row : rows)
     {
@@ -134,13 +134,10 @@ TEST(DialogTemplates, dialogUnitsBecomePixelsRoundedHalfAwayFromZero)
         int x, y, width, height;
         RECT pixels;
     } rows[] = {
-        {0,  0,  4,    8,   {0, 0, 6, 13}     },
-        {1,  1,  1,    1,   {2, 2, 4, 4}      }, // 1.5 and 1.625
-        {3,  2,  5,    4,   {5, 3, 13, 10}    }, // 4.5, 3.25; 7.5, 6.5
-        {-1, -4, 0,    0,   {-2, -7, -2, -7}  },
-        {-3, -1, 3,    1,   {-5, -2, 0, 0}    },
-        {7,  5,  172,  62,  {11, 8, 269, 109} },
-        {0,  0,  1000, 800, {0, 0, 1500, 1300}},
+        {0, 0, 4, 8, {0, 0, 6, 13}},        {1, 1, 1, 1, {2, 2, 4, 4}},  // 1.5 and 1.625
+        {3, 2, 5, 4, {5, 3, 13, 10}},                                    // 4.5, 3.25; 7.5, 6.5
+        {-1, -4, 0, 0, {-2, -7, -2, -7}},   {-3, -1, 3, 1, {-5, -2, 0, 0}},
+        {7, 5, 172, 62, {11, 8, 269, 109}}, {0, 0, 1000, 800, {0, 0, 1500, 1300}},
     };
     for (const auto& row : rows)
     {
@@ -184,13 +181,13 @@ TEST(DialogTemplates, whatATemplateSaysOfItsSizeIsNotTrusted)
         WORD value;
         bool read;
     } rows[] = {
-        {0,                  1,      true },
-        {0,                  2,      false}, // another version
-        {markOffset,         0,      false}, // the old form
-        {countOffset,        0,      true },
-        {countOffset,        2,      false},
-        {countOffset,        0xFFFF, false},
-        {creationDataOffset, 1,      false},
+        {0, 1, true},
+        {0, 2, false},           // another version
+        {markOffset, 0, false},  // the old form
+        {countOffset, 0, true},
+        {countOffset, 2, false},
+        {countOffset, 0xFFFF, false},
+        {creationDataOffset, 1, false},
         {creationDataOffset, 0xFFFF, false},
     };
     for (const auto& row : rows)

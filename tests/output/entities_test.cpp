@@ -93,12 +93,8 @@ TEST_F(Entities, colourNoughtLeavesTheDrawingsCurrentColour)
 {
     host::currentOf(database()).color = 3;
     const AcDbObjectId line = addPlainLine();
-    const AcDbObjectId frame = addPolylineFrame(true,
-                                                corners({
-                                                    {0, 0, 0},
-                                                    {9, 0, 0}
-    }),
-                                                0, nullptr, nullptr, ACDB_MODEL_SPACE);
+    const AcDbObjectId frame = addPolylineFrame(true, corners({{0, 0, 0}, {9, 0, 0}}), 0, nullptr,
+                                                nullptr, ACDB_MODEL_SPACE);
     const auto color = [](const AcDbEntity& entity) { return entity.colorIndex(); };
     EXPECT_EQ(inspect<AcDbLine>(line, color), 3);
     EXPECT_EQ(inspect<AcDb2dPolyline>(frame, color), 3);
@@ -189,12 +185,7 @@ TEST_F(Entities, pointsInTheUcsAreCarriedToTheirPlaceAndWorldPointsStayWhereThey
 TEST_F(Entities, aFrameOfWorldPointsStandsWhereTheyAreAndLeavesTheCallersAlone)
 {
     setUcs({100, 200, 5}, 30);
-    const AcGePoint3dArray points = corners({
-        {0, 0, 5},
-        {9, 0, 5},
-        {9, 9, 5},
-        {0, 0, 5}
-    });
+    const AcGePoint3dArray points = corners({{0, 0, 5}, {9, 0, 5}, {9, 9, 5}, {0, 0, 5}});
     const AcGePoint3dArray before = points;
     const AcGePoint3dArray seen = verticesOf(addFrame(false, points));
     ASSERT_EQ(seen.length(), 3);
@@ -219,19 +210,20 @@ TEST_F(Entities, aFrameIsClosedWhenItsEndsCoincideAndNoCornerIsDoubled)
         bool closed;
     };
     const Row rows[] = {
-        {corners({}),                                                                  0, false},
-        {corners({{0, 0, 0}}),                                                         0, false},
-        {corners({{0, 0, 0}, {9, 0, 0}}),                                              2, false},
-        {corners({{0, 0, 0}, {0, 0, 0}}),                                              1,
-         true                                                                                  }, // a frame without any size is tried all the same
-        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 0, 0}}),                        3, true },
-        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {5e-11, 0, 0}}),                    3, true },
-        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 0, 1e-10}}),                    4, false}, // the tolerance itself
-        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {1e-9, 0, 0}}),                     4, false},
-        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}, {0, 0, 0}}),             4, true },
-        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}}),                        4, false},
- // at survey coordinates the next double is not another point
-        {corners({{1e7, 1e7, 0}, {2e7, 1e7, 0}, {1e7, 2e7, 0}, {1e7 + 2e-9, 1e7, 0}}), 3, true },
+        {corners({}), 0, false},
+        {corners({{0, 0, 0}}), 0, false},
+        {corners({{0, 0, 0}, {9, 0, 0}}), 2, false},
+        {corners({{0, 0, 0}, {0, 0, 0}}), 1,
+         true},  // a frame without any size is tried all the same
+        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 0, 0}}), 3, true},
+        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {5e-11, 0, 0}}), 3, true},
+        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 0, 1e-10}}), 4,
+         false},  // the tolerance itself
+        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {1e-9, 0, 0}}), 4, false},
+        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}, {0, 0, 0}}), 4, true},
+        {corners({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}}), 4, false},
+        // at survey coordinates the next double is not another point
+        {corners({{1e7, 1e7, 0}, {2e7, 1e7, 0}, {1e7, 2e7, 0}, {1e7 + 2e-9, 1e7, 0}}), 3, true},
         {corners({{1e7, 1e7, 0}, {2e7, 1e7, 0}, {1e7, 2e7, 0}, {1e7 + 1e-6, 1e7, 0}}), 4, false},
     };
     for (const Row& row : rows)
@@ -251,11 +243,7 @@ TEST_F(Entities, aFrameIsClosedWhenItsEndsCoincideAndNoCornerIsDoubled)
 TEST_F(Entities, aFrameLooksAsTheOutlineDoes)
 {
     host::currentOf(database()).lineWeight = 25;
-    const AcDbObjectId id = addFrame(true, corners({
-                                               {0, 0, 7},
-                                               {9, 0, 8},
-                                               {9, 9, 9}
-    }));
+    const AcDbObjectId id = addFrame(true, corners({{0, 0, 7}, {9, 0, 8}, {9, 9, 9}}));
     inspect<AcDb2dPolyline>(id,
                             [](const AcDb2dPolyline& frame)
                             {
@@ -285,11 +273,7 @@ TEST_F(Entities, nothingIsMadeWithoutADrawingOrWithoutTheBlock)
     EXPECT_EQ(appendToBlock(&loose, id, ACDB_MODEL_SPACE), Acad::eNoDatabase);
     EXPECT_EQ(Acad::eNoDatabase, 124);
     EXPECT_TRUE(addPlainLine().isNull());
-    EXPECT_TRUE(addFrame(true, corners({
-                                   {0, 0, 0},
-                                   {1, 0, 0}
-    }))
-                    .isNull());
+    EXPECT_TRUE(addFrame(true, corners({{0, 0, 0}, {1, 0, 0}})).isNull());
 }
 
 TEST_F(Entities, nothingIsMadeWhileSomeoneWritesTheTableOfBlocks)
@@ -328,10 +312,7 @@ TEST_F(Entities, anAppendedEntityIsClosedAndARefusedOneIsNot)
 TEST_F(Entities, everythingIsShownAtOnce)
 {
     addPlainLine();
-    addFrame(true, corners({
-                       {0, 0, 0},
-                       {9, 0, 0}
-    }));
+    addFrame(true, corners({{0, 0, 0}, {9, 0, 0}}));
     addLabelText(true, L"X=1", {0, 0, 0}, 1, 0, 0, L"Standard", AcDb::kTextLeft, AcDb::kTextBottom,
                  ACDB_MODEL_SPACE);
     AcDbObjectId unseen;

@@ -75,15 +75,7 @@ TEST_F(Group, movesTheMeterAboutTwentyTimesAndNeverToItsEnd)
         int count;
         int step;
     };
-    const Row rows[] = {
-        {1,   1},
-        {19,  1},
-        {39,  1},
-        {40,  2},
-        {100, 5},
-        {119, 5},
-        {120, 6}
-    };
+    const Row rows[] = {{1, 1}, {19, 1}, {39, 1}, {40, 2}, {100, 5}, {119, 5}, {120, 6}};
     for (const Row& row : rows)
     {
         tests::Meter meter;

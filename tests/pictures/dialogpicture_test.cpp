@@ -190,15 +190,8 @@ TEST(BitmapOfResources, cutOrStrangeOnesAreRefused)
     {
         EXPECT_FALSE(host::imageOfBitmap(bytesOf(bytes.substr(0, size)))) << size;
     }
-    for (const auto& [at, value] : {
-             std::pair(0, 41), {4,  0  },
-               {7,  127},
-               {8,  0  },
-               {11, 127},
-               {14, 16 },
-               {16, 1  },
-               {34, 127}
-    })
+    for (const auto& [at, value] :
+         {std::pair(0, 41), {4, 0}, {7, 127}, {8, 0}, {11, 127}, {14, 16}, {16, 1}, {34, 127}})
     {
         std::string strange = bytes;
         strange[at] = char(value);

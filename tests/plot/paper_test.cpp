@@ -22,11 +22,7 @@ const unsigned whitePixel = 0xFFFFFF, redPixel = 0xFF0000;
 TEST(Paper, showsTheWholeWindowWithAMarginUprightAndNotMirrored)
 {
     Paper paper(FileKind::png, plan, {100, 200, 140, 220});
-    paper.area(
-        {
-            {{100, 200, 0}, {110, 200, 0}, {110, 205, 0}, {100, 205, 0}}
-    },
-        red);
+    paper.area({{{100, 200, 0}, {110, 200, 0}, {110, 205, 0}, {100, 205, 0}}}, red);
     const Picture picture(paper.finish());
     EXPECT_EQ(picture.width(), 2400);
     EXPECT_EQ(picture.height(), 1257);  // half as high, margins apart: 220 mm of 420
@@ -41,21 +37,11 @@ TEST(Paper, theViewDecidesWhatIsUp)
     // Seen turned by a quarter: what lies at the right in the world is on top.
     const AcGeMatrix3d quarter = AcGeMatrix3d::rotation(M_PI / 2, AcGeVector3d::kZAxis);
     Extents extents(quarter);
-    extents.path(
-        {
-            {0,  0,  0},
-            {30, 0,  0},
-            {30, 10, 0}
-    },
-        false, red);
+    extents.path({{0, 0, 0}, {30, 0, 0}, {30, 10, 0}}, false, red);
     EXPECT_NEAR(extents.window().left, -10, 1e-9);
     EXPECT_NEAR(extents.window().top, 30, 1e-9);
     Paper paper(FileKind::png, quarter, extents.window());
-    paper.area(
-        {
-            {{20, 0, 0}, {30, 0, 0}, {30, 10, 0}, {20, 10, 0}}
-    },
-        red);
+    paper.area({{{20, 0, 0}, {30, 0, 0}, {30, 10, 0}, {20, 10, 0}}}, red);
     const Picture picture(paper.finish());
     EXPECT_LT(picture.width(), picture.height());
     EXPECT_EQ(picture.at(0.5, 0.9), redPixel);
@@ -65,12 +51,9 @@ TEST(Paper, theViewDecidesWhatIsUp)
 TEST(Paper, anAreaHasHoles)
 {
     Paper paper(FileKind::png, plan, {0, 0, 10, 10});
-    paper.area(
-        {
-            {{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}},
-            {{3, 3, 0}, {7, 3, 0},  {7, 7, 0},   {3, 7, 0} }
-    },
-        red);
+    paper.area({{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}},
+                {{3, 3, 0}, {7, 3, 0}, {7, 7, 0}, {3, 7, 0}}},
+               red);
     const Picture picture(paper.finish());
     EXPECT_EQ(picture.at(0.5, 0.5), whitePixel);
     EXPECT_EQ(picture.at(0.1, 0.5), redPixel);
@@ -86,13 +69,13 @@ TEST(Paper, endlessLinesReachTheEdgeOfTheSheet)
         bool both;
         std::array<bool, 2> leftAndRight;
     } rows[] = {
-        {"to the right",        {5, 5, 0},     {0.001, 0, 0}, false, {false, true} },
-        {"to the left",         {5, 5, 0},     {-7, 0, 0},    false, {true, false} },
-        {"both ways",           {5, 5, 0},     {1, 0, 0},     true,  {true, true}  },
-        {"from far away",       {-1e12, 5, 0}, {1, 0, 0},     false, {true, true}  },
-        {"away from the sheet", {1e12, 5, 0},  {1, 0, 0},     false, {false, false}},
-        {"far off",             {5, 1e12, 0},  {1, 0, 0},     true,  {false, false}},
-        {"towards the viewer",  {5, 5, 0},     {0, 0, 1},     true,  {false, false}},
+        {"to the right", {5, 5, 0}, {0.001, 0, 0}, false, {false, true}},
+        {"to the left", {5, 5, 0}, {-7, 0, 0}, false, {true, false}},
+        {"both ways", {5, 5, 0}, {1, 0, 0}, true, {true, true}},
+        {"from far away", {-1e12, 5, 0}, {1, 0, 0}, false, {true, true}},
+        {"away from the sheet", {1e12, 5, 0}, {1, 0, 0}, false, {false, false}},
+        {"far off", {5, 1e12, 0}, {1, 0, 0}, true, {false, false}},
+        {"towards the viewer", {5, 5, 0}, {0, 0, 1}, true, {false, false}},
     };
     for (const auto& row : rows)
     {
@@ -106,12 +89,7 @@ TEST(Paper, endlessLinesReachTheEdgeOfTheSheet)
 
 TEST(Paper, aTextIsAsHighAsItsCapitalsAndLiesOnItsLine)
 {
-    const TextLine line{
-        {0,  0,  0},
-        {10, 0,  0},
-        {0,  10, 0},
-        0, 0, L"H"
-    };
+    const TextLine line{{0, 0, 0}, {10, 0, 0}, {0, 10, 0}, 0, 0, L"H"};
     Extents extents(plan);
     extents.text(line, red);
     EXPECT_NEAR(extents.window().height(), 10, 1e-9);
@@ -146,10 +124,10 @@ struct Shape
 };
 
 const Shape shapes[] = {
-    {"a point",    [](Paper& paper) { paper.dot(AcGePoint3d(10, 5, 0), red); }},
-    {"a line",     [](Paper& paper) { paper.path(farLine, false, red); }      },
-    {"an outline", [](Paper& paper) { paper.path(farLine, true, red); }       },
-    {"an area",    [](Paper& paper) { paper.area({farLine}, red); }           },
+    {"a point", [](Paper& paper) { paper.dot(AcGePoint3d(10, 5, 0), red); }},
+    {"a line", [](Paper& paper) { paper.path(farLine, false, red); }},
+    {"an outline", [](Paper& paper) { paper.path(farLine, true, red); }},
+    {"an area", [](Paper& paper) { paper.area({farLine}, red); }},
 };
 }  // namespace
 

@@ -42,19 +42,19 @@ TEST(PlotOfADrawing, anEntityHasItsOwnColourOrThatOfItsLayer)
         const char* properties;
         const char* drawn;
     } rows[] = {
-        {"8 walls",              "dot 1,1 #ff0000\n"},
-        {"8 WALLS 62 256",       "dot 1,1 #ff0000\n"},
-        {"8 WALLS 62 3",         "dot 1,1 #00ff00\n"},
-        {"8 WALLS 62 7",         "dot 1,1\n"        },
+        {"8 walls", "dot 1,1 #ff0000\n"},
+        {"8 WALLS 62 256", "dot 1,1 #ff0000\n"},
+        {"8 WALLS 62 3", "dot 1,1 #00ff00\n"},
+        {"8 WALLS 62 7", "dot 1,1\n"},
         {"8 WALLS 62 3 420 255", "dot 1,1 #0000ff\n"},
-        {"8 TRUE",               "dot 1,1 #001234\n"},
-        {"8 UNKNOWN",            "dot 1,1\n"        },
-        {"8 OFF",                ""                 },
-        {"8 FROZEN",             ""                 },
-        {"8 UNPLOTTED",          ""                 },
-        {"8 Defpoints",          ""                 },
-        {"8 WALLS 60 1",         ""                 },
-        {"8 WALLS 67 1",         ""                 },
+        {"8 TRUE", "dot 1,1 #001234\n"},
+        {"8 UNKNOWN", "dot 1,1\n"},
+        {"8 OFF", ""},
+        {"8 FROZEN", ""},
+        {"8 UNPLOTTED", ""},
+        {"8 Defpoints", ""},
+        {"8 WALLS 60 1", ""},
+        {"8 WALLS 67 1", ""},
     };
     for (const auto& row : rows)
     {
@@ -80,14 +80,14 @@ TEST(PlotOfADrawing, aBlockIsMovedTurnedScaledAndRepeated)
         const char* insert;
         const char* drawn;
     } rows[] = {
-        {"10 5 20 6",                       "path 5,6 7,6\n"                },
-        {"10 5 20 6 50 90",                 "path 5,6 5,8\n"                },
-        {"10 5 20 6 41 3 42 2",             "path 5,6 11,6\n"               },
-        {"10 5 20 6 41 -1",                 "path 5,6 3,6\n"                },
-        {"10 5 20 6 230 -1",                "path -5,6 -7,6\n"              },
+        {"10 5 20 6", "path 5,6 7,6\n"},
+        {"10 5 20 6 50 90", "path 5,6 5,8\n"},
+        {"10 5 20 6 41 3 42 2", "path 5,6 11,6\n"},
+        {"10 5 20 6 41 -1", "path 5,6 3,6\n"},
+        {"10 5 20 6 230 -1", "path -5,6 -7,6\n"},
         {"10 0 20 0 70 2 71 2 44 10 45 20",
-         "path 0,0 2,0\npath 10,0 12,0\npath 0,20 2,20\npath 10,20 12,20\n" },
-        {"10 0 20 0 50 90 70 2 44 10",      "path 0,0 0,2\npath 0,10 0,12\n"},
+         "path 0,0 2,0\npath 10,0 12,0\npath 0,20 2,20\npath 10,20 12,20\n"},
+        {"10 0 20 0 50 90 70 2 44 10", "path 0,0 0,2\npath 0,10 0,12\n"},
     };
     for (const auto& row : rows)
     {

@@ -176,9 +176,8 @@ ConvexOutline::ConvexOutline(const GridCase& asked)
         const Spot& start = corners[i];
         const Spot& end = corners[(i + 1) % 4];
         const double length = std::hypot(end.x - start.x, end.y - start.y);
-        m_edges[i] = {
-            start, {-turn * (end.y - start.y) / length, turn * (end.x - start.x) / length}
-        };
+        m_edges[i] = {start,
+                      {-turn * (end.y - start.y) / length, turn * (end.x - start.x) / length}};
         m_isConvex = m_isConvex && turn * crossProduct(start, end, corners[(i + 2) % 4]) > 0;
         m_size = std::max({m_size, length, std::abs(start.x), std::abs(start.y)});
         for (const double sine : {std::abs(m_edges[i].inwards.x), std::abs(m_edges[i].inwards.y)})

@@ -145,10 +145,7 @@ public:
 private:
     static void arm(int seconds)
     {
-        const itimerval timer = {
-            {0,       0},
-            {seconds, 0}
-        };
+        const itimerval timer = {{0, 0}, {seconds, 0}};
         setitimer(ITIMER_VIRTUAL, &timer, nullptr);
     }
     static void giveUp(int)

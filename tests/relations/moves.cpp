@@ -106,8 +106,8 @@ Picture seenMirrored(const Picture& picture, bool)
 }  // namespace
 
 const Move moves[3] = {
-    {"shifted",  shifted,  seenShifted },
-    {"turned",   turned,   seenTurned  },
+    {"shifted", shifted, seenShifted},
+    {"turned", turned, seenTurned},
     {"mirrored", mirrored, seenMirrored},
 };
 }  // namespace relations

@@ -103,12 +103,10 @@ Edges edgesOf(const Grid& grid)
     };
     const AcGePoint3d topLeft = corner(low.x, high.y), topRight = corner(high.x, high.y);
     const AcGePoint3d bottomLeft = corner(low.x, low.y), bottomRight = corner(high.x, low.y);
-    return {
-        {topLeft,     topRight   },
-        {bottomLeft,  bottomRight},
-        {bottomLeft,  topLeft    },
-        {bottomRight, topRight   }
-    };
+    return {{topLeft, topRight},
+            {bottomLeft, bottomRight},
+            {bottomLeft, topLeft},
+            {bottomRight, topRight}};
 }
 
 void labelInWorld(Grid& grid, const Edges& edges)

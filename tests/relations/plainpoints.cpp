@@ -27,12 +27,7 @@ int pointInQuad(const AcGePoint3d& P, const AcGePoint3d (&Q)[4])
     {
         return 2;
     }
-    const AcGeLineSeg3d edges[] = {
-        {Q[0], Q[1]},
-        {Q[1], Q[2]},
-        {Q[2], Q[3]},
-        {Q[3], Q[0]}
-    };
+    const AcGeLineSeg3d edges[] = {{Q[0], Q[1]}, {Q[1], Q[2]}, {Q[2], Q[3]}, {Q[3], Q[0]}};
     const auto meetsP = [&](const AcGeLineSeg3d& edge) { return edge.distanceTo(P) <= onEdge; };
     if (std::ranges::any_of(edges, meetsP))
     {

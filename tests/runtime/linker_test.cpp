@@ -144,8 +144,8 @@ TEST_F(Loading, wrongFilesAreRefusedByName)
         const char* reason;
     };
     const Row rows[] = {
-        {"nothing.arx",      "there is no such module"             },
-        {"noversion.arx",    "it does not show its entry points"   },
+        {"nothing.arx", "there is no such module"},
+        {"noversion.arx", "it does not show its entry points"},
         {"otherversion.arx", "made for another version of the host"},
     };
     for (const Row& row : rows)

@@ -26,19 +26,23 @@ const char* const settings = "properties.ini";
 // Each writes one file beside the settings: two that fail are told of in two lines.
 const Job jobs[] = {
     {"a grid from lines",
-     "typed.txt",   "zv_netrax\n0,0\n25,15\nA\n",
+     "typed.txt",
+     "zv_netrax\n0,0\n25,15\nA\n",
      {"--save", "saved.dxf"},
-     {settings, "saved.dxf"} },
+     {settings, "saved.dxf"}},
     {"a grid from a script",
-     "typed.scr",   "zv_netrax 0,0 25,15 A\n",
+     "typed.scr",
+     "zv_netrax 0,0 25,15 A\n",
      {"--save", "saved.dxf"},
-     {settings, "saved.dxf"} },
+     {settings, "saved.dxf"}},
     {"a plot",
-     "plotted.txt", "zv_netrax\n0,0\n25,15\nA\n",
+     "plotted.txt",
+     "zv_netrax\n0,0\n25,15\nA\n",
      {"--plot", "plot.png"},
-     {settings, "plot.png"}  },
+     {settings, "plot.png"}},
     {"a picture of a dialog",
-     "clicked.txt", "zv_netrax\nS\nset 107 12\nclick 1\n0,0\n25,15\nA\n",
+     "clicked.txt",
+     "zv_netrax\nS\nset 107 12\nclick 1\n0,0\n25,15\nA\n",
      {"--dialog-picture", "dialog.png"},
      {settings, "dialog.png"}},
 };
@@ -54,15 +58,15 @@ struct Mode
 };
 
 const Mode modes[] = {
-    {"memory, once",         scarcity::Of::memory, false,                     ENOMEM                   },
-    {"memory, from then on", scarcity::Of::memory, true,                      ENOMEM,                    11},
-    {"a full disk",                      scarcity::Of::files,                              false,               ENOSPC     },
-    {"a full disk for good",                      scarcity::Of::files,                     true,      ENOSPC },
-    {"no space left",                      scarcity::Of::space,                            true,             ENOSPC     },
-    {"a broken disk",                      scarcity::Of::files,                            false,             EIO},
-    {"a broken disk for good",                      scarcity::Of::files,                   true,    EIO      },
-    {"reads and writes cut",                      scarcity::Of::fileLength,                     false, 0},
-    {"all of them cut",                      scarcity::Of::fileLength,                          true,      0       },
+    {"memory, once", scarcity::Of::memory, false, ENOMEM},
+    {"memory, from then on", scarcity::Of::memory, true, ENOMEM, 11},
+    {"a full disk", scarcity::Of::files, false, ENOSPC},
+    {"a full disk for good", scarcity::Of::files, true, ENOSPC},
+    {"no space left", scarcity::Of::space, true, ENOSPC},
+    {"a broken disk", scarcity::Of::files, false, EIO},
+    {"a broken disk for good", scarcity::Of::files, true, EIO},
+    {"reads and writes cut", scarcity::Of::fileLength, false, 0},
+    {"all of them cut", scarcity::Of::fileLength, true, 0},
 };
 
 // What the files hold...
@@ -84,7 +88,8 @@ struct Allowed
 
 const Allowed allowed[] = {
     {"settings that cannot be read are as good as none: the grid is drawn by the defaults, and "
-     "these are what the accepted grid leaves",      &Known::withoutSettings  },
+     "these are what the accepted grid leaves",
+     &Known::withoutSettings},
     {"settings that cannot be written stay as they were", &Known::wantedButSettings},
 };
 

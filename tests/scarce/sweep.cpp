@@ -76,15 +76,15 @@ struct Mode
 };
 
 const Mode modes[] = {
-    {"memory, once",           scarcity::Of::memory,     false, ENOMEM, true },
-    {"memory, from then on",   scarcity::Of::memory,     true,  ENOMEM, true },
-    {"a full disk",            scarcity::Of::files,      false, ENOSPC, true },
-    {"a full disk for good",   scarcity::Of::files,      true,  ENOSPC, true },
-    {"no space left",          scarcity::Of::space,      true,  ENOSPC, true },
-    {"a broken disk",          scarcity::Of::files,      false, EIO,    true },
-    {"a broken disk for good", scarcity::Of::files,      true,  EIO,    true },
-    {"reads and writes cut",   scarcity::Of::fileLength, false, 0,      false},
-    {"all of them cut",        scarcity::Of::fileLength, true,  0,      false},
+    {"memory, once", scarcity::Of::memory, false, ENOMEM, true},
+    {"memory, from then on", scarcity::Of::memory, true, ENOMEM, true},
+    {"a full disk", scarcity::Of::files, false, ENOSPC, true},
+    {"a full disk for good", scarcity::Of::files, true, ENOSPC, true},
+    {"no space left", scarcity::Of::space, true, ENOSPC, true},
+    {"a broken disk", scarcity::Of::files, false, EIO, true},
+    {"a broken disk for good", scarcity::Of::files, true, EIO, true},
+    {"reads and writes cut", scarcity::Of::fileLength, false, 0, false},
+    {"all of them cut", scarcity::Of::fileLength, true, 0, false},
 };
 
 // Calls `attempt` with every request refused in turn, until none is left to be.

@@ -23,8 +23,8 @@ struct DialogRun
     std::string with(support::Session& session, std::vector<std::string> lines);
 };
 
-// Lines written one after the other with " | " between them; none for an empty text; "<Enter>" is an
-// empty line.
+// Lines written one after the other with " | " between them; none for an empty text; "<Enter>" is
+// an empty line.
 std::vector<std::string> typed(const std::string& lines);
 
 // What `show` prints for the control; empty when it is not there.

@@ -77,38 +77,38 @@ TEST(IniStore, readsLinesAsSectionsAndKeys)
         std::wstring keys;
     };
     const Row rows[] = {
-        {"[A]\nk=v\n",                     L"A",   L"k=v;"                },
-        {"[A]\r\nk=v\r\n",                 L"A",   L"k=v;"                },
-        {"[A]\n\rk=v\r\r\n",               L"A",   L"k=v;"                }, // a stray CR is stripped like a blank
-        {"[A]\nk=v\nlast=1",               L"A",   L"k=v;"                }, // no line feed: not a line
-        {"[A]\nk=v\n[B]",                  L"B",   L"none"                },
-        {"[A]\n\n \t\nk=v\n",              L"A",   L"k=v;"                },
-        {" \t[ A\t]\t \r\n \tk \t=v \t\n", L"A",   L"k=v;"                },
-        {"[A]\nk= v\n",                    L"A",   L"k= v;"               }, // blanks before a value stay
-        {"[A]\nk=\n",                      L"A",   L"k=;"                 },
-        {"[A]\nk=a=b\n",                   L"A",   L"k=a=b;"              },
-        {"[A]\nk=1\nK=2\n",                L"A",   L"k=2;"                }, // last value, first spelling
-        {"[A]\nb=1\nC=2\na=3\n_=4\n",      L"A",   L"_=4;a=3;b=1;C=2;"    }, // "_" before letters
-        {"[A]\ntwo words\n",               L"A",   L"two words=two words;"},
-        {"[A]\n#note\n",                   L"A",   L"#note=#note;"        },
-        {"[A]\n#k=v\n",                    L"A",   L"#k=v;"               },
-        {"[A]\n#=v\n",                     L"A",   L""                    },
-        {"[A]\n=v\n",                      L"A",   L""                    },
-        {"[A]\n=\n",                       L"A",   L""                    },
-        {"k=v\n#note\n[A]\n",              L"A",   L""                    }, // before any section
-        {"[A]\n[B]\nk=v\n",                L"A",   L""                    },
-        {"[A]\na=1\n[B]\nb=2\n[a]\nc=3\n", L"A",   L"a=1;c=3;"            }, // other case: same section
-        {"[A]b]\nk=v\n",                   L"A]b", L"k=v;"                },
-        {"[A=b]\nk=v\n",                   L"A=b", L"k=v;"                },
-        {"[]\nk=v\n",                      L"",    L"k=v;"                },
-        {"[A]\n[B]b\n",                    L"A",   L"[B]b=[B]b;"          }, // "]" is not its end
-        {"[A]\n[B]=1\n",                   L"A",   L"[B]=1;"              },
-        {"[A]\n[\n",                       L"A",   L"[=[;"                },
-        {"[A]\n]\n",                       L"A",   L"]=];"                },
-        {"\xEF\xBB\xBF[A]\nk=v\n",         L"A",   L"k=v;"                },
-        {"[A]\nk=\xD0\x96\n",              L"A",   L"k=\u0416;"           }, // UTF-8 without a mark
-        {"\xFF\xFE[\0A\0]\0\n\0k\0\n\0"s,  L"A",   L"k=k;"                },
-        {"",                               L"A",   L"none"                },
+        {"[A]\nk=v\n", L"A", L"k=v;"},
+        {"[A]\r\nk=v\r\n", L"A", L"k=v;"},
+        {"[A]\n\rk=v\r\r\n", L"A", L"k=v;"},  // a stray CR is stripped like a blank
+        {"[A]\nk=v\nlast=1", L"A", L"k=v;"},  // no line feed: not a line
+        {"[A]\nk=v\n[B]", L"B", L"none"},
+        {"[A]\n\n \t\nk=v\n", L"A", L"k=v;"},
+        {" \t[ A\t]\t \r\n \tk \t=v \t\n", L"A", L"k=v;"},
+        {"[A]\nk= v\n", L"A", L"k= v;"},  // blanks before a value stay
+        {"[A]\nk=\n", L"A", L"k=;"},
+        {"[A]\nk=a=b\n", L"A", L"k=a=b;"},
+        {"[A]\nk=1\nK=2\n", L"A", L"k=2;"},                        // last value, first spelling
+        {"[A]\nb=1\nC=2\na=3\n_=4\n", L"A", L"_=4;a=3;b=1;C=2;"},  // "_" before letters
+        {"[A]\ntwo words\n", L"A", L"two words=two words;"},
+        {"[A]\n#note\n", L"A", L"#note=#note;"},
+        {"[A]\n#k=v\n", L"A", L"#k=v;"},
+        {"[A]\n#=v\n", L"A", L""},
+        {"[A]\n=v\n", L"A", L""},
+        {"[A]\n=\n", L"A", L""},
+        {"k=v\n#note\n[A]\n", L"A", L""},  // before any section
+        {"[A]\n[B]\nk=v\n", L"A", L""},
+        {"[A]\na=1\n[B]\nb=2\n[a]\nc=3\n", L"A", L"a=1;c=3;"},  // other case: same section
+        {"[A]b]\nk=v\n", L"A]b", L"k=v;"},
+        {"[A=b]\nk=v\n", L"A=b", L"k=v;"},
+        {"[]\nk=v\n", L"", L"k=v;"},
+        {"[A]\n[B]b\n", L"A", L"[B]b=[B]b;"},  // "]" is not its end
+        {"[A]\n[B]=1\n", L"A", L"[B]=1;"},
+        {"[A]\n[\n", L"A", L"[=[;"},
+        {"[A]\n]\n", L"A", L"]=];"},
+        {"\xEF\xBB\xBF[A]\nk=v\n", L"A", L"k=v;"},
+        {"[A]\nk=\xD0\x96\n", L"A", L"k=\u0416;"},  // UTF-8 without a mark
+        {"\xFF\xFE[\0A\0]\0\n\0k\0\n\0"s, L"A", L"k=k;"},
+        {"", L"A", L"none"},
     };
     for (const Row& row : rows)
     {
@@ -167,11 +167,10 @@ TEST(IniStore, characterThatTheCodePageLacksIsAQuestionMarkAndTheNextKeyIsWhole)
         std::string bytes;
     };
     const Row rows[] = {
-        {L"\u0416=",      "?="   },
-        {L"a\u20ACb",     "a?b"  },
-        {L"\u00E9",       "\xE9" }, // the "C" locale holds the first 256
-        {L"\xD83D\xDE00", "??"   }, // a pair is two units
-        {L"%s %d",        "%s %d"},
+        {L"\u0416=", "?="},      {L"a\u20ACb", "a?b"},
+        {L"\u00E9", "\xE9"},      // the "C" locale holds the first 256
+        {L"\xD83D\xDE00", "??"},  // a pair is two units
+        {L"%s %d", "%s %d"},
     };
     for (const Row& row : rows)
     {

@@ -23,12 +23,12 @@ struct Refusal
 };
 
 const Refusal refusals[] = {
-    {"set 107 0 | <Enter> | ^C",                                IDC_VERT_STEP  },
-    {"set 109 -5 | <Enter> | ^C",                               IDC_HOR_STEP   },
-    {"click 116 | set 117 x | <Enter> | ^C",                    IDC_CROSS_SIZE },
-    {"check 154 on | set 132 | <Enter> | ^C",                   IDC_TEXT_HEIGHT},
- // An edit that is grey takes no keys: what was pressed keeps them.
-    {"check 154 on | set 132 0 | check 154 off | <Enter> | ^C", IDOK           },
+    {"set 107 0 | <Enter> | ^C", IDC_VERT_STEP},
+    {"set 109 -5 | <Enter> | ^C", IDC_HOR_STEP},
+    {"click 116 | set 117 x | <Enter> | ^C", IDC_CROSS_SIZE},
+    {"check 154 on | set 132 | <Enter> | ^C", IDC_TEXT_HEIGHT},
+    // An edit that is grey takes no keys: what was pressed keeps them.
+    {"check 154 on | set 132 0 | check 154 off | <Enter> | ^C", IDOK},
 };
 
 TEST(SettingsRefusals, bringTheUserToTheEditThatIsToBeSetRight)

@@ -60,20 +60,20 @@ struct IntKey
 };
 
 const IntKey intKeys[] = {
-    {"Color",          &GridSettings::Color         },
-    {"LookType",       &GridSettings::LookType      },
-    {"WCSBasePoint",   &GridSettings::WCSBasePoint  },
-    {"delCont",        &GridSettings::delCont       },
-    {"iCountSigns",    &GridSettings::iCountSigns   },
-    {"needText",       &GridSettings::needText      },
-    {"bXTopScribe",    &GridSettings::bXTopScribe   },
+    {"Color", &GridSettings::Color},
+    {"LookType", &GridSettings::LookType},
+    {"WCSBasePoint", &GridSettings::WCSBasePoint},
+    {"delCont", &GridSettings::delCont},
+    {"iCountSigns", &GridSettings::iCountSigns},
+    {"needText", &GridSettings::needText},
+    {"bXTopScribe", &GridSettings::bXTopScribe},
     {"bXBottomScribe", &GridSettings::bXBottomScribe},
-    {"bXLeftScribe",   &GridSettings::bXLeftScribe  },
-    {"bXRightScribe",  &GridSettings::bXRightScribe },
-    {"bYTopScribe",    &GridSettings::bYTopScribe   },
+    {"bXLeftScribe", &GridSettings::bXLeftScribe},
+    {"bXRightScribe", &GridSettings::bXRightScribe},
+    {"bYTopScribe", &GridSettings::bYTopScribe},
     {"bYBottomScribe", &GridSettings::bYBottomScribe},
-    {"bYLeftScribe",   &GridSettings::bYLeftScribe  },
-    {"bYRightScribe",  &GridSettings::bYRightScribe },
+    {"bYLeftScribe", &GridSettings::bYLeftScribe},
+    {"bYRightScribe", &GridSettings::bYRightScribe},
 };
 
 struct RealKey
@@ -83,9 +83,9 @@ struct RealKey
 };
 
 const RealKey realKeys[] = {
-    {"VertStep",   &GridSettings::VertStep  },
-    {"HorStep",    &GridSettings::HorStep   },
-    {"crossSize",  &GridSettings::crossSize },
+    {"VertStep", &GridSettings::VertStep},
+    {"HorStep", &GridSettings::HorStep},
+    {"crossSize", &GridSettings::crossSize},
     {"heightText", &GridSettings::heightText},
 };
 
@@ -154,15 +154,10 @@ TEST(SettingsFile, realsAreReadStrictly)
         double value;
     };
     const Row rows[] = {
-        {"25",    25.0  },
-        {"2,5",   2.5   },
-        {"-2.5",  -2.5  },
-        {"2.5e3", notSet}, // no exponents
-        {" 25",   notSet}, // a blank before it
-        {"25 ",   25.0  }, // one behind it goes with the line's end
-        {"",      notSet},
-        {"abc",   notSet},
-        {"1-2",   1.0   },
+        {"25", 25.0},    {"2,5", 2.5},    {"-2.5", -2.5}, {"2.5e3", notSet},  // no exponents
+        {" 25", notSet},                                                      // a blank before it
+        {"25 ", 25.0},  // one behind it goes with the line's end
+        {"", notSet},    {"abc", notSet}, {"1-2", 1.0},
     };
     for (const Row& row : rows)
     {
@@ -179,14 +174,14 @@ TEST(SettingsFile, wholeNumbersAreReadLoosely)
         int value;
     };
     const Row rows[] = {
-        {"-3",         -3        },
-        {"3.9",        3         },
-        {"3x",         3         },
-        {"x3",         0         },
-        {"",           0         },
-        {" 3",         0         },
+        {"-3", -3},
+        {"3.9", 3},
+        {"3x", 3},
+        {"x3", 0},
+        {"", 0},
+        {" 3", 0},
         {"2147483647", 2147483647},
-        {"65548",      65548     }, // nothing is range-checked
+        {"65548", 65548},  // nothing is range-checked
     };
     for (const Row& row : rows)
     {
@@ -240,15 +235,15 @@ TEST(SettingsFile, liesInTheFolderOfTheModule)
     const std::wstring tooDeep(507, L'x');  // one more: it would be cut
     const std::wstring cutFolder(517, L'x');
     const Row rows[] = {
-        {L"C:\\Plug-ins\\netrax.arx",                   L"C:\\Plug-ins\\properties.ini"     },
-        {L"\\netrax.arx",                               L"\\properties.ini"                 },
+        {L"C:\\Plug-ins\\netrax.arx", L"C:\\Plug-ins\\properties.ini"},
+        {L"\\netrax.arx", L"\\properties.ini"},
         {L"C:\\\u0421\u0435\u0442\u043a\u0430\\a.b\\x",
-         L"C:\\\u0421\u0435\u0442\u043a\u0430\\a.b\\properties.ini"                         },
-        {L"netrax.arx",                                 L"properties.ini"                   }, // no folder: the working one
-        {L"",                                           L"properties.ini"                   },
-        {L"C:\\" + deep + L"\\netrax.arx",              L"C:\\" + deep + L"\\properties.ini"},
-        {L"C:\\" + tooDeep + L"\\netrax.arx",           L""                                 },
-        {L"C:\\" + cutFolder + L"\\netrax.arx",         L""                                 },
+         L"C:\\\u0421\u0435\u0442\u043a\u0430\\a.b\\properties.ini"},
+        {L"netrax.arx", L"properties.ini"},  // no folder: the working one
+        {L"", L"properties.ini"},
+        {L"C:\\" + deep + L"\\netrax.arx", L"C:\\" + deep + L"\\properties.ini"},
+        {L"C:\\" + tooDeep + L"\\netrax.arx", L""},
+        {L"C:\\" + cutFolder + L"\\netrax.arx", L""},
     };
     for (const Row& row : rows)
     {

@@ -30,14 +30,14 @@ struct Pick
 };
 
 const Pick picks[] = {
-    {"click 110", 107, "Vertical step <100.0000>: ",   "Вертикальный шаг <100.0000>: ",
-     "Vertical step cant be equal to zero",   "Вертикальный шаг не может быть равен нулю"    },
+    {"click 110", 107, "Vertical step <100.0000>: ", "Вертикальный шаг <100.0000>: ",
+     "Vertical step cant be equal to zero", "Вертикальный шаг не может быть равен нулю"},
     {"click 111", 109, "Horizontal step <100.0000>: ", "Горизонтальный шаг <100.0000>: ",
      "Horizontal step cant be equal to zero", "Горизонтальный шаг не может быть равен нулю"},
-    {"click 118", 117, "Size of a cross <50.0000>: ",  "Размер креста <50.0000>: ",
-     "Size of a cross cant be equal to zero", "Размер креста не может быть равен нулю"          },
-    {"click 134", 132, "Text height <1.0000>: ",       "Высота текста <1.0000>: ",
-     "Text height cant be equal to zero",     "Высота текста не может быть равена нулю"        },
+    {"click 118", 117, "Size of a cross <50.0000>: ", "Размер креста <50.0000>: ",
+     "Size of a cross cant be equal to zero", "Размер креста не может быть равен нулю"},
+    {"click 134", 132, "Text height <1.0000>: ", "Высота текста <1.0000>: ",
+     "Text height cant be equal to zero", "Высота текста не может быть равена нулю"},
 };
 
 DialogRun withEverythingEnabled(const wchar_t* locale, double size)
@@ -101,23 +101,26 @@ struct Outcome
 
 // Of a vertical step, in a grid 1000 wide and 1000 high.
 const Outcome outcomes[] = {
-    {"20",        "20\n",                                                                   "\"20.0000\""  },
-    {"0,0 | 3,4", "0,0\n",                                                                  "\"5.0000\""   }, // two points; asks, see below
-    {"1000",      "1000\n",                                                                 "\"1000.0000\""},
-    {"1000.5",    "1000.5\n[alert] Vertical step cant be bigger than height of the grid\n",
-     "\"100.0000\""                                                                                        },
-    {"-30",       "-30\n",                                                                  "\"-30.0000\"" }, // refused on OK only
-    {"<Enter>",   "\n",                                                                     "\"100.0000\"" }, // Enter keeps the step
-    {"^C",        "^C\n",                                                                   "\"100.0000\"" },
+    {"20", "20\n", "\"20.0000\""},
+    {"0,0 | 3,4", "0,0\n", "\"5.0000\""},  // two points; asks, see below
+    {"1000", "1000\n", "\"1000.0000\""},
+    {"1000.5", "1000.5\n[alert] Vertical step cant be bigger than height of the grid\n",
+     "\"100.0000\""},
+    {"-30", "-30\n", "\"-30.0000\""},   // refused on OK only
+    {"<Enter>", "\n", "\"100.0000\""},  // Enter keeps the step
+    {"^C", "^C\n", "\"100.0000\""},
     {"19 | yes",
      "19\n[message box] Attention: Large number of vertical lines in grid. Proceed? (Yes/No) -> "
-     "yes\n",                                                                               "\"19.0000\""  },
+     "yes\n",
+     "\"19.0000\""},
     {"19 | no",
      "19\n[message box] Attention: Large number of vertical lines in grid. Proceed? (Yes/No) -> "
-     "no\n",                                                                                "\"100.0000\"" },
+     "no\n",
+     "\"100.0000\""},
     {"-19 | no",
      "-19\n[message box] Attention: Large number of vertical lines in grid. Proceed? (Yes/No) -> "
-     "no\n",                                                                                "\"100.0000\"" },
+     "no\n",
+     "\"100.0000\""},
 };
 
 TEST(SettingsPicks, checkAStepAgainstTheGrid)
@@ -273,23 +276,29 @@ struct Base
 };
 
 const Base bases[] = {
-    {"untouched in the world",         0, "",                                  "(10.0000, 20.0000)",     {10, 20, 30}  },
-    {"untouched in the view",          1, "",                                  "(-1980.0000, 990.0000)", {10, 20, 30}  },
-    {"changed to the view",            0, "click 121",                         "(-1980.0000, 990.0000)", {10, 20, 30}  },
-    {"changed to the world",           1, "click 120",                         "(10.0000, 20.0000)",     {10, 20, 30}  },
+    {"untouched in the world", 0, "", "(10.0000, 20.0000)", {10, 20, 30}},
+    {"untouched in the view", 1, "", "(-1980.0000, 990.0000)", {10, 20, 30}},
+    {"changed to the view", 0, "click 121", "(-1980.0000, 990.0000)", {10, 20, 30}},
+    {"changed to the world", 1, "click 120", "(10.0000, 20.0000)", {10, 20, 30}},
     {"there and back",
-     1,                                   "click 120 | click 121 | click 121",
-     "(-1980.0000, 990.0000)",                                                                           {10, 20, 30}  },
-    {"picked in the view",             1, "click 124 | 5,7",                   "(5.0000, 7.0000)",       {993, 2005, 0}},
-    {"picked in the world",            0, "click 124 | 5,7",                   "(5.0000, 7.0000)",       {5, 7, 0}     }, // as it stands
+     1,
+     "click 120 | click 121 | click 121",
+     "(-1980.0000, 990.0000)",
+     {10, 20, 30}},
+    {"picked in the view", 1, "click 124 | 5,7", "(5.0000, 7.0000)", {993, 2005, 0}},
+    {"picked in the world", 0, "click 124 | 5,7", "(5.0000, 7.0000)", {5, 7, 0}},  // as it stands
     {"picked in the view, then world",
-     1,                                   "click 124 | 5,7 | click 120",
-     "(993.0000, 2005.0000)",                                                                            {993, 2005, 0}},
+     1,
+     "click 124 | 5,7 | click 120",
+     "(993.0000, 2005.0000)",
+     {993, 2005, 0}},
     {"picked in the world, then view",
-     0,                                   "click 124 | 5,7 | click 121",
-     "(-1993.0000, 995.0000)",                                                                           {5, 7, 0}     },
-    {"pick cancelled",                 1, "click 124 | ^C",                    "(-1980.0000, 990.0000)", {10, 20, 30}  },
-    {"pick left empty",                1, "click 124 | <Enter>",               "(-1980.0000, 990.0000)", {10, 20, 30}  },
+     0,
+     "click 124 | 5,7 | click 121",
+     "(-1993.0000, 995.0000)",
+     {5, 7, 0}},
+    {"pick cancelled", 1, "click 124 | ^C", "(-1980.0000, 990.0000)", {10, 20, 30}},
+    {"pick left empty", 1, "click 124 | <Enter>", "(-1980.0000, 990.0000)", {10, 20, 30}},
 };
 
 TEST(SettingsBasePoint, isShownInTheSystemOfTheModeAndStoredInTheWorlds)

@@ -57,7 +57,7 @@ struct TabOrder
 };
 
 inline const TabOrder tabOrders[] = {
-    {0, 0, 0, stopsAtTheDefaults       },
+    {0, 0, 0, stopsAtTheDefaults},
     {1, 1, 0, stopsWithCrossesInTheView},
-    {0, 0, 1, stopsWithLabels          },
+    {0, 0, 1, stopsWithLabels},
 };

@@ -123,19 +123,13 @@ void showAtTheEnd()
 }
 
 const Rule rules[] = {
-    {L"ASKUNDER",    askUnderADialog    },
-    {L"DESTROY",     destroyShown       },
-    {L"ASIDE",       stepAsideForGood   },
-    {L"HIDE",        hide               },
-    {L"ASIDETWICE",  stepAsideTwice     },
-    {L"COMEBACK",    comeBackFromNowhere},
-    {L"CANCEL",      cancelNothing      },
-    {L"ENDASIDE",    endAside           },
-    {L"EXCHANGE",    exchangeMissing    },
-    {L"NOWINDOW",    useNoWindow        },
-    {L"ATTACHOTHER", attachOther        },
-    {L"ATTACHTAKEN", attachTaken        },
-    {L"DIALOGATEND", showAtTheEnd       },
+    {L"ASKUNDER", askUnderADialog},  {L"DESTROY", destroyShown},
+    {L"ASIDE", stepAsideForGood},    {L"HIDE", hide},
+    {L"ASIDETWICE", stepAsideTwice}, {L"COMEBACK", comeBackFromNowhere},
+    {L"CANCEL", cancelNothing},      {L"ENDASIDE", endAside},
+    {L"EXCHANGE", exchangeMissing},  {L"NOWINDOW", useNoWindow},
+    {L"ATTACHOTHER", attachOther},   {L"ATTACHTAKEN", attachTaken},
+    {L"DIALOGATEND", showAtTheEnd},
 };
 }  // namespace
 

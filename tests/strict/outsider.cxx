@@ -4,8 +4,8 @@
 namespace
 {
 const Rule rules[] = {
-    {L"DIALOG",  [] { CAcUiDialog dialog(1); }, ACRX_CMD_MODAL, false},
-    {L"LIBRARY", InitAcUiDLL,                   ACRX_CMD_MODAL, false},
+    {L"DIALOG", [] { CAcUiDialog dialog(1); }, ACRX_CMD_MODAL, false},
+    {L"LIBRARY", InitAcUiDLL, ACRX_CMD_MODAL, false},
 };
 }  // namespace
 

@@ -18,11 +18,11 @@ TEST(WindowsCalls, localesHaveTheirNames)
         const wchar_t* name;
     };
     const Row rows[] = {
-        {0x0409, LOCALE_NAME_MAX_LENGTH, 6, L"en-US" },
-        {0x0419, LOCALE_NAME_MAX_LENGTH, 6, L"ru-RU" },
-        {0x0407, 6,                      6, L"de-DE" },
-        {0x0419, 5,                      0, L"before"}, // no room for the end
-        {0x0419, 0,                      6, L"before"}, // asks for the length
+        {0x0409, LOCALE_NAME_MAX_LENGTH, 6, L"en-US"},
+        {0x0419, LOCALE_NAME_MAX_LENGTH, 6, L"ru-RU"},
+        {0x0407, 6, 6, L"de-DE"},
+        {0x0419, 5, 0, L"before"},  // no room for the end
+        {0x0419, 0, 6, L"before"},  // asks for the length
         {0x1234, LOCALE_NAME_MAX_LENGTH, 0, L"before"},
         {0x0000, LOCALE_NAME_MAX_LENGTH, 0, L"before"},
     };

@@ -137,10 +137,10 @@ TEST(CStrings, areTrimmed)
     };
     const Row rows[] = {
         {L" \t a b\r\n", L"a b", L"a b\r\n", L" \t a b"},
-        {L"\xA0x\x3000", L"x",   L"x\x3000", L"\xA0x"  }, // blanks outside ASCII
-        {L"x",           L"x",   L"x",       L"x"      },
-        {L" \n",         L"",    L"",        L""       },
-        {L"",            L"",    L"",        L""       },
+        {L"\xA0x\x3000", L"x", L"x\x3000", L"\xA0x"},  // blanks outside ASCII
+        {L"x", L"x", L"x", L"x"},
+        {L" \n", L"", L"", L""},
+        {L"", L"", L"", L""},
     };
     for (const Row& row : rows)
     {

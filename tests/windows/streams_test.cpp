@@ -63,23 +63,23 @@ TEST_F(Streams, theByteOrderMarkDecidesTheEncodingAndIsNotRead)
         std::wstring text;
     };
     const Row rows[] = {
-        {"\xD0\xA8",              L"r, ccs=UTF-8",    L"\x0428"          },
-        {"\xEF\xBB\xBF\xD0\xA8",  L"r, ccs=UTF-8",    L"\x0428"          },
-        {"\xFF\xFE\x28\x04"s,     L"r, ccs=UTF-8",    L"\x0428"          },
-        {"\x28\x04"s,             L"r, ccs=UTF-16LE", L"\x0428"          },
-        {"\xEF\xBB\xBF\xD0\xA8",  L"r, ccs=UTF-16LE", L"\x0428"          },
-        {"\xFF\xFE\x28\x04"s,     L"r, ccs=UTF-16LE", L"\x0428"          },
-        {"\x28\x04"s,             L"r, ccs=UNICODE",  L"\x0428"          }, // assumed
-        {"\xFE\xFF\x04\x28"s,     L"r, ccs=UTF-8",    L"cannot be opened"}, // big-endian; assumed
-        {"\xEF\xBB\xBF",          L"r, ccs=UTF-8",    L""                },
-        {"\xFF\xFE",              L"r, ccs=UTF-8",    L""                },
-        {"\xEF\xBB",              L"r, ccs=UTF-8",    L"\xFFFD\xFFFD"    }, // a mark cut short
-        {"\xFF\xFE\x28\x04\x0A"s, L"r, ccs=UTF-8",    L"\x0428"          }, // half a unit at the end
-        {"a\xEF\xBB\xBF",         L"r, ccs=UTF-8",    L"a\xFEFF"         }, // no mark any more
-        {"",                      L"r, ccs=UTF-8",    L""                },
-        {"x",                     L"r,ccs=UTF-8",     L"x"               },
-        {"x",                     L"r , ccs = utf-8", L"x"               },
-        {"x",                     L"rt, ccs=UTF-8",   L"x"               },
+        {"\xD0\xA8", L"r, ccs=UTF-8", L"\x0428"},
+        {"\xEF\xBB\xBF\xD0\xA8", L"r, ccs=UTF-8", L"\x0428"},
+        {"\xFF\xFE\x28\x04"s, L"r, ccs=UTF-8", L"\x0428"},
+        {"\x28\x04"s, L"r, ccs=UTF-16LE", L"\x0428"},
+        {"\xEF\xBB\xBF\xD0\xA8", L"r, ccs=UTF-16LE", L"\x0428"},
+        {"\xFF\xFE\x28\x04"s, L"r, ccs=UTF-16LE", L"\x0428"},
+        {"\x28\x04"s, L"r, ccs=UNICODE", L"\x0428"},                  // assumed
+        {"\xFE\xFF\x04\x28"s, L"r, ccs=UTF-8", L"cannot be opened"},  // big-endian; assumed
+        {"\xEF\xBB\xBF", L"r, ccs=UTF-8", L""},
+        {"\xFF\xFE", L"r, ccs=UTF-8", L""},
+        {"\xEF\xBB", L"r, ccs=UTF-8", L"\xFFFD\xFFFD"},         // a mark cut short
+        {"\xFF\xFE\x28\x04\x0A"s, L"r, ccs=UTF-8", L"\x0428"},  // half a unit at the end
+        {"a\xEF\xBB\xBF", L"r, ccs=UTF-8", L"a\xFEFF"},         // no mark any more
+        {"", L"r, ccs=UTF-8", L""},
+        {"x", L"r,ccs=UTF-8", L"x"},
+        {"x", L"r , ccs = utf-8", L"x"},
+        {"x", L"rt, ccs=UTF-8", L"x"},
     };
     for (const Row& row : rows)
     {
@@ -96,14 +96,15 @@ TEST_F(Streams, linesEndInOneLineFeedAndTheTextAtControlZ)
         std::wstring text;
     };
     const Row rows[] = {
-        {"a\r\nb\r\n",     L"a\nb\n"},
-        {"a\nb",           L"a\nb"  },
-        {"a\rb",           L"a\rb"  },
-        {"\r\r\n\r",       L"\r\n\r"},
+        {"a\r\nb\r\n", L"a\nb\n"},
+        {"a\nb", L"a\nb"},
+        {"a\rb", L"a\rb"},
+        {"\r\r\n\r", L"\r\n\r"},
         {"a\x1A"
-         "b\r\n", L"a"     },
-        {"a\r\x1A\n",      L"a\r"   },
-        {"a\0b"s,          L"a\0b"s },
+         "b\r\n",
+         L"a"},
+        {"a\r\x1A\n", L"a\r"},
+        {"a\0b"s, L"a\0b"s},
     };
     for (const Row& row : rows)
     {
@@ -159,14 +160,14 @@ TEST_F(Streams, textIsWrittenInBytesWithBothLineEnds)
         std::string bytes;
     };
     const Row rows[] = {
-        {L"Color=12\n",       "Color=12\r\n"    },
-        {L"\n\n",             "\r\n\r\n"        },
-        {L"a\r\n",            "a\r\r\n"         },
+        {L"Color=12\n", "Color=12\r\n"},
+        {L"\n\n", "\r\n\r\n"},
+        {L"a\r\n", "a\r\r\n"},
         {L"\x7F\x80\xE9\xFF", "\x7F\x80\xE9\xFF"},
-        {L"\x0100",           "?"               },
-        {L"X=\x0428\n",       "X=?\r\n"         },
-        {L"\xD83D\xDE00",     "??"              }, // one for each unit
-        {L"",                 ""                },
+        {L"\x0100", "?"},
+        {L"X=\x0428\n", "X=?\r\n"},
+        {L"\xD83D\xDE00", "??"},  // one for each unit
+        {L"", ""},
     };
     for (const Row& row : rows)
     {

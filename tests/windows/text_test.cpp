@@ -13,16 +13,16 @@ struct Row
 TEST(Text, isTheSameInUtf8AndInUnits)
 {
     const Row rows[] = {
-        {"",                         L""                  },
-        {"X=",                       L"X="                },
-        {"\x7F\xC2\x80",             L"\x7F\x80"          },
+        {"", L""},
+        {"X=", L"X="},
+        {"\x7F\xC2\x80", L"\x7F\x80"},
         {"\xD0\xA8\xD0\xB0\xD0\xB3", L"\x0428\x0430\x0433"},
-        {"\xDF\xBF\xE0\xA0\x80",     L"\x07FF\x0800"      },
-        {"\xED\x9F\xBF\xEE\x80\x80", L"\xD7FF\xE000"      },
-        {"\xEF\xBF\xBF",             L"\xFFFF"            },
-        {"\xF0\x90\x80\x80",         L"\xD800\xDC00"      }, // two units from here on
-        {"\xF0\x9F\x98\x80",         L"\xD83D\xDE00"      },
-        {"\xF4\x8F\xBF\xBF",         L"\xDBFF\xDFFF"      },
+        {"\xDF\xBF\xE0\xA0\x80", L"\x07FF\x0800"},
+        {"\xED\x9F\xBF\xEE\x80\x80", L"\xD7FF\xE000"},
+        {"\xEF\xBF\xBF", L"\xFFFF"},
+        {"\xF0\x90\x80\x80", L"\xD800\xDC00"},  // two units from here on
+        {"\xF0\x9F\x98\x80", L"\xD83D\xDE00"},
+        {"\xF4\x8F\xBF\xBF", L"\xDBFF\xDFFF"},
     };
     for (const Row& row : rows)
     {
@@ -34,19 +34,19 @@ TEST(Text, isTheSameInUtf8AndInUnits)
 TEST(Text, eachByteThatIsNoUtf8IsOneReplacement)
 {
     const Row rows[] = {
-        {"a\x80z",           L"a\xFFFDz"                },
-        {"\xFF\xFE",         L"\xFFFD\xFFFD"            },
-        {"\xC0\x80",         L"\xFFFD\xFFFD"            }, // NUL, written too long
-        {"\xE0\x9F\xBF",     L"\xFFFD\xFFFD\xFFFD"      }, // written too long
+        {"a\x80z", L"a\xFFFDz"},
+        {"\xFF\xFE", L"\xFFFD\xFFFD"},
+        {"\xC0\x80", L"\xFFFD\xFFFD"},            // NUL, written too long
+        {"\xE0\x9F\xBF", L"\xFFFD\xFFFD\xFFFD"},  // written too long
         {"\xF0\x8F\xBF\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        {"\xED\xA0\x80",     L"\xFFFD\xFFFD\xFFFD"      }, // a surrogate
-        {"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"}, // above U+10FFFF
+        {"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},            // a surrogate
+        {"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},  // above U+10FFFF
         {"\xF8\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        {"\xF5",             L"\xFFFD"                  },
-        {"\xE2\x82z",        L"\xFFFD\xFFFDz"           }, // cut short
-        {"\xE2\x82",         L"\xFFFD\xFFFD"            },
-        {"\xD0",             L"\xFFFD"                  },
-        {"\xD0\xD0\xA8",     L"\xFFFD\x0428"            },
+        {"\xF5", L"\xFFFD"},
+        {"\xE2\x82z", L"\xFFFD\xFFFDz"},  // cut short
+        {"\xE2\x82", L"\xFFFD\xFFFD"},
+        {"\xD0", L"\xFFFD"},
+        {"\xD0\xD0\xA8", L"\xFFFD\x0428"},
     };
     for (const Row& row : rows)
     {

@@ -31,7 +31,9 @@ private:
     static void close(iconv_t converter)
     {
         if (isOpen(converter))
+        {
             ::iconv_close(converter);
+        }
     }
 
     iconv_t m_decoder;
@@ -61,7 +63,9 @@ std::optional<std::string> IconvConverter::encode(char32_t character)
     char* out = converted;
     std::size_t outLeft = sizeof converted;
     if (::iconv(m_encoder, &in, &inLeft, &out, &outLeft) != 0)
+    {
         return std::nullopt;
+    }
     return std::string(converted, out);
 }
 }  // namespace

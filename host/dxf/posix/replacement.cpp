@@ -66,7 +66,9 @@ TemporaryFile::TemporaryFile(const fs::path& folder, const std::string& nameInMe
                            std::to_string(attempt) + ".tmp");
         m_file = createUnfinishedFile(m_path, 0666);
         if (m_file < 0 && errno != EEXIST)
+        {
             break;
+        }
     }
     requireSaved(m_file >= 0, m_nameInMessages);
     m_exists = true;
@@ -75,7 +77,9 @@ TemporaryFile::TemporaryFile(const fs::path& folder, const std::string& nameInMe
 TemporaryFile::~TemporaryFile()
 {
     if (m_file >= 0)
+    {
         ::close(m_file);
+    }
     if (m_exists)
     {
         ::unlink(m_path.c_str());
@@ -117,7 +121,9 @@ void syncFolder(const fs::path& folder)
 {
     const int file = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (file < 0)
+    {
         return;
+    }
     ::fsync(file);
     ::close(file);
 }
@@ -131,7 +137,9 @@ fs::path followed(const std::string& path)
         std::error_code isNoLink;
         const fs::path next = fs::read_symlink(target, isNoLink);
         if (isNoLink)
+        {
             return target;
+        }
         target = target.parent_path() / next;
     }
     errno = ELOOP;
@@ -148,7 +156,9 @@ std::optional<struct stat> oldFile(const fs::path& target, const std::string& pa
         return std::nullopt;
     }
     if (S_ISDIR(old.st_mode))
+    {
         failSaving(path, "a directory has this name");
+    }
     requireSaved(::access(target.c_str(), W_OK) == 0, path);
     return old;
 }
@@ -179,17 +189,23 @@ public:
           m_new(folderOf(m_target), m_path)
     {
         if (m_old)
+        {
             m_new.takeOwnerAndMode(*m_old);
+        }
     }
 
     void write(std::string_view bytes) override { m_new.write(bytes); }
     void takePlace() override
     {
         if (m_old)
+        {
             m_new.onDisk();
+        }
         m_new.takePlaceOf(m_target);
         if (m_old)
+        {
             syncFolder(folderOf(m_target));
+        }
     }
 
 private:
@@ -223,7 +239,9 @@ int openDeviceOrPipe(const std::string& path)
     }
     const int file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (file >= 0)
+    {
         ::fcntl(file, F_SETFL, 0);
+    }
     return file;
 }
 
@@ -233,13 +251,17 @@ public:
     explicit DeviceOrPipe(const std::string& path) : m_path(path), m_file(openDeviceOrPipe(path))
     {
         if (m_file < 0 && errno == ENXIO)
+        {
             failSaving(path, "nobody reads from the pipe");
+        }
         requireSaved(m_file >= 0, path);
     }
     ~DeviceOrPipe() override
     {
         if (m_file >= 0)
+        {
             ::close(m_file);
+        }
     }
 
     void write(std::string_view bytes) override { requireSaved(writeFully(m_file, bytes), m_path); }
@@ -253,7 +275,9 @@ private:
 std::unique_ptr<Replacement::Files> filesFor(const std::string& path)
 {
     if (isDeviceOrPipe(path))
+    {
         return std::make_unique<DeviceOrPipe>(path);
+    }
     return std::make_unique<NewAndOld>(path);
 }
 }  // namespace
@@ -261,7 +285,9 @@ std::unique_ptr<Replacement::Files> filesFor(const std::string& path)
 void requireReplaceable(const std::string& path)
 {
     if (isDeviceOrPipe(path))
+    {
         return;
+    }
     const fs::path target = followed(path);
     std::ignore = oldFile(target, path);
     requireSaved(::access(folderOf(target).c_str(), W_OK | X_OK) == 0, path);

@@ -26,11 +26,17 @@ std::size_t readFully(const Descriptor& file, char* bytes, std::size_t size,
     {
         const ssize_t got = ::read(file.number, bytes + done, size - done);
         if (got == 0)
+        {
             break;
+        }
         if (got > 0)
+        {
             done += got;
+        }
         else if (errno != EINTR)
+        {
             fail(path, std::string("cannot be read: ") + std::strerror(errno));
+        }
     }
     return done;
 }
@@ -41,11 +47,17 @@ WholeFile readWholeFile(const std::string& path)
     const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
     struct stat status;
     if (file.number < 0 || ::fstat(file.number, &status) != 0)
+    {
         fail(path, std::string("cannot be opened: ") + std::strerror(errno));
+    }
     if (S_ISDIR(status.st_mode))
+    {
         fail(path, "expected a file, found a directory");
+    }
     if (!S_ISREG(status.st_mode))
+    {
         fail(path, "expected a file, found a device or pipe");
+    }
 
     auto bytes = std::make_unique_for_overwrite<char[]>(status.st_size + 1);
     const std::size_t size = readFully(file, bytes.get(), status.st_size, path);

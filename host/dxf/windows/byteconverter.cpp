@@ -39,7 +39,9 @@ std::size_t SystemConverter::lengthAt(std::string_view bytes) const
 {
     const unsigned char lead = bytes[0];
     if (m_codePage != CP_UTF8)
+    {
         return IsDBCSLeadByteEx(m_codePage, lead) ? 2 : 1;
+    }
     return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }
 
@@ -53,12 +55,18 @@ std::size_t SystemConverter::decode(std::string_view bytes, std::u32string& text
         const int count =
             MultiByteToWideChar(m_codePage, m_flag, one.data(), int(one.size()), units, 4);
         if (count == 0)
+        {
             return at;
+        }
         const bool isPair = count == 2 && IS_SURROGATE_PAIR(units[0], units[1]);
         if (isPair)
+        {
             text += 0x10000 + ((char32_t(units[0]) - 0xD800) << 10) + (units[1] - 0xDC00);
+        }
         else
+        {
             text.append(units, units + count);
+        }
         at += one.size();
     }
     return at;
@@ -77,19 +85,27 @@ std::optional<std::string> SystemConverter::encode(char32_t character)
         m_codePage, isUtf8 ? WC_ERR_INVALID_CHARS : WC_NO_BEST_FIT_CHARS, units, isPair ? 2 : 1,
         bytes, sizeof bytes, nullptr, isUtf8 ? nullptr : &lacking);
     if (count == 0 || lacking)
+    {
         return std::nullopt;
+    }
     return std::string(bytes, count);
 }
 
 UINT numberOf(const std::string& codePage)
 {
     if (codePage == "UTF-8")
+    {
         return CP_UTF8;
+    }
     if (codePage == "JOHAB")
+    {
         return 1361;
+    }
     const UINT isoPages = 28590;  // and the part's number
     if (codePage.starts_with("ISO8859-"))
+    {
         return isoPages + std::atoi(codePage.c_str() + 8);
+    }
     return codePage.starts_with("CP") ? std::atoi(codePage.c_str() + 2) : 0;
 }
 }  // namespace
@@ -98,7 +114,9 @@ std::unique_ptr<ByteConverter> ByteConverter::open(const std::string& codePage)
 {
     const UINT number = numberOf(codePage);
     if (number == 0 || !IsValidCodePage(number))
+    {
         return nullptr;
+    }
     return std::make_unique<SystemConverter>(number);
 }
 }  // namespace host::dxf

@@ -35,7 +35,9 @@ bool hasOldFile(const fs::path& target, const std::string& path)
 {
     std::error_code ignored;
     if (fs::is_directory(target, ignored))
+    {
         failSaving(path, "a directory has this name");
+    }
     if (::_waccess(target.c_str(), 0) != 0)
     {
         requireSaved(errno == ENOENT, path);
@@ -55,7 +57,9 @@ void requireReplaceable(const std::string& path)
     requireSaved(::_waccess(folder.c_str(), 0) == 0, path);
     std::error_code ignored;
     if (!fs::is_directory(folder, ignored))
+    {
         failSaving(path, std::strerror(ENOTDIR));
+    }
 }
 
 class Replacement::Files
@@ -87,7 +91,9 @@ Replacement::Files::Files(const std::string& path)
         m_file = ::_wopen(m_temporary.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY,
                           _S_IREAD | _S_IWRITE);
         if (m_file < 0 && errno != EEXIST)
+        {
             break;
+        }
     }
     requireSaved(m_file >= 0, m_path);
     m_exists = true;
@@ -96,9 +102,13 @@ Replacement::Files::Files(const std::string& path)
 Replacement::Files::~Files()
 {
     if (m_file >= 0)
+    {
         ::_close(m_file);
+    }
     if (m_exists)
+    {
         ::_wunlink(m_temporary.c_str());
+    }
 }
 
 void Replacement::Files::write(std::string_view bytes)
@@ -122,7 +132,9 @@ void Replacement::Files::takePlace()
                                 REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
                  : MoveFileExW(m_temporary.c_str(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING);
     if (!done)
+    {
         failSaving(m_path, std::error_code(int(GetLastError()), std::system_category()).message());
+    }
     m_exists = false;
 }
 

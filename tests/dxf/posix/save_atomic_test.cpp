@@ -65,9 +65,13 @@ protected:
         explicit AsNobody(const fs::path& folder) : m_change(::geteuid() == 0)
         {
             if (!m_change)
+            {
                 return;
+            }
             for (const fs::path& path : {folder, folder / "drawing.dxf"})
+            {
                 EXPECT_EQ(::chown(path.c_str(), nobody, nobody), 0);
+            }
             EXPECT_EQ(::setresuid(nobody, nobody, 0), 0);
         }
         ~AsNobody() { EXPECT_TRUE(!m_change || ::setresuid(0, 0, 0) == 0); }
@@ -171,9 +175,9 @@ TEST_F(SaveAtomically, aNameThatWillNotDoIsKnownBeforeAnythingIsWritten)
 {
     fs::create_directory(m_folder / "folder");
     const std::pair<fs::path, const char*> rows[] = {
-        {m_folder / "folder",        "a directory has this name"},
+        {m_folder / "folder", "a directory has this name"},
         {m_folder / "nowhere" / "a", "No such file or directory"},
-        {m_drawing / "a.dxf",        "Not a directory"          },
+        {m_drawing / "a.dxf", "Not a directory"},
     };
     for (const auto& [path, why] : rows)
     {
@@ -188,7 +192,9 @@ TEST_F(SaveAtomically, aNameThatWillNotDoIsKnownBeforeAnythingIsWritten)
         }
     }
     for (const fs::path& path : {m_drawing, m_folder / "new.dxf", fs::path("/dev/null")})
+    {
         EXPECT_NO_THROW(requireReplaceable(path)) << path;
+    }
     EXPECT_EQ(filesInFolder(), 2u);
 }
 

@@ -138,10 +138,7 @@ TEST(AtTheScreen, enterPressesOkAndEscCancel)
         WORD key;
         INT_PTR result;
     };
-    for (const Way& way : {
-             Way{VK_RETURN, IDOK    },
-             Way{VK_ESCAPE, IDCANCEL}
-    })
+    for (const Way& way : {Way{VK_RETURN, IDOK}, Way{VK_ESCAPE, IDCANCEL}})
     {
         const Shown after = shown(untilItCloses([&](HWND) { press(way.key); }));
         EXPECT_EQ(after.result, way.result);
@@ -411,11 +408,11 @@ struct Tooltip
 };
 
 const Tooltip tooltips[] = {
-    {IDC_PICK_VERT_STEP,   L"Set a vertical step",   L"Укажите шаг по вертикали"    },
-    {IDC_PICK_HOR_STEP,    L"Set a horizontal step", L"Укажите шаг по горизонтали"},
-    {IDC_PICK_CROSS_SIZE,  L"Set a cross size",      L"Укажите размер крестика"     },
-    {IDC_PICK_BASE_POINT,  L"Set a base point",      L"Укажите базовую точку"         },
-    {IDC_PICK_TEXT_HEIGHT, L"Set a text height",     L"Укажите высоту текста"         },
+    {IDC_PICK_VERT_STEP, L"Set a vertical step", L"Укажите шаг по вертикали"},
+    {IDC_PICK_HOR_STEP, L"Set a horizontal step", L"Укажите шаг по горизонтали"},
+    {IDC_PICK_CROSS_SIZE, L"Set a cross size", L"Укажите размер крестика"},
+    {IDC_PICK_BASE_POINT, L"Set a base point", L"Укажите базовую точку"},
+    {IDC_PICK_TEXT_HEIGHT, L"Set a text height", L"Укажите высоту текста"},
 };
 
 HWND tooltipsOf(HWND dialog)

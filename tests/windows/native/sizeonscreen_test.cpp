@@ -14,7 +14,7 @@ struct Row
 TEST(ScreensOfManyDots, showThePictureOfAButtonAsLargeAsTheDialog)
 {
     const Row rows[] = {
-        {96,  {16, 15}},
+        {96, {16, 15}},
         {120, {20, 19}},
         {144, {24, 23}},
         {192, {32, 30}},
