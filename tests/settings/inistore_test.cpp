@@ -7,6 +7,7 @@
 #include "host/windows/format.h"
 #include "tests/app/original.h"
 #include "tests/settings/temporaryfile.h"
+#include "tests/support/fulldisk.h"
 
 namespace
 {
@@ -201,8 +202,11 @@ TEST(IniStore, writingToAFullDiskFails)
     IniStore store;
     store.setValue(L"A", L"k", L"v");
     store.setValue(L"B", L"k", L"v");
-    EXPECT_FALSE(store.writeFile(L"\\dev\\full"));  // which shows when the file is closed
     const TemporaryFile file;
+    {
+        const tests::FullDisk disk;
+        EXPECT_FALSE(store.writeFile(file.path())) << "that shows when the file is closed";
+    }
     for (const int lines : {0, 1, 2, 3})
     {
         linesThatFit = lines;

@@ -10,6 +10,7 @@
 
 #include "afxwin.h"
 #include "host/windows/text.h"
+#include "tests/support/fulldisk.h"
 
 namespace
 {
@@ -238,7 +239,7 @@ TEST_F(Streams, whatCannotBeOpenedIsNull)
     EXPECT_EQ(kept(), "x");
 }
 
-TEST_F(Streams, whatHasNoEndIsNoText)
+TEST_F(Streams, aDeviceOrAPipeIsNotOpened)
 {
     std::filesystem::remove(m_file);
     ASSERT_EQ(mkfifo(m_file.c_str(), 0600), 0);
@@ -251,6 +252,10 @@ TEST_F(Streams, whatHasNoEndIsNoText)
         }
     }
     EXPECT_EQ(_wfopen(m_path.c_str(), L"w"), nullptr) << "nobody reads from the pipe";
+    for (const wchar_t* mode : {L"w", L"a"})
+    {
+        EXPECT_EQ(_wfopen(L"\\dev\\null", mode), nullptr) << "the text would be lost";
+    }
     std::filesystem::remove(m_file);
     keep("x");
     std::filesystem::resize_file(m_file, 1ull << 40);  // takes no room on the disk
@@ -259,9 +264,10 @@ TEST_F(Streams, whatHasNoEndIsNoText)
 
 TEST_F(Streams, aFullDiskIsToldWhenTheStreamCloses)
 {
-    FILE* file = _wfopen(L"\\dev\\full", L"w");
+    FILE* file = _wfopen(m_path.c_str(), L"w");
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(fwprintf(file, L"%s", L"x"), 1);
+    const tests::FullDisk disk;
     EXPECT_EQ(fclose(file), EOF);
 }
 

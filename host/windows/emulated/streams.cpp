@@ -200,11 +200,17 @@ int closeWriter(void* cookie)
 FILE* openWriter(const std::string& path, bool appends)
 {
     std::unique_ptr<Writer> writer(new Writer{path, appends});
-    // Nobody may ever read from a pipe: that is a failure, not a reason to wait.
+    // Without a reader a pipe is to fail and not to wait.
     const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | (appends ? O_APPEND : 0);
     writer->file.number = ::open(path.c_str(), flags, 0666);
     if (writer->file.number < 0)
     {
+        return nullptr;
+    }
+    // A device would swallow the text without a word.
+    if (!isFile(writer->file.number))
+    {
+        errno = EINVAL;
         return nullptr;
     }
     return fopencookie(writer.release(), "w", {nullptr, writeText, nullptr, closeWriter});
