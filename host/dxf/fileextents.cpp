@@ -20,15 +20,13 @@ bool isBox(const AcGePoint3d& low, const AcGePoint3d& high)
            (low.x < high.x || low.y < high.y);
 }
 
-WorldExtents extentsOf(const FileSource& source)
+// Empty if the header states no box.
+WorldExtents statedBox(const FileSource& source)
 {
     const AcGePoint3d* low = statedPoint(source, L"EXTMIN");
     const AcGePoint3d* high = statedPoint(source, L"EXTMAX");
-    if (low != nullptr && high != nullptr && isBox(*low, *high))
-    {
-        return {*low, *high};
-    }
-    return measureFile != nullptr ? measureFile(source.file) : WorldExtents();
+    const bool isStated = low != nullptr && high != nullptr && isBox(*low, *high);
+    return isStated ? WorldExtents{*low, *high} : WorldExtents();
 }
 }  // namespace
 
@@ -41,8 +39,20 @@ const WorldExtents& FileSource::modelExtents()
 {
     if (!m_extents)
     {
-        m_extents = extentsOf(*this);
+        const Measured measured =
+            measureFile != nullptr ? measureFile(file) : Measured{.extents = {}, .isWhole = false};
+        m_extents = measured.extents;
+        if (!measured.isWhole)
+        {
+            m_extents->add(statedBox(*this));
+        }
     }
     return *m_extents;
+}
+
+WorldExtents FileSource::statedExtents()
+{
+    const WorldExtents stated = statedBox(*this);
+    return stated.empty() ? modelExtents() : stated;
 }
 }  // namespace host::dxf

@@ -33,9 +33,14 @@ struct FileSource : DrawingSource
     {
     }
 
-    // As the header states them. A file whose header states none, or a single point, as some
-    // programs do, is measured when they are first asked for.
+    // The extents of model space, WCS. They are measured when they are first asked for, because a
+    // header may state the box of an earlier drawing. That box counts as well where there are
+    // entities that cannot be measured.
     const WorldExtents& modelExtents() override;
+    // The extents that the header states. A header without a box, or with a single point, as some
+    // programs write it, is replaced by `modelExtents`. Saving does without the measuring, which
+    // takes longer than reading the file.
+    WorldExtents statedExtents();
 
     TagFile file;
     CodePage codePage;
@@ -51,9 +56,15 @@ private:
     std::optional<WorldExtents> m_extents;
 };
 
-// Tells what the entities of a file's model space take up; set by whoever knows all their kinds.
-// While there is none, a file that does not state its extents counts as empty.
-using Measure = WorldExtents (*)(const TagFile&);
+struct Measured
+{
+    WorldExtents extents;
+    bool isWhole;  // false if entities were left out
+};
+
+// Measures the entities of a file's model space; set by whoever knows all their kinds. Without it
+// the extents are those that the header states.
+using Measure = Measured (*)(const TagFile&);
 void setMeasure(Measure measure);
 
 inline FileSource& sourceOf(const DatabaseCore& core)

@@ -277,13 +277,15 @@ void saveVariables(Edits& edits, const FileSource& source, const DrawingState& s
 // entities is taken as it is.
 void saveExtents(Edits& edits, const DatabaseCore& core)
 {
-    const FileSource& source = sourceOf(core);
+    FileSource& source = sourceOf(core);
     const bool isStated = source.file.header("$EXTMIN") && source.file.header("$EXTMAX");
-    if (!isStated || madeExtents(core).empty())
+    const WorldExtents made = madeExtents(core);
+    if (!isStated || made.empty())
     {
         return;
     }
-    const WorldExtents now = modelExtents(core);
+    WorldExtents now = source.statedExtents();
+    now.add(made);
     const auto set = [&](const std::wstring& name, const AcGePoint3d& corner)
     {
         const VariableValue& before = source.state.variables.at(name);

@@ -37,10 +37,11 @@ public:
 };
 }  // namespace
 
-WorldExtents entityExtents(const dxf::TagFile& file)
+dxf::Measured entityExtents(const dxf::TagFile& file)
 {
     Measure measure;
-    Scene(file).draw(measure);
-    return measure.extents;
+    Scene scene(file);
+    scene.draw(measure);
+    return {measure.extents, scene.leftOut().empty()};
 }
 }  // namespace host::plot

@@ -415,7 +415,7 @@ TEST_F(Drawing, theHeaderStaysWhereItCoversAllAlready)
 TEST_F(Drawing, aFileThatDoesNotStateItsExtentsIsMeasured)
 {
     const auto measure = [](const host::dxf::TagFile&) {
-        return host::WorldExtents{AcGePoint3d(-7, -8, 0), AcGePoint3d(7, 8, 0)};
+        return host::dxf::Measured{{AcGePoint3d(-7, -8, 0), AcGePoint3d(7, 8, 0)}, true};
     };
     host::dxf::setMeasure(measure);
     EmptyDrawing drawing;
@@ -425,6 +425,40 @@ TEST_F(Drawing, aFileThatDoesNotStateItsExtentsIsMeasured)
     host::dxf::setMeasure(nullptr);
     EXPECT_EQ(count(text, corner("EXTMIN", "-7.0", "-8.0")), 1u);
     EXPECT_EQ(count(text, corner("EXTMAX", "100.0", "8.0")), 1u);
+}
+
+// A header may state the box of an earlier drawing.
+TEST_F(Drawing, theExtentsAreMeasuredAndThoseOfTheHeaderCountWhereThatIsNotPossible)
+{
+    const std::string stated =
+        replaced(host::dxf::emptyDrawing(), corner("EXTMIN", "1e+20", "1e+20") + "1e+20",
+                 corner("EXTMIN", "0.0", "-5.0") + "0.0");
+    const struct
+    {
+        host::dxf::Measure measure;
+        AcGePoint3d low, high;
+    } rows[] = {
+        {[](const host::dxf::TagFile&) {
+             return host::dxf::Measured{{AcGePoint3d(-7, 2, 0), AcGePoint3d(7, 8, 0)}, true};
+         },
+         AcGePoint3d(-7, 2, 0), AcGePoint3d(7, 8, 0)},
+        {[](const host::dxf::TagFile&) {
+             return host::dxf::Measured{{AcGePoint3d(-7, 2, 0), AcGePoint3d(7, 8, 0)}, false};
+         },
+         AcGePoint3d(-7, -5, 0), AcGePoint3d(100, 100, 0)},
+        {nullptr, AcGePoint3d(0, -5, 0), AcGePoint3d(100, 100, 0)},
+    };
+    for (const auto& row : rows)
+    {
+        const auto database =
+            opened(replaced(stated, corner("EXTMAX", "-1e+20", "-1e+20") + "-1e+20",
+                            corner("EXTMAX", "100.0", "100.0") + "0.0"));
+        host::dxf::setMeasure(row.measure);
+        const host::WorldExtents extents = host::modelExtents(database->core());
+        host::dxf::setMeasure(nullptr);
+        EXPECT_TRUE(extents.low.isEqualTo(row.low)) << extents.low.x << "," << extents.low.y;
+        EXPECT_TRUE(extents.high.isEqualTo(row.high)) << extents.high.x << "," << extents.high.y;
+    }
 }
 
 TEST_F(Drawing, longWorkTellsHowFarItHasCome)

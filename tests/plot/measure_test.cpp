@@ -12,7 +12,7 @@ std::string measured(const std::string& entities)
 {
     const std::string tags = "0 SECTION 2 ENTITIES " + entities + " 0 ENDSEC 0 EOF";
     const auto file = host::dxf::TagFile::fromText(tests::dxfText(tags), "FILE");
-    const host::WorldExtents box = host::plot::entityExtents(file);
+    const host::WorldExtents box = host::plot::entityExtents(file).extents;
     char text[160];
     std::snprintf(text, sizeof text, "%.6g,%.6g,%.6g %.6g,%.6g,%.6g", box.low.x, box.low.y,
                   box.low.z, box.high.x, box.high.y, box.high.z);
@@ -38,5 +38,17 @@ TEST(Measure, takesEveryKindOfEntityAsItIsDrawn)
     {
         EXPECT_EQ(measured(row.entities), row.box) << row.entities;
     }
+}
+
+TEST(Measure, tellsWhetherAKindOfEntityWasLeftOut)
+{
+    const auto isWhole = [](const std::string& entities)
+    {
+        const std::string tags = "0 SECTION 2 ENTITIES " + entities + " 0 ENDSEC 0 EOF";
+        const auto file = host::dxf::TagFile::fromText(tests::dxfText(tags), "FILE");
+        return host::plot::entityExtents(file).isWhole;
+    };
+    EXPECT_TRUE(isWhole("0 LINE 10 1 20 2 30 3 11 4 21 -5"));
+    EXPECT_FALSE(isWhole("0 LINE 10 1 20 2 30 3 11 4 21 -5 0 3DSOLID 8 0"));
 }
 }  // namespace
