@@ -3,7 +3,7 @@
 
 #include <map>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Nothing: the grid command leaves nothing behind but its settings file.
 class CDocData

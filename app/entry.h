@@ -1,7 +1,7 @@
 // The module as the system loads it.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Handle of the module; null before the system has attached it.
 HINSTANCE attachedModule();

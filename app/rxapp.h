@@ -4,7 +4,7 @@
 // the host alone, and only that of kInitAppMsg stands for the module.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Some of the host's headers bring classes of the same names, another frame for the same purpose.
 namespace netrax

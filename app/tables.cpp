@@ -1,14 +1,20 @@
 #include "app/tables.h"
 
+#include "app/gridapp.h"
 #include "command/gridcommand.h"
 
 namespace
 {
+void runGridCommand()
+{
+    gridCommand(gridApp().moduleHandle());
+}
+
 const Adesk::Int32 gridCommandFlags =
     ACRX_CMD_TRANSPARENT | ACRX_CMD_NOPAPERSPACE | ACRX_CMD_NOBEDIT;
 
 const CommandEntry gridCommandEntry = {
-    L"Obrenta", L"zv_netrax", L"zv_netrax", gridCommandFlags, gridCommand, nullptr, -1,
+    L"Obrenta", L"zv_netrax", L"zv_netrax", gridCommandFlags, runGridCommand, nullptr, -1,
 };
 
 const CommandEntry* const commandTable[] = {&gridCommandEntry};

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 struct CommandEntry
 {

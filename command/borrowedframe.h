@@ -1,7 +1,7 @@
 // The user's coordinate system and its variables, on loan for the length of a command.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // A whole-number system variable, set to 0 until it is given back. One that cannot be read is left
 // alone both times: what is not known cannot be put back.

@@ -22,7 +22,7 @@ void answerFirstCornerText(GridRun& run)
     const double unknown = -1.0;
     if (answerIsKeyword(run.messages->settingsKeyword))
     {
-        editSettings(run.settings, unknown, unknown, run.localeName);
+        editSettings(run, unknown, unknown);
     }
 }
 

@@ -1,6 +1,5 @@
 #include "command/editsettings.h"
 
-#include "app/gridapp.h"
 #include "settings/settingsdlg.h"
 
 namespace
@@ -9,11 +8,11 @@ namespace
 class ModuleResources
 {
 public:
-    ModuleResources() : m_manager(acDocManager)
+    explicit ModuleResources(HINSTANCE module) : m_manager(acDocManager)
     {
         if (areCurrent())
         {
-            m_manager->pushResourceHandle(gridApp().moduleHandle());
+            m_manager->pushResourceHandle(module);
         }
     }
     ~ModuleResources()
@@ -34,19 +33,19 @@ private:
 };
 }  // namespace
 
-bool editSettings(GridSettings& settings, double gridWidth, double gridHeight,
-                  const CString& localeName)
+bool editSettings(GridRun& run, double gridWidth, double gridHeight)
 {
-    const ModuleResources resources;
+    const ModuleResources resources(run.module);
     if (!resources.areCurrent())
     {
         return false;
     }
-    CSettingsDlg dialog(settings, gridWidth, gridHeight, localeName, settings.textStyleName);
+    CSettingsDlg dialog(run.settings, gridWidth, gridHeight, run.localeName,
+                        run.settings.textStyleName);
     if (dialog.DoModal() != IDOK)
     {
         return false;
     }
-    settings = dialog.settings();
+    run.settings = dialog.settings();
     return true;
 }

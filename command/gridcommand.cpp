@@ -1,6 +1,5 @@
 #include "command/gridcommand.h"
 
-#include "app/gridapp.h"
 #include "command/borrowedframe.h"
 #include "command/preview.h"
 #include "output/entities.h"
@@ -68,10 +67,10 @@ void drawGrid(GridRun& run, SettingsFile& file)
 }
 }  // namespace
 
-void gridCommand()
+void gridCommand(HINSTANCE module)
 {
-    GridRun run;
-    SettingsFile file(settingsFilePath(gridApp().moduleHandle()));
+    GridRun run(module);
+    SettingsFile file(settingsFilePath(module));
     file.load(run.settings);
     readTextStyleName(run.settings.textStyleName);
     printSummary(run.settings, *run.messages);

@@ -7,8 +7,12 @@
 // The settings start as the defaults.
 struct GridRun
 {
-    GridRun() : localeName(productLocaleName()), messages(&messagesFor(localeName)) {}
+    explicit GridRun(HINSTANCE module)
+        : module(module), localeName(productLocaleName()), messages(&messagesFor(localeName))
+    {
+    }
 
+    HINSTANCE module;  // holds the template of the dialog
     CString localeName;
     const Messages* messages;  // [borrowed] for good
     GridSettings settings;

@@ -1,7 +1,7 @@
 // What the command says, in both languages.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 struct Messages
 {

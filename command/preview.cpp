@@ -99,7 +99,7 @@ bool offerGrid(GridRun& run, const PickedRectangle& rectangle, AcDbObjectIdArray
             case answerApply:
                 return true;
             case answerSettings:
-                editSettings(run.settings, rectangle.width, rectangle.height, run.localeName);
+                editSettings(run, rectangle.width, rectangle.height);
                 break;
             case answerCancel:
                 eraseEntities(gridIds);

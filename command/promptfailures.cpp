@@ -1,6 +1,6 @@
 #include "command/promptfailures.h"
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 bool PromptFailures::areTooMany(int result)
 {

@@ -1,7 +1,7 @@
 // The grid.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Draws a coordinate grid within an outline and returns every entity made, in order of creation.
 //

@@ -1,7 +1,7 @@
 // Points that lie so far from an outline that one look tells where.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // A convex quadrilateral in a plane of one z. The point tests take their time over points near the
 // edges, where tolerances and angles decide; nearly all points of a grid are not near.

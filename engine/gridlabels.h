@@ -1,7 +1,7 @@
 // What the labels of both kinds of grid have in common.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 #include "engine/gridrequest.h"
 
 // Twelve decimals and no more. View twists are judged and labels are turned with this number in

@@ -1,7 +1,7 @@
 // What buildGrid was asked for, handed to its steps.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Labels of one coordinate.
 struct LabelRequest

@@ -1,7 +1,7 @@
 // The lines of a grid, drawn piece by piece.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 #include "engine/gridrequest.h"
 #include "engine/positions.h"
 

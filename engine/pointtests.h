@@ -4,7 +4,7 @@
 // than the rounding of the coordinates.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Tells where P lies with respect to the outline Q0-Q1-Q2-Q3.
 //

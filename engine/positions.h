@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // 2^25. A grid has at most this many nodes and twice as many lines. The host keeps some hundred
 // bytes a line, so no machine holds the drawing of a bigger one; and its counts are ints, which

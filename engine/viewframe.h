@@ -1,7 +1,7 @@
 // The frame that the command works in.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Lays the UCS into the plane of the screen: X along the screen's horizontal, Z towards the viewer,
 // the origin where it was. Whoever calls it brings the former UCS back (acedRestorePreviousUCS).

@@ -1,7 +1,7 @@
 // Grid along the axes of the world.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 #include "engine/gridrequest.h"
 
 // Draws the grid within the boundary: lines through the base point, parallel to the world axes.

@@ -1,7 +1,7 @@
 // Labels of the grid along the world axes.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 #include "engine/gridrequest.h"
 
 // Edges of the picked rectangle [wcs], top and left as the user sees them, at the first corner's z.

@@ -9,7 +9,7 @@
 //   [prints]    writes on the host's command line
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Appends a new entity to the named block and closes it.
 //

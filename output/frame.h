@@ -1,7 +1,7 @@
 // The user's coordinate system (UCS) and the world's (WCS).
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Positions, not directions. Without a drawing the point comes back as it is.
 AcGePoint3d toUcs(AcGePoint3d wcs);

@@ -1,7 +1,7 @@
 // Single-line texts.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Name of the drawing's current text style. On any status but eOk the name is empty.
 Acad::ErrorStatus currentTextStyleName(CString& name);

@@ -1,7 +1,7 @@
 // Numbers as the user reads and writes them: labels, settings file, dialog fields.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // An empty or invalid number: the largest finite double, the largest int.
 double notSetReal();

@@ -10,7 +10,7 @@
 #include <cfloat>
 #include <cmath>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Whether distances can be taken with it: no NaN, not infinite, and its square does not overflow.
 inline bool isMeasurable(double coordinate)

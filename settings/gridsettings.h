@@ -1,7 +1,7 @@
 // The options of the grid command.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Made with the defaults. The fields down to textYScribe carry the names of their keys in the
 // settings file, mixed spelling and all; the last two are never written there.

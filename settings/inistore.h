@@ -4,7 +4,7 @@
 #include <cwchar>
 #include <map>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Order of names: letters count as lower case, by the runtime's _wcsicmp.
 struct NameBefore

@@ -1,7 +1,7 @@
 // The question whether a grid of very many lines is meant.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // More than fifty steps along a side of the rectangle, both in drawing units. An infinite ratio is
 // many, one that is no number is not.

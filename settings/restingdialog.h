@@ -1,7 +1,7 @@
 // A dialog under a box that the host opens over it.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // The dialog is disabled while this lives; then it is in front again, with the keyboard where it
 // was.

@@ -1,7 +1,7 @@
 // What the settings dialog says, in both languages.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Of a length that can be picked. The prompt is a format for the length as it stands.
 struct LengthTexts

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Names in table order, erased styles left out; empty when the drawing cannot be locked or read.
 std::vector<CString> textStyleNames();

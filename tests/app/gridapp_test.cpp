@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "app/entry.h"
-#include "command/gridcommand.h"
+#include "app/tables.h"
 #include "tests/app/hostcalls.h"
 
 extern "C" BOOL APIENTRY DllMain(HINSTANCE module, DWORD reason, LPVOID);
@@ -26,7 +26,7 @@ std::wstring gridCommandAdded()
 {
     std::wostringstream text;
     text << L"addCommand Obrenta zv_netrax zv_netrax " << 0x2000041 << L" "
-         << reinterpret_cast<void*>(gridCommand) << L" 0 -1 "
+         << reinterpret_cast<void*>((*commandSlots().begin)->handler) << L" 0 -1 "
          << static_cast<void*>(attachedModule()) << L" 0";
     return text.str();
 }

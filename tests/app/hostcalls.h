@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // While it lives, the calls below go to it instead of the host; one at a time.
 class HostCalls

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/entry.h"
 #include "tests/app/hostcalls.h"
 #include "tests/command/scriptededitor.h"
 
@@ -11,17 +12,17 @@ TEST(EditSettings, showNoDialogWhereItsTemplateCannotBeFound)
 {
     HostCalls host;
     host.documentManagerIsMissing = true;
-    GridSettings settings;
-    EXPECT_FALSE(editSettings(settings, -1, -1, L"en-US"));
-    EXPECT_EQ(settings.HorStep, 100);
+    GridRun run(attachedModule());
+    EXPECT_FALSE(editSettings(run, -1, -1));
+    EXPECT_EQ(run.settings.HorStep, 100);
 }
 
 TEST(EditSettings, tellWhetherTheUserTookThem)
 {
-    GridSettings settings;
     ScriptedEditor editor;
-    EXPECT_FALSE(editSettings(settings, -1, -1, L"en-US"));
+    GridRun run(attachedModule());
+    EXPECT_FALSE(editSettings(run, -1, -1));
     editor.userOfDialog = [](CDialog&) {};
-    EXPECT_TRUE(editSettings(settings, -1, -1, L"en-US"));
+    EXPECT_TRUE(editSettings(run, -1, -1));
 }
 }  // namespace

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "app/entry.h"
-#include "app/gridapp.h"
 #include "command/gridcommand.h"
 #include "host/database/access.h"
 #include "host/database/strict.h"
@@ -67,8 +66,6 @@ ScriptedAnswer code(int result)
 ScriptedEditor::ScriptedEditor()
     : database(host::documents().open(host::newDrawing()).database()), options(L"[]")
 {
-    // The module learns its handle, as when it is loaded.
-    gridApp().netrax::AcRxDbxApp::initApp(nullptr);
     current = this;
 }
 
@@ -90,7 +87,7 @@ void ScriptedEditor::run(std::deque<ScriptedAnswer> answers)
 {
     const ModulePath path(modulePath());
     m_answers = std::move(answers);
-    gridCommand();
+    gridCommand(attachedModule());
     EXPECT_TRUE(m_answers.empty());
     host::requireNothingOpen(*database, "gridCommand");
 }

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 #include "tests/settings/temporaryfile.h"
 #include "tests/support/meter.h"
 

@@ -1,7 +1,7 @@
 // Records of symbol tables whose names the host does not tell.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 namespace tests
 {

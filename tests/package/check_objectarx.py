@@ -13,7 +13,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
 from arxhost import ROOT, need_built  # noqa: E402
 from report import check, expect, expect_equal, run_all  # noqa: E402
 
-FOLDERS = ["app", "command", "engine", "output", "settings"]
+FOLDERS = ["app", "command", "engine", "hostapi", "output", "settings"]
 # Headers that the SDK, MFC and Windows bring, as their makers spell them.
 SDK = """acadapp.h acadstrc.h acarray.h accmd.h acdb.h acdocman.h aced.h acedads.h acui.h acuiComboBox.h
 acuiDialog.h acutads.h acutmem.h adesk.h adscodes.h adsdef.h adslib.h adui.h aduiButton.h aduiDialog.h
@@ -62,7 +62,7 @@ def the_module_includes_only_what_the_real_headers_are_called():
 @check
 def the_module_takes_mfc_whole_and_first_and_the_host_header_by_header():
     """The host's dialogs derive from all over MFC; its umbrella brings names that are ours."""
-    names = included(ROOT / "app" / "host.h")
+    names = included(ROOT / "hostapi" / "host.h")
     expect_equal(names[:6], ["afxwin.h", "afxext.h", "afxcmn.h", "afxdlgs.h", "afxole.h", "afxdisp.h"], "first headers")
     umbrellas = [str(path.relative_to(ROOT)) for path in module_files() if "arxHeaders.h" in included(path)]
     expect_equal(umbrellas, [], "files that include the umbrella")

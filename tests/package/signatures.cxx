@@ -5,7 +5,7 @@
 // from the object file and compares them with what the module imports.
 #include <type_traits>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // A function in any of its overloads, or a datum; inherited ones under the class that has them.
 template <class Type, Type what>

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // Another frame for application objects, with other members.
 class AcRxDbxApp

@@ -5,7 +5,7 @@
 // Too slow for a drawing; the engine's own, with all its short cuts, must draw the very same.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 namespace relations
 {

@@ -2,7 +2,7 @@
 // Results and tolerances are those of engine/pointtests.h; nothing is shared with it.
 #pragma once
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 namespace relations::plain
 {

@@ -3,7 +3,7 @@
 #include <cwchar>
 #include <optional>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 #include "tests/app/original.h"
 
 namespace

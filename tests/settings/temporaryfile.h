@@ -7,7 +7,7 @@
 #include <random>
 #include <string>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 
 // In a new folder that goes with it.
 class TemporaryFile

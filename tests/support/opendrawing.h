@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/host.h"
+#include "hostapi/host.h"
 #include "host/database/drawing.h"
 
 namespace tests
