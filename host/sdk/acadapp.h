@@ -3,12 +3,14 @@
 
 namespace AcadApp
 {
+// The reasons are bits: a registry entry or a package combines them. This host loads a module when
+// it is asked to and reads no such entry, so every reason has the same effect here.
 enum LoadReasons
 {
-    kOnProxyDetection = 1,
-    kOnAutoCADStartup = 2,
-    kOnCommandInvocation = 4,
-    kOnLoadRequest = 8,
-    kLoadDisabled = 0x10
+    kOnProxyDetection = 1,     // a drawing holds an object of the module
+    kOnAutoCADStartup = 2,     // the host starts
+    kOnCommandInvocation = 4,  // a command of the module is typed
+    kOnLoadRequest = 8,        // the user or another module asks for it
+    kLoadDisabled = 0x10       // the module is never loaded
 };
 }  // namespace AcadApp

@@ -12,16 +12,19 @@
 [[noreturn]] void acArrayIndexBreach(const char* call, int index, int length);
 [[noreturn]] void acArrayMemoryBreach();
 
-// Logical length: entries in use. Physical length: entries that fit without growing.
-// Grow length: the least that it grows by when full, 1 or more; a long array grows by half its
-// length, so that appending costs the same however long it gets.
+// An array owns its entries. The logical length counts the entries in use, the physical length
+// those that fit without growing. The grow length is the least that a full array grows by, 1 or
+// more; a long array grows by half its length, so that appending costs the same however long it
+// gets.
 //
-// An index outside the entries in use ends the run. A reference or pointer to an entry holds
-// until the array grows; an entry may be given to the array's own append and insertAt.
+// An index outside the entries in use ends the run, and so does memory that cannot be had. A
+// reference or pointer to an entry is [borrowed] and good until the array grows or shrinks. An
+// entry may be given to the array's own append and insertAt.
 template <typename T>
 class AcArray
 {
 public:
+    // An empty array with room for that many entries; a copy; what the other array held.
     AcArray(int initPhysicalLength = 0, int initGrowLength = 8) : AcArray(initGrowLength, Empty())
     {
         setPhysicalLength(initPhysicalLength);
@@ -33,7 +36,8 @@ public:
         destroyFrom(0);
         std::free(m_entries);
     }
-    // The grow length stays this array's own.
+    // Takes copies of the other's entries, or the entries themselves. The grow length stays this
+    // array's own.
     AcArray& operator=(const AcArray& other)
     {
         return this == &other ? *this : removeAll().append(other);
@@ -43,17 +47,20 @@ public:
         exchange(other);
         return *this;
     }
+    // True when both have equal entries in the same order.
     bool operator==(const AcArray& other) const
     {
         return m_length == other.m_length && std::equal(begin(), end(), other.begin());
     }
 
+    // The lengths; length and logicalLength are the same.
     int length() const { return m_length; }
     int logicalLength() const { return m_length; }
     int physicalLength() const { return m_physicalLength; }
     int growLength() const { return m_growLength; }
     bool isEmpty() const { return m_length == 0; }
 
+    // An entry [borrowed]. first and last of an empty array end the run.
     T& operator[](int index) { return entry(index, "AcArray::operator[]"); }
     const T& operator[](int index) const { return entry(index, "AcArray::operator[]"); }
     T& at(int index) { return entry(index, "AcArray::at"); }
@@ -62,10 +69,11 @@ public:
     const T& first() const { return entry(0, "AcArray::first"); }
     T& last() { return entry(m_length - 1, "AcArray::last"); }
     const T& last() const { return entry(m_length - 1, "AcArray::last"); }
-    // Null while nothing was ever stored.
+    // All entries, one after the other [borrowed]; null while nothing was ever stored.
     T* asArrayPtr() { return m_entries; }
     const T* asArrayPtr() const { return m_entries; }
 
+    // Replace one entry, and all entries in use.
     AcArray& setAt(int index, const T& value)
     {
         entry(index, "AcArray::setAt") = value;
@@ -77,7 +85,7 @@ public:
         return *this;
     }
 
-    // Index of the new entry.
+    // Adds a copy at the end and returns its index.
     int append(const T& value)
     {
         if (m_length < m_physicalLength)
@@ -92,6 +100,7 @@ public:
         }
         return m_length++;
     }
+    // Adds copies of the other's entries, which may be this array, at the end.
     AcArray& append(const AcArray& other)
     {
         const int count = other.m_length;  // other may be this array
@@ -103,7 +112,7 @@ public:
         }
         return *this;
     }
-    // index may be the length, which appends.
+    // Puts a copy in front of the entry `index`. index may be the length, which appends.
     AcArray& insertAt(int index, const T& value)
     {
         checkIndex(index, m_length + 1, "AcArray::insertAt");
@@ -112,6 +121,7 @@ public:
         return *this;
     }
 
+    // Take an entry out; those behind it move up. Removing from an empty array ends the run.
     AcArray& removeAt(int index)
     {
         checkIndex(index, m_length, "AcArray::removeAt");
@@ -121,13 +131,13 @@ public:
     }
     AcArray& removeFirst() { return removeAt(0); }
     AcArray& removeLast() { return removeAt(m_length - 1); }
-    // Keeps the memory.
+    // Takes all entries out and keeps the memory.
     AcArray& removeAll()
     {
         destroyFrom(0);
         return *this;
     }
-    // The first entry equal to value; false when there is none.
+    // Takes out the first entry that equals value; false when there is none.
     bool remove(const T& value)
     {
         int index = 0;
@@ -139,12 +149,15 @@ public:
         return found;
     }
 
+    // Whether an entry at or behind `start` equals value. Points compare within
+    // AcGeContext::gTol.
     bool contains(const T& value, int start = 0) const
     {
         int index = 0;
         return find(value, index, start);
     }
-    // foundAt stays as it is when there is none.
+    // Sets foundAt to the index of the first such entry; false, and foundAt as it was, when there
+    // is none.
     bool find(const T& value, int& foundAt, int start = 0) const
     {
         for (int i = std::max(start, 0); i < m_length; ++i)
@@ -158,7 +171,8 @@ public:
         return false;
     }
 
-    // New entries are made by the default constructor; those of a plain type hold no value yet.
+    // Makes the array that long. New entries are made by the default constructor; those of a plain
+    // type hold no value yet. Entries beyond the length are removed.
     AcArray& setLogicalLength(int length)
     {
         checkIndex(length, noLimit, "AcArray::setLogicalLength");
@@ -170,7 +184,7 @@ public:
         }
         return *this;
     }
-    // Entries that no longer fit are removed.
+    // Makes room for just that many entries. Entries that no longer fit are removed.
     AcArray& setPhysicalLength(int length)
     {
         checkIndex(length, noLimit, "AcArray::setPhysicalLength");
@@ -181,12 +195,14 @@ public:
         }
         return *this;
     }
+    // A length below 1 counts as 1.
     AcArray& setGrowLength(int length)
     {
         m_growLength = std::max(length, 1);
         return *this;
     }
 
+    // Turn the order round, and exchange two entries.
     AcArray& reverse()
     {
         std::reverse(begin(), end());

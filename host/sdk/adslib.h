@@ -1,4 +1,4 @@
-// The editor's calls, in one include.
+// All calls of the editor in one include. This header declares nothing itself.
 #pragma once
 
 #include "acedads.h"

@@ -1,4 +1,4 @@
-// The dialog library under the host's own.
+// The dialog library under the host's own, in one include. This header declares nothing itself.
 #pragma once
 
 #include "aduiButton.h"

@@ -1,4 +1,5 @@
-// MFC's common controls, the same.
+// MFC's common controls. This host has nothing of it. The header exists because a module includes
+// it before the dialog headers, which need it where MFC itself is used.
 #pragma once
 
 #include "afxwin.h"

@@ -5,8 +5,9 @@
 
 #include "windows.h"
 
-// Text of UTF-16 units; all positions and lengths count units. A null pointer is an empty text.
-// As an argument of a printf-like function it must be cast to LPCTSTR.
+// Text of UTF-16 units; all positions and lengths count units. Texts that are given are copied. A
+// null pointer counts as an empty text. As an argument of a printf-like function a CString must be
+// cast to LPCTSTR. A pointer into the text is [borrowed] and good until the text changes.
 class CStringW
 {
 public:
@@ -28,31 +29,36 @@ public:
     wchar_t operator[](int index) const { return m_text[index]; }
     void SetAt(int index, wchar_t unit) { m_text[index] = unit; }
 
-    // Wide printf of the platform that the module was written for: %s takes a wide text, %S a
+    // Replaces the text by what the wide printf of the platform makes: %s takes a wide text, %S a
     // narrow one. The text itself may be among the arguments.
     void Format(LPCWSTR format, ...);
 
+    // Adds at the end.
     void Append(LPCWSTR text) { *this += text; }
     CStringW& operator+=(const CStringW& text);
     CStringW& operator+=(LPCWSTR text);
     CStringW& operator+=(wchar_t unit);
 
-    // By the numbers of the units; the second with A-Z as a-z. Below 0, 0, above 0.
+    // Compares unit by unit, by their numbers; CompareNoCase takes A-Z as a-z. Returns a number
+    // below 0, 0, or above 0 when this text comes before the other, equals it, or comes after it.
     int Compare(LPCWSTR text) const;
     int CompareNoCase(LPCWSTR text) const;
 
-    // Position of the first one at or after `start`, of the last one; -1 for none.
+    // Position of the first occurrence at or after `start`, and of the last one; -1 when there is
+    // none or text is null.
     int Find(LPCWSTR text, int start = 0) const;
     int Find(wchar_t unit, int start = 0) const;
     int ReverseFind(wchar_t unit) const;
 
-    // Parts; a count or position that goes beyond the text is cut to it.
+    // Copies of a part. A count or position that goes beyond the text is cut to it; a negative one
+    // counts as 0.
     CStringW Left(int count) const;
     CStringW Mid(int first) const;
     CStringW Mid(int first, int count) const;
     CStringW Right(int count) const;
 
-    // Take white space, or the units of a set, off the ends.
+    // Take white space, one unit or the units of a set off both ends, the start or the end. White
+    // space includes the Unicode blanks.
     CStringW& Trim();
     CStringW& Trim(wchar_t unit);
     CStringW& Trim(LPCWSTR set);
@@ -63,12 +69,14 @@ public:
     CStringW& TrimRight(wchar_t unit);
     CStringW& TrimRight(LPCWSTR set);
 
-    // Return the number of places changed.
+    // Replace every occurrence and return the number of places changed. An empty `from` occurs
+    // nowhere.
     int Replace(LPCWSTR from, LPCWSTR to);
     int Replace(wchar_t from, wchar_t to);
 
-    // Room for `length` units and a NUL, good until ReleaseBuffer, which takes the text as long as
-    // told or up to its first NUL.
+    // Room for `length` units, but no less than the text, and a zero [borrowed]. The caller writes
+    // into it and then calls ReleaseBuffer, which takes `length` units of it, or with -1 all up to
+    // the first zero. Nothing else may be called in between.
     LPWSTR GetBuffer(int length = 0);
     void ReleaseBuffer(int length = -1);
 
@@ -78,12 +86,14 @@ private:
 
 typedef CStringW CString;
 
+// Both texts, one after the other.
 CStringW operator+(const CStringW& left, const CStringW& right);
 CStringW operator+(const CStringW& left, LPCWSTR right);
 CStringW operator+(LPCWSTR left, const CStringW& right);
 CStringW operator+(const CStringW& left, wchar_t right);
 CStringW operator+(wchar_t left, const CStringW& right);
 
+// The order of Compare.
 inline bool operator==(const CStringW& left, const CStringW& right)
 {
     return left.Compare(right) == 0;

@@ -6,23 +6,27 @@
 #include "dbents.h"
 #include "gegbl.h"
 
+// An array of whole numbers; see acarray.h.
 typedef AcArray<int> AcGeIntArray;
 
+// An area with one or more loops as its border.
 class AcDbMPolygon : public AcDbEntity
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbMPolygon)
 
-    // eInvalidInput for a boundary that is open or has fewer than three corners, or that crosses a
-    // loop already there when `excludeCrossing` is set.
+    // Adds a copy of the boundary as a loop [write]. The boundary need not be in a database; tol
+    // has no effect. eInvalidInput for a null boundary, for one that is open or has fewer than
+    // three corners, and, when `excludeCrossing` is set, for one that crosses a loop that is there.
     Acad::ErrorStatus appendLoopFromBoundary(const AcDb2dPolyline* boundary,
                                              bool excludeCrossing = true,
                                              double tol = AcGeContext::gTol.equalPoint());
-    // How many loops hold the point, their numbers in `loops`. On a loop within tol counts as in
-    // it.
+    // Returns how many loops hold the point [wcs] and sets `loops` to their numbers, from 0 on
+    // [read]. A point within tol, in drawing units, of a loop counts as inside. 0 means outside.
     int isPointInsideMPolygon(const AcGePoint3d& worldPoint, AcGeIntArray& loops,
                               double tol = AcGeContext::gTol.equalPoint()) const;
 
+    // As said in AcDbEntity.
     Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
 private:

@@ -1,19 +1,28 @@
-// Smart pointers that open in their constructor and close in their destructor.
+// Pointer objects that open in their constructor and close in their destructor.
+//
+// Order of calls: make the pointer, ask openStatus, use the object. The object must not be closed
+// by itself: its pointer closes it, at the latest when it goes.
 #pragma once
 
 #include "dbapserv.h"
 #include "dbmain.h"
 #include "dbsymtb.h"
 
+// What all pointer objects have in common. T is the class that the object has to be of.
 template <class T>
 class AcDbObjectPointerBase
 {
 public:
+    // eOk while the object is open; else why it could not be opened, and eNullObjectPointer after
+    // close.
     Acad::ErrorStatus openStatus() const { return m_status; }
+    // The open object [borrowed]; null unless openStatus is eOk.
     T* object() const { return m_object; }
     T* operator->() const { return m_object; }
     operator T*() const { return m_object; }
 
+    // Closes the object before the pointer goes and returns what AcDbObject::close returns;
+    // eNullObjectPointer when nothing is open.
     Acad::ErrorStatus close()
     {
         if (m_object == nullptr)
@@ -27,15 +36,18 @@ public:
     }
 
 protected:
+    // Nothing is open at first. The destructor closes what is.
     AcDbObjectPointerBase() : m_object(nullptr), m_status(Acad::eNullObjectPointer) {}
     ~AcDbObjectPointerBase() { close(); }
 
+    // Opens the object, or notes why it could not be opened. Called once, by a constructor.
     void openById(AcDbObjectId id, AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer)
     {
         AcDbObject* opened = nullptr;
         m_status = host::openObject(opened, id, T::desc(), mode, openErased, openOnLockedLayer);
         m_object = static_cast<T*>(opened);
     }
+    // Notes why nothing was opened.
     void fail(Acad::ErrorStatus status) { m_status = status; }
 
 private:
@@ -46,10 +58,13 @@ private:
     Acad::ErrorStatus m_status;
 };
 
+// Opens any object by its id. The statuses are those of acdbOpenAcDbObject; with openOnLockedLayer
+// an entity on a locked layer is opened for write as well.
 template <class T>
 class AcDbObjectPointer : public AcDbObjectPointerBase<T>
 {
 public:
+    // Opens the object.
     AcDbObjectPointer(AcDbObjectId id, AcDb::OpenMode mode, bool openErased = false,
                       bool openOnLockedLayer = false)
     {
@@ -57,14 +72,18 @@ public:
     }
 };
 
+// Opens a symbol table by its id or as that of a database. eNoDatabase for a null database; else
+// the statuses of acdbOpenAcDbObject.
 template <class T>
 class AcDbSymbolTablePointer : public AcDbObjectPointerBase<T>
 {
 public:
+    // Opens the table.
     AcDbSymbolTablePointer(AcDbObjectId id, AcDb::OpenMode mode)
     {
         this->openById(id, mode, false, false);
     }
+    // Opens the database's table of that class.
     AcDbSymbolTablePointer(AcDbDatabase* database, AcDb::OpenMode mode)
     {
         if (database == nullptr)
@@ -76,14 +95,19 @@ public:
     }
 };
 
+// Opens a record of a symbol table by its id, or by its name in a database. eNoDatabase for a null
+// database, eInvalidInput for a null name, eKeyNotFound, eDeletedEntry for an erased record unless
+// openErased is set; else the statuses of acdbOpenAcDbObject.
 template <class T>
 class AcDbSymbolTableRecordPointer : public AcDbObjectPointerBase<T>
 {
 public:
+    // Opens the record.
     AcDbSymbolTableRecordPointer(AcDbObjectId id, AcDb::OpenMode mode, bool openErased = false)
     {
         this->openById(id, mode, openErased, false);
     }
+    // Opens the record of that name, in any letter case, from the database's table of its class.
     AcDbSymbolTableRecordPointer(const ACHAR* name, AcDbDatabase* database, AcDb::OpenMode mode,
                                  bool openErased = false)
     {

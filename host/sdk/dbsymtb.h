@@ -3,15 +3,17 @@
 
 #include "dbmain.h"
 
-// A named record. Names compare without regard to letter case.
+// A named record of a symbol table. Letter case of names does not count.
 class AcDbSymbolTableRecord : public AcDbObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbSymbolTableRecord)
 
-    // A copy for the caller, who frees it with acutDelBuffer or acutDelString.
+    // Sets name to a copy of the record's name [read], which the caller owns and frees with
+    // acutDelString. A text style for a shape file has an empty name. eOutOfMemory; name is null
+    // then.
     Acad::ErrorStatus getName(ACHAR*& name) const;
-    // The record's own text, good while it is open.
+    // Sets name to the record's own text [borrowed] [read], good while the drawing is open; eOk.
     Acad::ErrorStatus getName(const ACHAR*& name) const;
 
 private:
@@ -19,15 +21,23 @@ private:
     const wchar_t* m_name = L"";  // lives as long as the database
 };
 
+// Goes through the records of a table in the order of the table, as they were when the iterator was
+// made. Order of calls: while not done: getRecordId or getRecord, step.
 class AcDbSymbolTableIterator
 {
 public:
+    // Goes to the first or the last record; with skipErased to the next one that is not erased.
     void start(bool atBeginning = true, bool skipErased = true);
+    // Whether the iterator has left the table at either end.
     bool done() const;
+    // Goes on by one record, again past erased ones with skipErased.
     void step(bool forward = true, bool skipErased = true);
+    // Sets id to the record that the iterator is at. eInvalidIndex, and id as it was, once it is
+    // done.
     Acad::ErrorStatus getRecordId(AcDbObjectId& id) const;
 
 protected:
+    // Opens the record; see AcDbTableIteratorOf::getRecord.
     Acad::ErrorStatus openRecord(AcDbObject*& record, AcDb::OpenMode mode, bool openErased) const;
 
 private:
@@ -38,6 +48,7 @@ private:
     void skip(int direction, bool skipErased);
 };
 
+// A table of named records; it owns them.
 class AcDbSymbolTable : public AcDbObject
 {
 public:
@@ -45,15 +56,20 @@ public:
 
     struct Names;  // the host's own
 
+    // An empty table; the host makes and fills it. Its records are the database's and stay.
     AcDbSymbolTable();
     ~AcDbSymbolTable();
 
-    // eKeyNotFound, eDeletedEntry; the id is null then.
+    // Sets id to the record of that name, in any letter case, without opening it.
+    // eInvalidInput for a null name, eKeyNotFound, eDeletedEntry for an erased record unless
+    // getErasedRecord is set; id is null then.
     Acad::ErrorStatus getAt(const ACHAR* name, AcDbObjectId& id,
                             bool getErasedRecord = false) const;
+    // Whether getAt finds the name.
     bool has(const ACHAR* name) const;
 
 protected:
+    // The work of AcDbTableOf::getAt and AcDbTableOf::newIterator [read].
     Acad::ErrorStatus openAt(const ACHAR* name, AcDbObject*& record, AcDb::OpenMode mode,
                              bool openErased) const;
     void fillIterator(AcDbSymbolTableIterator& iterator, bool atBeginning, bool skipErased) const;
@@ -63,26 +79,34 @@ private:
     Names* m_names;
 };
 
+// A block: model space, a sheet, or what an insert repeats.
 class AcDbBlockTableRecord : public AcDbSymbolTableRecord
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord)
 
-    // Needs write. On success the entity is the database's, has an id and is open for write; on
-    // failure it stays its maker's. eAlreadyInDb.
+    // Adds a new entity at the end of the block and sets id [write]. The entity is the database's
+    // then [adopted], properties that were not set get the drawing's current ones, and it stays
+    // open for write; the caller closes it and may no longer delete it. eNullObjectPointer,
+    // eAlreadyInDb, eInvalidInput for an entity with a number that is not finite; id is null then,
+    // and the entity stays its maker's.
     Acad::ErrorStatus appendAcDbEntity(AcDbObjectId& id, AcDbEntity* entity);
     Acad::ErrorStatus appendAcDbEntity(AcDbEntity* entity);
 };
 
+// A layer.
 class AcDbLayerTableRecord : public AcDbSymbolTableRecord
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbLayerTableRecord)
 
+    // Frozen and off: its entities are not shown. Locked: they cannot be opened for write.
     bool isFrozen() const { return m_frozen; }
     bool isLocked() const { return m_locked; }
     bool isOff() const { return m_off; }
-    Acad::ErrorStatus setIsFrozen(bool frozen);  // eInvalidLayer: the current one cannot be frozen
+    // [write]. eInvalidLayer: the current layer cannot be frozen.
+    Acad::ErrorStatus setIsFrozen(bool frozen);
+    // [write]. Any layer can be locked and turned off.
     void setIsLocked(bool locked);
     void setIsOff(bool off);
 
@@ -93,20 +117,25 @@ private:
     bool m_off = false;
 };
 
+// A linetype that the drawing has loaded. Continuous is always there.
 class AcDbLinetypeTableRecord : public AcDbSymbolTableRecord
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbLinetypeTableRecord)
 };
 
+// A text style, or a shape file, which is a text style without a name.
 class AcDbTextStyleTableRecord : public AcDbSymbolTableRecord
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbTextStyleTableRecord)
 
-    double obliquingAngle() const { return m_oblique; }  // radians
+    // Slant from the upright [rad].
+    double obliquingAngle() const { return m_oblique; }
+    // Width of the letters as a multiple of that of the font.
     double xScale() const { return m_xScale; }
-    double textSize() const { return m_textSize; }  // 0 when not fixed
+    // Height of its texts in drawing units; 0 when each text has its own.
+    double textSize() const { return m_textSize; }
 
 private:
     friend struct host::ObjectAccess;
@@ -115,11 +144,13 @@ private:
     double m_textSize = 0;
 };
 
-// What every table offers for its own kind of record.
+// An iterator over one kind of record.
 template <class Record>
 class AcDbTableIteratorOf : public AcDbSymbolTableIterator
 {
 public:
+    // Opens the record that the iterator is at; the caller closes it [borrowed]. eInvalidIndex once
+    // the iterator is done; else the statuses of acdbOpenAcDbObject. record is null unless eOk.
     Acad::ErrorStatus getRecord(Record*& record, AcDb::OpenMode mode = AcDb::kForRead,
                                 bool openErased = false) const
     {
@@ -130,12 +161,15 @@ public:
     }
 };
 
+// A table of one kind of record.
 template <class Record>
 class AcDbTableOf : public AcDbSymbolTable
 {
 public:
     using AcDbSymbolTable::getAt;
-    // Opens the record. eWasErased and a null pointer for an erased one.
+    // Opens the record of that name; the caller closes it [borrowed] [read]. eInvalidInput for a
+    // null name, eKeyNotFound, eWasErased for an erased record unless openErasedRecord is set; else
+    // the statuses of acdbOpenAcDbObject. record is null unless eOk.
     Acad::ErrorStatus getAt(const ACHAR* name, Record*& record, AcDb::OpenMode mode,
                             bool openErasedRecord = false) const
     {
@@ -144,7 +178,8 @@ public:
         record = static_cast<Record*>(opened);
         return status;
     }
-    // The caller deletes the iterator before the table is closed.
+    // Sets iterator to a new one at the first or the last record; eOk [read]. The caller deletes it
+    // before the table is closed.
     Acad::ErrorStatus newIterator(AcDbTableIteratorOf<Record>*& iterator, bool atBeginning = true,
                                   bool skipErased = true) const
     {
@@ -154,27 +189,32 @@ public:
     }
 };
 
+// The host's names for these iterators.
 typedef AcDbTableIteratorOf<AcDbTextStyleTableRecord> AcDbTextStyleTableIterator;
 typedef AcDbTableIteratorOf<AcDbLayerTableRecord> AcDbLayerTableIterator;
 
+// The tables of a drawing are this one and the three below. The database opens them.
 class AcDbBlockTable : public AcDbTableOf<AcDbBlockTableRecord>
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbBlockTable)
 };
 
+// See AcDbBlockTable.
 class AcDbLayerTable : public AcDbTableOf<AcDbLayerTableRecord>
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbLayerTable)
 };
 
+// See AcDbBlockTable.
 class AcDbLinetypeTable : public AcDbTableOf<AcDbLinetypeTableRecord>
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbLinetypeTable)
 };
 
+// See AcDbBlockTable.
 class AcDbTextStyleTable : public AcDbTableOf<AcDbTextStyleTableRecord>
 {
 public:

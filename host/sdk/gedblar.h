@@ -3,4 +3,5 @@
 
 #include "acarray.h"
 
+// An array of numbers; see acarray.h.
 typedef AcArray<double> AcGeDoubleArray;

@@ -3,4 +3,5 @@
 
 #include "acarray.h"
 
+// An array of whole numbers; see acarray.h.
 typedef AcArray<int> AcGeIntArray;

@@ -4,55 +4,62 @@
 #include "gepnt3d.h"
 #include "gevec3d.h"
 
-// A value without an owner: no one deletes it through a base.
+// Root of the geometric values. A value has no owner, and nobody deletes it through a base.
 class AcGeEntity3d
 {
 protected:
+    // Only a derived class makes, copies and ends a value.
     AcGeEntity3d() {}
     ~AcGeEntity3d() {}
     AcGeEntity3d(const AcGeEntity3d&) = default;
     AcGeEntity3d& operator=(const AcGeEntity3d&) = default;
 };
 
+// Whatever has a nearest point. Points are of the system that the curve was made in.
 class AcGeCurve3d : public AcGeEntity3d
 {
 public:
-    // The point of the curve nearest to p, the curve's ends included.
+    // The point of the curve nearest to p; the ends belong to the curve.
     virtual AcGePoint3d closestPointTo(const AcGePoint3d& p,
                                        const AcGeTol& tol = AcGeContext::gTol) const = 0;
-    // The distance from p to that point.
+    // The distance from p to that point, in drawing units.
     virtual double distanceTo(const AcGePoint3d& p,
                               const AcGeTol& tol = AcGeContext::gTol) const = 0;
 
 protected:
-    ~AcGeCurve3d() {}
+    ~AcGeCurve3d() {}  // as that of the root
 };
 
+// A straight curve.
 class AcGeLinearEnt3d : public AcGeCurve3d
 {
 protected:
-    ~AcGeLinearEnt3d() {}
+    ~AcGeLinearEnt3d() {}  // as that of the root
 };
 
-// Its ends may coincide: it is then a point. Final, and its distance inline, so that a segment made
-// only to be asked for a distance costs no more than the arithmetic.
+// A straight segment. Its ends may coincide: it is then a point. The class is final and its
+// distance inline, so that a segment made only to be asked for a distance costs no more than the
+// arithmetic.
 class AcGeLineSeg3d final : public AcGeLinearEnt3d
 {
 public:
+    // From p1 to p2.
     AcGeLineSeg3d(const AcGePoint3d& p1, const AcGePoint3d& p2) : m_start(p1), m_end(p2) {}
 
+    // The ends, and the distance between them in drawing units.
     AcGePoint3d startPoint() const { return m_start; }
     AcGePoint3d endPoint() const { return m_end; }
     double length() const { return m_start.distanceTo(m_end); }
 
-    // Of a point on a level or upright segment: that point, to the last bit.
+    // The nearest point of the segment. For a point on a level or upright segment it is that point,
+    // to the last bit. The tolerance is not used.
     AcGePoint3d closestPointTo(const AcGePoint3d& p,
                                const AcGeTol& tol = AcGeContext::gTol) const override;
 
-    // Taken from the differences and not from the nearest point itself: its coordinates would be
-    // rounded, and far from the origin a rounding is larger than the point tolerance. Beside the
-    // segment the cross product is used since it is exactly 0 for a point on a level or upright
-    // segment, however long.
+    // The distance is taken from the differences and not from the nearest point: the coordinates of
+    // that point are rounded, and far from the origin a rounding is larger than the point
+    // tolerance. Beside the segment the cross product is used because it is exactly 0 for a point
+    // on a level or upright segment, however long.
     double distanceTo(const AcGePoint3d& p, const AcGeTol& = AcGeContext::gTol) const override
     {
         const AcGeVector3d along = m_end - m_start;

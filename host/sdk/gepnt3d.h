@@ -5,18 +5,21 @@
 
 class AcGeMatrix3d;
 
+// Three coordinates in drawing units. The call that takes or gives a point says in which system.
 class AcGePoint3d
 {
 public:
+    // 0,0,0, or the given coordinates.
     constexpr AcGePoint3d() : x(0), y(0), z(0) {}
     constexpr AcGePoint3d(double xx, double yy, double zz) : x(xx), y(yy), z(zz) {}
 
-    static const AcGePoint3d kOrigin;
+    static const AcGePoint3d kOrigin;  // 0,0,0
 
-    // index is 0, 1 or 2.
+    // Coordinate 0 is x, 1 is y; any other index is z.
     double& operator[](unsigned index) { return index == 0 ? x : index == 1 ? y : z; }
     double operator[](unsigned index) const { return index == 0 ? x : index == 1 ? y : z; }
 
+    // A point and a vector give a point; two points give the vector from the second to the first.
     AcGePoint3d operator+(const AcGeVector3d& v) const
     {
         return AcGePoint3d(x + v.x, y + v.y, z + v.z);
@@ -32,6 +35,7 @@ public:
     AcGePoint3d& operator+=(const AcGeVector3d& v) { return *this = *this + v; }
     AcGePoint3d& operator-=(const AcGeVector3d& v) { return *this = *this - v; }
 
+    // Replaces the coordinates.
     AcGePoint3d& set(double xx, double yy, double zz)
     {
         x = xx;
@@ -39,10 +43,15 @@ public:
         z = zz;
         return *this;
     }
+    // The vector from 0,0,0 to the point.
     AcGeVector3d asVector() const { return AcGeVector3d(x, y, z); }
+    // Replaces the point by its image.
     AcGePoint3d& transformBy(const AcGeMatrix3d& matrix);
 
+    // Distance in space, in drawing units.
     double distanceTo(const AcGePoint3d& p) const { return (*this - p).length(); }
+    // Whether the points lie within tol.equalPoint() of each other; the operators use
+    // AcGeContext::gTol as it stands at the call.
     bool isEqualTo(const AcGePoint3d& p, const AcGeTol& tol = AcGeContext::gTol) const
     {
         return distanceTo(p) <= tol.equalPoint();
@@ -50,6 +59,7 @@ public:
     bool operator==(const AcGePoint3d& p) const { return isEqualTo(p); }
     bool operator!=(const AcGePoint3d& p) const { return !isEqualTo(p); }
 
+    // The coordinates.
     double x;
     double y;
     double z;

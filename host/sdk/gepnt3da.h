@@ -4,4 +4,5 @@
 #include "acarray.h"
 #include "gepnt3d.h"
 
+// An array of points; see acarray.h. Each call that fills one says in which system.
 typedef AcArray<AcGePoint3d> AcGePoint3dArray;

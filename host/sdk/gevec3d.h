@@ -5,17 +5,20 @@
 
 #include "gegbl.h"
 
+// Three components in drawing units. The call that takes or gives a vector says in which system.
 class AcGeVector3d
 {
 public:
+    // 0,0,0, or the given components.
     constexpr AcGeVector3d() : x(0), y(0), z(0) {}
     constexpr AcGeVector3d(double xx, double yy, double zz) : x(xx), y(yy), z(zz) {}
 
     static const AcGeVector3d kIdentity;  // 0,0,0
-    static const AcGeVector3d kXAxis;
-    static const AcGeVector3d kYAxis;
-    static const AcGeVector3d kZAxis;
+    static const AcGeVector3d kXAxis;     // 1,0,0
+    static const AcGeVector3d kYAxis;     // 0,1,0
+    static const AcGeVector3d kZAxis;     // 0,0,1
 
+    // Componentwise. A divisor of 0 gives components that are not finite.
     AcGeVector3d operator-() const { return AcGeVector3d(-x, -y, -z); }
     AcGeVector3d operator+(const AcGeVector3d& v) const
     {
@@ -34,6 +37,7 @@ public:
         return AcGeVector3d(x / divisor, y / divisor, z / divisor);
     }
 
+    // Replaces the components.
     AcGeVector3d& set(double xx, double yy, double zz)
     {
         x = xx;
@@ -42,6 +46,7 @@ public:
         return *this;
     }
 
+    // Products, the square of the length, and the length.
     double dotProduct(const AcGeVector3d& v) const { return x * v.x + y * v.y + z * v.z; }
     AcGeVector3d crossProduct(const AcGeVector3d& v) const
     {
@@ -50,7 +55,8 @@ public:
     double lengthSqrd() const { return dotProduct(*this); }
     double length() const { return std::sqrt(lengthSqrd()); }
 
-    // Unit vector of the same direction. A zero-length vector has none and stays as it is.
+    // Unit vector of the same direction; normalize replaces the vector by it. A vector no longer
+    // than tol.equalVector() has no direction and stays as it is.
     AcGeVector3d normal(const AcGeTol& tol = AcGeContext::gTol) const
     {
         const double size = length();
@@ -58,6 +64,8 @@ public:
     }
     AcGeVector3d& normalize(const AcGeTol& tol = AcGeContext::gTol) { return *this = normal(tol); }
 
+    // Whether the vector, or the difference of two, is no longer than tol.equalVector(). The
+    // operators use AcGeContext::gTol as it stands at the call.
     bool isZeroLength(const AcGeTol& tol = AcGeContext::gTol) const
     {
         return length() <= tol.equalVector();
@@ -69,14 +77,15 @@ public:
     bool operator==(const AcGeVector3d& v) const { return isEqualTo(v); }
     bool operator!=(const AcGeVector3d& v) const { return !isEqualTo(v); }
 
-    // Of the same or the opposite direction. A zero-length vector is parallel to nothing.
+    // True for the same and for the opposite direction: the sine of the angle is no larger than
+    // tol.equalVector(). A zero-length vector is parallel to nothing.
     bool isParallelTo(const AcGeVector3d& v, const AcGeTol& tol = AcGeContext::gTol) const;
 
-    // Unit vector square to this one: the X axis of the plane whose normal this is, by the
-    // arbitrary axis rule.
+    // Unit vector square to this one: by the arbitrary axis rule the X axis of the plane whose
+    // normal this is.
     AcGeVector3d perpVector() const;
 
-    // Unsigned angle [0, pi]; 0 when either vector is 0,0,0.
+    // Unsigned angle [rad], from 0 to pi; 0 when either vector is 0,0,0.
     double angleTo(const AcGeVector3d& v) const
     {
         const double across = crossProduct(v).length();
@@ -85,14 +94,16 @@ public:
         return across == 0 && along == 0 ? 0 : std::atan2(across, along);
     }
 
-    // Angle to v [0, 2 pi], counter-clockwise seen from the tip of ref.
+    // Angle to v [rad], from 0 to 2 pi, counter-clockwise seen from the tip of ref.
     double angleTo(const AcGeVector3d& v, const AcGeVector3d& ref) const;
 
+    // The components.
     double x;
     double y;
     double z;
 };
 
+// The vector times a factor.
 inline AcGeVector3d operator*(double factor, const AcGeVector3d& v)
 {
     return v * factor;

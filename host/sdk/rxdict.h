@@ -3,11 +3,12 @@
 
 #include "rxobject.h"
 
+// A dictionary of the host's services. Letter case of keys counts.
 class AcRxDictionary : public AcRxObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcRxDictionary)
 
-    // Null when there is no such entry. The object stays the dictionary's.
+    // The object under that key [borrowed]; null for a null key or when there is no such entry.
     virtual AcRxObject* at(const ACHAR* key) const = 0;
 };

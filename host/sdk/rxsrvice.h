@@ -1,4 +1,4 @@
-// Objects that the host offers by name; they are found in its registry.
+// Services that the host offers by name, in one include. This header declares nothing itself.
 #pragma once
 
 #include "rxdict.h"
