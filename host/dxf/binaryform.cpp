@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "host/dxf/error.h"
+#include "host/dxf/schema/structure.h"
 #include "host/dxf/tag.h"
 
 namespace host::dxf
@@ -19,46 +20,6 @@ namespace
 constexpr std::string_view sentinel("AutoCAD Binary DXF\r\n\x1a\0", 22);
 constexpr int longCode = 255;              // of one byte: the code follows in two
 constexpr std::size_t longestChunk = 255;  // its length is one byte
-
-enum class Kind
-{
-    text,
-    real,
-    int8,
-    int16,
-    int32,
-    int64,
-    chunk,
-    unknown
-};
-
-struct CodeRange
-{
-    int first;
-    int last;
-    Kind kind;
-};
-
-// The value types of the group codes; a code that stands in two ranges is what the first one says.
-constexpr CodeRange codeRanges[] = {
-    {0, 9, Kind::text},        {10, 59, Kind::real},      {60, 79, Kind::int16},
-    {90, 99, Kind::int32},     {100, 109, Kind::text},    {110, 149, Kind::real},
-    {160, 169, Kind::int64},   {170, 179, Kind::int16},   {210, 239, Kind::real},
-    {270, 289, Kind::int16},   {290, 299, Kind::int8},    {300, 309, Kind::text},
-    {310, 319, Kind::chunk},   {320, 369, Kind::text},    {370, 389, Kind::int16},
-    {390, 399, Kind::text},    {400, 409, Kind::int16},   {410, 419, Kind::text},
-    {420, 429, Kind::int32},   {430, 439, Kind::text},    {440, 459, Kind::int32},
-    {460, 469, Kind::real},    {470, 481, Kind::text},    {999, 999, Kind::text},
-    {1004, 1004, Kind::chunk}, {1000, 1009, Kind::text},  {1010, 1059, Kind::real},
-    {1060, 1070, Kind::int16}, {1071, 1071, Kind::int32},
-};
-
-Kind kindOf(int code)
-{
-    const auto range = std::ranges::find_if(
-        codeRanges, [code](const CodeRange& r) { return r.first <= code && code <= r.last; });
-    return range != std::end(codeRanges) ? range->kind : Kind::unknown;
-}
 
 class Reader
 {
@@ -70,7 +31,7 @@ public:
 private:
     bool readTag();
     int readCode();
-    void readValue(Kind kind);
+    void readValue(ValueType type);
     void readText();
     void readReal();
     void readChunk();
@@ -106,8 +67,8 @@ bool Reader::readTag()
 {
     m_form.offsets.push_back(m_at);
     const int code = readCode();
-    const Kind kind = kindOf(code);
-    if (kind == Kind::unknown)
+    const ValueType type = valueType(Code(code));
+    if (type == ValueType::none)
     {
         m_at = m_form.offsets.back();
         refuse("a group code of DXF", std::to_string(code));
@@ -115,9 +76,10 @@ bool Reader::readTag()
     const std::string digits = std::to_string(code);
     m_form.text.append(digits.size() < 3 ? 3 - digits.size() : 0, ' ').append(digits) += '\n';
     const std::size_t value = m_form.text.size();
-    readValue(kind);
+    readValue(type);
     m_form.text += '\n';
-    return code != 0 || m_form.text.compare(value, std::string::npos, "EOF\n") != 0;
+    return Code(code) != schema::recordType ||
+           m_form.text.compare(value, std::string::npos, "EOF\n") != 0;
 }
 
 int Reader::readCode()
@@ -140,21 +102,21 @@ int Reader::readCode()
     return inTwoBytes;
 }
 
-void Reader::readValue(Kind kind)
+void Reader::readValue(ValueType type)
 {
-    switch (kind)
+    switch (type)
     {
-        case Kind::real:
+        case ValueType::real:
             return readReal();
-        case Kind::int8:
+        case ValueType::int8:
             return readInteger<std::uint8_t>();
-        case Kind::int16:
+        case ValueType::int16:
             return readInteger<std::int16_t>();
-        case Kind::int32:
+        case ValueType::int32:
             return readInteger<std::int32_t>();
-        case Kind::int64:
+        case ValueType::int64:
             return readInteger<std::int64_t>();
-        case Kind::chunk:
+        case ValueType::chunk:
             return readChunk();
         default:
             return readText();
@@ -334,19 +296,19 @@ void BinaryEncoder::encodeTag(std::string_view codeText, std::string_view value)
 {
     const int code = parsed<int>(0, codeText);
     putCode(code);
-    switch (kindOf(code))
+    switch (valueType(Code(code)))
     {
-        case Kind::real:
+        case ValueType::real:
             return put(parsed<double>(code, value));
-        case Kind::int8:
+        case ValueType::int8:
             return put(parsed<std::uint8_t>(code, value));
-        case Kind::int16:
+        case ValueType::int16:
             return put(parsed<std::int16_t>(code, value));
-        case Kind::int32:
+        case ValueType::int32:
             return put(parsed<std::int32_t>(code, value));
-        case Kind::int64:
+        case ValueType::int64:
             return put(parsed<std::int64_t>(code, value));
-        case Kind::chunk:
+        case ValueType::chunk:
         {
             const std::string chunk = chunkOf(code, value);
             m_binary += char(chunk.size());
@@ -355,7 +317,7 @@ void BinaryEncoder::encodeTag(std::string_view codeText, std::string_view value)
         }
         default:
             putText(value);
-            m_ended = code == 0 && value == "EOF";
+            m_ended = Code(code) == schema::recordType && value == "EOF";
     }
 }
 

@@ -3,8 +3,18 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "host/dxf/schema/structure.h"
+
 namespace host::dxf
 {
+void writeSection(TagWriter& writer, std::string_view name, const Producer& contents)
+{
+    writer.text(schema::recordType, "SECTION");
+    writer.text(schema::name, name);
+    contents(writer);
+    writer.text(schema::recordType, "ENDSEC");
+}
+
 void Edits::replace(std::size_t begin, std::size_t end, Producer produce)
 {
     m_edits.push_back({begin, end, std::move(produce)});
@@ -28,7 +38,7 @@ void Edits::setHeader(std::string_view name, const Producer& produce)
     const HeaderVariable* variable = m_file.header(name);
     if (!variable)
     {
-        writer.text(9, name);
+        writer.text(schema::variableName, name);
     }
     produce(writer);
     writer.flush();
@@ -49,10 +59,7 @@ void Edits::setHeader(std::string_view name, const Producer& produce)
 
 void Edits::writeNewHeader(TagWriter& writer) const
 {
-    writer.text(0, "SECTION");
-    writer.text(2, "HEADER");
-    writer.raw(m_newHeader);
-    writer.text(0, "ENDSEC");
+    writeSection(writer, "HEADER", [this](TagWriter& out) { out.raw(m_newHeader); });
 }
 
 void Edits::write(TagWriter& writer) const

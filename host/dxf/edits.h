@@ -14,6 +14,9 @@ namespace host::dxf
 // Writes tags when the file is written; nothing is held until then. May throw.
 using Producer = std::function<void(TagWriter&)>;
 
+// What is produced, as a section.
+void writeSection(TagWriter& writer, std::string_view name, const Producer& contents);
+
 // Changes may be noted in any order. They must not overlap, each tag and each variable is changed
 // once; `write` throws std::logic_error otherwise.
 class Edits

@@ -4,29 +4,31 @@
 #include <cmath>
 
 #include "host/database/drawing.h"
+#include "host/dxf/schema/header.h"
 
 namespace host::dxf
 {
 namespace
 {
+// An integer of 64 bits stays in its digits: a variable's has 32.
 VariableValue valueOf(const FileSource& source, const HeaderVariable& variable)
 {
     VariableValue value = std::wstring();
     AcGePoint3d point;
     for (const Tag& tag : source.file.tags(variable))
     {
-        const int code = tag.code;
-        if (code == 10 || code == 20 || code == 30)
+        const Code code(tag.code);
+        const ValueType type = valueType(code);
+        if (const auto axis = schema::axisOfVariable(code))
         {
-            point[code / 10 - 1] = source.file.real(tag);
+            point[*axis] = source.file.real(tag);
             value = point;
         }
-        else if (code == 40 || code == 50)
+        else if (type == ValueType::real)
         {
             value = source.file.real(tag);
         }
-        else if ((code >= 60 && code < 80) || (code >= 280 && code < 300) || code == 370 ||
-                 code == 380)
+        else if (isInteger(type) && type != ValueType::int64)
         {
             value = int(source.file.integer(tag));
         }

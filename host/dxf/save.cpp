@@ -120,14 +120,6 @@ std::vector<const AcDbStub*> ownersOfNewEntities(const LiveStubs& live)
     return owners;
 }
 
-void inSection(TagWriter& writer, std::string_view name, const Producer& contents)
-{
-    writer.text(0, "SECTION");
-    writer.text(2, name);
-    contents(writer);
-    writer.text(0, "ENDSEC");
-}
-
 void saveEntities(Edits& edits, const FileSource& source, const LiveStubs& live,
                   EntityWriter& entities)
 {
@@ -138,8 +130,8 @@ void saveEntities(Edits& edits, const FileSource& source, const LiveStubs& live,
         { entities.writeEntitiesOf(owner, writer); };
         if (place == source.file.eofOffset())
         {
-            edits.insert(place,
-                         [produce](TagWriter& writer) { inSection(writer, "ENTITIES", produce); });
+            edits.insert(
+                place, [produce](TagWriter& writer) { writeSection(writer, "ENTITIES", produce); });
             continue;
         }
         edits.insert(place, produce);
@@ -281,7 +273,7 @@ void saveGroups(Edits& edits, DatabaseCore& core)
         return;
     }
     edits.insert(source.file.eofOffset(),
-                 [all](TagWriter& writer) { inSection(writer, "OBJECTS", all); });
+                 [all](TagWriter& writer) { writeSection(writer, "OBJECTS", all); });
 }
 
 // The seed goes up with the objects that are saved, so a drawing left as it was stays so.

@@ -224,14 +224,9 @@ void insertTables(Edits& edits, const std::string& tables)
         edits.insert(section->end, [tables](TagWriter& writer) { writer.raw(tables); });
         return;
     }
-    edits.insert(placeForTables(edits.file()),
-                 [tables](TagWriter& writer)
-                 {
-                     writer.text(0, "SECTION");
-                     writer.text(2, "TABLES");
-                     writer.raw(tables);
-                     writer.text(0, "ENDSEC");
-                 });
+    edits.insert(
+        placeForTables(edits.file()), [tables](TagWriter& writer)
+        { writeSection(writer, "TABLES", [&tables](TagWriter& out) { out.raw(tables); }); });
 }
 }  // namespace
 

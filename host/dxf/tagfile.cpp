@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "host/dxf/binaryform.h"
+#include "host/dxf/schema/structure.h"
 #include "host/dxf/tagscanner.h"
 #include "host/dxf/wholefile.h"
 
@@ -105,11 +106,11 @@ std::span<const Record> TagFile::records(std::string_view name) const
 
 Tag TagFile::handleTag(const Record& record) const
 {
-    const int code = typeName(record) == "DIMSTYLE" ? 105 : 5;
+    const Code code = schema::handleOf(typeName(record));
     bool inBraces = false;
     for (const Tag& tag : tags(record))
     {
-        if (tag.code == 102)
+        if (tag.code == schema::list)
         {
             inBraces = trimmed(tag.value).starts_with('{');
         }

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
+#include "host/dxf/schema/structure.h"
+
 namespace host::dxf
 {
 namespace
 {
-constexpr int commentCode = 999;
-constexpr int highestCode = 1071;
-
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t';
@@ -88,7 +87,7 @@ void TagReader::nextButComments()
     do
     {
         next();
-    } while (m_tag.code == commentCode);
+    } while (m_tag.code == schema::comment);
 }
 
 void TagReader::skipTo(int code)
@@ -114,7 +113,7 @@ void TagReader::refuseLine() const
 
 void TagReader::refuse(std::string_view expected) const
 {
-    if (m_tag.code == 0 || m_tag.code == 2)
+    if (m_tag.code == schema::recordType || m_tag.code == schema::name)
     {
         m_file.refuseValue(m_tag, expected);
     }

@@ -1,6 +1,7 @@
 // Reads a file's tags one after the other and refuses what is none.
 #pragma once
 
+#include "host/dxf/schema/structure.h"
 #include "host/dxf/tagfile.h"
 
 namespace host::dxf
@@ -20,7 +21,7 @@ public:
     const Tag& tag() const { return m_tag; }
     bool is(std::string_view word) const  // the tag has code 0 and this value
     {
-        return m_tag.code == 0 && trimmed(m_tag.value) == word;
+        return m_tag.code == schema::recordType && trimmed(m_tag.value) == word;
     }
     std::uint32_t nextLine() const { return m_nextLine; }
     std::string_view rest() const;  // of the file, after the tag

@@ -6,6 +6,7 @@
 #include "host/dxf/codepage.h"
 #include "host/dxf/otherformats.h"
 #include "host/dxf/release.h"
+#include "host/dxf/schema/structure.h"
 
 namespace host::dxf
 {
@@ -69,7 +70,7 @@ void TagFileScanner::readSection()
     }
     m_reader.nextButComments();
     const std::string_view name = trimmed(m_tag.value);
-    if (m_tag.code != 2)
+    if (m_tag.code != schema::name)
     {
         m_reader.refuse("the section's name (group code 2)");
     }
@@ -100,9 +101,9 @@ void TagFileScanner::readSection()
 void TagFileScanner::readHeader()
 {
     std::vector<HeaderVariable>& variables = m_file.m_header;
-    for (m_reader.nextButComments(); m_tag.code != 0; m_reader.nextButComments())
+    for (m_reader.nextButComments(); m_tag.code != schema::recordType; m_reader.nextButComments())
     {
-        if (m_tag.code == 9)
+        if (m_tag.code == schema::variableName)
         {
             variables.push_back({trimmed(m_tag.value), m_tag.end, m_tag.end, m_reader.nextLine()});
             continue;
@@ -130,7 +131,7 @@ void TagFileScanner::readHeaderValue(std::string_view variable)
     {
         m_file.m_codePage = trimmed(m_tag.value);
     }
-    else if (70 <= m_tag.code && m_tag.code < 80 && m_tag.value.starts_with(' '))
+    else if (valueType(Code(m_tag.code)) == ValueType::int16 && m_tag.value.starts_with(' '))
     {
         m_file.m_style.padIntegers = true;
     }
@@ -139,7 +140,7 @@ void TagFileScanner::readHeaderValue(std::string_view variable)
 void TagFileScanner::readRecords()
 {
     m_reader.nextButComments();
-    if (m_tag.code != 0)
+    if (m_tag.code != schema::recordType)
     {
         m_reader.refuse("a record (group code 0)");
     }
@@ -175,8 +176,8 @@ void TagFileScanner::readRecord()
         m_reader.refuse("a record's type");
     }
     Record record{m_tag.begin, 0, 0, m_tag.line, typeIndex(type)};
-    record.handle = readHandle(type == "DIMSTYLE" ? 105 : 5);
-    m_reader.skipTo(0);
+    record.handle = readHandle(schema::handleOf(type));
+    m_reader.skipTo(schema::recordType);
     record.end = m_tag.begin;
     m_file.m_records.push_back(record);
     m_file.m_highestHandle = std::max(m_file.m_highestHandle, record.handle);
@@ -188,9 +189,10 @@ void TagFileScanner::readRecord()
 std::uint64_t TagFileScanner::readHandle(int handleCode)
 {
     bool inBraces = false;
-    for (m_reader.next(); m_tag.code != 0 && m_tag.code != 100; m_reader.next())
+    for (m_reader.next(); m_tag.code != schema::recordType && m_tag.code != schema::subclass;
+         m_reader.next())
     {
-        if (m_tag.code == 102)
+        if (m_tag.code == schema::list)
         {
             inBraces = trimmed(m_tag.value).starts_with('{');
         }

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "host/dxf/schema/code.h"
+
 namespace host::dxf
 {
 namespace
@@ -16,18 +18,17 @@ constexpr std::size_t slack = 64;
 constexpr std::size_t numbersSlack = 6 * slack;
 
 // Columns of a padded integer; the blanks show how many bytes a reader needs for it.
-int integerWidth(int code)
+unsigned char integerWidth(Code code)
 {
-    const auto in = [code](int first, int last) { return first <= code && code <= last; };
-    if (in(90, 99) || in(420, 429) || in(440, 459) || code == 1071)
+    switch (valueType(code))
     {
-        return 9;
+        case ValueType::int32:
+            return 9;
+        case ValueType::int64:
+            return 18;
+        default:
+            return 6;
     }
-    if (in(160, 169))
-    {
-        return 18;
-    }
-    return 6;
 }
 
 char* appendReal(char* at, double value)
@@ -142,7 +143,7 @@ TagWriter::TagWriter(Drain drain, const TagStyle& style)
         line += style.newline;
         std::copy(line.begin(), line.end(), m_codes[code].text);
         m_codes[code].length = line.size();
-        m_codes[code].integerWidth = style.padIntegers ? integerWidth(code) : 0;
+        m_codes[code].integerWidth = style.padIntegers ? integerWidth(Code(int(code))) : 0;
     }
 }
 

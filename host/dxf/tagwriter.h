@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/dxf/schema/code.h"
 #include "host/dxf/tag.h"
 
 namespace host::dxf
@@ -94,7 +95,7 @@ private:
     Drain m_drain;
     char m_newline[2] = {};
     std::size_t m_newlineLength;
-    std::array<CodeLine, 1072> m_codes;
+    std::array<CodeLine, highestCode + 1> m_codes;
     std::unique_ptr<char[]> m_buffer;
     char* m_at;
     const char* m_full;  // further bytes are for the next filling, but for the rest of a tag

@@ -1,0 +1,168 @@
+// How a kind of record is described: a structure with a default for each attribute, and a table
+// with a row for each of them, in the order of a file.
+//
+//     struct Circle : Entity
+//     {
+//         AcGePoint3d center;
+//         double radius = 1;
+//     };
+//     inline constexpr auto table = tableOf<Circle>("CIRCLE", entityRows,
+//     subclassRow("AcDbCircle"),
+//                                                   row(center, &Circle::center),
+//                                                   row(radius, &Circle::radius));
+//
+// A row whose member cannot have the type of its code does not compile.
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+#include "gepnt3d.h"
+#include "gevec3d.h"
+#include "host/dxf/schema/code.h"
+
+namespace host::dxf::schema
+{
+using Handle = std::uint64_t;  // 0: has none
+using Handles = std::vector<Handle>;
+
+struct PlanePoint
+{
+    double x = 0;
+    double y = 0;
+};
+
+// The first release that has it.
+enum class Since : unsigned char
+{
+    r12,
+    r13,
+    r2000,
+};
+
+enum class When : unsigned char
+{
+    always,
+    unlessUsual,       // the default is left out
+    unlessUsualInR12,  // the default is left out in R12, which has no name for it
+};
+
+template <class Record, class Value>
+struct Row
+{
+    Code code;
+    Value Record::*member;
+    When when;
+    Since since;
+};
+
+// Handles between braces; without any there are no braces either.
+template <class Record>
+struct ListRow
+{
+    std::string_view name;  // "{ACAD_REACTORS"
+    Code code;
+    Handles Record::*member;
+    Since since;
+};
+
+struct SubclassRow
+{
+    std::string_view name;
+};
+
+template <class... Rows>
+struct RowGroup
+{
+    std::tuple<Rows...> rows;
+};
+
+template <class Record, class Rows>
+struct Table
+{
+    using RecordType = Record;
+    std::string_view type;  // empty: part of a record
+    Rows rows;
+};
+
+template <class Value>
+constexpr bool fits(ValueType type)
+{
+    if constexpr (std::same_as<Value, std::wstring>)
+    {
+        return type == ValueType::text;
+    }
+    else if constexpr (std::same_as<Value, Handle> || std::same_as<Value, Handles>)
+    {
+        return type == ValueType::handle;
+    }
+    else if constexpr (std::same_as<Value, int>)
+    {
+        return isInteger(type) && type != ValueType::int64;
+    }
+    else
+    {
+        return type == ValueType::real;
+    }
+}
+
+template <class Record, class Value>
+consteval Row<Record, Value> row(Code code, Value Record::*member, When when = When::always,
+                                 Since since = Since::r12)
+{
+    return fits<Value>(valueType(code)) ? Row<Record, Value>{code, member, when, since}
+                                        : throw "the member cannot have the code's type";
+}
+
+template <class Record>
+consteval ListRow<Record> listRow(std::string_view name, Code code, Handles Record::*member)
+{
+    return fits<Handles>(valueType(code)) ? ListRow<Record>{name, code, member, Since::r13}
+                                          : throw "a list holds handles";
+}
+
+consteval SubclassRow subclassRow(std::string_view name)
+{
+    return {name};
+}
+
+template <class... Rows>
+consteval RowGroup<Rows...> rowsOf(Rows... rows)
+{
+    return {{rows...}};
+}
+
+template <class Record, class... Rows>
+consteval Table<Record, RowGroup<Rows...>> tableOf(std::string_view type, Rows... rows)
+{
+    return {type, {{rows...}}};
+}
+
+// Calls visit(row) for every row, also those of groups, in order.
+template <class... Rows, class Visit>
+constexpr void forEachRow(const RowGroup<Rows...>& group, const Visit& visit);
+
+template <class One, class Visit>
+constexpr void visitRow(const One& one, const Visit& visit)
+{
+    if constexpr (requires { one.rows; })
+    {
+        forEachRow(one, visit);
+    }
+    else
+    {
+        visit(one);
+    }
+}
+
+template <class... Rows, class Visit>
+constexpr void forEachRow(const RowGroup<Rows...>& group, const Visit& visit)
+{
+    std::apply([&](const Rows&... rows) { (visitRow(rows, visit), ...); }, group.rows);
+}
+}  // namespace host::dxf::schema
