@@ -1,5 +1,7 @@
 ﻿#include "command/messages.h"
 
+#include "output/language.h"
+
 namespace
 {
 const Messages englishMessages = {
@@ -40,5 +42,5 @@ CString productLocaleName()
 
 const Messages& messagesFor(const CString& localeName)
 {
-    return localeName.CompareNoCase(L"ru-RU") == 0 ? russianMessages : englishMessages;
+    return isRussian(localeName) ? russianMessages : englishMessages;
 }

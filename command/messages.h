@@ -19,5 +19,5 @@ struct Messages
 // Locale name of the host product, "en-US" when the host has none.
 CString productLocaleName();
 
-// Russian for "ru-RU" in any case, English for anything else. [borrowed] for good.
+// The texts in the language of the locale name (output/language.h). [borrowed] for good.
 const Messages& messagesFor(const CString& localeName);

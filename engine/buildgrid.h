@@ -16,7 +16,7 @@
 // needText      labels where lines meet the outline: prefix and value with iCountSigns decimals,
 //               heightText high; the eight flags say on which edges X and Y are labelled.
 //               None where that height is not set or else cannot be measured.
-// localeName    "ru-RU", in any letter case, writes the one error text in Russian
+// localeName    selects the language of the one error text (output/language.h)
 //
 // Empty when the boundary cannot be opened and when corners or steps are no usable numbers (not
 // set, NaN, infinite, a step that is not positive), or when there would be more than maxNodes

@@ -9,6 +9,7 @@
 #include "engine/worldlabels.h"
 #include "output/frame.h"
 #include "output/labels.h"
+#include "output/language.h"
 
 namespace
 {
@@ -90,9 +91,9 @@ static bool isTilted(const GridRequest& request)
 
 static void addTiltedText(const GridRequest& request, GridDrawing& drawing)
 {
-    const bool isRussian = request.localeName.CompareNoCase(L"ru-RU") == 0;
-    const ACHAR* text = isRussian ? L"Плоскость рисования не параллельна плоскости XY в МСК"
-                                  : L"Current plane is not parallel to XY plane in WCS";
+    const ACHAR* text = isRussian(request.localeName)
+                            ? L"Плоскость рисования не параллельна плоскости XY в МСК"
+                            : L"Current plane is not parallel to XY plane in WCS";
     const AcGePoint3d middle = request.corner1 + (request.corner2 - request.corner1) / 2;
     const double height = std::fabs(request.corner2.x - request.corner1.x) / 30.0;
     addMade(drawing,

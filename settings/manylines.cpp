@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "output/language.h"
+
 namespace
 {
 struct Question
@@ -43,8 +45,7 @@ bool isManyLines(double gridSize, double step)
 
 bool userAllowsManyLines(bool vertical, bool horizontal, const CString& localeName)
 {
-    const bool isRussian = localeName.CompareNoCase(L"ru-RU") == 0;
-    const Question& question = isRussian ? russianQuestion : englishQuestion;
+    const Question& question = isRussian(localeName) ? russianQuestion : englishQuestion;
     return MessageBoxW(adsw_acadMainWnd(), textOf(question, vertical, horizontal), question.caption,
                        MB_YESNO) == IDYES;
 }

@@ -9,5 +9,5 @@ bool isManyLines(double gridSize, double step);
 
 // Asks Yes or No about one direction or both [prints]; true for Yes. "Vertical" lines are those
 // that the vertical step spaces along the height, in the words the users know.
-// localeName: "ru-RU" in any case asks in Russian.
+// localeName selects the language (output/language.h).
 bool userAllowsManyLines(bool vertical, bool horizontal, const CString& localeName);

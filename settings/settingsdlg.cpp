@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "output/language.h"
 #include "output/numbers.h"
 #include "resources/resource.h"
 #include "settings/labelflags.h"
@@ -64,7 +65,7 @@ void CSettingsDlg::DoDataExchange(CDataExchange* exchange)
 BOOL CSettingsDlg::OnInitDialog()
 {
     CAcUiDialog::OnInitDialog();
-    if (m_localeName.CompareNoCase(L"ru-RU") != 0)
+    if (!isRussian(m_localeName))
     {
         showEnglish();
     }

@@ -13,7 +13,7 @@ class CSettingsDlg : public CAcUiDialog
 public:
     // gridWidth, gridHeight: sides of the picked rectangle in drawing units, -1.0 each when it is
     // not picked yet; what is checked against a side is checked only when the side is above 0.
-    // localeName: "ru-RU" in any case selects Russian, anything else English.
+    // localeName selects the language (output/language.h).
     CSettingsDlg(const GridSettings& settings, double gridWidth, double gridHeight,
                  const CString& localeName, const CString& textStyleName);
 

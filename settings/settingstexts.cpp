@@ -1,5 +1,6 @@
 ﻿#include "settings/settingstexts.h"
 
+#include "output/language.h"
 #include "resources/resource.h"
 
 namespace
@@ -98,7 +99,7 @@ const Caption captions[] = {
 
 const SettingsTexts& settingsTextsFor(const CString& localeName)
 {
-    return localeName.CompareNoCase(L"ru-RU") == 0 ? russianTexts : englishTexts;
+    return isRussian(localeName) ? russianTexts : englishTexts;
 }
 
 const Caption* englishCaptions()

@@ -28,7 +28,7 @@ struct SettingsTexts
     const wchar_t* yPrefixBanner;
 };
 
-// Russian for "ru-RU" in any case, English for anything else. [borrowed] for good.
+// The texts in the language of the locale name (output/language.h). [borrowed] for good.
 const SettingsTexts& settingsTextsFor(const CString& localeName);
 
 // A caption that stands in Russian in the template, in English.

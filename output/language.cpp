@@ -1,0 +1,6 @@
+#include "output/language.h"
+
+bool isRussian(const CString& localeName)
+{
+    return localeName.CompareNoCase(L"ru-RU") == 0;
+}
