@@ -69,22 +69,6 @@ static void convertPoints(GridRequest& request)
     sortCorners(request.corner1, request.corner2);
 }
 
-// Null id when the host refuses it.
-static AcDbObjectId addRectangle(const AcGePoint3d& corner1, const AcGePoint3d& corner2)
-{
-    AcGePoint3dArray corners;
-    corners.append(corner1);
-    corners.append(AcGePoint3d(corner2.x, corner1.y, 0));
-    corners.append(corner2);
-    corners.append(AcGePoint3d(corner1.x, corner2.y, 0));
-    corners.append(corner1);
-    AcDb2dPolyline* rectangle = new AcDb2dPolyline(AcDb::k2dSimplePoly, corners, 0.0, Adesk::kTrue);
-    rectangle->setVisibility(AcDb::kInvisible, true);
-    AcDbObjectId id;
-    appendToBlock(rectangle, id, ACDB_MODEL_SPACE);
-    return id;
-}
-
 static bool drawPiecesWithin(AcDbObjectId rectangleId, const GridRequest& request,
                              const AcDbEntity& boundary, GridDrawing& drawing)
 {
@@ -134,7 +118,7 @@ static void addUcsLabels(const GridRequest& request, GridDrawing& drawing)
 bool drawUcsGrid(GridRequest request, const AcDbEntity& boundary, GridDrawing& drawing)
 {
     convertPoints(request);
-    const AcDbObjectId rectangleId = addRectangle(request.corner1, request.corner2);
+    const AcDbObjectId rectangleId = addHiddenRectangle(request.corner1, request.corner2);
     if (!drawPiecesWithin(rectangleId, request, boundary, drawing))
     {
         return false;

@@ -31,6 +31,13 @@ AcDbObjectId showEntity(AcDbEntity* entity, const ACHAR* blockName);
 // the step that failed, and then the entity stays open.
 Acad::ErrorStatus eraseEntity(AcDbObjectId id);
 
+// Makes a closed 2D polyline, the rectangle between two opposite corners, that never shows: an aid
+// for computations in UCS coordinates, to be erased by the caller.
+//
+// corner1, corner2  [ucs]; taken as the numbers of the polyline as they stand, their z as 0.
+// Null id when the host refuses.
+AcDbObjectId addHiddenRectangle(const AcGePoint3d& corner1, const AcGePoint3d& corner2);
+
 // Whether entities can be put on the layer; makeUsable thaws, unlocks and turns it on first.
 // False for null and for a layer that is missing or cannot be changed: none is ever made.
 bool makeLayerUsable(const ACHAR* layerName, bool makeUsable);

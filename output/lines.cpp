@@ -66,3 +66,18 @@ AcDbObjectId addLine(bool pointsInUcs, AcGePoint3d start, AcGePoint3d end, Adesk
     line->setLineWeight(AcDb::kLnWtByLayer, true);
     return showEntity(line, blockName);
 }
+
+AcDbObjectId addHiddenRectangle(const AcGePoint3d& corner1, const AcGePoint3d& corner2)
+{
+    AcGePoint3dArray corners;
+    corners.append(corner1);
+    corners.append(AcGePoint3d(corner2.x, corner1.y, 0));
+    corners.append(corner2);
+    corners.append(AcGePoint3d(corner1.x, corner2.y, 0));
+    corners.append(corner1);
+    AcDb2dPolyline* rectangle = new AcDb2dPolyline(AcDb::k2dSimplePoly, corners, 0.0, Adesk::kTrue);
+    rectangle->setVisibility(AcDb::kInvisible, true);
+    AcDbObjectId id;
+    appendToBlock(rectangle, id, ACDB_MODEL_SPACE);
+    return id;
+}
