@@ -5,12 +5,62 @@
 #include "output/language.h"
 #include "output/numbers.h"
 #include "resources/resource.h"
-#include "settings/labelflags.h"
+#include "settings/options.h"
 #include "settings/textstyles.h"
 
 namespace
 {
 const int shownDecimals = 4;
+
+// Options with lists are shown apart: what a list offers has to be put into it first.
+struct ShowInControl
+{
+    CWnd& dialog;
+    const GridSettings& settings;
+
+    void operator()(const IntOption& option) const
+    {
+        const int value = settings.*option.member;
+        const bool isOn = option.kind == checkedAtOne ? value == 1 : value != 0;
+        if (option.kind != listControl)
+        {
+            dialog.CheckDlgButton(option.control, isOn ? BST_CHECKED : BST_UNCHECKED);
+        }
+    }
+    void operator()(const RealOption& option) const
+    {
+        dialog.SetDlgItemText(option.control, formatReal(settings.*option.member, shownDecimals));
+    }
+    void operator()(const TextOption& option) const
+    {
+        dialog.SetDlgItemText(option.control, settings.*option.member);
+    }
+};
+
+// A control that the host cannot give is left as it is.
+void enable(CWnd& dialog, int control, BOOL enabled)
+{
+    CWnd* window = dialog.GetDlgItem(control);
+    if (window != nullptr)
+    {
+        window->EnableWindow(enabled);
+    }
+}
+
+struct EnableLabelControl
+{
+    CWnd& dialog;
+    BOOL enabled;
+
+    template <class Row>
+    void operator()(const Row& option) const
+    {
+        if (option.isOfLabels)
+        {
+            enable(dialog, option.control, enabled);
+        }
+    }
+};
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CSettingsDlg, CAcUiDialog)
@@ -71,13 +121,13 @@ BOOL CSettingsDlg::OnInitDialog()
     }
     showBanners();
     loadPickButtons();  // after the captions: they name the picture and the tooltip
-    showGrid();
-    showAppearance();
-    showMode();
+    showOptions();
     showColor();
     showTextStyles();
     showAccuracies();
-    showLabels();
+    showBasePoint();
+    OnAppearanceChanged();
+    OnNeedTextChanged();
     return TRUE;
 }
 
@@ -110,25 +160,14 @@ void CSettingsDlg::loadPickButtons()
     }
 }
 
-void CSettingsDlg::showGrid()
+// An option with two radio buttons knows the second one; the first is the other answer.
+void CSettingsDlg::showOptions()
 {
-    showReal(IDC_VERT_STEP, m_settings.VertStep);
-    showReal(IDC_HOR_STEP, m_settings.HorStep);
-}
-
-void CSettingsDlg::showAppearance()
-{
-    showReal(IDC_CROSS_SIZE, m_settings.crossSize);
-    CheckRadioButton(IDC_LINES, IDC_CROSSES, m_settings.LookType == 1 ? IDC_CROSSES : IDC_LINES);
-    CheckDlgButton(IDC_ERASE_BOUNDARY, m_settings.delCont == 1 ? BST_CHECKED : BST_UNCHECKED);
-    OnAppearanceChanged();
-}
-
-void CSettingsDlg::showMode()
-{
+    const ShowInControl show = {*this, m_settings};
+    forEachOption(show);
+    CheckRadioButton(IDC_LINES, IDC_CROSSES, isChecked(IDC_CROSSES) ? IDC_CROSSES : IDC_LINES);
     CheckRadioButton(IDC_MODE_WCS, IDC_MODE_VIEW,
-                     m_settings.WCSBasePoint != 0 ? IDC_MODE_VIEW : IDC_MODE_WCS);
-    showBasePoint();
+                     isChecked(IDC_MODE_VIEW) ? IDC_MODE_VIEW : IDC_MODE_WCS);
 }
 
 // What the list answers to a colour that it has already differs by its release, so the item is
@@ -169,19 +208,6 @@ void CSettingsDlg::showAccuracies()
     m_accuracy.SetCurSel(m_settings.iCountSigns);
 }
 
-void CSettingsDlg::showLabels()
-{
-    showReal(IDC_TEXT_HEIGHT, m_settings.heightText);
-    SetDlgItemText(IDC_X_PREFIX, m_settings.textXScribe);
-    SetDlgItemText(IDC_Y_PREFIX, m_settings.textYScribe);
-    for (const LabelFlag* flag = labelFlags(); flag->button != 0; ++flag)
-    {
-        CheckDlgButton(flag->button, m_settings.*flag->field != 0 ? BST_CHECKED : BST_UNCHECKED);
-    }
-    CheckDlgButton(IDC_NEED_TEXT, m_settings.needText != 0 ? BST_CHECKED : BST_UNCHECKED);
-    OnNeedTextChanged();
-}
-
 void CSettingsDlg::showBasePoint()
 {
     AcGePoint3d shown = m_basePoint;
@@ -217,21 +243,11 @@ bool CSettingsDlg::isChecked(int button) const
     return IsDlgButtonChecked(button) == BST_CHECKED;
 }
 
-// A control that the host cannot give is left as it is.
-void CSettingsDlg::enable(int control, BOOL enabled)
-{
-    CWnd* window = GetDlgItem(control);
-    if (window != nullptr)
-    {
-        window->EnableWindow(enabled);
-    }
-}
-
 void CSettingsDlg::OnAppearanceChanged()
 {
     const BOOL crosses = isChecked(IDC_CROSSES);
-    enable(IDC_CROSS_SIZE, crosses);
-    enable(IDC_PICK_CROSS_SIZE, crosses);
+    enable(*this, IDC_CROSS_SIZE, crosses);
+    enable(*this, IDC_PICK_CROSS_SIZE, crosses);
 }
 
 void CSettingsDlg::OnModeChanged()
@@ -241,16 +257,13 @@ void CSettingsDlg::OnModeChanged()
 
 void CSettingsDlg::OnNeedTextChanged()
 {
-    const int group[] = {IDC_TEXT_STYLE,       IDC_ACCURACY,          IDC_X_PREFIX,
-                         IDC_Y_PREFIX,         IDC_TEXT_HEIGHT,       IDC_PICK_TEXT_HEIGHT,
-                         IDC_TEXT_STYLE_LABEL, IDC_TEXT_HEIGHT_LABEL, IDC_ACCURACY_LABEL};
-    const BOOL labels = isChecked(IDC_NEED_TEXT);
-    for (auto control = std::begin(group); control != std::end(group); ++control)
+    // Controls of the labels that are no option of the settings file.
+    const int others[] = {IDC_TEXT_STYLE, IDC_PICK_TEXT_HEIGHT, IDC_TEXT_STYLE_LABEL,
+                          IDC_TEXT_HEIGHT_LABEL, IDC_ACCURACY_LABEL};
+    const EnableLabelControl enableOption = {*this, isChecked(IDC_NEED_TEXT)};
+    forEachOption(enableOption);
+    for (auto control = std::begin(others); control != std::end(others); ++control)
     {
-        enable(*control, labels);
-    }
-    for (const LabelFlag* flag = labelFlags(); flag->button != 0; ++flag)
-    {
-        enable(flag->button, labels);
+        enable(*this, *control, enableOption.enabled);
     }
 }

@@ -58,19 +58,15 @@ private:
     // settingsdlg.cpp: from the settings to the controls
     void showEnglish();
     void showBanners();
-    void showGrid();
-    void showAppearance();
-    void showMode();
+    void showOptions();
     void showColor();
     void showTextStyles();
     void showAccuracies();
-    void showLabels();
     void showBasePoint();
     void showReal(int edit, double value);
     void loadPickButtons();
     double shownReal(int edit) const;
     bool isChecked(int button) const;
-    void enable(int control, BOOL enabled);
 
     // settingspicks.cpp: values picked in the drawing
     bool pickLength(Length& length, double& picked);
@@ -83,8 +79,7 @@ private:
     bool readLength(const Length& length, double& value);
     void goToEdit(int edit);
     bool readStep(Step& step, double& value);
-    bool readAppearance(GridSettings& settings);
-    void readLabels(GridSettings& settings);
+    void readOptions(GridSettings& settings);
     bool allowsMany(Step& step, double value);
     AcGePoint3d basePointWcs() const;
 

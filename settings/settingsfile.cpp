@@ -1,48 +1,11 @@
 #include "settings/settingsfile.h"
 
-#include <iterator>
-
 #include "output/numbers.h"
+#include "settings/options.h"
 
 namespace
 {
 const wchar_t gridSection[] = L"GRID";
-
-template <class Value>
-struct Field
-{
-    const wchar_t* key;
-    Value GridSettings::*member;
-};
-
-const Field<int> intFields[] = {
-    {L"Color", &GridSettings::Color},
-    {L"LookType", &GridSettings::LookType},
-    {L"WCSBasePoint", &GridSettings::WCSBasePoint},
-    {L"delCont", &GridSettings::delCont},
-    {L"iCountSigns", &GridSettings::iCountSigns},
-    {L"needText", &GridSettings::needText},
-    {L"bXTopScribe", &GridSettings::bXTopScribe},
-    {L"bXBottomScribe", &GridSettings::bXBottomScribe},
-    {L"bXLeftScribe", &GridSettings::bXLeftScribe},
-    {L"bXRightScribe", &GridSettings::bXRightScribe},
-    {L"bYTopScribe", &GridSettings::bYTopScribe},
-    {L"bYBottomScribe", &GridSettings::bYBottomScribe},
-    {L"bYLeftScribe", &GridSettings::bYLeftScribe},
-    {L"bYRightScribe", &GridSettings::bYRightScribe},
-};
-
-const Field<double> realFields[] = {
-    {L"VertStep", &GridSettings::VertStep},
-    {L"HorStep", &GridSettings::HorStep},
-    {L"crossSize", &GridSettings::crossSize},
-    {L"heightText", &GridSettings::heightText},
-};
-
-const Field<CString> textFields[] = {
-    {L"textXScribe", &GridSettings::textXScribe},
-    {L"textYScribe", &GridSettings::textYScribe},
-};
 
 void fromText(const CString& text, int& value)
 {
@@ -75,23 +38,29 @@ CString toText(const CString& value)
     return value;
 }
 
-template <class Value, size_t count>
-void readFields(const IniStore& store, const Field<Value> (&fields)[count], GridSettings& settings)
+struct ReadKey
 {
-    for (auto field = std::begin(fields); field != std::end(fields); ++field)
-    {
-        fromText(store.getValue(gridSection, field->key), settings.*field->member);
-    }
-}
+    const IniStore& store;
+    GridSettings& settings;
 
-template <class Value, size_t count>
-void writeFields(const GridSettings& settings, const Field<Value> (&fields)[count], IniStore& store)
-{
-    for (auto field = std::begin(fields); field != std::end(fields); ++field)
+    template <class Row>
+    void operator()(const Row& option) const
     {
-        store.setValue(gridSection, field->key, toText(settings.*field->member));
+        fromText(store.getValue(gridSection, option.key), settings.*option.member);
     }
-}
+};
+
+struct WriteKey
+{
+    const GridSettings& settings;
+    IniStore& store;
+
+    template <class Row>
+    void operator()(const Row& option) const
+    {
+        store.setValue(gridSection, option.key, toText(settings.*option.member));
+    }
+};
 }  // namespace
 
 CString settingsFilePath(HMODULE module)
@@ -120,16 +89,14 @@ void SettingsFile::load(GridSettings& settings)
         return;
     }
     // A missing key reads as "0", not as the default: files cut down by hand rely on it.
-    readFields(m_store, intFields, settings);
-    readFields(m_store, realFields, settings);
-    readFields(m_store, textFields, settings);
+    const ReadKey read = {m_store, settings};
+    forEachOption(read);
 }
 
 bool SettingsFile::save(const GridSettings& settings)
 {
     m_store.removeSection(gridSection);
-    writeFields(settings, intFields, m_store);
-    writeFields(settings, realFields, m_store);
-    writeFields(settings, textFields, m_store);
+    const WriteKey write = {settings, m_store};
+    forEachOption(write);
     return m_store.writeFile(m_path);
 }

@@ -2,26 +2,51 @@
 // the settings as they are.
 #include "output/numbers.h"
 #include "resources/resource.h"
-#include "settings/labelflags.h"
 #include "settings/manylines.h"
+#include "settings/options.h"
 #include "settings/restingdialog.h"
 #include "settings/settingsdlg.h"
+
+namespace
+{
+// Lengths and lists are read apart: a length may be refused, and in a list nothing may be selected.
+struct ReadControl
+{
+    const CWnd& dialog;
+    GridSettings& settings;
+
+    void operator()(const IntOption& option) const
+    {
+        if (option.kind != listControl)
+        {
+            settings.*option.member = dialog.IsDlgButtonChecked(option.control) == BST_CHECKED;
+        }
+    }
+    void operator()(const RealOption&) const {}
+    void operator()(const TextOption& option) const
+    {
+        dialog.GetDlgItemText(option.control, settings.*option.member);
+    }
+};
+}  // namespace
 
 void CSettingsDlg::OnOK()
 {
     GridSettings settings = m_settings;
-    if (!readStep(m_vertStep, settings.VertStep) || !readStep(m_horStep, settings.HorStep) ||
-        !readAppearance(settings))
+    readOptions(settings);
+    if (!readStep(m_vertStep, settings.VertStep) || !readStep(m_horStep, settings.HorStep))
     {
         return;
     }
-    settings.delCont = isChecked(IDC_ERASE_BOUNDARY);
+    if (settings.LookType == 1 && !readLength(m_crossSize, settings.crossSize))
+    {
+        return;
+    }
     // Asked for with the labels off too, deliberately: whoever switches them on later finds one.
     if (!readLength(m_textHeight, settings.heightText))
     {
         return;
     }
-    readLabels(settings);
     m_settings = settings;
     CAcUiDialog::OnOK();
 }
@@ -68,18 +93,6 @@ bool CSettingsDlg::allowsMany(Step& step, double value)
     return step.manyAllowed;
 }
 
-bool CSettingsDlg::readAppearance(GridSettings& settings)
-{
-    if (m_color.GetCurSel() != CB_ERR)
-    {
-        settings.Color = m_color.GetCurrentItemColorIndex();
-    }
-    settings.LookType = isChecked(IDC_CROSSES);
-    settings.WCSBasePoint = isChecked(IDC_MODE_VIEW);
-    settings.basePoint = basePointWcs();
-    return settings.LookType != 1 || readLength(m_crossSize, settings.crossSize);
-}
-
 AcGePoint3d CSettingsDlg::basePointWcs() const
 {
     AcGePoint3d point = m_basePoint;
@@ -90,9 +103,15 @@ AcGePoint3d CSettingsDlg::basePointWcs() const
     return point;
 }
 
-// A list in which nothing is selected has nothing to say.
-void CSettingsDlg::readLabels(GridSettings& settings)
+// A list in which nothing is selected leaves its option as it was.
+void CSettingsDlg::readOptions(GridSettings& settings)
 {
+    const ReadControl read = {*this, settings};
+    forEachOption(read);
+    if (m_color.GetCurSel() != CB_ERR)
+    {
+        settings.Color = m_color.GetCurrentItemColorIndex();
+    }
     if (m_accuracy.GetCurSel() != CB_ERR)
     {
         settings.iCountSigns = m_accuracy.GetCurSel();
@@ -101,11 +120,5 @@ void CSettingsDlg::readLabels(GridSettings& settings)
     {
         m_textStyle.GetLBText(m_textStyle.GetCurSel(), settings.textStyleName);
     }
-    settings.needText = isChecked(IDC_NEED_TEXT);
-    for (const LabelFlag* flag = labelFlags(); flag->button != 0; ++flag)
-    {
-        settings.*flag->field = isChecked(flag->button);
-    }
-    GetDlgItemText(IDC_X_PREFIX, settings.textXScribe);
-    GetDlgItemText(IDC_Y_PREFIX, settings.textYScribe);
+    settings.basePoint = basePointWcs();
 }

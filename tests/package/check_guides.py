@@ -60,7 +60,7 @@ def messages(language):
 
 
 def keys():
-    return set(re.findall(r'\{L"(\w+)",', text_of("settings", "settingsfile.cpp")))
+    return set(re.findall(r'\{L"(\w+)",', text_of("settings", "options.cpp")))
 
 
 def captions_are_named(language):

@@ -245,6 +245,7 @@ DECLARED(CString::Mid, CString (CString::*)(int) const);
 DECLARED(CString::Mid, CString (CString::*)(int, int) const);
 DECLARED(CString::TrimLeft, CString& (CString::*)(LPCTSTR));
 DECLARED(CString::TrimRight, CString& (CString::*)(LPCTSTR));
+DECLARED(CString::operator=, CString& (CString::*)(LPCTSTR));
 DECLARED(CString::operator+=, CString& (CString::*)(LPCTSTR));
 DECLARED(CString::operator+=, CString& (CString::*)(wchar_t));
 DECLARED(operator+, CString (*)(const CString&, const CString&));
