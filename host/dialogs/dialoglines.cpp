@@ -14,10 +14,6 @@ namespace host
 {
 namespace
 {
-using Wrong = std::optional<std::wstring>;
-
-const Wrong done = std::nullopt;
-
 // Takes the first word off the line, and one blank after it.
 std::wstring takeWord(std::wstring_view& line)
 {
@@ -39,47 +35,47 @@ void tellDialog(HWND control, WORD code)
                  reinterpret_cast<LPARAM>(control));
 }
 
-Wrong set(HWND edit, std::wstring_view text)
+Result<> set(HWND edit, std::wstring_view text)
 {
     SetWindowTextW(edit, std::wstring(text).c_str());
-    return done;
+    return Done{};
 }
 
-Wrong click(HWND button, std::wstring_view)
+Result<> click(HWND button, std::wstring_view)
 {
     SendMessageW(button, BM_CLICK, 0, 0);
-    return done;
+    return Done{};
 }
 
-Wrong check(HWND button, std::wstring_view text)
+Result<> check(HWND button, std::wstring_view text)
 {
     const std::wstring_view word = trimmed(text);
     const bool on = equalNoCase(word, L"on");
     if (!on && !equalNoCase(word, L"off"))
     {
-        return own(L"Say on or off: check %1 on", {numberOf(button)});
+        return ownFailure(L"Say on or off: check %1 on", {numberOf(button)});
     }
     const bool checked = SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
     if (kindOf(button) == ControlKind::radio && checked && !on)
     {
-        return own(L"Control %1 goes off only when another button of its group is clicked.",
-                   {numberOf(button)});
+        return ownFailure(L"Control %1 goes off only when another button of its group is clicked.",
+                          {numberOf(button)});
     }
-    return checked == on ? done : click(button, {});
+    return checked == on ? Done{} : click(button, {});
 }
 
-Wrong choose(HWND list, LRESULT index, const std::wstring& wanted)
+Result<> choose(HWND list, LRESULT index, const std::wstring& wanted)
 {
     if (index < 0 || index >= SendMessageW(list, CB_GETCOUNT, 0, 0))
     {
-        return own(L"Control %1 has no item %2.", {numberOf(list), wanted});
+        return ownFailure(L"Control %1 has no item %2.", {numberOf(list), wanted});
     }
     SendMessageW(list, CB_SETCURSEL, WPARAM(index), 0);
     tellDialog(list, CBN_SELCHANGE);
-    return done;
+    return Done{};
 }
 
-Wrong select(HWND list, std::wstring_view text)
+Result<> select(HWND list, std::wstring_view text)
 {
     const std::wstring wanted(trimmed(text));
     if (wanted.starts_with(L'#'))
@@ -92,12 +88,12 @@ Wrong select(HWND list, std::wstring_view text)
 }
 
 // As the host's own colour dialog does it: the colour joins the recent ones.
-Wrong color(HWND list, std::wstring_view text)
+Result<> color(HWND list, std::wstring_view text)
 {
     auto* const colors = dynamic_cast<CAcUiColorComboBox*>(objectOf(list));
     if (colors == nullptr)
     {
-        return own(L"Control %1 is no list of colours.", {numberOf(list)});
+        return ownFailure(L"Control %1 is no list of colours.", {numberOf(list)});
     }
     const std::wstring wanted(trimmed(text));
     const int index = colors->AddColorToMRU(parseInteger(wanted).value_or(-1));
@@ -107,7 +103,7 @@ Wrong color(HWND list, std::wstring_view text)
 struct Verb
 {
     const wchar_t* word;
-    Wrong (*act)(HWND control, std::wstring_view rest);
+    Result<> (*act)(HWND control, std::wstring_view rest);
     std::initializer_list<ControlKind> kinds;
 };
 
@@ -119,15 +115,15 @@ const Verb verbs[] = {
     {L"color", color, {ControlKind::combo}},
 };
 
-Wrong act(const Verb& verb, HWND dialog, std::wstring_view rest)
+Result<> act(const Verb& verb, HWND dialog, std::wstring_view rest)
 {
     const std::wstring word = takeWord(rest);
     const std::optional<int> id = parseInteger(word);
     const HWND control = id ? GetDlgItem(dialog, *id) : nullptr;
     if (control == nullptr)
     {
-        return word.empty() ? own(L"Say which control: %1 ID", {verb.word})
-                            : own(L"There is no control %1 in this dialog.", {word});
+        return word.empty() ? ownFailure(L"Say which control: %1 ID", {verb.word})
+                            : ownFailure(L"There is no control %1 in this dialog.", {word});
     }
     const ControlKind kind = kindOf(control);
     if (std::ranges::find(verb.kinds, kind) == verb.kinds.end())
@@ -135,11 +131,11 @@ Wrong act(const Verb& verb, HWND dialog, std::wstring_view rest)
         const OwnText text = kind == ControlKind::edit
                                  ? OwnText(L"Control %1 is an %2, which does not take %3.")
                                  : OwnText(L"Control %1 is a %2, which does not take %3.");
-        return own(text, {numberOf(control), own(nameOf(kind)), verb.word});
+        return ownFailure(text, {numberOf(control), own(nameOf(kind)), verb.word});
     }
     if (!IsWindowEnabled(control) || !IsWindowVisible(control))
     {
-        return own(L"Control %1 is disabled.", {numberOf(control)});
+        return ownFailure(L"Control %1 is disabled.", {numberOf(control)});
     }
     return verb.act(control, rest);
 }
@@ -154,19 +150,19 @@ void show(Editor& editor, HWND dialog)
 }
 }  // namespace
 
-Wrong takeDialogLine(Editor& editor, HWND dialog, std::wstring_view line)
+Result<> takeDialogLine(Editor& editor, HWND dialog, std::wstring_view line)
 {
     std::wstring_view rest = line;
     const std::wstring word = takeWord(rest);
     if (equalNoCase(word, L"show"))
     {
         show(editor, dialog);
-        return done;
+        return Done{};
     }
     if (equalNoCase(word, L"close"))
     {
         SendMessageW(dialog, WM_CLOSE, 0, 0);
-        return done;
+        return Done{};
     }
     for (const Verb& verb : verbs)
     {
@@ -175,7 +171,8 @@ Wrong takeDialogLine(Editor& editor, HWND dialog, std::wstring_view line)
             return act(verb, dialog, rest);
         }
     }
-    return own(L"A dialog takes set, check, click, select, color, show and close, not \"%1\".",
-               {trimmed(line)});
+    return ownFailure(
+        L"A dialog takes set, check, click, select, color, show and close, not \"%1\".",
+        {trimmed(line)});
 }
 }  // namespace host

@@ -10,6 +10,7 @@
 #include "host/editor/owntexts.h"
 #include "host/runtime/breach.h"
 #include "host/windows/pendingmessages.h"
+#include "host/windows/text.h"
 
 namespace host
 {
@@ -57,9 +58,9 @@ void take(Editor& editor, HWND dialog, const Answer& answer)
     {
         pressDefault(dialog);
     }
-    else if (const auto wrong = takeDialogLine(editor, dialog, answer.text))
+    else if (const Result<> taken = takeDialogLine(editor, dialog, answer.text); !taken)
     {
-        editor.printLine(*wrong);
+        editor.printLine(fromUtf8(taken.failure().line));
     }
 }
 

@@ -8,22 +8,22 @@
 
 namespace host
 {
-OpenedDrawing openDrawing(const std::string& path, const Progress& progress)
+Result<OpenedDrawing> openDrawing(const std::string& path, const Progress& progress)
 {
     try
     {
         auto database = std::make_unique<AcDbDatabase>();
         dxf::load(database->core(), dxf::TagFile::read(path, progress));
         const std::string repairs = dxf::sourceOf(database->core()).file.repairs();
-        return {std::move(database), {}, repairs};
+        return OpenedDrawing{std::move(database), repairs};
     }
     catch (const dxf::Error& error)
     {
-        return {nullptr, error.what()};
+        return Failure{error.what()};
     }
     catch (const std::bad_alloc&)
     {
-        return {nullptr, path + ": cannot be opened: not enough memory"};
+        return Failure{path + ": cannot be opened: not enough memory"};
     }
 }
 
@@ -44,21 +44,20 @@ std::uint64_t digestOfChanges(AcDbDatabase& database)
     return dxf::digestOfChanges(database.core());
 }
 
-std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path,
-                                       const Progress& progress)
+Result<> saveDrawing(AcDbDatabase& database, const std::string& path, const Progress& progress)
 {
     try
     {
         dxf::save(database.core(), path, progress);
-        return std::nullopt;
+        return Done{};
     }
     catch (const std::bad_alloc&)
     {
-        return path + ": cannot be saved: not enough memory";
+        return Failure{path + ": cannot be saved: not enough memory"};
     }
     catch (const std::exception& error)
     {
-        return error.what();
+        return Failure{error.what()};
     }
 }
 }  // namespace host

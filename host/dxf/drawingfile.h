@@ -3,32 +3,31 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "dbmain.h"
 #include "host/dxf/progress.h"
+#include "host/runtime/result.h"
 
 namespace host
 {
 struct OpenedDrawing
 {
-    std::unique_ptr<AcDbDatabase> database;  // null if the file cannot be read
-    std::string error;                       // then: one line with file, line and what was expected
-    std::string warning{};                   // one line on what was repaired, if anything
+    std::unique_ptr<AcDbDatabase> database;
+    std::string warning{};  // one line on what was repaired, if anything
 };
 
-OpenedDrawing openDrawing(const std::string& path, const Progress& progress = {});
+// A failure tells the line of the file and what was expected there.
+Result<OpenedDrawing> openDrawing(const std::string& path, const Progress& progress = {});
 
 // A new, empty, metric drawing (R2013).
 std::unique_ptr<AcDbDatabase> newDrawing();
 
 // Writes what the drawing was opened from with the changes made since; whatever was not changed
-// stays as it was, tag for tag. All or nothing: on failure, told in the line that comes back, the
-// old file is whole.
-std::optional<std::string> saveDrawing(AcDbDatabase& database, const std::string& path,
-                                       const Progress& progress = {});
+// stays as it was, tag for tag. All or nothing: after a failure the old file is whole.
+Result<> saveDrawing(AcDbDatabase& database, const std::string& path,
+                     const Progress& progress = {});
 
 // Whether this has the value of another moment tells whether saving would write the same as then.
 std::uint64_t digestOfChanges(AcDbDatabase& database);

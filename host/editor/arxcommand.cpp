@@ -21,10 +21,11 @@ std::optional<std::filesystem::path> askFile(Editor& editor, OwnText prompt)
                                   : std::nullopt;
 }
 
-void printResult(Editor& editor, const Linker::Error& error, const std::filesystem::path& file,
+void printResult(Editor& editor, const Result<>& result, const std::filesystem::path& file,
                  OwnText done)
 {
-    editor.printLine(error ? fromUtf8(*error) : own(done, {fromUtf8(file.filename().string())}));
+    editor.printLine(result ? own(done, {fromUtf8(file.filename().string())})
+                            : fromUtf8(result.failure().line));
 }
 
 void loadFile(Editor& editor)

@@ -48,23 +48,23 @@ std::wstring shownName(const Command& command)
     return upperCase(command.globalName());
 }
 
-// Why the command may not run in this document; empty when it may.
-std::wstring refusal(const Command& command, Document& document)
+// Whether the command may run in this document.
+Result<> checkAllowed(const Command& command, Document& document)
 {
     const bool paper = stateOf(*document.database()).paperSpace;
     if (paper && command.has(ACRX_CMD_NOPAPERSPACE))
     {
-        return own(L"** Command not allowed in Paper Space **");
+        return ownFailure(L"** Command not allowed in Paper Space **");
     }
     if (!paper && command.has(ACRX_CMD_NOTILEMODE))
     {
-        return own(L"** Command not allowed in Model Tab **");
+        return ownFailure(L"** Command not allowed in Model Tab **");
     }
     if (document.blockEditor && command.has(ACRX_CMD_NOBEDIT))
     {
-        return own(L"** %1 command not allowed in block editor. **", {shownName(command)});
+        return ownFailure(L"** %1 command not allowed in block editor. **", {shownName(command)});
     }
-    return {};
+    return Done{};
 }
 
 // What the host lends to a command for as long as it runs, with the rules for giving it back.
@@ -170,10 +170,9 @@ void markForUndo(Document& document, const Command& command)
 
 void start(Editor& editor, Document& document, const CommandPtr& command)
 {
-    const std::wstring reason = refusal(*command, document);
-    if (!reason.empty())
+    if (const Result<> allowed = checkAllowed(*command, document); !allowed)
     {
-        editor.printLine(reason);
+        editor.printLine(fromUtf8(allowed.failure().line));
         return;
     }
     markForUndo(document, *command);
@@ -230,12 +229,12 @@ void startTransparent(Editor& editor, std::wstring_view line)
         editor.printLine(unknownCommand(editor, typed.name));
         return;
     }
-    const std::wstring reason = mayInterrupt(*command)
-                                    ? refusal(*command, *document)
-                                    : own(L"** That command may not be invoked transparently **");
-    if (!reason.empty())
+    const Result<> allowed =
+        mayInterrupt(*command) ? checkAllowed(*command, *document)
+                               : ownFailure(L"** That command may not be invoked transparently **");
+    if (!allowed)
     {
-        editor.printLine(reason);
+        editor.printLine(fromUtf8(allowed.failure().line));
         return;
     }
     run(editor, *document, command);

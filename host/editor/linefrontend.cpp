@@ -36,7 +36,12 @@ void LineReader::begin()
     if (first == 0xFF || first == 0xFE)
     {
         const std::string bytes(std::istreambuf_iterator<char>(*m_input), {});
-        m_converted.str(scriptText(bytes, m_name));
+        const Result<std::string> text = scriptText(bytes, m_name);
+        if (!text)
+        {
+            throw UnreadableInput(text.failure());
+        }
+        m_converted.str(*text);
         m_input = &m_converted;
     }
 }
@@ -55,7 +60,8 @@ bool LineReader::readBytes(std::string& line)
         line += char(byte);
         if (line.size() > longest)
         {
-            throw ScriptError(m_name + ": line " + std::to_string(m_number) + ": expected its end");
+            throw UnreadableInput(
+                {m_name + ": line " + std::to_string(m_number) + ": expected its end"});
         }
     }
     return !line.empty();
@@ -75,9 +81,10 @@ bool LineReader::read(std::string& line)
     {
         line.erase(0, 3);
     }
-    if (!m_visible)
+    const Result<> checked = m_visible ? Done{} : checkUtf8(line, m_name, m_number);
+    if (!checked)
     {
-        requireUtf8(line, m_name, m_number);
+        throw UnreadableInput(checked.failure());
     }
     if (line.ends_with('\r'))
     {

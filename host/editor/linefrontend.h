@@ -6,10 +6,12 @@
 #include <mutex>
 #include <optional>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "host/editor/rendezvous.h"
+#include "host/runtime/result.h"
 
 namespace host
 {
@@ -28,12 +30,19 @@ public:
     virtual bool visible() const { return false; }
 };
 
+// Thrown by a reader that cannot go on; what() is the failure's line. It ends the program, as
+// nobody waits for a result: see LineFrontEnd::serve.
+struct UnreadableInput : std::runtime_error
+{
+    explicit UnreadableInput(const Failure& failure) : std::runtime_error(failure.line) {}
+};
+
 // What a line says, UTF-8 without its end: an empty one is Enter, "^C" is Esc.
 Answer answerOf(std::string_view line, bool visible);
 
 // Reads one answer a line. A byte-order mark and carriage returns are dropped; a line that begins
 // with ";" is a comment. UTF-8, or UTF-16 behind its mark, which is read to its end at once. Other
-// bytes throw a ScriptError, but are replaced where a person types: that is no reason to end.
+// bytes throw an UnreadableInput, but are replaced where a person types: that is no reason to end.
 class LineReader : public AnswerReader
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "host/editor/editor.h"
 #include "host/runtime/locale.h"
+#include "host/windows/text.h"
 #include "rxregsvc.h"
 
 namespace host
@@ -23,5 +24,10 @@ std::wstring own(OwnText text, std::initializer_list<std::wstring_view> values)
         rest.remove_prefix(at + 2);
     }
     return said.append(rest);
+}
+
+Failure ownFailure(OwnText text, std::initializer_list<std::wstring_view> values)
+{
+    return {toUtf8(own(text, values))};
 }
 }  // namespace host

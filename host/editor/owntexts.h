@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "host/editor/owntextrows.h"
+#include "host/runtime/result.h"
 
 namespace host
 {
@@ -39,4 +40,7 @@ bool readsRussian();
 
 // The text as the reader has to see it, with the values in the places of %1, %2 and so on.
 std::wstring own(OwnText text, std::initializer_list<std::wstring_view> values = {});
+
+// A failure whose line is that text.
+Failure ownFailure(OwnText text, std::initializer_list<std::wstring_view> values = {});
 }  // namespace host

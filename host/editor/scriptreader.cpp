@@ -1,9 +1,8 @@
 #include "host/editor/scriptreader.h"
 
 #include <algorithm>
-#include <iterator>
+#include <utility>
 
-#include "host/editor/scripttext.h"
 #include "host/runtime/foldcase.h"
 #include "host/windows/text.h"
 
@@ -18,8 +17,7 @@ bool takesWholeLine(Question::Kind kind)
 }
 }  // namespace
 
-ScriptReader::ScriptReader(std::istream& input, const std::string& name)
-    : m_text(scriptText(std::string(std::istreambuf_iterator<char>(input), {}), name))
+ScriptReader::ScriptReader(std::string text) : m_text(std::move(text))
 {
     std::erase(m_text, '\r');
 }

@@ -11,13 +11,12 @@ namespace host
 // A blank ends an answer as the line end does, and a further blank or an empty line is Enter.
 // Between double quotes blanks belong to the answer, and the quotes are dropped. "^C" is Esc. A
 // line that begins with ";" is a comment. Texts, message boxes and dialogs take the rest of the
-// line as it stands. UTF-8, or UTF-16 behind its byte-order mark; the mark and carriage returns are
-// dropped.
+// line as it stands. Carriage returns are dropped.
 class ScriptReader : public AnswerReader
 {
 public:
-    // Reads it all. Throws a ScriptError for other bytes.
-    explicit ScriptReader(std::istream& input, const std::string& name = "script");
+    // The whole script, in UTF-8 as scriptText gives it.
+    explicit ScriptReader(std::string text);
 
     Answer next(const Question& question) override;
 

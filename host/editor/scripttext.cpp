@@ -12,9 +12,9 @@ constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view littleMark = "\xFF\xFE";
 constexpr std::string_view bigMark = "\xFE\xFF";
 
-[[noreturn]] void refuse(const std::string& name, std::ptrdiff_t line, const std::string& expected)
+Failure expected(const std::string& what, const std::string& name, std::ptrdiff_t line)
 {
-    throw ScriptError(name + ": line " + std::to_string(line) + ": expected " + expected);
+    return {name + ": line " + std::to_string(line) + ": expected " + what};
 }
 
 std::wstring unitsOf(std::string_view bytes, bool bigFirst)
@@ -30,7 +30,7 @@ std::wstring unitsOf(std::string_view bytes, bool bigFirst)
 }
 
 // Whole characters come back as they went.
-std::string fromUtf16(std::string_view bytes, bool bigFirst, const std::string& name)
+Result<std::string> fromUtf16(std::string_view bytes, bool bigFirst, const std::string& name)
 {
     const std::wstring units = unitsOf(bytes, bigFirst);
     const std::string text = toUtf8(units);
@@ -38,18 +38,23 @@ std::string fromUtf16(std::string_view bytes, bool bigFirst, const std::string& 
     const auto [wrong, ignored] = std::ranges::mismatch(units, again);
     if (wrong != units.end() || bytes.size() % 2 != 0)
     {
-        refuse(name, 1 + std::count(units.begin(), wrong, L'\n'), "whole characters of UTF-16");
+        const std::ptrdiff_t line = 1 + std::count(units.begin(), wrong, L'\n');
+        return expected("whole characters of UTF-16", name, line);
     }
     return text;
 }
 
-std::string fromUtf8Text(std::string_view bytes, const std::string& name)
+Result<std::string> fromUtf8Text(std::string_view bytes, const std::string& name)
 {
     int number = 0;
     for (std::size_t at = 0; at < bytes.size();)
     {
         const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
-        requireUtf8(bytes.substr(at, end - at), name, ++number);
+        const Result<> checked = checkUtf8(bytes.substr(at, end - at), name, ++number);
+        if (!checked)
+        {
+            return checked.failure();
+        }
         at = end + 1;
     }
     return std::string(bytes);
@@ -61,7 +66,7 @@ bool beginsAsUtf16(std::string_view bytes)
     return bytes.starts_with(littleMark) || bytes.starts_with(bigMark);
 }
 
-std::string scriptText(std::string_view bytes, const std::string& name)
+Result<std::string> scriptText(std::string_view bytes, const std::string& name)
 {
     if (beginsAsUtf16(bytes))
     {
@@ -72,11 +77,12 @@ std::string scriptText(std::string_view bytes, const std::string& name)
 
 // What does not come back as it went has lost a byte that means nothing. No text holds a zero, but
 // UTF-16 without its mark does.
-void requireUtf8(std::string_view line, const std::string& name, int number)
+Result<> checkUtf8(std::string_view line, const std::string& name, int number)
 {
     if (line.find('\0') != line.npos || toUtf8(fromUtf8(line)) != line)
     {
-        refuse(name, number, "UTF-8, or UTF-16 behind a byte-order mark");
+        return expected("UTF-8, or UTF-16 behind a byte-order mark", name, number);
     }
+    return Done{};
 }
 }  // namespace host

@@ -1,23 +1,20 @@
 // The text of a script: UTF-8, or UTF-16 behind its byte-order mark.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "host/runtime/result.h"
+
 namespace host
 {
-// Thrown; what() is one line for the user that begins with the script's name and its line.
-struct ScriptError : std::runtime_error
-{
-    using std::runtime_error::runtime_error;
-};
-
+// Whether the text begins with a mark of UTF-16.
 bool beginsAsUtf16(std::string_view bytes);
 
-// In UTF-8 without the mark. Throws for what is neither, so that no letter is taken for another.
-std::string scriptText(std::string_view bytes, const std::string& name);
+// The text in UTF-8 without the mark. Anything else is a failure with the line where it stands, so
+// that no letter is taken for another.
+Result<std::string> scriptText(std::string_view bytes, const std::string& name);
 
-// For a script that comes line by line. Throws for a line that is not UTF-8.
-void requireUtf8(std::string_view line, const std::string& name, int number);
+// The same for one line of a script that comes line by line; it has to be UTF-8.
+Result<> checkUtf8(std::string_view line, const std::string& name, int number);
 }  // namespace host

@@ -47,8 +47,8 @@ public:
     double textWidth(std::wstring_view text) const;
     double textHeight() const;
 
-    // The bytes of a PNG file; empty when memory ran out.
-    std::string png() const { return pngOf(m_surface); }
+    // The bytes of a PNG file. It fails when memory ran out.
+    Result<std::string> png() const { return pngOf(m_surface); }
 
 private:
     void color(Color color);

@@ -239,7 +239,7 @@ void drawCaption(Canvas& canvas, double width, const std::wstring& caption)
 }
 }  // namespace
 
-std::string drawDialog(HWND dialog)
+Result<std::string> drawDialog(HWND dialog)
 {
     const Control frame = describe(dialog);
     const int width = int(frame.box.width) + 2 * border;

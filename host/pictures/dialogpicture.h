@@ -3,12 +3,13 @@
 
 #include <string>
 
+#include "host/runtime/result.h"
 #include "windows.h"
 #include "winuser.h"
 
 namespace host
 {
 // Draws the dialog as it stands, with its frame and caption, twice the size it has on a screen of
-// 96 dots to the inch. The bytes of a PNG file; empty when memory ran out.
-std::string drawDialog(HWND dialog);
+// 96 dots to the inch. The bytes of a PNG file. It fails when memory ran out.
+Result<std::string> drawDialog(HWND dialog);
 }  // namespace host

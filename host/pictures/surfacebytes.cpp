@@ -16,10 +16,11 @@ catch (const std::bad_alloc&)
     return CAIRO_STATUS_NO_MEMORY;
 }
 
-std::string pngOf(cairo_surface_t* surface)
+Result<std::string> pngOf(cairo_surface_t* surface)
 {
     std::string bytes;
     const cairo_status_t status = cairo_surface_write_to_png_stream(surface, appendTo, &bytes);
-    return status == CAIRO_STATUS_SUCCESS ? bytes : std::string();
+    return status == CAIRO_STATUS_SUCCESS ? Result<std::string>(std::move(bytes))
+                                          : Failure{"not enough memory"};
 }
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/plot/sink.h"
+#include "host/runtime/result.h"
 
 namespace host::plot
 {
@@ -37,8 +38,8 @@ public:
     virtual void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
                       std::wstring_view text, Color color) = 0;
 
-    // The bytes of the file; nothing can be drawn after that. Empty when memory ran out.
-    virtual std::string finish() = 0;
+    // The bytes of the file; nothing can be drawn after that. It fails when memory ran out.
+    virtual Result<std::string> finish() = 0;
 };
 
 // Whether the library writes files of that kind.

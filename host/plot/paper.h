@@ -34,8 +34,8 @@ public:
     void ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both, Color color) override;
     void text(const TextLine& line, Color color) override;
 
-    // The bytes of the file; nothing can be drawn after that. Empty when memory ran out.
-    std::string finish() { return m_ink->finish(); }
+    // The bytes of the file; nothing can be drawn after that. It fails when memory ran out.
+    Result<std::string> finish() { return m_ink->finish(); }
 
 private:
     AcGePoint3d onSheet(const AcGePoint3d& world) const;  // millimetres, Y downwards

@@ -5,7 +5,7 @@
 
 #include "host/database/drawing.h"
 #include "host/dxf/filesource.h"
-#include "host/dxf/save_atomic.h"
+#include "host/dxf/outputfile.h"
 #include "host/editor/view.h"
 #include "host/plot/paper.h"
 #include "host/plot/scene.h"
@@ -51,7 +51,7 @@ dxf::TagFile asSaved(AcDbDatabase& database, const Progress& progress)
     return dxf::TagFile::fromText(text, "drawing", progress);
 }
 
-std::string plotted(Scene& scene, const View& view, FileKind kind, const Progress& progress)
+Result<std::string> plotted(Scene& scene, const View& view, FileKind kind, const Progress& progress)
 {
     const AcGeMatrix3d toView = viewFrame(view).inverse();
     Extents extents(toView);
@@ -67,37 +67,38 @@ bool isPlotFile(const std::string& path)
     return kindOf(path).has_value();
 }
 
-Plotted plotDrawing(AcDbDatabase& database, const std::string& path, const Progress& progress)
+Result<Plotted> plotDrawing(AcDbDatabase& database, const std::string& path,
+                            const Progress& progress)
 {
     const auto kind = kindOf(path);
     if (!kind)
     {
-        return {path + ": expected a name that ends in .png, .pdf or .svg", {}};
+        return Failure{path + ": expected a name that ends in .png, .pdf or .svg"};
     }
     if (!canWrite(*kind))
     {
-        return {path + ": arxhost draws PDF and SVG on Linux only; PNG can be drawn", {}};
+        return Failure{path + ": arxhost draws PDF and SVG on Linux only; PNG can be drawn"};
     }
     try
     {
         const dxf::TagFile file = asSaved(database, partOf(progress, 0, 0.2));
         Scene scene(file);
-        const std::string bytes =
+        const Result<std::string> bytes =
             plotted(scene, database.core().state.view, *kind, partOf(progress, 0.2, 1));
-        if (bytes.empty())
+        if (!bytes)
         {
-            return {path + ": cannot be drawn: not enough memory", {}};
+            return Failure{path + ": cannot be drawn: " + bytes.failure().line};
         }
-        dxf::saveAtomically(path, {}, [&](dxf::TagWriter& writer) { writer.raw(bytes); });
-        return {{}, scene.leftOut()};
+        const Result<> written = writeOutputFile(path, *bytes);
+        return written ? Result<Plotted>(Plotted{scene.leftOut()}) : written.failure();
     }
     catch (const std::bad_alloc&)
     {
-        return {path + ": cannot be drawn: not enough memory", {}};
+        return Failure{path + ": cannot be drawn: not enough memory"};
     }
     catch (const std::exception& error)
     {
-        return {error.what(), {}};
+        return Failure{error.what()};
     }
 }
 }  // namespace host

@@ -1,17 +1,16 @@
 // Drawings on paper.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "dbmain.h"
 #include "host/dxf/progress.h"
+#include "host/runtime/result.h"
 
 namespace host
 {
 struct Plotted
 {
-    std::string error;    // one line with the file's name; empty when the file was written
     std::string leftOut;  // "1 IMAGE, 2 MESH": what could not be drawn
 };
 
@@ -20,5 +19,6 @@ bool isPlotFile(const std::string& path);
 
 // Model space as it would be saved, looked at as in the drawing's view, all of it, on white paper.
 // Writes the whole file or nothing.
-Plotted plotDrawing(AcDbDatabase& database, const std::string& path, const Progress& progress = {});
+Result<Plotted> plotDrawing(AcDbDatabase& database, const std::string& path,
+                            const Progress& progress = {});
 }  // namespace host

@@ -5,8 +5,7 @@
 #include "host/dialogs/modalloop.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
-#include "host/dxf/replacement.h"
-#include "host/dxf/save_atomic.h"
+#include "host/dxf/outputfile.h"
 #include "host/editor/commands.h"
 #include "host/editor/editor.h"
 #include "host/editor/hostcommands.h"
@@ -29,40 +28,33 @@ bool canBeWritten(const Options& options, FrontEnd& frontEnd)
 {
     for (const std::string& path : {options.save, options.plot, options.dialogPicture})
     {
-        try
+        const Result<> checked = path.empty() ? Done{} : checkOutputFile(path);
+        if (!checked)
         {
-            if (!path.empty())
-            {
-                dxf::requireReplaceable(path);
-            }
-        }
-        catch (const dxf::Error& error)
-        {
-            frontEnd.report(error.what());
+            frontEnd.report(checked.failure().line);
             return false;
         }
     }
     return true;
 }
 
-OpenedDrawing openOrMake(const std::string& path, FrontEnd& frontEnd)
+Result<OpenedDrawing> openOrMake(const std::string& path, FrontEnd& frontEnd)
 {
     if (path.empty())
     {
-        return {newDrawing(), {}};
+        return OpenedDrawing{newDrawing()};
     }
     LongWork work(L"Opening", frontEnd);
     return openDrawing(path, work.progress());
 }
 
-std::optional<std::string> saveShown(AcDbDatabase& database, const std::string& path,
-                                     FrontEnd& frontEnd)
+Result<> saveShown(AcDbDatabase& database, const std::string& path, FrontEnd& frontEnd)
 {
     LongWork work(L"Saving", frontEnd);
     return saveDrawing(database, path, work.progress());
 }
 
-Plotted plotShown(AcDbDatabase& database, const std::string& path, FrontEnd& frontEnd)
+Result<Plotted> plotShown(AcDbDatabase& database, const std::string& path, FrontEnd& frontEnd)
 {
     LongWork work(L"Plotting", frontEnd);
     return plotDrawing(database, path, work.progress());
@@ -70,17 +62,17 @@ Plotted plotShown(AcDbDatabase& database, const std::string& path, FrontEnd& fro
 
 bool openDocument(const Options& options, FrontEnd& frontEnd)
 {
-    OpenedDrawing drawing = openOrMake(options.drawing, frontEnd);
-    if (!drawing.database)
+    Result<OpenedDrawing> drawing = openOrMake(options.drawing, frontEnd);
+    if (!drawing)
     {
-        frontEnd.report(drawing.error);
+        frontEnd.report(drawing.failure().line);
         return false;
     }
-    if (!drawing.warning.empty())
+    if (!drawing->warning.empty())
     {
-        frontEnd.report(drawing.warning);
+        frontEnd.report(drawing->warning);
     }
-    documents().open(std::move(drawing.database), pathOf(options.drawing));
+    documents().open(std::move(drawing->database), pathOf(options.drawing));
     return true;
 }
 
@@ -89,12 +81,12 @@ bool loadModule(const Options& options, FrontEnd& frontEnd)
     const std::filesystem::path module = pathOf(options.module);
     linker().searchFolder = module.parent_path();
     // Made absolute first: the name alone would be looked for in other folders as well.
-    const Linker::Error error = linker().load(std::filesystem::absolute(module));
-    if (error)
+    const Result<> loaded = linker().load(std::filesystem::absolute(module));
+    if (!loaded)
     {
-        frontEnd.report(*error);
+        frontEnd.report(loaded.failure().line);
     }
-    return !error;
+    return bool(loaded);
 }
 
 // Whether the input ended where it may and all was done that it asked for.
@@ -111,10 +103,10 @@ bool save(const Options& options, Editor& editor, FrontEnd& frontEnd)
         return true;
     }
     AcDbDatabase& database = *documents().document()->database();
-    const auto error = saveShown(database, options.save, frontEnd);
-    if (error)
+    const Result<> saved = saveShown(database, options.save, frontEnd);
+    if (!saved)
     {
-        frontEnd.report(*error);
+        frontEnd.report(saved.failure().line);
         return false;
     }
     for (const std::string& loss : lossesOnSaving(database))
@@ -154,48 +146,38 @@ bool plot(const Options& options, FrontEnd& frontEnd)
     {
         return true;
     }
-    const Plotted plotted = plotShown(*documents().document()->database(), options.plot, frontEnd);
-    if (!plotted.error.empty())
+    const Result<Plotted> plotted =
+        plotShown(*documents().document()->database(), options.plot, frontEnd);
+    if (!plotted)
     {
-        frontEnd.report(plotted.error);
+        frontEnd.report(plotted.failure().line);
     }
-    else if (!plotted.leftOut.empty())
+    else if (!plotted->leftOut.empty())
     {
-        frontEnd.report(options.plot + ": not drawn: " + plotted.leftOut);
+        frontEnd.report(options.plot + ": not drawn: " + plotted->leftOut);
     }
-    return plotted.error.empty();
+    return bool(plotted);
 }
 
-std::optional<std::string> savePicture(const std::string& path, const std::string& bytes)
+Result<> savePicture(const std::string& path, const Result<std::string>& picture)
 {
-    if (bytes.empty())
-    {
-        return path + ": no dialog was shown that could be drawn";
-    }
-    try
-    {
-        dxf::saveAtomically(path, {}, [&](dxf::TagWriter& writer) { writer.raw(bytes); });
-        return std::nullopt;
-    }
-    catch (const dxf::Error& error)
-    {
-        return error.what();
-    }
+    return picture ? writeOutputFile(path, *picture)
+                   : Failure{path + ": " + picture.failure().line};
 }
 
 // Of the dialogs that are shown the last one is kept.
-bool runInputAndDraw(Editor& editor, const std::string& picture)
+bool runInputAndDraw(Editor& editor, const std::string& path)
 {
-    std::string bytes;
-    setDialogObserver([&](HWND dialog) { bytes = drawDialog(dialog); });
+    Result<std::string> picture = Failure{"no dialog was shown that could be drawn"};
+    setDialogObserver([&](HWND dialog) { picture = drawDialog(dialog); });
     const bool ended = runInput(editor);
     setDialogObserver({});
-    const auto error = savePicture(picture, bytes);
-    if (error)
+    const Result<> saved = savePicture(path, picture);
+    if (!saved)
     {
-        editor.report(fromUtf8(*error));
+        editor.report(fromUtf8(saved.failure().line));
     }
-    return ended && !error;
+    return ended && saved;
 }
 
 // What whoever sits down at the terminal has to know, in one line of eighty letters.

@@ -28,41 +28,43 @@ int runStandardInput(const host::Options& options)
     return host::runSession(options, reader);
 }
 
-// Of a file all lines are looked at before the first is an answer; a pipe may wait for what is
-// said.
-int runLines(const host::Options& options, std::istream& script)
+// A whole script is looked at before its first line is an answer.
+int runText(const host::Options& options, std::istream& script, bool byHostRules)
 {
-    if (!std::filesystem::is_regular_file(host::pathOf(options.script)))
+    const std::string bytes(std::istreambuf_iterator<char>(script), {});
+    const host::Result<std::string> text = host::scriptText(bytes, options.script);
+    if (!text)
     {
-        host::LineReader reader(script, false, options.script);
+        host::printError(text.failure().line);
+        return EXIT_FAILURE;
+    }
+    if (byHostRules)
+    {
+        host::ScriptReader reader(*text);
         return host::runSession(options, reader);
     }
-    const std::string bytes(std::istreambuf_iterator<char>(script), {});
-    std::istringstream lines(host::scriptText(bytes, options.script));
+    std::istringstream lines(*text);
     host::LineReader reader(lines, false, options.script);
     return host::runSession(options, reader);
 }
 
 int runScript(const host::Options& options)
-try
 {
-    std::ifstream script(host::pathOf(options.script), std::ios::binary);
+    const std::filesystem::path file = host::pathOf(options.script);
+    std::ifstream script(file, std::ios::binary);
     if (!script)
     {
         host::printError(options.script + ": cannot be read");
         return EXIT_FAILURE;
     }
-    if (host::isHostScript(host::pathOf(options.script)))
+    const bool byHostRules = host::isHostScript(file);
+    if (byHostRules || std::filesystem::is_regular_file(file))
     {
-        host::ScriptReader reader(script, options.script);
-        return host::runSession(options, reader);
+        return runText(options, script, byHostRules);
     }
-    return runLines(options, script);
-}
-catch (const host::ScriptError& error)
-{
-    host::printError(error.what());
-    return EXIT_FAILURE;
+    // A pipe may wait for what is said, so its lines are taken as they come.
+    host::LineReader reader(script, false, options.script);
+    return host::runSession(options, reader);
 }
 
 // What opens the settings dialog and leaves it again, for a picture that nobody wrote a script for.

@@ -11,6 +11,7 @@
 #include "host/program/session.h"
 #include "host/runtime/foldcase.h"
 #include "host/runtime/locale.h"
+#include "host/runtime/result.h"
 #include "host/windows/modules.h"
 #include "host/windows/text.h"
 
@@ -102,22 +103,22 @@ bool isNoFile(const std::string& name)
            (fs::exists(status) && !fs::is_regular_file(status));
 }
 
-// One line on a name that is wrong; empty if all are right.
-std::string wrongName(const Options& options)
+// Whether the names can be what they are given for.
+Result<> checkNames(const Options& options)
 {
     if (scriptIsMissing(options))
     {
-        return options.script + ": no such script";
+        return Failure{options.script + ": no such script"};
     }
     if (!options.save.empty() && !endsIn(options.save, L".dxf") && !isNoFile(options.save))
     {
-        return options.save + ": expected .dxf, as what is saved is DXF";
+        return Failure{options.save + ": expected .dxf, as what is saved is DXF"};
     }
     if (!options.dialogPicture.empty() && !endsIn(options.dialogPicture, L".png"))
     {
-        return options.dialogPicture + ": expected .png";
+        return Failure{options.dialogPicture + ": expected .png"};
     }
-    return {};
+    return Done{};
 }
 }  // namespace
 
@@ -139,9 +140,9 @@ std::optional<Options> parseOptions(std::vector<std::string> arguments, int& sta
         status = reportUsage(app, error);
         return std::nullopt;
     }
-    if (const std::string wrong = wrongName(options); !wrong.empty())
+    if (const Result<> checked = checkNames(options); !checked)
     {
-        printError(wrong);
+        printError(checked.failure().line);
         status = wrongUsage;
         return std::nullopt;
     }

@@ -14,7 +14,7 @@ namespace host
 {
 namespace
 {
-Plotted plotShown(AcDbDatabase& database, const std::string& path, Editor& editor)
+Result<Plotted> plotShown(AcDbDatabase& database, const std::string& path, Editor& editor)
 {
     LongWork work(L"Plotting", editor);
     return plotDrawing(database, path, work.progress());
@@ -34,15 +34,15 @@ void plotCommand()
     {
         return;
     }
-    const Plotted plotted = plotShown(*documents().document()->database(), path, editor);
-    if (!plotted.error.empty())
+    const Result<Plotted> plotted = plotShown(*documents().document()->database(), path, editor);
+    if (!plotted)
     {
-        editor.fail(fromUtf8(plotted.error));
+        editor.fail(fromUtf8(plotted.failure().line));
         return;
     }
-    if (!plotted.leftOut.empty())
+    if (!plotted->leftOut.empty())
     {
-        editor.printLine(own(L"%1: not drawn: %2", {fromUtf8(path), fromUtf8(plotted.leftOut)}));
+        editor.printLine(own(L"%1: not drawn: %2", {fromUtf8(path), fromUtf8(plotted->leftOut)}));
     }
     tellSaved(editor, pathOf(path));
 }

@@ -30,8 +30,7 @@ std::optional<std::filesystem::path> askPath(Editor& editor, const Document& doc
     return path.empty() ? std::nullopt : std::optional(path);
 }
 
-std::optional<std::string> saveShown(AcDbDatabase& database, const std::string& path,
-                                     Editor& editor)
+Result<> saveShown(AcDbDatabase& database, const std::string& path, Editor& editor)
 {
     LongWork work(L"Saving", editor);
     return saveDrawing(database, path, work.progress());
@@ -48,9 +47,10 @@ void saveAsCommand()
         return;
     }
     linker().broadcast(AcRx::kSaveMsg);
-    if (const auto error = saveShown(*document.database(), path->string(), editor))
+    const Result<> saved = saveShown(*document.database(), path->string(), editor);
+    if (!saved)
     {
-        editor.fail(fromUtf8(*error));
+        editor.fail(fromUtf8(saved.failure().line));
         return;
     }
     for (const std::string& loss : lossesOnSaving(*document.database()))

@@ -82,25 +82,25 @@ fs::path newFileIn(const fs::path& folder, const fs::path& drawing)
     }
 }
 
-// Why the folder does not have the drawing now; nothing when it has, which is told.
-std::optional<std::string> keepIn(const fs::path& folder, Editor& editor)
+// Saves the drawing in the folder and reports where.
+Result<> keepIn(const fs::path& folder, Editor& editor)
 {
     const Document& document = *documents().document();
     const fs::path file = newFileIn(folder, document.path());
     if (file.empty())
     {
-        return folder.string() + ": takes no new file";
+        return Failure{folder.string() + ": takes no new file"};
     }
-    const auto error = saveDrawing(*document.database(), file.string());
-    if (error)
+    const Result<> saved = saveDrawing(*document.database(), file.string());
+    if (!saved)
     {
         std::error_code ignored;
         fs::remove(file, ignored);
-        return error;
+        return saved;
     }
     editor.report(
         own(L"the changes of the drawing are not saved, they are kept in %1", {shown(file)}));
-    return std::nullopt;
+    return Done{};
 }
 }  // namespace
 
@@ -147,16 +147,16 @@ void keepUnsaved(Editor& editor)
     std::vector<fs::path> folders = foldersForKept(documents().document()->path());
     std::error_code ignored;
     folders.push_back(fs::temp_directory_path(ignored));
-    std::optional<std::string> error;
+    Result<> kept = Done{};
     for (const fs::path& folder : folders)
     {
-        error = keepIn(folder, editor);
-        if (!error)
+        kept = keepIn(folder, editor);
+        if (kept)
         {
             return;
         }
     }
-    editor.report(own(L"the changes of the drawing are lost: %1", {fromUtf8(*error)}));
+    editor.report(own(L"the changes of the drawing are lost: %1", {fromUtf8(kept.failure().line)}));
 }
 
 void tellKept(Editor& editor)

@@ -72,10 +72,10 @@ void requireGone(const Linker& linker, const std::vector<const void*>& gone, con
 }
 
 // A file that is refused has been in the process for a moment: its static objects came and went.
-std::unique_ptr<ModuleFile> openFile(const Linker& linker, const fs::path& path, std::string& error)
+Result<std::unique_ptr<ModuleFile>> openFile(const Linker& linker, const fs::path& path)
 {
     const std::size_t before = allListeners(linker).size();
-    std::unique_ptr<ModuleFile> file = ModuleFile::open(path, error);
+    Result<std::unique_ptr<ModuleFile>> file = ModuleFile::open(path);
     if (!file && allListeners(linker).size() > before)
     {
         breachOfListeners(path);
@@ -124,61 +124,60 @@ AcRx::AppRetCode Linker::send(Module& module, AcRx::AppMsgCode message)
     return result;
 }
 
-Linker::Error Linker::load(const fs::path& name)
+Result<> Linker::load(const fs::path& name)
 {
     const fs::path path = resolve(name);
     if (Module* loaded = find(path))
     {
         ++loaded->references;
-        return std::nullopt;
+        return Done{};
     }
-    std::string error;
-    std::unique_ptr<ModuleFile> file = openFile(*this, path, error);
+    Result<std::unique_ptr<ModuleFile>> file = openFile(*this, path);
     if (!file)
     {
-        return error;
+        return file.failure();
     }
     std::erase(m_seen, path);
     m_seen.push_front(path);
-    m_modules.emplace_back().file = std::move(file);
+    m_modules.emplace_back().file = std::move(*file);
     return start(m_modules.back());
 }
 
-Linker::Error Linker::start(Module& module)
+Result<> Linker::start(Module& module)
 {
     const bool started = send(module, AcRx::kInitAppMsg) != AcRx::kRetError &&
                          (!m_drawingOpen || send(module, AcRx::kLoadDwgMsg) != AcRx::kRetError);
     if (started)
     {
-        return std::nullopt;
+        return Done{};
     }
     const std::string path = module.file->path().string();
     send(module, AcRx::kUnloadAppMsg);
     remove(module);
-    return path + ": the module does not want to be loaded";
+    return Failure{path + ": the module does not want to be loaded"};
 }
 
-Linker::Error Linker::unload(const fs::path& name)
+Result<> Linker::unload(const fs::path& name)
 {
     Module* module = find(name);
     if (module == nullptr)
     {
-        return name.string() + ": not loaded";
+        return Failure{name.string() + ": not loaded"};
     }
     if (module->locked)
     {
-        return name.string() + ": the module is locked";
+        return Failure{name.string() + ": the module is locked"};
     }
     if (runsCommandOf(*module->file))
     {
-        return name.string() + ": a command of the module is running";
+        return Failure{name.string() + ": a command of the module is running"};
     }
     if (refuses(*module))
     {
-        return name.string() + ": the module refuses to be unloaded";
+        return Failure{name.string() + ": the module refuses to be unloaded"};
     }
     remove(*module);
-    return std::nullopt;
+    return Done{};
 }
 
 bool Linker::refuses(Module& module)
@@ -232,12 +231,12 @@ void Linker::broadcast(AcRx::AppMsgCode message)
 
 bool Linker::loadModule(const ACHAR* fileName, bool printit, bool)
 {
-    const Error error = load(toNativePath(fileName));
-    if (error && printit && report)
+    const Result<> loaded = load(toNativePath(fileName));
+    if (!loaded && printit && report)
     {
-        report(*error);
+        report(loaded.failure().line);
     }
-    return !error;
+    return bool(loaded);
 }
 
 bool Linker::unloadModule(const ACHAR* fileName, bool asCmd)
@@ -248,7 +247,7 @@ bool Linker::unloadModule(const ACHAR* fileName, bool asCmd)
         --module->references;
         return true;
     }
-    return !unload(toNativePath(fileName));
+    return bool(unload(toNativePath(fileName)));
 }
 
 bool Linker::loadApp(const ACHAR* appName, AcadApp::LoadReasons, bool printit, bool asCmd)

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <list>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,14 +23,12 @@ struct Module
 class Linker final : public AcRxDynamicLinker
 {
 public:
-    using Error = std::optional<std::string>;  // one line that names the file
-
     // A name without a folder is sought where a module of that name was loaded before, in the
     // current folder and in `searchFolder`; ".arx" may be left out.
-    Error load(const std::filesystem::path& name);
+    Result<> load(const std::filesystem::path& name);
     // Refused for a locked module, for one with a running command, or when the module refuses. A
     // module that leaves a command or a document reactor behind ends the run.
-    Error unload(const std::filesystem::path& name);
+    Result<> unload(const std::filesystem::path& name);
     // Takes every module out of the host, the newest first, locked or not.
     void unloadAll();
 
@@ -65,7 +62,7 @@ public:
 private:
     std::filesystem::path resolve(const std::filesystem::path& name) const;
     Module* find(const std::filesystem::path& name) const;
-    Error start(Module& module);
+    Result<> start(Module& module);
     bool refuses(Module& module);
     void remove(Module& module);
 

@@ -7,12 +7,11 @@
 
 namespace host
 {
-std::unique_ptr<ModuleFile> ModuleFile::open(const std::filesystem::path& path, std::string& error)
+Result<std::unique_ptr<ModuleFile>> ModuleFile::open(const std::filesystem::path& path)
 {
     if (!std::filesystem::exists(path))
     {
-        error = path.string() + ": there is no such module";
-        return nullptr;
+        return Failure{path.string() + ": there is no such module"};
     }
     const LoadedFile loaded = [&]
     {
@@ -21,18 +20,19 @@ std::unique_ptr<ModuleFile> ModuleFile::open(const std::filesystem::path& path, 
     }();
     if (loaded.handle == nullptr && !loaded.isRefused)
     {
-        error = path.string() + ": not a module: " + loaded.reason;
-        return nullptr;
+        return Failure{path.string() + ": not a module: " + loaded.reason};
     }
     std::unique_ptr<ModuleFile> file(new ModuleFile(path, loaded.handle));
-    if (loaded.handle != nullptr && !file->check(error))
+    if (loaded.handle != nullptr)
     {
-        return nullptr;
+        if (const Result<> checked = file->check(); !checked)
+        {
+            return checked.failure();
+        }
     }
     if (loaded.isRefused)
     {
-        error = path.string() + ": the module does not start";
-        return nullptr;
+        return Failure{path.string() + ": the module does not start"};
     }
     return file;
 }
@@ -51,22 +51,20 @@ ModuleFile::~ModuleFile()
     }
 }
 
-bool ModuleFile::check(std::string& error)
+Result<> ModuleFile::check()
 {
     using VersionQuery = decltype(&acrxGetApiVersion);
     const auto version = reinterpret_cast<VersionQuery>(exportOf(m_handle, "acrxGetApiVersion"));
     m_entryPoint = reinterpret_cast<EntryPoint>(exportOf(m_handle, "acrxEntryPoint"));
     if (version == nullptr || m_entryPoint == nullptr)
     {
-        error = m_path.string() + ": not a module: it does not show its entry points";
-        return false;
+        return Failure{m_path.string() + ": not a module: it does not show its entry points"};
     }
     if (version() != ACRX_API_VERSION)
     {
-        error = m_path.string() + ": made for another version of the host";
-        return false;
+        return Failure{m_path.string() + ": made for another version of the host"};
     }
-    return true;
+    return Done{};
 }
 
 bool ModuleFile::holds(const void* address) const

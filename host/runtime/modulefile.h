@@ -3,8 +3,8 @@
 
 #include <filesystem>
 #include <memory>
-#include <string>
 
+#include "host/runtime/result.h"
 #include "rxdefs.h"
 
 namespace host
@@ -12,9 +12,9 @@ namespace host
 class ModuleFile
 {
 public:
-    // Null, and one line that names the file, when it is no module of this generation. The path is
-    // taken as it is named: a link to a module is a module in the folder of the link.
-    static std::unique_ptr<ModuleFile> open(const std::filesystem::path& path, std::string& error);
+    // Loads the file; a failure when it is no module of this generation. The path is taken as it is
+    // named: a link to a module is a module in the folder of the link.
+    static Result<std::unique_ptr<ModuleFile>> open(const std::filesystem::path& path);
     ~ModuleFile();
     ModuleFile(const ModuleFile&) = delete;
     ModuleFile& operator=(const ModuleFile&) = delete;
@@ -31,7 +31,7 @@ private:
     using EntryPoint = decltype(&acrxEntryPoint);
 
     ModuleFile(std::filesystem::path path, void* handle);
-    bool check(std::string& error);
+    Result<> check();
 
     std::filesystem::path m_path;
     void* m_handle;

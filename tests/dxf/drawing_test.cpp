@@ -34,8 +34,8 @@ protected:
 
     std::string saved(AcDbDatabase& database)
     {
-        const auto error = host::saveDrawing(database, path.string());
-        EXPECT_FALSE(error) << *error;
+        const host::Result<> result = host::saveDrawing(database, path.string());
+        EXPECT_TRUE(result) << result.failure().line;
         std::ifstream file(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});
     }
@@ -53,9 +53,9 @@ protected:
     std::unique_ptr<AcDbDatabase> opened(const std::string& text)
     {
         std::ofstream(path, std::ios::binary) << text;
-        host::OpenedDrawing opened = host::openDrawing(path.string());
-        EXPECT_EQ(opened.error, "");
-        return std::move(opened.database);
+        host::Result<host::OpenedDrawing> opened = host::openDrawing(path.string());
+        EXPECT_TRUE(opened) << opened.failure().line;
+        return std::move(opened->database);
     }
 
     AcDbGroup* makeGroup(AcDbDatabase& database)
@@ -475,10 +475,10 @@ TEST_F(Drawing, longWorkTellsHowFarItHasCome)
     };
     std::vector<double> parts;
     const auto note = [&parts](double part) { parts.push_back(part); };
-    EXPECT_FALSE(host::saveDrawing(drawing.database(), path.string(), note));
+    EXPECT_TRUE(host::saveDrawing(drawing.database(), path.string(), note));
     EXPECT_TRUE(rises(parts)) << "saving";
     parts.clear();
-    EXPECT_EQ(host::openDrawing(path.string(), note).error, "");
+    EXPECT_TRUE(host::openDrawing(path.string(), note));
     EXPECT_TRUE(rises(parts)) << "opening";
 }
 
@@ -499,7 +499,7 @@ TEST_F(Drawing, anEntityThatCannotBeSavedIsNamed)
     line->setColorIndex(1);
     host::ObjectAccess::setPoints(*line, AcGePoint3d(), AcGePoint3d(NAN, 0, 0));
     line->close();
-    EXPECT_EQ(host::saveDrawing(lines.database(), path.string()),
+    EXPECT_EQ(host::saveDrawing(lines.database(), path.string()).failure().line,
               path.string() + ": cannot be saved: the AcDbLine" + rest);
 
     EmptyDrawing texts;
@@ -507,7 +507,7 @@ TEST_F(Drawing, anEntityThatCannotBeSavedIsNamed)
     auto* text = new Crooked(AcGePoint3d(), L"A", AcDbObjectId::kNull, 1);
     texts.add(text);
     text->setNormal(AcGeVector3d(NAN, 0, 1));
-    EXPECT_EQ(host::saveDrawing(texts.database(), path.string()),
+    EXPECT_EQ(host::saveDrawing(texts.database(), path.string()).failure().line,
               path.string() + ": cannot be saved: the AcDbText" + rest);
     EXPECT_FALSE(fs::exists(path));
 }
@@ -515,8 +515,8 @@ TEST_F(Drawing, anEntityThatCannotBeSavedIsNamed)
 TEST_F(Drawing, aDrawingThatCannotBeSavedSaysWhy)
 {
     EmptyDrawing drawing;
-    const auto error = host::saveDrawing(drawing.database(), "/nonexistent/folder/a.dxf");
-    ASSERT_TRUE(error);
-    EXPECT_NE(error->find("/nonexistent/folder/a.dxf"), std::string::npos);
+    const host::Result<> saved = host::saveDrawing(drawing.database(), "/nonexistent/folder/a.dxf");
+    ASSERT_FALSE(saved);
+    EXPECT_NE(saved.failure().line.find("/nonexistent/folder/a.dxf"), std::string::npos);
 }
 }  // namespace

@@ -5,6 +5,7 @@
 #include <map>
 #include <sstream>
 
+#include "host/editor/scripttext.h"
 #include "host/windows/text.h"
 
 namespace
@@ -47,8 +48,8 @@ void expectAnswers(const Row (&rows)[count])
 {
     for (const Row& row : rows)
     {
-        std::istringstream input(row.script);
-        host::ScriptReader reader(input);
+        const host::Result<std::string> text = host::scriptText(row.script, "script");
+        host::ScriptReader reader(*text);
         std::string got;
         std::istringstream wanted{std::string(row.answers)};
         for (std::string part; std::getline(wanted, part, '|');)

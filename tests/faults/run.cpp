@@ -86,9 +86,9 @@ bool hasCommand()
     return host::commandStack().lookupCmd(L"ZV_NETRAX", true, true) != nullptr;
 }
 
-std::string complaintsOfLoading(const std::optional<std::string>& error)
+std::string complaintsOfLoading(const host::Result<>& result)
 {
-    return error && !mayStay(*error) ? *error + "\n" : "";
+    return !result && !mayStay(result.failure().line) ? result.failure().line + "\n" : "";
 }
 
 std::string complaintsOfLeaks()
@@ -127,9 +127,9 @@ void openDrawing()
 
 std::string loadModule()
 {
-    if (const auto error = host::linker().load(moduleFile))
+    if (const host::Result<> loaded = host::linker().load(moduleFile); !loaded)
     {
-        return *error;
+        return loaded.failure().line;
     }
     return hasCommand() ? "" : "the module has no command";
 }
@@ -143,9 +143,9 @@ std::string runOnce(const Script& script, const faults::Plan& plan)
     bool came = false;
     if (loads)
     {
-        const auto error = host::linker().load(moduleFile);
-        complaints += complaintsOfLoading(error);
-        came = !error;
+        const host::Result<> loaded = host::linker().load(moduleFile);
+        complaints += complaintsOfLoading(loaded);
+        came = bool(loaded);
     }
     const bool meterIsLeft = type(script).has_value();
     complaints += complaintsOfState();

@@ -13,7 +13,7 @@ TEST(Canvas, aCircleAfterATextIsACircle)
         canvas.fill({0, 0, 100, 20}, host::white);
         canvas.text({0, 0, 20, 20}, 2, 10, L"H", host::black);
         canvas.circle(90, 10, 6, host::black, filled);
-        const tests::Picture picture(canvas.png());
+        const tests::Picture picture(*canvas.png());
         for (int x = 25; x < 80; ++x)
         {
             for (int y = 0; y < 20; ++y)

@@ -165,7 +165,7 @@ TEST(DialogPicture, isAPngThatShowsTheLanguage)
     std::vector<std::string> pictures;
     for (const wchar_t* locale : {L"en-US", L"ru-RU", L"ru-RU"})
     {
-        whileShown(locale, [&](HWND dialog) { pictures.push_back(host::drawDialog(dialog)); });
+        whileShown(locale, [&](HWND dialog) { pictures.push_back(*host::drawDialog(dialog)); });
         EXPECT_TRUE(pictures.back().starts_with("\x89PNG\r\n"));
     }
     EXPECT_NE(pictures[0], pictures[1]);

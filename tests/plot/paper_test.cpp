@@ -23,7 +23,7 @@ TEST(Paper, showsTheWholeWindowWithAMarginUprightAndNotMirrored)
 {
     Paper paper(FileKind::png, plan, {100, 200, 140, 220});
     paper.area({{{100, 200, 0}, {110, 200, 0}, {110, 205, 0}, {100, 205, 0}}}, red);
-    const Picture picture(paper.finish());
+    const Picture picture(*paper.finish());
     EXPECT_EQ(picture.width(), 2400);
     EXPECT_EQ(picture.height(), 1257);  // half as high, margins apart: 220 mm of 420
     EXPECT_EQ(picture.at(0.1, 0.1), redPixel);
@@ -42,7 +42,7 @@ TEST(Paper, theViewDecidesWhatIsUp)
     EXPECT_NEAR(extents.window().top, 30, 1e-9);
     Paper paper(FileKind::png, quarter, extents.window());
     paper.area({{{20, 0, 0}, {30, 0, 0}, {30, 10, 0}, {20, 10, 0}}}, red);
-    const Picture picture(paper.finish());
+    const Picture picture(*paper.finish());
     EXPECT_LT(picture.width(), picture.height());
     EXPECT_EQ(picture.at(0.5, 0.9), redPixel);
     EXPECT_EQ(picture.at(0.5, 0.3), whitePixel);
@@ -54,7 +54,7 @@ TEST(Paper, anAreaHasHoles)
     paper.area({{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}},
                 {{3, 3, 0}, {7, 3, 0}, {7, 7, 0}, {3, 7, 0}}},
                red);
-    const Picture picture(paper.finish());
+    const Picture picture(*paper.finish());
     EXPECT_EQ(picture.at(0.5, 0.5), whitePixel);
     EXPECT_EQ(picture.at(0.1, 0.5), redPixel);
 }
@@ -81,7 +81,7 @@ TEST(Paper, endlessLinesReachTheEdgeOfTheSheet)
     {
         Paper paper(FileKind::png, plan, {0, 0, 10, 10});
         paper.ray(row.from, row.along, row.both, red);
-        const Picture picture(paper.finish());
+        const Picture picture(*paper.finish());
         EXPECT_EQ(picture.at(0, 0.5) != whitePixel, row.leftAndRight[0]) << row.what;
         EXPECT_EQ(picture.at(1, 0.5) != whitePixel, row.leftAndRight[1]) << row.what;
     }
@@ -96,7 +96,7 @@ TEST(Paper, aTextIsAsHighAsItsCapitalsAndLiesOnItsLine)
     EXPECT_NEAR(extents.window().width(), textWidth(L"H") * 10, 1e-9);
     Paper paper(FileKind::png, plan, {0, 0, 10, 10});
     paper.text(line, red);
-    const Picture picture(paper.finish());
+    const Picture picture(*paper.finish());
     const double stem = 10.0 / 420 + 0.13 * 400 / 420;  // of the letter, within the sheet
     EXPECT_EQ(picture.at(stem, 0.05), redPixel);
     EXPECT_EQ(picture.at(stem, 0.95), redPixel);
@@ -145,7 +145,7 @@ TEST(Paper, whatFollowsATextBeginsAtItsOwnPlace)
             Paper paper(FileKind::svg, plan, {0, 0, 10, 10});
             textBefore ? paper.text(letterAt(0), red) : void();
             shape.draw(paper);
-            return paper.finish();
+            return *paper.finish();
         };
         const std::string alone = svg(false);
         const std::size_t begin = alone.rfind("<path");
@@ -158,9 +158,9 @@ TEST(Paper, anEmptyDrawingIsAnEmptySheet)
 {
     for (const FileKind kind : {FileKind::png, FileKind::pdf, FileKind::svg})
     {
-        EXPECT_FALSE(canWrite(kind) && Paper(kind, plan, {}).finish().empty());
+        EXPECT_TRUE(!canWrite(kind) || !Paper(kind, plan, {}).finish()->empty());
     }
-    EXPECT_EQ(Picture(Paper(FileKind::png, plan, {}).finish()).at(0.5, 0.5), whitePixel);
+    EXPECT_EQ(Picture(*Paper(FileKind::png, plan, {}).finish()).at(0.5, 0.5), whitePixel);
 }
 
 TEST(Paper, theEndOfTheNameIsTheKindOfFile)

@@ -33,15 +33,19 @@ struct Loading : ::testing::Test
 
     std::string load(const fs::path& file)
     {
-        return session.run([&] { error = host::linker().load(file); });
+        return session.run([&] { note(host::linker().load(file)); });
     }
     std::string unload(const fs::path& file)
     {
-        return session.run([&] { error = host::linker().unload(file); });
+        return session.run([&] { note(host::linker().unload(file)); });
+    }
+    void note(const host::Result<>& result)
+    {
+        error = result ? std::nullopt : std::optional(result.failure().line);
     }
 
     support::Session session;
-    host::Linker::Error error;
+    std::optional<std::string> error;
 };
 
 TEST_F(Loading, tellsTheModuleThatItStartsAndThatADrawingIsOpen)

@@ -122,20 +122,20 @@ void sweepOpening(const fs::path& path, const fs::path& elsewhere)
     std::unique_ptr<AcDbDatabase> database;
     const auto saved = [&]
     {
-        const auto error = host::saveDrawing(*database, elsewhere.string());
-        return error ? *error : contents(elsewhere);
+        const host::Result<> result = host::saveDrawing(*database, elsewhere.string());
+        return result ? contents(elsewhere) : result.failure().line;
     };
-    database = host::openDrawing(path.string()).database;
+    database = std::move(host::openDrawing(path.string())->database);
     const std::string whole = saved();
     for (const Mode& mode : modes)
     {
         const std::string job = "opening " + path.filename().string();
         const auto open = [&](bool& done)
         {
-            host::OpenedDrawing drawing = host::openDrawing(path.string());
-            database = std::move(drawing.database);
-            done = database != nullptr;
-            return drawing.error;
+            host::Result<host::OpenedDrawing> drawing = host::openDrawing(path.string());
+            done = bool(drawing);
+            database = done ? std::move(drawing->database) : nullptr;
+            return done ? std::string() : drawing.failure().line;
         };
         const auto check = [&](bool done)
         { expect(!done || saved() == whole, job + ", " + mode.name + ": not the whole drawing"); };
@@ -146,7 +146,7 @@ void sweepOpening(const fs::path& path, const fs::path& elsewhere)
 // The drawing with one line more.
 std::unique_ptr<AcDbDatabase> changed(const fs::path& path)
 {
-    auto database = host::openDrawing(path.string()).database;
+    auto database = std::move(host::openDrawing(path.string())->database);
     AcDbBlockTable* blocks = nullptr;
     AcDbBlockTableRecord* space = nullptr;
     database->getBlockTable(blocks, AcDb::kForRead);
@@ -167,8 +167,13 @@ void sweepSaving(const fs::path& original, const fs::path& target)
     const bool plots = target.extension() == ".png";
     const auto write = [&]
     {
-        return plots ? host::plotDrawing(*database, target.string()).error
-                     : host::saveDrawing(*database, target.string()).value_or("");
+        if (plots)
+        {
+            const auto plotted = host::plotDrawing(*database, target.string());
+            return plotted ? std::string() : plotted.failure().line;
+        }
+        const host::Result<> saved = host::saveDrawing(*database, target.string());
+        return saved ? std::string() : saved.failure().line;
     };
     std::ofstream(target) << before;
     expect(write().empty(), "saving without a fault");
@@ -209,7 +214,9 @@ int main()
     // The files of the fonts are not ours: a drawing with texts has them read before calls fail.
     const fs::path drawings = fs::path(TESTS_DIR) / "golden" / "drawings";
     const std::string withTexts = (drawings / "r12-cyrillic.dxf").string();
-    host::plotDrawing(*host::openDrawing(withTexts).database, (folder / "plot.png").string());
+    expect(bool(host::plotDrawing(*host::openDrawing(withTexts)->database,
+                                  (folder / "plot.png").string())),
+           "plotting without a fault");
     const Tried runs = tryRuns(folder);  // early: a small process is copied quickly
     fs::remove_all(folder);
     fs::create_directory(folder);

@@ -569,7 +569,8 @@ TEST(SettingsDialog, asksInRussian)
 
 TEST(SettingsDialog, listsTheTextStylesOfTheDrawing)
 {
-    support::Session session(host::openDrawing(TESTS_DIR "/../examples/site.dxf").database);
+    support::Session session(
+        std::move(host::openDrawing(TESTS_DIR "/../examples/site.dxf")->database));
     DialogRun run;
     run.settings.textStyleName = L"гост 2.304";
     const std::string said =

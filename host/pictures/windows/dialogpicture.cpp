@@ -36,7 +36,7 @@ HBITMAP photograph(HWND dialog)
 }
 }  // namespace
 
-std::string drawDialog(HWND dialog)
+Result<std::string> drawDialog(HWND dialog)
 {
     const Drawing drawing;
     paintAll(dialog);

@@ -8,6 +8,8 @@
 
 #include <gdiplus.h>
 
+#include "host/runtime/result.h"
+
 namespace host
 {
 // It can be called for as long as one of these lives.
@@ -27,6 +29,6 @@ private:
     ULONG_PTR m_token = 0;
 };
 
-// The bytes of a PNG file; empty when memory ran out.
-std::string pngOf(Gdiplus::Bitmap& bitmap);
+// The bytes of a PNG file. It fails when memory ran out.
+Result<std::string> pngOf(Gdiplus::Bitmap& bitmap);
 }  // namespace host

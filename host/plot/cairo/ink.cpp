@@ -27,7 +27,7 @@ public:
     void disc(const AcGePoint3d& centre, double diameter, Color color) override;
     void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
               std::wstring_view text, Color color) override;
-    std::string finish() override;
+    Result<std::string> finish() override;
 
 private:
     void open(const Sheet& sheet);
@@ -78,16 +78,24 @@ CairoInk::~CairoInk()
     cairo_surface_destroy(m_surface);
 }
 
-std::string CairoInk::finish()
+Result<std::string> CairoInk::finish()
 {
     if (m_kind == FileKind::png)
     {
-        m_bytes = pngOf(m_surface);
+        Result<std::string> png = pngOf(m_surface);
+        if (!png)
+        {
+            return png;
+        }
+        m_bytes = std::move(*png);
     }
     cairo_surface_finish(m_surface);
-    const bool isWhole = cairo_status(m_cairo) == CAIRO_STATUS_SUCCESS &&
-                         cairo_surface_status(m_surface) == CAIRO_STATUS_SUCCESS;
-    return isWhole ? std::move(m_bytes) : std::string();
+    if (cairo_status(m_cairo) != CAIRO_STATUS_SUCCESS ||
+        cairo_surface_status(m_surface) != CAIRO_STATUS_SUCCESS)
+    {
+        return Failure{"not enough memory"};
+    }
+    return std::move(m_bytes);
 }
 
 void CairoInk::use(Color color)

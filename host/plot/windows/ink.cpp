@@ -46,7 +46,7 @@ public:
     void disc(const AcGePoint3d& centre, double diameter, Color color) override;
     void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
               std::wstring_view text, Color color) override;
-    std::string finish() override { return pngOf(m_bitmap); }
+    Result<std::string> finish() override { return pngOf(m_bitmap); }
 
 private:
     void fillPath(const Gdiplus::GraphicsPath& path, Color color);
