@@ -6,7 +6,8 @@ import signal
 import subprocess
 import time
 
-from common import GRID, PLAN, Desk, check, expect, expect_equal, not_on_windows, one_line
+from arxhost import program
+from common import GRID, PLAN, Desk, check, expect, expect_equal, not_on_windows, one_line, only_on_windows
 
 LINE = "  0\nLINE\n  5\n%X\n330\n1F\n100\nAcDbEntity\n  8\n0\n100\nAcDbLine\n" \
        " 10\n%d.5\n 20\n0.0\n 30\n0.0\n 11\n1.0\n 21\n1.0\n 31\n0.0\n"
@@ -46,7 +47,7 @@ def heed_signals():
 def start(desk, *arguments, prepare=heed_signals):
     """Starts a run that is not waited for."""
     (desk / "script.txt").write_text(GRID)
-    return subprocess.Popen([desk.build / "arxhost", *arguments, "--module", "netrax.arx", "--script", "script.txt"],
+    return subprocess.Popen([*program(desk.build), *arguments, "--module", "netrax.arx", "--script", "script.txt"],
                             cwd=desk.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, preexec_fn=prepare)
 
 
@@ -87,6 +88,24 @@ def a_run_that_a_signal_ends_while_it_saves_takes_its_unfinished_file_with_it():
                 expect_equal(temporary_files(desk), [], f"files left after signal {number} and {size} bytes")
                 ended += process.returncode == -number
         expect(ended > 6, f"only {ended} runs were ended while they saved")
+
+
+@check
+@only_on_windows("a system that takes the files of an ended program away")
+def a_run_that_is_ended_while_it_saves_leaves_no_unfinished_file_on_windows():
+    old = large_drawing(20).encode()
+    with Desk() as desk:
+        (desk / "drawing.dxf").write_bytes(old)
+        ended = 0
+        for size in (1, len(old) // 4, len(old) * 9 // 10):
+            process = start(desk, "drawing.dxf", "--save", "drawing.dxf")
+            kill_when_written(desk, process, size)
+            ended += process.returncode == -signal.SIGKILL and (desk / "drawing.dxf").read_bytes() == old
+            deadline = time.monotonic() + 60
+            while temporary_files(desk) and time.monotonic() < deadline:
+                time.sleep(0.05)
+            expect_equal(temporary_files(desk), [], f"files left after {size} bytes")
+        expect(ended > 0, "no run was ended while it saved")
 
 
 @check

@@ -2,7 +2,7 @@
 import os
 import time
 
-from common import Desk, check, expect_equal, only_on_windows
+from common import PLAN, Desk, check, expect, expect_equal, only_on_windows
 from arxhost import program
 from console import Console
 
@@ -104,3 +104,20 @@ def a_console_of_its_own_stays_open_until_a_failure_has_been_read():
             shown.wait_for(error)
             expect_equal(shown.wait_for_end(), 1, "exit status in the console of another program")
             expect_equal("Press Enter" in shown.shown, False, "waits all the same")
+
+
+@check
+@only_on_windows(HERE)
+def a_console_of_windows_that_goes_away_takes_no_work_with_it():
+    with Desk() as desk:
+        desk.bring(PLAN)
+        command = [*program(desk.build), "drawing.dxf", "--module", "netrax.arx"]
+        # Wine itself would be ended by the signal of the terminal.
+        with Console(["/bin/sh", "-c", 'trap "" HUP; exec "$@"', "sh", *command], desk.folder, **os.environ) as shown:
+            for prompt, typed in (("Command: ", "zv_netrax"), ("corner point [Settings]: ", "10,20"),
+                                  ("other corner point: ", "260,170"), ("[<Apply>/Settings]: ", "A")):
+                answer(shown, prompt, typed + ENTER)
+            shown.wait_for("Command: ")
+            shown.hang_up()
+        kept = (desk / "drawing-recovered.dxf").read_bytes()
+        expect(b"AcDbGroup\n" in kept.replace(b"\r\n", b"\n"), "the grid is not in the file")

@@ -3,11 +3,11 @@
 #include <fcntl.h>
 #include <io.h>
 #include <process.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <climits>
+#include <cstdint>
 #include <cstring>
 #include <filesystem>
 #include <utility>
@@ -62,6 +62,43 @@ void requireReplaceable(const std::string& path)
     }
 }
 
+namespace
+{
+[[noreturn]] void failByLastError(const std::string& path)
+{
+    failSaving(path, std::error_code(int(GetLastError()), std::system_category()).message());
+}
+
+// Says whether the system takes the file away when its handle is closed, in whatever way the
+// program ends: Ctrl-C, the closing of the console and Task Manager leave it no time to do so.
+bool deleteOnClose(int file, bool isDeleted)
+{
+    FILE_DISPOSITION_INFO disposition = {.DeleteFile = BOOLEAN(isDeleted)};
+    return SetFileInformationByHandle(reinterpret_cast<HANDLE>(_get_osfhandle(file)),
+                                      FileDispositionInfo, &disposition, sizeof disposition) != 0;
+}
+
+// Makes a new file and opens it for writing; -1 with errno if there is one of
+// that name.
+int createUnfinishedFile(const fs::path& path, const std::string& pathInMessages)
+{
+    const HANDLE made = CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (made == INVALID_HANDLE_VALUE)
+    {
+        if (GetLastError() != ERROR_FILE_EXISTS)
+        {
+            failByLastError(pathInMessages);
+        }
+        errno = EEXIST;
+        return -1;
+    }
+    const int file = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(made), _O_BINARY);
+    deleteOnClose(file, true);
+    return file;
+}
+}  // namespace
+
 class Replacement::Files
 {
 public:
@@ -88,12 +125,7 @@ Replacement::Files::Files(const std::string& path)
     {
         m_temporary = m_target.parent_path() / (".arxhost-" + std::to_string(::_getpid()) + "-" +
                                                 std::to_string(attempt) + ".tmp");
-        m_file = ::_wopen(m_temporary.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY,
-                          _S_IREAD | _S_IWRITE);
-        if (m_file < 0 && errno != EEXIST)
-        {
-            break;
-        }
+        m_file = createUnfinishedFile(m_temporary, m_path);
     }
     requireSaved(m_file >= 0, m_path);
     m_exists = true;
@@ -126,6 +158,10 @@ void Replacement::Files::write(std::string_view bytes)
 void Replacement::Files::takePlace()
 {
     requireSaved(!m_hasOld || ::_commit(m_file) == 0, m_path);
+    if (!deleteOnClose(m_file, false))
+    {
+        failByLastError(m_path);
+    }
     requireSaved(::_close(std::exchange(m_file, -1)) == 0, m_path);
     const BOOL done =
         m_hasOld ? ReplaceFileW(m_target.c_str(), m_temporary.c_str(), nullptr,
@@ -133,7 +169,7 @@ void Replacement::Files::takePlace()
                  : MoveFileExW(m_temporary.c_str(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING);
     if (!done)
     {
-        failSaving(m_path, std::error_code(int(GetLastError()), std::system_category()).message());
+        failByLastError(m_path);
     }
     m_exists = false;
 }

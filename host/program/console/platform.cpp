@@ -70,11 +70,25 @@ public:
         return true;
     }
 
-    void begin()
+    // Ends this read and every later one, as the end of the input does.
+    void endForGood()
     {
         const std::lock_guard lock(m_mutex);
-        m_waits = true;
+        m_isOver = true;
+        if (m_waits)
+        {
+            m_endedAs = Answer::Kind::endOfInput;
+            pressEnter();
+        }
+    }
+
+    // False if there is nothing to wait for any more.
+    bool begin()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waits = !m_isOver;
         ++m_number;
+        return m_waits;
     }
 
     // What the read was ended as. The Enter key of the user may have come first: then ours still
@@ -93,16 +107,29 @@ public:
 private:
     std::mutex m_mutex;
     bool m_waits = false;
+    bool m_isOver = false;
     unsigned m_number = 0;
     std::optional<Answer::Kind> m_endedAs;
 };
 
 PendingRead pendingRead;
 
+// Windows ends the program as soon as the handler of such an event returns, and some seconds later
+// in any case: the handler waits while the session comes to its own end and keeps the work.
+void leaveTimeForTheEnd()
+{
+    pendingRead.endForGood();
+    Sleep(INFINITE);
+}
+
 // Ctrl-C cancels the question; a command that computes is not stopped by it. Windows ends the read,
 // Wine reads on: there the line is ended and does not count.
 BOOL WINAPI onControl(DWORD event)
 {
+    if (event == CTRL_CLOSE_EVENT || event == CTRL_LOGOFF_EVENT || event == CTRL_SHUTDOWN_EVENT)
+    {
+        leaveTimeForTheEnd();
+    }
     const unsigned read = event == CTRL_C_EVENT ? pendingRead.number() : 0;
     if (read != 0)
     {
@@ -141,7 +168,10 @@ private:
 
 Answer ConsoleReader::next(const Question& question)
 {
-    pendingRead.begin();
+    if (!pendingRead.begin())
+    {
+        return {.kind = Answer::Kind::endOfInput};
+    }
     const Answer answer = read();
     if (const auto kind = pendingRead.ended())
     {
