@@ -1,7 +1,8 @@
-#include "host/database/access.h"
+#include "host/database/core.h"
+#include "host/database/entitystyle.h"
 #include "host/database/fitness.h"
-
-using host::ObjectAccess;
+#include "host/database/objectstate.h"
+#include "host/database/polylinevertices.h"
 
 ACRX_DEFINE_MEMBERS(AcDbBlockTableRecord, AcDbSymbolTableRecord)
 
@@ -11,13 +12,14 @@ namespace
 // of the sequence needs one, too.
 void appendVertices(host::DatabaseCore& core, AcDb2dPolyline& polyline)
 {
-    AcDbStub* owner = ObjectAccess::stub(polyline);
-    for (AcDb2dVertex* vertex : ObjectAccess::vertices(polyline))
+    AcDbStub* owner = polyline.objectId().stub();
+    host::PolylineVertices& vertices = host::PolylineVertices::of(polyline);
+    for (AcDb2dVertex* vertex : vertices.vertices())
     {
         core.makeResident(vertex, owner);
         vertex->close();
     }
-    ObjectAccess::seqEnd(polyline) = core.addForeign(core.nextHandle++);
+    vertices.sequenceEnd = core.addForeign(core.nextHandle++);
 }
 
 // What texts and polylines need beyond a line.
@@ -53,10 +55,10 @@ Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbE
     }
     AcDbStub* own = objectId().stub();
     host::DatabaseCore& core = host::coreOf(own);
-    ObjectAccess::fillProperties(*entity, core.current);
+    host::EntityStyle::fill(*entity, core.current);
     const AcDbStub* stub = core.makeResident(entity, own);
     id = entity->objectId();
-    ObjectAccess::forgiveClose(*entity) = true;
+    host::ObjectState::forgiveClose(*entity);
     if ((stub->flags & AcDbStub::isLine) == 0)
     {
         completeMembers(core, *entity);

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/database/access.h"
-#include "host/runtime/foldcase.h"
+#include "dbents.h"
+#include "host/database/objectstate.h"
+#include "host/database/recordnames.h"
 
 namespace host
 {
@@ -12,7 +13,7 @@ RetiredObjects::~RetiredObjects()
 {
     for (AcDbObject* object : m_ring)
     {
-        ObjectAccess::destroy(object);
+        ObjectState::destroy(object);
     }
 }
 
@@ -20,7 +21,7 @@ void RetiredObjects::add(AcDbObject* object)
 {
     AcDbObject*& place = m_ring[m_next];
     m_next = (m_next + 1) % m_ring.size();
-    ObjectAccess::destroy(place);
+    ObjectState::destroy(place);
     place = object;
 }
 
@@ -37,10 +38,10 @@ DatabaseCore::~DatabaseCore()
     {
         if (AcDbLine::cast(object) != nullptr)
         {
-            ObjectAccess::destroy(object);
+            ObjectState::destroy(object);
         }
     }
-    std::ranges::for_each(objects, ObjectAccess::destroy);
+    std::ranges::for_each(objects, ObjectState::destroy);
 }
 
 namespace
@@ -66,9 +67,7 @@ AcDbStub* DatabaseCore::makeResident(AcDbObject* object, AcDbStub* owner)
     {
         objects.push_back(object);
     }
-    ObjectAccess::stub(*object) = stub;
-    ObjectAccess::owner(*object) = owner;
-    ObjectAccess::forWrite(*object) = true;
+    ObjectState::joinOpen(*object, stub, owner);
     open.push_back(object);
     return stub;
 }
@@ -78,20 +77,15 @@ AcDbStub* DatabaseCore::addLoaded(AcDbObject* object, AcDbStub* owner, std::uint
     AcDbStub* stub = stubs.add(handle);
     stub->object = object;
     objects.push_back(object);
-    ObjectAccess::stub(*object) = stub;
-    ObjectAccess::owner(*object) = owner;
-    ObjectAccess::forWrite(*object) = false;
+    ObjectState::joinClosed(*object, stub, owner);
     return stub;
 }
 
 void DatabaseCore::nameRecord(AcDbStub* table, AcDbSymbolTableRecord* record, std::wstring name)
 {
-    AcDbSymbolTable::Names& names =
-        ObjectAccess::names(*static_cast<AcDbSymbolTable*>(table->object));
-    AcDbStub* stub = ObjectAccess::stub(*record);
-    names.order.push_back(stub);
-    names.byFoldedName.emplace(foldCase(name), stub);
     m_names.push_back(std::move(name));
-    ObjectAccess::name(*record) = m_names.back().c_str();
+    AcDbSymbolTableRecord::Internals::setName(*record, m_names.back().c_str());
+    RecordNames::of(*static_cast<AcDbSymbolTable*>(table->object))
+        .add(m_names.back(), record->objectId().stub());
 }
 }  // namespace host

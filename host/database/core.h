@@ -12,10 +12,12 @@
 #include "dbgroup.h"
 #include "dbmain.h"
 #include "dbsymtb.h"
+#include "host/database/currentproperties.h"
 #include "host/database/drawingstate.h"
 #include "host/database/extents.h"
 #include "host/database/linestyle.h"
 #include "host/database/stub.h"
+#include "host/database/tablerecords.h"
 
 class AcDbLine;
 
@@ -27,17 +29,6 @@ struct DrawingSource
     virtual ~DrawingSource() = default;
     // Of what the file holds in model space.
     virtual const WorldExtents& modelExtents() = 0;
-};
-
-// What new entities get when nothing else is said.
-struct CurrentProperties
-{
-    AcDbStub* layer = nullptr;
-    AcDbStub* textStyle = nullptr;
-    AcDbStub* linetype = nullptr;
-    std::uint16_t color = 256;
-    std::int16_t lineWeight = -1;
-    double linetypeScale = 1;
 };
 
 // Objects that were closed a moment ago. Makers of entities still ask a closed line for its id,
@@ -56,10 +47,10 @@ private:
     std::size_t m_next = 0;
 };
 
-struct LayerFlags
+struct ChangedLayer
 {
     AcDbLayerTableRecord* layer;
-    bool frozen, locked, off;
+    LayerFlags flags;
 };
 
 class DatabaseCore
@@ -99,7 +90,7 @@ public:
     AcDbStub* modelSpace = nullptr;
 
     std::vector<AcDbStub*> erasedLog;
-    std::vector<LayerFlags> layerLog;  // as they were before each change
+    std::vector<ChangedLayer> layerLog;  // as they were before each change
 
     std::unique_ptr<DrawingSource> source;
 
@@ -117,6 +108,8 @@ Record* DatabaseCore::addLoadedRecord(AcDbStub* table, std::wstring name, std::u
     nameRecord(table, record, std::move(name));
     return record;
 }
+
+DatabaseCore& coreOf(const AcDbDatabase& database);
 
 inline DatabaseCore& coreOf(const AcDbStub* stub)
 {

@@ -1,7 +1,18 @@
 #include "dbapserv.h"
-#include "host/database/access.h"
+#include "host/database/core.h"
 
-AcDbDatabase::AcDbDatabase() : m_core(new host::DatabaseCore(*this)) {}
+struct AcDbDatabase::Internals
+{
+    explicit Internals(AcDbDatabase& database) : core(database) {}
+    static host::DatabaseCore& of(const AcDbDatabase& database)
+    {
+        return database.m_internals->core;
+    }
+
+    host::DatabaseCore core;
+};
+
+AcDbDatabase::AcDbDatabase() : m_internals(new Internals(*this)) {}
 
 AcDbDatabase::~AcDbDatabase()
 {
@@ -10,7 +21,7 @@ AcDbDatabase::~AcDbDatabase()
     {
         services->setWorkingDatabase(nullptr);
     }
-    delete m_core;
+    delete m_internals;
 }
 
 Acad::ErrorStatus AcDbDatabase::getBlockTable(AcDbBlockTable*& table, AcDb::OpenMode mode)
@@ -35,41 +46,46 @@ Acad::ErrorStatus AcDbDatabase::getTextStyleTable(AcDbTextStyleTable*& table, Ac
 
 Acad::ErrorStatus AcDbDatabase::getGroupDictionary(AcDbDictionary*& dictionary, AcDb::OpenMode mode)
 {
-    return acdbOpenObject(dictionary, AcDbObjectId(m_core->groupDictionary), mode);
+    return acdbOpenObject(dictionary, AcDbObjectId(m_internals->core.groupDictionary), mode);
 }
 
 AcDbObjectId AcDbDatabase::blockTableId() const
 {
-    return AcDbObjectId(m_core->blockTable);
+    return AcDbObjectId(m_internals->core.blockTable);
 }
 AcDbObjectId AcDbDatabase::layerTableId() const
 {
-    return AcDbObjectId(m_core->layerTable);
+    return AcDbObjectId(m_internals->core.layerTable);
 }
 AcDbObjectId AcDbDatabase::linetypeTableId() const
 {
-    return AcDbObjectId(m_core->linetypeTable);
+    return AcDbObjectId(m_internals->core.linetypeTable);
 }
 AcDbObjectId AcDbDatabase::textStyleTableId() const
 {
-    return AcDbObjectId(m_core->textStyleTable);
+    return AcDbObjectId(m_internals->core.textStyleTable);
 }
 
 AcDbObjectId AcDbDatabase::clayer() const
 {
-    return AcDbObjectId(m_core->current.layer);
+    return AcDbObjectId(m_internals->core.current.layer);
 }
 AcDbObjectId AcDbDatabase::textstyle() const
 {
-    return AcDbObjectId(m_core->current.textStyle);
+    return AcDbObjectId(m_internals->core.current.textStyle);
 }
 AcDbObjectId AcDbDatabase::celtype() const
 {
-    return AcDbObjectId(m_core->current.linetype);
+    return AcDbObjectId(m_internals->core.current.linetype);
 }
 
 AcDbHostApplicationServices* acdbHostApplicationServices()
 {
     static AcDbHostApplicationServices services;
     return &services;
+}
+
+host::DatabaseCore& host::coreOf(const AcDbDatabase& database)
+{
+    return AcDbDatabase::Internals::of(database);
 }

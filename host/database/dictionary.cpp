@@ -2,35 +2,17 @@
 
 #include <algorithm>
 
-#include "host/database/access.h"
-#include "host/runtime/foldcase.h"
-
-using host::ObjectAccess;
+#include "host/database/core.h"
+#include "host/database/dictionaryentries.h"
+#include "host/database/groupmembers.h"
 
 ACRX_DEFINE_MEMBERS(AcDbDictionary, AcDbObject)
 
-AcDbDictionary::AcDbDictionary() : m_entries(new Entries()) {}
+AcDbDictionary::AcDbDictionary() : m_internals(new Internals()) {}
 AcDbDictionary::~AcDbDictionary()
 {
-    delete m_entries;
+    delete m_internals;
 }
-
-namespace
-{
-// The entry of that name; an erased one is none.
-template <class Entries>
-AcDbStub* find(const Entries& entries, const std::wstring& key)
-{
-    for (const auto& entry : entries.entries)
-    {
-        if (!entry.stub->erased() && host::equalNoCase(entry.key, key))
-        {
-            return entry.stub;
-        }
-    }
-    return nullptr;
-}
-}  // namespace
 
 Acad::ErrorStatus AcDbDictionary::setAt(const ACHAR* key, AcDbObject* value, AcDbObjectId& id)
 {
@@ -48,19 +30,12 @@ Acad::ErrorStatus AcDbDictionary::setAt(const ACHAR* key, AcDbObject* value, AcD
     {
         return Acad::eAlreadyInDb;
     }
-    const bool anonymous = *key == L'*';
-    const std::wstring name =
-        anonymous ? L"*A" + std::to_wstring(++m_entries->lastAnonymous) : std::wstring(key);
-    if (AcDbStub* former = find(*m_entries, name))
-    {
-        former->setErased(true);
-    }
     AcDbStub* own = objectId().stub();
     AcDbStub* stub = host::coreOf(own).makeResident(value, own);
-    m_entries->entries.push_back({name, stub, false});
+    m_internals->put(m_internals->keyFor(key), stub);
     if (AcDbGroup* group = AcDbGroup::cast(value))
     {
-        ObjectAccess::members(*group).anonymous = anonymous;
+        host::GroupMembers::of(*group).anonymous = *key == L'*';
     }
     id = AcDbObjectId(stub);
     return Acad::eOk;
@@ -69,7 +44,7 @@ Acad::ErrorStatus AcDbDictionary::setAt(const ACHAR* key, AcDbObject* value, AcD
 Acad::ErrorStatus AcDbDictionary::getAt(const ACHAR* key, AcDbObjectId& id) const
 {
     assertReadEnabled("AcDbDictionary::getAt");
-    AcDbStub* stub = key != nullptr ? find(*m_entries, key) : nullptr;
+    AcDbStub* stub = key != nullptr ? m_internals->find(key) : nullptr;
     id = AcDbObjectId(stub);
     return stub != nullptr ? Acad::eOk : Acad::eKeyNotFound;
 }
@@ -83,6 +58,6 @@ bool AcDbDictionary::has(const ACHAR* key) const
 Adesk::UInt32 AcDbDictionary::numEntries() const
 {
     assertReadEnabled("AcDbDictionary::numEntries");
-    return Adesk::UInt32(std::count_if(m_entries->entries.begin(), m_entries->entries.end(),
-                                       [](const auto& entry) { return !entry.stub->erased(); }));
+    return Adesk::UInt32(std::ranges::count_if(
+        m_internals->inOrder(), [](const auto& entry) { return !entry.stub->erased(); }));
 }

@@ -1,9 +1,9 @@
 #include <cmath>
 
 #include "dbapserv.h"
-#include "host/database/access.h"
 #include "host/database/drawing.h"
-#include "host/runtime/breach.h"
+#include "host/database/entitystyle.h"
+#include "host/database/packing.h"
 
 ACRX_DEFINE_MEMBERS(AcDbEntity, AcDbObject)
 
@@ -33,25 +33,9 @@ void AcDbEntity::setDatabaseDefaults(AcDbDatabase* database)
         return;
     }
     m_given = 0;
-    host::ObjectAccess::fillProperties(*this, host::currentOf(*database));
+    Internals::fill(*this, host::currentOf(*database));
     m_invisible = false;
     subentSetProperties();
-}
-
-void host::ObjectAccess::fillProperties(AcDbEntity& entity, const CurrentProperties& current)
-{
-    if (entity.m_given == allProperties)
-    {
-        return;
-    }
-    const auto isOpen = [&entity](Property property) { return (entity.m_given & property) == 0; };
-    entity.m_layer = isOpen(layerProperty) ? current.layer : entity.m_layer;
-    entity.m_linetype = isOpen(linetypeProperty) ? current.linetype : entity.m_linetype;
-    entity.m_color = isOpen(colorProperty) ? current.color : entity.m_color;
-    entity.m_lineWeight = isOpen(lineWeightProperty) ? current.lineWeight : entity.m_lineWeight;
-    entity.m_linetypeScale =
-        isOpen(linetypeScaleProperty) ? current.linetypeScale : entity.m_linetypeScale;
-    entity.m_given = allProperties;
 }
 
 Adesk::UInt16 AcDbEntity::colorIndex() const
@@ -92,7 +76,7 @@ Acad::ErrorStatus AcDbEntity::setColorIndex(Adesk::UInt16 color, Adesk::Boolean)
         return Acad::eInvalidInput;
     }
     m_color = color;
-    m_given |= host::colorProperty;
+    m_given |= Internals::color;
     return Acad::eOk;
 }
 
@@ -130,7 +114,7 @@ Acad::ErrorStatus AcDbEntity::setLayer(const ACHAR* name, Adesk::Boolean doSuben
         return Acad::eNoDatabase;
     }
     AcDbObjectId id;
-    const Acad::ErrorStatus status = lookUp(database->core().layerTable, name, id);
+    const Acad::ErrorStatus status = lookUp(host::coreOf(*database).layerTable, name, id);
     return status == Acad::eOk ? setLayer(id, doSubents, allowHiddenLayer) : status;
 }
 
@@ -142,7 +126,7 @@ Acad::ErrorStatus AcDbEntity::setLayer(AcDbObjectId id, Adesk::Boolean, bool)
         return Acad::eWrongObjectType;
     }
     m_layer = id.stub();
-    m_given |= host::layerProperty;
+    m_given |= Internals::layer;
     return Acad::eOk;
 }
 
@@ -154,7 +138,7 @@ Acad::ErrorStatus AcDbEntity::setLinetype(const ACHAR* name, Adesk::Boolean doSu
         return Acad::eNoDatabase;
     }
     AcDbObjectId id;
-    const Acad::ErrorStatus status = lookUp(database->core().linetypeTable, name, id);
+    const Acad::ErrorStatus status = lookUp(host::coreOf(*database).linetypeTable, name, id);
     return status == Acad::eOk ? setLinetype(id, doSubents) : status;
 }
 
@@ -166,7 +150,7 @@ Acad::ErrorStatus AcDbEntity::setLinetype(AcDbObjectId id, Adesk::Boolean)
         return Acad::eWrongObjectType;
     }
     m_linetype = id.stub();
-    m_given |= host::linetypeProperty;
+    m_given |= Internals::linetype;
     return Acad::eOk;
 }
 
@@ -180,7 +164,7 @@ Acad::ErrorStatus AcDbEntity::setLineWeight(AcDb::LineWeight weight, Adesk::Bool
         return Acad::eInvalidInput;
     }
     m_lineWeight = Adesk::Int16(weight);
-    m_given |= host::lineWeightProperty;
+    m_given |= Internals::lineWeight;
     return Acad::eOk;
 }
 
@@ -193,7 +177,7 @@ Acad::ErrorStatus AcDbEntity::setVisibility(AcDb::Visibility visibility, Adesk::
 
 Acad::ErrorStatus AcDbEntity::draw()
 {
-    if (AcDbStub* stub = host::ObjectAccess::stub(*this))
+    if (AcDbStub* stub = objectId().stub())
     {
         stub->flags |= AcDbStub::isDrawn;
     }

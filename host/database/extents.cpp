@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
+#include "host/database/polylinevertices.h"
 #include "host/database/textwidth.h"
 #include "host/geometry/finite.h"
 #include "host/geometry/ocs.h"
@@ -61,9 +62,9 @@ void addUnpacked(WorldExtents& extents, const AcDbObject& object)
     }
     else if (const AcDb2dPolyline* polyline = AcDb2dPolyline::cast(&object))
     {
-        for (int i = 0; i < polyline->numVertices(); ++i)
+        for (const AcGePoint3d& corner : cornersOf(*polyline))
         {
-            extents.add(polyline->vertexAt(i));
+            extents.add(corner);
         }
     }
 }

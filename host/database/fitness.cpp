@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/database/access.h"
+#include "host/database/polylinevertices.h"
 #include "host/geometry/finite.h"
 #include "host/geometry/ocs.h"
 
@@ -23,11 +23,12 @@ bool isFitText(const AcDbText& text)
            std::isfinite(text.widthFactor()) && isAngle(text.rotation()) && isAngle(text.oblique());
 }
 
-bool isFitPolyline(AcDb2dPolyline& polyline)
+bool isFitPolyline(const AcDb2dPolyline& polyline)
 {
     return std::isfinite(polyline.elevation()) && std::isfinite(polyline.defStartWidth()) &&
            std::isfinite(polyline.defEndWidth()) &&
-           std::ranges::all_of(ObjectAccess::vertices(polyline), [](const AcDb2dVertex* vertex)
+           std::ranges::all_of(PolylineVertices::of(polyline).vertices(),
+                               [](const AcDb2dVertex* vertex)
                                { return isFinite(vertex->position()); });
 }
 }  // namespace
@@ -56,7 +57,7 @@ bool isFit(const AcDbEntity& entity)
     {
         return isFitText(*text);
     }
-    AcDb2dPolyline* polyline = AcDb2dPolyline::cast(const_cast<AcDbEntity*>(&entity));
+    const AcDb2dPolyline* polyline = AcDb2dPolyline::cast(&entity);
     return polyline == nullptr || isFitPolyline(*polyline);
 }
 }  // namespace host

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "gelnsg3d.h"
+#include "host/database/polylinevertices.h"
 #include "host/geometry/intersect.h"
 
 namespace host
@@ -37,11 +38,12 @@ void meet(const StraightPiece& asking, const AcGePoint3d& start, const AcGePoint
 void meetPolyline(const StraightPiece& asking, const AcDb2dPolyline& polyline,
                   std::vector<Crossing>& found)
 {
-    const int corners = polyline.numVertices();
-    const int segments = polyline.isClosed() ? corners : corners - 1;
-    for (int i = 0; i < segments; ++i)
+    const std::vector<AcGePoint3d>& corners = cornersOf(polyline);
+    const std::size_t count = corners.size();
+    const std::size_t segments = polyline.isClosed() || count == 0 ? count : count - 1;
+    for (std::size_t i = 0; i < segments; ++i)
     {
-        meet(asking, polyline.vertexAt(i), polyline.vertexAt((i + 1) % corners), false, found);
+        meet(asking, corners[i], corners[(i + 1) % count], false, found);
     }
 }
 }  // namespace

@@ -1,4 +1,4 @@
-#include "host/database/access.h"
+#include "host/database/core.h"
 
 ACRX_DEFINE_MEMBERS(AcDbLayerTableRecord, AcDbSymbolTableRecord)
 
@@ -7,8 +7,7 @@ namespace
 // So that the change can be taken back.
 void remember(AcDbLayerTableRecord& layer)
 {
-    host::coreOf(layer.objectId().stub())
-        .layerLog.push_back({&layer, layer.isFrozen(), layer.isLocked(), layer.isOff()});
+    host::coreOf(layer.objectId().stub()).layerLog.push_back({&layer, host::flagsOf(layer)});
 }
 }  // namespace
 

@@ -4,12 +4,30 @@
 
 #include "gelnsg3d.h"
 #include "host/database/intersections.h"
+#include "host/database/polylinevertices.h"
 
 ACRX_DEFINE_MEMBERS(AcDbMPolygon, AcDbEntity)
 
 namespace
 {
 typedef std::vector<AcGePoint3d> Loop;
+}  // namespace
+
+// WCS, each loop with three corners or more.
+struct AcDbMPolygon::Internals
+{
+    std::vector<Loop> loops;
+};
+
+AcDbMPolygon::AcDbMPolygon() : m_internals(new Internals()) {}
+
+AcDbMPolygon::~AcDbMPolygon()
+{
+    delete m_internals;
+}
+
+namespace
+{
 
 // Newell's normal: right for any planar loop, its length twice the area.
 AcGeVector3d areaVector(const Loop& loop)
@@ -87,24 +105,19 @@ Acad::ErrorStatus AcDbMPolygon::appendLoopFromBoundary(const AcDb2dPolyline* bou
                                                        bool excludeCrossing, double)
 {
     assertWriteEnabled("AcDbMPolygon::appendLoopFromBoundary");
-    if (boundary == nullptr || !boundary->isClosed() || boundary->numVertices() < 3)
+    if (boundary == nullptr || !boundary->isClosed() || host::cornersOf(*boundary).size() < 3)
     {
         return Acad::eInvalidInput;
     }
-    Loop loop;
-    loop.reserve(std::size_t(boundary->numVertices()));
-    for (int i = 0; i < boundary->numVertices(); ++i)
-    {
-        loop.push_back(boundary->vertexAt(i));
-    }
-    for (const Loop& other : m_loops)
+    const Loop& loop = host::cornersOf(*boundary);
+    for (const Loop& other : m_internals->loops)
     {
         if (excludeCrossing && crosses(loop, other))
         {
             return Acad::eInvalidInput;
         }
     }
-    m_loops.push_back(std::move(loop));
+    m_internals->loops.push_back(loop);
     return Acad::eOk;
 }
 
@@ -113,9 +126,10 @@ int AcDbMPolygon::isPointInsideMPolygon(const AcGePoint3d& worldPoint, AcGeIntAr
 {
     assertReadEnabled("AcDbMPolygon::isPointInsideMPolygon");
     loops.removeAll();
-    for (std::size_t i = 0; i < m_loops.size(); ++i)
+    for (std::size_t i = 0; i < m_internals->loops.size(); ++i)
     {
-        if (onLoop(m_loops[i], worldPoint, tol) || insideLoop(m_loops[i], worldPoint, tol))
+        const Loop& loop = m_internals->loops[i];
+        if (onLoop(loop, worldPoint, tol) || insideLoop(loop, worldPoint, tol))
         {
             loops.append(int(i));
         }
@@ -130,7 +144,7 @@ Acad::ErrorStatus AcDbMPolygon::transformBy(const AcGeMatrix3d& matrix)
     {
         return Acad::eCannotScaleNonUniformly;
     }
-    for (Loop& loop : m_loops)
+    for (Loop& loop : m_internals->loops)
     {
         for (AcGePoint3d& point : loop)
         {

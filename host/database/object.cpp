@@ -1,9 +1,9 @@
 #include <algorithm>
 
-#include "host/database/access.h"
+#include "dbents.h"
+#include "host/database/objectstate.h"
+#include "host/database/packing.h"
 #include "host/runtime/breach.h"
-
-using host::ObjectAccess;
 
 ACRX_DEFINE_MEMBERS(AcDbObject, AcRxObject)
 
@@ -92,7 +92,7 @@ bool onLockedLayer(const AcDbStub* stub)
 
 void noteClosed(AcDbObject* object)
 {
-    std::vector<AcDbObject*>& open = host::coreOf(ObjectAccess::stub(*object)).open;
+    std::vector<AcDbObject*>& open = host::coreOf(object->objectId().stub()).open;
     // What was opened last is mostly closed first.
     if (open.back() == object)
     {
@@ -203,46 +203,24 @@ Acad::ErrorStatus AcDbObject::erase(Adesk::Boolean erasing)
 
 namespace
 {
-Acad::ErrorStatus mayOpen(AcDbObject& object, AcDb::OpenMode mode, bool openOnLockedLayer)
+Acad::ErrorStatus mayOpen(const AcDbObject& object, AcDb::OpenMode mode, bool openOnLockedLayer)
 {
-    if (mode == AcDb::kForNotify)
-    {
-        return Acad::eNotImplementedYet;
-    }
-    if (ObjectAccess::forWrite(object))
-    {
-        return Acad::eWasOpenForWrite;
-    }
-    if (mode == AcDb::kForRead)
-    {
-        return ObjectAccess::readers(object) >= 256 ? Acad::eAtMaxReaders : Acad::eOk;
-    }
-    if (ObjectAccess::readers(object) > 0)
-    {
-        return Acad::eWasOpenForRead;
-    }
-    const bool locked = !openOnLockedLayer && onLockedLayer(ObjectAccess::stub(object));
-    return locked ? Acad::eOnLockedLayer : Acad::eOk;
+    const Acad::ErrorStatus status = host::ObjectState::mayOpen(object, mode);
+    const bool asksLayer = status == Acad::eOk && mode == AcDb::kForWrite && !openOnLockedLayer;
+    return asksLayer && onLockedLayer(object.objectId().stub()) ? Acad::eOnLockedLayer : status;
 }
 
 void markOpen(AcDbObject& object, AcDb::OpenMode mode)
 {
-    if (!ObjectAccess::isOpen(object))
+    if (host::ObjectState::open(object, mode))
     {
-        host::coreOf(ObjectAccess::stub(object)).open.push_back(&object);
+        host::coreOf(object.objectId().stub()).open.push_back(&object);
     }
-    ObjectAccess::forgiveClose(object) = false;
-    if (mode == AcDb::kForWrite)
-    {
-        ObjectAccess::forWrite(object) = true;
-        return;
-    }
-    ++ObjectAccess::readers(object);
 }
 }  // namespace
 
-Acad::ErrorStatus host::openObject(AcDbObject*& object, AcDbObjectId id, AcRxClass* type,
-                                   AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer)
+Acad::ErrorStatus acdbOpenOfClass(AcDbObject*& object, AcDbObjectId id, AcRxClass* type,
+                                  AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer)
 {
     object = nullptr;
     AcDbStub* stub = id.stub();
@@ -254,7 +232,7 @@ Acad::ErrorStatus host::openObject(AcDbObject*& object, AcDbObjectId id, AcRxCla
     {
         return Acad::eWasErased;
     }
-    const AcRxClass* actual = typeOf(stub);
+    const AcRxClass* actual = host::typeOf(stub);
     if (actual == nullptr)
     {
         return Acad::eNotImplementedYet;
@@ -264,7 +242,7 @@ Acad::ErrorStatus host::openObject(AcDbObject*& object, AcDbObjectId id, AcRxCla
         return Acad::eNotThatKindOfClass;
     }
     const bool wasPacked = stub->packed();
-    AcDbObject* found = resolve(stub);
+    AcDbObject* found = host::resolve(stub);
     const Acad::ErrorStatus status = mayOpen(*found, mode, openOnLockedLayer);
     if (status == Acad::eOk)
     {
@@ -273,7 +251,7 @@ Acad::ErrorStatus host::openObject(AcDbObject*& object, AcDbObjectId id, AcRxCla
     }
     else if (wasPacked)
     {
-        pack(found);
+        host::pack(found);
     }
     return status;
 }
@@ -281,7 +259,7 @@ Acad::ErrorStatus host::openObject(AcDbObject*& object, AcDbObjectId id, AcRxCla
 Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode mode,
                                      bool openErased)
 {
-    return host::openObject(object, id, AcDbObject::desc(), mode, openErased, false);
+    return acdbOpenOfClass(object, id, AcDbObject::desc(), mode, openErased, false);
 }
 
 Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, AcDbObjectId id, AcDb::OpenMode mode,

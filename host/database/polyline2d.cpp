@@ -3,12 +3,11 @@
 #include <memory>
 
 #include "dbents.h"
-#include "host/database/access.h"
+#include "host/database/core.h"
+#include "host/database/entitystyle.h"
 #include "host/database/fitness.h"
 #include "host/database/intersections.h"
-#include "host/geometry/ocs.h"
-
-using host::ObjectAccess;
+#include "host/database/polylinevertices.h"
 
 ACRX_DEFINE_MEMBERS(AcDb2dVertex, AcDbEntity)
 ACRX_DEFINE_MEMBERS(AcDb2dPolyline, AcDbCurve)
@@ -19,26 +18,25 @@ Acad::ErrorStatus AcDb2dVertex::transformBy(const AcGeMatrix3d&)
     return Acad::eNotApplicable;
 }
 
-AcDb2dPolyline::AcDb2dPolyline() {}
+AcDb2dPolyline::AcDb2dPolyline() : m_internals(new Internals()) {}
 
 AcDb2dPolyline::AcDb2dPolyline(AcDb::Poly2dType type, AcGePoint3dArray& vertices, double elevation,
                                Adesk::Boolean closed, double defStartWidth, double defEndWidth,
                                AcGeDoubleArray* bulges, AcArray<Adesk::Int32>*)
-    : m_elevation(elevation),
-      m_startWidth(defStartWidth),
-      m_endWidth(defEndWidth),
-      m_closed(closed != Adesk::kFalse)
+    : AcDb2dPolyline()
 {
+    m_elevation = elevation;
+    m_startWidth = defStartWidth;
+    m_endWidth = defEndWidth;
+    m_closed = closed != Adesk::kFalse;
     if (type != AcDb::k2dSimplePoly || bulges != nullptr)
     {
         return;
     }
     for (int i = 0; i < vertices.length(); ++i)
     {
-        m_vertices.push_back(
-            new AcDb2dVertex(AcGePoint3d(vertices[i].x, vertices[i].y, elevation)));
+        m_internals->add(AcGePoint3d(vertices[i].x, vertices[i].y, elevation));
     }
-    placePoints();
 }
 
 AcDb2dPolyline::~AcDb2dPolyline()
@@ -46,32 +44,18 @@ AcDb2dPolyline::~AcDb2dPolyline()
     // In a database the vertices are objects of their own.
     if (objectId().isNull())
     {
-        for (AcDb2dVertex* vertex : m_vertices)
-        {
-            delete vertex;
-        }
+        m_internals->deleteVertices();
     }
-}
-
-void AcDb2dPolyline::placePoints()
-{
-    const host::Ocs plane(normal());
-    m_points.clear();
-    for (const AcDb2dVertex* vertex : m_vertices)
-    {
-        m_points.push_back(plane.toWorld(vertex->m_position));
-    }
+    delete m_internals;
 }
 
 void AcDb2dPolyline::subentSetProperties()
 {
-    const host::LineStyle style = ObjectAccess::lineStyle(*this);
-    for (AcDb2dVertex* vertex : m_vertices)
+    host::LineStyle style = host::EntityStyle::styleOf(*this);
+    style.reactors = 0;
+    for (AcDb2dVertex* vertex : m_internals->vertices())
     {
-        host::LineStyle own = style;
-        own.owner = ObjectAccess::owner(*vertex);
-        own.reactors = 0;
-        ObjectAccess::applyStyle(*vertex, own);
+        host::EntityStyle::setStyle(*vertex, style);
     }
 }
 
@@ -107,7 +91,7 @@ AcDbObjectIterator* AcDb2dPolyline::vertexIterator() const
 {
     assertReadEnabled("AcDb2dPolyline::vertexIterator");
     auto iterator = std::make_unique<AcDbObjectIterator>();
-    for (const AcDb2dVertex* vertex : m_vertices)
+    for (const AcDb2dVertex* vertex : m_internals->vertices())
     {
         if (!vertex->objectId().isNull())
         {
@@ -178,11 +162,11 @@ Acad::ErrorStatus AcDb2dPolyline::erase(Adesk::Boolean erasing)
             host::coreOf(stub).erasedLog.push_back(stub);
         }
     };
-    for (AcDb2dVertex* vertex : m_vertices)
+    for (const AcDb2dVertex* vertex : m_internals->vertices())
     {
         eraseToo(vertex->objectId().stub());
     }
-    eraseToo(m_seqEnd);
+    eraseToo(m_internals->sequenceEnd);
     return Acad::eOk;
 }
 
@@ -195,7 +179,7 @@ Acad::ErrorStatus AcDb2dPolyline::transformBy(const AcGeMatrix3d& matrix)
     }
     // The points are moved as they are in the world, so that far from the origin no vertex picks up
     // the rounding of a trip through the plane's system.
-    std::vector<AcGePoint3d> moved = m_points;
+    std::vector<AcGePoint3d> moved = m_internals->points();
     for (AcGePoint3d& point : moved)
     {
         point.transformBy(matrix);
@@ -207,27 +191,15 @@ Acad::ErrorStatus AcDb2dPolyline::transformBy(const AcGeMatrix3d& matrix)
         return Acad::eInvalidInput;
     }
     setNormal(up);
-    takePoints(std::move(moved));
+    m_elevation = m_internals->moveTo(std::move(moved), up, m_elevation);
     subentSetProperties();
     return Acad::eOk;
-}
-
-void AcDb2dPolyline::takePoints(std::vector<AcGePoint3d> points)
-{
-    m_points = std::move(points);
-    const host::Ocs plane(normal());
-    for (std::size_t i = 0; i < m_points.size(); ++i)
-    {
-        const AcGePoint3d flat = plane.toObject(m_points[i]);
-        m_elevation = i == 0 ? flat.z : m_elevation;
-        m_vertices[i]->m_position.set(flat.x, flat.y, m_elevation);
-    }
 }
 
 Acad::ErrorStatus AcDb2dPolyline::getStretchPoints(AcGePoint3dArray& points) const
 {
     assertReadEnabled("AcDb2dPolyline::getStretchPoints");
-    for (const AcGePoint3d& point : m_points)
+    for (const AcGePoint3d& point : m_internals->points())
     {
         points.append(point);
     }
@@ -242,7 +214,8 @@ Acad::ErrorStatus AcDb2dPolyline::getClosestPointTo(const AcGePoint3d& given, Ac
     {
         return Acad::eNotImplementedYet;
     }
-    const std::size_t corners = m_points.size();
+    const std::vector<AcGePoint3d>& points = m_internals->points();
+    const std::size_t corners = points.size();
     if (corners < 2)
     {
         return Acad::eInvalidInput;
@@ -252,7 +225,7 @@ Acad::ErrorStatus AcDb2dPolyline::getClosestPointTo(const AcGePoint3d& given, Ac
     for (std::size_t i = 0; i < segments; ++i)
     {
         const AcGePoint3d near =
-            host::closestOnSegment(m_points[i], m_points[(i + 1) % corners], given);
+            host::closestOnSegment(points[i], points[(i + 1) % corners], given);
         const double distance = near.distanceTo(given);
         if (distance < best)
         {

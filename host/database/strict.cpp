@@ -1,22 +1,22 @@
 #include "host/database/strict.h"
 
-#include "host/database/access.h"
+#include "host/database/objectstate.h"
+#include "host/database/packing.h"
 #include "host/runtime/breach.h"
 
 namespace host
 {
 void requireNothingOpen(AcDbDatabase& database, std::string_view call)
 {
-    std::vector<AcDbObject*>& open = database.core().open;
+    std::vector<AcDbObject*>& open = coreOf(database).open;
     while (!open.empty())
     {
         AcDbObject* object = open.back();
-        if (!ObjectAccess::refused(*object))
+        if (!ObjectState::wasRefused(*object))
         {
             breach(call, "the " + describe(*object) + " was left open");
         }
-        ObjectAccess::readers(*object) = 1;
-        object->close();
+        ObjectState::closeForAll(*object);
     }
 }
 }  // namespace host

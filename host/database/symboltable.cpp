@@ -1,11 +1,9 @@
 #include "dbsymtb.h"
 
-#include <cwchar>
-
 #include "acutmem.h"
-#include "host/database/access.h"
 #include "host/database/drawing.h"
-#include "host/runtime/foldcase.h"
+#include "host/database/recordnames.h"
+#include "host/database/tablerecords.h"
 
 ACRX_DEFINE_MEMBERS(AcDbSymbolTableRecord, AcDbObject)
 ACRX_DEFINE_MEMBERS(AcDbSymbolTable, AcDbObject)
@@ -29,10 +27,10 @@ Acad::ErrorStatus AcDbSymbolTableRecord::getName(const ACHAR*& name) const
     return Acad::eOk;
 }
 
-AcDbSymbolTable::AcDbSymbolTable() : m_names(new Names()) {}
+AcDbSymbolTable::AcDbSymbolTable() : m_internals(new Internals()) {}
 AcDbSymbolTable::~AcDbSymbolTable()
 {
-    delete m_names;
+    delete m_internals;
 }
 
 Acad::ErrorStatus AcDbSymbolTable::getAt(const ACHAR* name, AcDbObjectId& id,
@@ -43,21 +41,16 @@ Acad::ErrorStatus AcDbSymbolTable::getAt(const ACHAR* name, AcDbObjectId& id,
     {
         return Acad::eInvalidInput;
     }
-    if (m_names->last == nullptr || std::wcscmp(m_names->lastName.c_str(), name) != 0)
+    AcDbStub* const record = m_internals->find(name);
+    if (record == nullptr)
     {
-        const auto found = m_names->byFoldedName.find(host::foldCase(name));
-        if (found == m_names->byFoldedName.end())
-        {
-            return Acad::eKeyNotFound;
-        }
-        m_names->last = found->second;
-        m_names->lastName = name;
+        return Acad::eKeyNotFound;
     }
-    if (m_names->last->erased() && !getErasedRecord)
+    if (record->erased() && !getErasedRecord)
     {
         return Acad::eDeletedEntry;
     }
-    id = AcDbObjectId(m_names->last);
+    id = AcDbObjectId(record);
     return Acad::eOk;
 }
 
@@ -85,7 +78,7 @@ void AcDbSymbolTable::fillIterator(AcDbSymbolTableIterator& iterator, bool atBeg
                                    bool skipErased) const
 {
     assertReadEnabled("AcDbSymbolTable::newIterator");
-    for (AcDbStub* stub : m_names->order)
+    for (AcDbStub* stub : m_internals->inOrder())
     {
         iterator.m_ids.append(AcDbObjectId(stub));
     }
@@ -136,46 +129,46 @@ Acad::ErrorStatus AcDbSymbolTableIterator::openRecord(AcDbObject*& record, AcDb:
     return status == Acad::eOk ? acdbOpenAcDbObject(record, id, mode, openErased) : status;
 }
 
-namespace host
-{
 template <>
-AcDbObjectId tableIdFor<AcDbLayerTable>(const AcDbDatabase* database)
+AcDbObjectId acdbTableIdFor<AcDbLayerTable>(const AcDbDatabase* database)
 {
     return database->layerTableId();
 }
 
 template <>
-AcDbObjectId tableIdFor<AcDbLayerTableRecord>(const AcDbDatabase* database)
+AcDbObjectId acdbTableIdFor<AcDbLayerTableRecord>(const AcDbDatabase* database)
 {
     return database->layerTableId();
 }
 
 template <>
-AcDbObjectId tableIdFor<AcDbLinetypeTable>(const AcDbDatabase* database)
+AcDbObjectId acdbTableIdFor<AcDbLinetypeTable>(const AcDbDatabase* database)
 {
     return database->linetypeTableId();
 }
 
 template <>
-AcDbObjectId tableIdFor<AcDbTextStyleTable>(const AcDbDatabase* database)
+AcDbObjectId acdbTableIdFor<AcDbTextStyleTable>(const AcDbDatabase* database)
 {
     return database->textStyleTableId();
 }
 
 template <>
-AcDbObjectId tableIdFor<AcDbTextStyleTableRecord>(const AcDbDatabase* database)
+AcDbObjectId acdbTableIdFor<AcDbTextStyleTableRecord>(const AcDbDatabase* database)
 {
     return database->textStyleTableId();
 }
 
+namespace host
+{
 std::wstring recordName(const AcDbObjectId& id)
 {
     if (id.isNull())
     {
         return std::wstring();
     }
-    AcDbSymbolTableRecord* record = AcDbSymbolTableRecord::cast(id.stub()->object);
-    return record != nullptr ? ObjectAccess::name(*record) : std::wstring();
+    const AcDbSymbolTableRecord* record = AcDbSymbolTableRecord::cast(id.stub()->object);
+    return record != nullptr ? AcDbSymbolTableRecord::Internals::name(*record) : std::wstring();
 }
 
 AcDbObjectId findRecord(const AcDbObjectId& table, const std::wstring& name)

@@ -1,24 +1,38 @@
 #include <cmath>
+#include <cwchar>
 
 #include "dbents.h"
-#include "host/database/access.h"
-#include "host/database/drawing.h"
 #include "host/database/fitness.h"
 #include "host/database/intersections.h"
+#include "host/database/packing.h"
 #include "host/geometry/ocs.h"
 
 ACRX_DEFINE_MEMBERS(AcDbText, AcDbEntity)
 
-AcDbText::AcDbText() {}
+namespace
+{
+ACHAR* copyOf(const ACHAR* text)
+{
+    const std::size_t units = std::wcslen(text) + 1;
+    return std::wmemcpy(new ACHAR[units], text, units);
+}
+}  // namespace
+
+AcDbText::AcDbText() : m_text(copyOf(L"")) {}
 
 AcDbText::AcDbText(const AcGePoint3d& position, const ACHAR* text, AcDbObjectId style,
                    double height, double rotation)
     : m_position(position),
-      m_text(text != nullptr ? text : L""),
+      m_text(copyOf(text != nullptr ? text : L"")),
       m_style(style.stub()),
       m_height(height),
       m_rotation(rotation)
 {
+}
+
+AcDbText::~AcDbText()
+{
+    delete[] m_text;
 }
 
 bool AcDbText::positionRules() const
@@ -125,7 +139,9 @@ Acad::ErrorStatus AcDbText::setTextString(const ACHAR* text)
     {
         return Acad::eInvalidInput;
     }
-    m_text = text;
+    ACHAR* const copy = copyOf(text);  // before the old one goes: text may be that
+    delete[] m_text;
+    m_text = copy;
     return Acad::eOk;
 }
 
@@ -184,7 +200,7 @@ Acad::ErrorStatus AcDbText::adjustAlignment(const AcDbDatabase*)
         return Acad::eOk;
     }
     // Six sevenths of the height is the mean advance of a letter in the host's stroke fonts.
-    const double width = double(m_text.size()) * m_height * m_widthFactor * 6 / 7;
+    const double width = double(std::wcslen(m_text)) * m_height * m_widthFactor * 6 / 7;
     const double across = -anchorAcross(m_horizontal) * width;
     const double up = -anchorAbove(m_horizontal, m_vertical) * m_height;
     const double c = std::cos(m_rotation);

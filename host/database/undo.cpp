@@ -1,22 +1,15 @@
 #include "host/database/undo.h"
 
-#include "host/database/access.h"
-
 namespace host
 {
 UndoMark undoMark(const AcDbDatabase& database)
 {
-    const DatabaseCore& core = database.core();
+    const DatabaseCore& core = coreOf(database);
     return {core.stubs.size(), core.erasedLog.size(), core.layerLog.size(), core.current};
 }
 
 namespace
 {
-LayerFlags flagsOf(AcDbLayerTableRecord* layer)
-{
-    return {layer, layer->isFrozen(), layer->isLocked(), layer->isOff()};
-}
-
 UndoneChanges changesSince(const DatabaseCore& core, const UndoMark& mark)
 {
     UndoneChanges changes{mark, {}, {}, {}, {}, core.current};
@@ -28,9 +21,9 @@ UndoneChanges changesSince(const DatabaseCore& core, const UndoMark& mark)
                              core.erasedLog.end());
     changes.layerLog.assign(core.layerLog.begin() + std::ptrdiff_t(mark.layers),
                             core.layerLog.end());
-    for (const LayerFlags& before : changes.layerLog)
+    for (const ChangedLayer& before : changes.layerLog)
     {
-        changes.layers.push_back(flagsOf(before.layer));
+        changes.layers.push_back({before.layer, flagsOf(*before.layer)});
     }
     return changes;
 }
@@ -38,7 +31,7 @@ UndoneChanges changesSince(const DatabaseCore& core, const UndoMark& mark)
 
 UndoneChanges undoTo(AcDbDatabase& database, const UndoMark& mark)
 {
-    DatabaseCore& core = database.core();
+    DatabaseCore& core = coreOf(database);
     UndoneChanges changes = changesSince(core, mark);
     for (std::size_t i = mark.erased; i < core.erasedLog.size(); ++i)
     {
@@ -50,7 +43,7 @@ UndoneChanges undoTo(AcDbDatabase& database, const UndoMark& mark)
     }
     while (core.layerLog.size() > mark.layers)
     {
-        ObjectAccess::setLayerFlags(core.layerLog.back());
+        setFlags(*core.layerLog.back().layer, core.layerLog.back().flags);
         core.layerLog.pop_back();
     }
     core.erasedLog.resize(mark.erased);
@@ -60,7 +53,7 @@ UndoneChanges undoTo(AcDbDatabase& database, const UndoMark& mark)
 
 void redo(AcDbDatabase& database, const UndoneChanges& changes)
 {
-    DatabaseCore& core = database.core();
+    DatabaseCore& core = coreOf(database);
     for (AcDbStub* stub : changes.erasedLog)
     {
         stub->setErased(true);
@@ -69,9 +62,9 @@ void redo(AcDbDatabase& database, const UndoneChanges& changes)
     {
         core.stubs[changes.mark.stubs + i].setErased(changes.erased[i]);
     }
-    for (const LayerFlags& flags : changes.layers)
+    for (const ChangedLayer& changed : changes.layers)
     {
-        ObjectAccess::setLayerFlags(flags);
+        setFlags(*changed.layer, changed.flags);
     }
     core.erasedLog.insert(core.erasedLog.end(), changes.erasedLog.begin(), changes.erasedLog.end());
     core.layerLog.insert(core.layerLog.end(), changes.layerLog.begin(), changes.layerLog.end());

@@ -21,8 +21,8 @@ struct UndoneChanges
     UndoMark mark;
     std::vector<bool> erased;  // of the objects made since the mark, as they were
     std::vector<AcDbStub*> erasedLog;
-    std::vector<LayerFlags> layerLog;
-    std::vector<LayerFlags> layers;  // as they were
+    std::vector<ChangedLayer> layerLog;
+    std::vector<ChangedLayer> layers;  // as they were
     CurrentProperties current;
 };
 

@@ -13,8 +13,8 @@ Result<OpenedDrawing> openDrawing(const std::string& path, const Progress& progr
     try
     {
         auto database = std::make_unique<AcDbDatabase>();
-        dxf::load(database->core(), dxf::TagFile::read(path, progress));
-        const std::string repairs = dxf::sourceOf(database->core()).file.repairs();
+        dxf::load(coreOf(*database), dxf::TagFile::read(path, progress));
+        const std::string repairs = dxf::sourceOf(coreOf(*database)).file.repairs();
         return OpenedDrawing{std::move(database), repairs};
     }
     catch (const dxf::Error& error)
@@ -30,25 +30,25 @@ Result<OpenedDrawing> openDrawing(const std::string& path, const Progress& progr
 std::unique_ptr<AcDbDatabase> newDrawing()
 {
     auto database = std::make_unique<AcDbDatabase>();
-    dxf::load(database->core(), dxf::TagFile::fromText(dxf::emptyDrawing(), "new drawing"));
+    dxf::load(coreOf(*database), dxf::TagFile::fromText(dxf::emptyDrawing(), "new drawing"));
     return database;
 }
 
 std::vector<std::string> lossesOnSaving(const AcDbDatabase& database)
 {
-    return dxf::lossesOnSaving(database.core());
+    return dxf::lossesOnSaving(coreOf(database));
 }
 
 std::uint64_t digestOfChanges(AcDbDatabase& database)
 {
-    return dxf::digestOfChanges(database.core());
+    return dxf::digestOfChanges(coreOf(database));
 }
 
 Result<> saveDrawing(AcDbDatabase& database, const std::string& path, const Progress& progress)
 {
     try
     {
-        dxf::save(database.core(), path, progress);
+        dxf::save(coreOf(database), path, progress);
         return Done{};
     }
     catch (const std::bad_alloc&)

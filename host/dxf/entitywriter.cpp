@@ -7,6 +7,9 @@
 #include <utility>
 
 #include "host/database/drawing.h"
+#include "host/database/entitystyle.h"
+#include "host/database/packing.h"
+#include "host/database/polylinevertices.h"
 #include "host/geometry/ocs.h"
 
 namespace host::dxf
@@ -99,14 +102,14 @@ void EntityWriter::writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, Ta
     {
         const AcGePoint3d a = line->startPoint();
         const AcGePoint3d b = line->endPoint();
-        writer.record(makeLineForm(ObjectAccess::lineStyle(*line)), stub.handle,
+        writer.record(makeLineForm(EntityStyle::styleOf(*line)), stub.handle,
                       {a.x, a.y, a.z, b.x, b.y, b.z});
     }
     else if (const AcDbText* text = AcDbText::cast(stub.object))
     {
         writeText(*text, writer);
     }
-    else if (AcDb2dPolyline* polyline = AcDb2dPolyline::cast(stub.object))
+    else if (const AcDb2dPolyline* polyline = AcDb2dPolyline::cast(stub.object))
     {
         writePolyline(*polyline, writer);
     }
@@ -253,8 +256,8 @@ void EntityWriter::writeText(const AcDbText& text, TagWriter& writer)
 {
     const Ocs plane(text.normal());
     writer.text(0, "TEXT");
-    writeHandle(ObjectAccess::stub(text)->handle, writer);
-    writeCommon(ObjectAccess::lineStyle(text), writer);
+    writeHandle(text.objectId().stub()->handle, writer);
+    writeCommon(EntityStyle::styleOf(text), writer);
     writeSubclass("AcDbText", writer);
     writePoint(10, plane.toObject(text.position()), writer);
     writer.real(40, text.height());
@@ -282,11 +285,12 @@ void EntityWriter::writeText(const AcDbText& text, TagWriter& writer)
     }
 }
 
-void EntityWriter::writePolyline(AcDb2dPolyline& polyline, TagWriter& writer)
+void EntityWriter::writePolyline(const AcDb2dPolyline& polyline, TagWriter& writer)
 {
-    const LineStyle style = ObjectAccess::lineStyle(polyline);
+    const LineStyle style = EntityStyle::styleOf(polyline);
+    const PolylineVertices& vertices = PolylineVertices::of(polyline);
     writer.text(0, "POLYLINE");
-    writeHandle(ObjectAccess::stub(polyline)->handle, writer);
+    writeHandle(polyline.objectId().stub()->handle, writer);
     writeCommon(style, writer);
     writeSubclass("AcDb2dPolyline", writer);
     writer.integer(66, 1);
@@ -296,19 +300,19 @@ void EntityWriter::writePolyline(AcDb2dPolyline& polyline, TagWriter& writer)
     writeRealUnless(0, 40, polyline.defStartWidth(), writer);
     writeRealUnless(0, 41, polyline.defEndWidth(), writer);
     writeNormal(polyline.normal(), writer);
-    for (const AcDb2dVertex* vertex : ObjectAccess::vertices(polyline))
+    for (const AcDb2dVertex* vertex : vertices.vertices())
     {
         writer.text(0, "VERTEX");
-        writeHandle(ObjectAccess::stub(*vertex)->handle, writer);
-        writeCommon(ObjectAccess::lineStyle(*vertex), writer);
+        writeHandle(vertex->objectId().stub()->handle, writer);
+        writeCommon(EntityStyle::styleOf(*vertex), writer);
         writeSubclass("AcDbVertex", writer);
         writeSubclass("AcDb2dVertex", writer);
         writePoint(10, vertex->position(), writer);
         writer.integer(70, 0);
     }
     writer.text(0, "SEQEND");
-    writeHandle(ObjectAccess::seqEnd(polyline)->handle, writer);
-    writeOwner(ObjectAccess::stub(polyline)->handle, writer);
+    writeHandle(vertices.sequenceEnd->handle, writer);
+    writeOwner(polyline.objectId().stub()->handle, writer);
     writeSubclass("AcDbEntity", writer);
     writer.text(8, nameOf(style.layer));
 }

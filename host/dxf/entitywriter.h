@@ -4,7 +4,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "host/database/access.h"
+#include "dbents.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/tagwriter.h"
 
@@ -26,7 +26,7 @@ private:
     void writeAll(const AcDbStub* owner, TagWriter& writer, const AcDbStub*& last);
     void writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, TagWriter& writer);
     void writeText(const AcDbText& text, TagWriter& writer);
-    void writePolyline(AcDb2dPolyline& polyline, TagWriter& writer);
+    void writePolyline(const AcDb2dPolyline& polyline, TagWriter& writer);
 
     const RecordForm& lineForm(std::uint32_t style);
     RecordForm makeLineForm(const LineStyle& style);

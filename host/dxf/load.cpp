@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/database/access.h"
+#include "host/database/dictionaryentries.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/loadstate.h"
 #include "host/runtime/foldcase.h"
@@ -61,7 +61,7 @@ void loadLayer(DatabaseCore& core, FileSource& source, const Record& record)
     const bool frozen = fields.flags & 1;
     const bool locked = fields.flags & 4;
     const bool off = fields.color < 0;
-    ObjectAccess::setLayerFlags({layer, frozen, locked, off});
+    setFlags(*layer, {frozen, locked, off});
     source.layers.push_back({&record, layer, frozen, locked, off});
 }
 
@@ -70,8 +70,7 @@ void loadTextStyle(DatabaseCore& core, const FileSource& source, const Record& r
     const Fields fields = fieldsOf(source, record);
     auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, fields.name,
                                                                  record.handle);
-    ObjectAccess::setTextStyle(*style, fields.oblique * M_PI / 180, fields.widthFactor,
-                               fields.size);
+    setTextStyle(*style, fields.oblique * M_PI / 180, fields.widthFactor, fields.size);
 }
 
 void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record& record)
@@ -80,7 +79,7 @@ void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record&
     auto* block = core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, name, record.handle);
     if (equalNoCase(name, ACDB_MODEL_SPACE))
     {
-        core.modelSpace = ObjectAccess::stub(*block);
+        core.modelSpace = block->objectId().stub();
     }
 }
 
@@ -139,7 +138,7 @@ void ensure(DatabaseCore& core, FileSource& source, AcDbStub* table, std::string
     if (!static_cast<AcDbSymbolTable*>(table->object)->has(name.c_str()))
     {
         auto* record = core.addLoadedRecord<Record>(table, name, 0);
-        source.added.push_back({type, ObjectAccess::stub(*record)});
+        source.added.push_back({type, record->objectId().stub()});
     }
 }
 
@@ -150,7 +149,7 @@ void completeTables(DatabaseCore& core, FileSource& source)
     {
         auto* space =
             core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, ACDB_MODEL_SPACE, 0);
-        core.modelSpace = ObjectAccess::stub(*space);
+        core.modelSpace = space->objectId().stub();
     }
     ensure<AcDbLayerTableRecord>(core, source, core.layerTable, "LAYER", L"0");
     ensure<AcDbTextStyleTableRecord>(core, source, core.textStyleTable, "STYLE", L"Standard");
@@ -212,17 +211,10 @@ void loadGroupDictionary(DatabaseCore& core, FileSource& source)
     {
         return;
     }
-    AcDbDictionary::Entries& entries = ObjectAccess::entries(*dictionary);
+    DictionaryEntries& entries = DictionaryEntries::of(*dictionary);
     forEachEntry(source, *record,
                  [&](const std::wstring& key, std::uint64_t handle)
-                 {
-                     entries.entries.push_back({key, core.addForeign(handle), true});
-                     if (key.size() > 2 && key.compare(0, 2, L"*A") == 0)
-                     {
-                         const unsigned long number = std::wcstoul(key.c_str() + 2, nullptr, 10);
-                         entries.lastAnonymous = std::max(entries.lastAnonymous, unsigned(number));
-                     }
-                 });
+                 { entries.addLoaded(key, core.addForeign(handle)); });
 }
 }  // namespace
 

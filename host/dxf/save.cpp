@@ -3,8 +3,10 @@
 #include <map>
 #include <optional>
 
-#include "host/database/access.h"
+#include "host/database/dictionaryentries.h"
 #include "host/database/drawing.h"
+#include "host/database/groupmembers.h"
+#include "host/database/packing.h"
 #include "host/dxf/entitywriter.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/livestubs.h"
@@ -138,11 +140,10 @@ void saveEntities(Edits& edits, const FileSource& source, const LiveStubs& live,
     }
 }
 
-void writeGroup(const AcDbDictionary::Entries::Entry& entry, std::uint64_t dictionary,
+void writeGroup(const DictionaryEntries::Entry& entry, std::uint64_t dictionary,
                 const FileSource& source, TagWriter& writer)
 {
-    const AcDbGroup::Members& members =
-        ObjectAccess::members(*static_cast<AcDbGroup*>(entry.stub->object));
+    const GroupMembers& members = GroupMembers::of(*static_cast<AcDbGroup*>(entry.stub->object));
     writer.text(0, "GROUP");
     writer.handle(5, entry.stub->handle);
     writer.text(102, "{ACAD_REACTORS");
@@ -156,7 +157,7 @@ void writeGroup(const AcDbDictionary::Entries::Entry& entry, std::uint64_t dicti
     writer.text(300, source.codePage.encode(members.description));
     writer.integer(70, members.anonymous ? 1 : 0);
     writer.integer(71, members.selectable ? 1 : 0);
-    for (const AcDbStub* member : members.stubs)
+    for (const AcDbStub* member : members.inOrder())
     {
         if (!member->erased())
         {
@@ -165,13 +166,13 @@ void writeGroup(const AcDbDictionary::Entries::Entry& entry, std::uint64_t dicti
     }
 }
 
-typedef std::vector<AcDbDictionary::Entries::Entry> NewGroups;
+typedef std::vector<DictionaryEntries::Entry> NewGroups;
 
 NewGroups newGroups(const DatabaseCore& core)
 {
     NewGroups groups;
-    for (const auto& entry :
-         ObjectAccess::entries(*static_cast<AcDbDictionary*>(core.groupDictionary->object)).entries)
+    const auto* dictionary = static_cast<AcDbDictionary*>(core.groupDictionary->object);
+    for (const auto& entry : DictionaryEntries::of(*dictionary).inOrder())
     {
         if (!entry.loaded && !entry.stub->erased())
         {

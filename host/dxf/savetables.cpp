@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <set>
 
-#include "host/database/access.h"
+#include "dbents.h"
 #include "host/database/drawing.h"
+#include "host/database/entitystyle.h"
 #include "host/runtime/foldcase.h"
 
 namespace host::dxf
@@ -27,7 +28,7 @@ Stubs namedRecords(const DatabaseCore& core, const LiveStubs& live)
         }
         else if (const AcDbEntity* entity = AcDbEntity::cast(stub->object))
         {
-            add(ObjectAccess::lineStyle(*entity));
+            add(EntityStyle::styleOf(*entity));
             const AcDbText* text = AcDbText::cast(entity);
             named.insert(text != nullptr ? text->textStyle().stub() : nullptr);
         }

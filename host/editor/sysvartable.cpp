@@ -207,7 +207,7 @@ WorldExtents extents(Context at)
 {
     if (!at.state.paperSpace)
     {
-        return modelExtents(at.document.database()->core());
+        return modelExtents(coreOf(*at.document.database()));
     }
     const auto corner = [&](const wchar_t* name, const AcGePoint3d& fallback)
     {

@@ -40,7 +40,7 @@ std::optional<FileKind> kindOf(const std::string& path)
 dxf::TagFile asSaved(AcDbDatabase& database, const Progress& progress)
 {
     std::string text;
-    dxf::withChanges(database.core(),
+    dxf::withChanges(coreOf(database),
                      [&text](const dxf::Edits& edits)
                      {
                          dxf::TagWriter writer([&text](std::string_view bytes) { text += bytes; },
@@ -84,7 +84,7 @@ Result<Plotted> plotDrawing(AcDbDatabase& database, const std::string& path,
         const dxf::TagFile file = asSaved(database, partOf(progress, 0, 0.2));
         Scene scene(file);
         const Result<std::string> bytes =
-            plotted(scene, database.core().state.view, *kind, partOf(progress, 0.2, 1));
+            plotted(scene, stateOf(database).view, *kind, partOf(progress, 0.2, 1));
         if (!bytes)
         {
             return Failure{path + ": cannot be drawn: " + bytes.failure().line};

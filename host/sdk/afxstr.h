@@ -1,8 +1,6 @@
 // MFC's text class, Unicode form.
 #pragma once
 
-#include <string>
-
 #include "windows.h"
 
 // Text of UTF-16 units; all positions and lengths count units. Texts that are given are copied. A
@@ -11,23 +9,26 @@
 class CStringW
 {
 public:
-    CStringW() {}
-    CStringW(LPCWSTR text) : m_text(text != nullptr ? text : L"") {}
-    CStringW(LPCWSTR text, int length) : m_text(text, length) {}
-    explicit CStringW(wchar_t unit, int count = 1) : m_text(count, unit) {}
+    CStringW();
+    CStringW(LPCWSTR text);
+    CStringW(LPCWSTR text, int length);
+    explicit CStringW(wchar_t unit, int count = 1);
+    CStringW(const CStringW& text);
+    ~CStringW();
 
+    CStringW& operator=(const CStringW& text);
     CStringW& operator=(LPCWSTR text);
     CStringW& operator=(wchar_t unit);
 
-    operator LPCWSTR() const { return m_text.c_str(); }
-    LPCWSTR GetString() const { return m_text.c_str(); }
-    int GetLength() const { return static_cast<int>(m_text.size()); }
-    bool IsEmpty() const { return m_text.empty(); }
-    void Empty() { m_text.clear(); }
+    operator LPCWSTR() const { return GetString(); }
+    LPCWSTR GetString() const;
+    int GetLength() const;
+    bool IsEmpty() const { return GetLength() == 0; }
+    void Empty();
 
-    wchar_t GetAt(int index) const { return m_text[index]; }
-    wchar_t operator[](int index) const { return m_text[index]; }
-    void SetAt(int index, wchar_t unit) { m_text[index] = unit; }
+    wchar_t GetAt(int index) const { return GetString()[index]; }
+    wchar_t operator[](int index) const { return GetString()[index]; }
+    void SetAt(int index, wchar_t unit);
 
     // Replaces the text by what the wide printf of the platform makes: %s takes a wide text, %S a
     // narrow one. The text itself may be among the arguments.
@@ -80,8 +81,10 @@ public:
     LPWSTR GetBuffer(int length = 0);
     void ReleaseBuffer(int length = -1);
 
+    struct Internals;  // the host's own
+
 private:
-    std::wstring m_text;
+    Internals* m_internals;
 };
 
 typedef CStringW CString;

@@ -1,8 +1,6 @@
 // Area bounded by loops; the part of the MPolygon enabler that tells inside from outside.
 #pragma once
 
-#include <vector>
-
 #include "dbents.h"
 #include "gegbl.h"
 
@@ -14,6 +12,10 @@ class AcDbMPolygon : public AcDbEntity
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbMPolygon)
+
+    // Without loops.
+    AcDbMPolygon();
+    ~AcDbMPolygon();
 
     // Adds a copy of the boundary as a loop [write]. The boundary need not be in a database; tol
     // has no effect. eInvalidInput for a null boundary, for one that is open or has fewer than
@@ -29,6 +31,8 @@ public:
     // As said in AcDbEntity.
     Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
+    struct Internals;  // the host's own
+
 private:
-    std::vector<std::vector<AcGePoint3d>> m_loops;
+    Internals* m_internals;
 };

@@ -28,9 +28,8 @@ public:
     // How many entries there are [read]; erased ones do not count.
     Adesk::UInt32 numEntries() const;
 
-    struct Entries;  // the host's own
+    struct Internals;  // the host's own
 
 private:
-    friend struct host::ObjectAccess;
-    Entries* m_entries;
+    Internals* m_internals;
 };

@@ -1,9 +1,6 @@
 // Lines, 2D polylines and texts.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "acarray.h"
 #include "dbcurve.h"
 
@@ -37,9 +34,9 @@ public:
                                         Adesk::Boolean extend = Adesk::kFalse) const override;
     Adesk::Boolean isClosed() const override { return Adesk::kFalse; }
 
-private:
-    friend struct host::ObjectAccess;
+    struct Internals;  // the host's own
 
+private:
     AcGePoint3d m_start;
     AcGePoint3d m_end;
 };
@@ -139,20 +136,12 @@ public:
                                         Adesk::Boolean extend = Adesk::kFalse) const override;
     Adesk::Boolean isClosed() const override { return m_closed; }
 
-    // The host's own: corner `index` in WCS, without a heap allocation.
-    int numVertices() const { return int(m_vertices.size()); }
-    AcGePoint3d vertexAt(int index) const { return m_points[std::size_t(index)]; }
+    struct Internals;  // the host's own
 
 private:
-    friend struct host::ObjectAccess;
-
     void subentSetProperties() override;
-    void placePoints();
-    void takePoints(std::vector<AcGePoint3d> points);  // WCS, in the plane of the normal
 
-    std::vector<AcDb2dVertex*> m_vertices;
-    std::vector<AcGePoint3d> m_points;  // the vertices in WCS
-    AcDbStub* m_seqEnd = nullptr;
+    Internals* m_internals;
     double m_elevation = 0;
     double m_startWidth = 0;
     double m_endWidth = 0;
@@ -176,6 +165,7 @@ public:
     AcDbText();
     AcDbText(const AcGePoint3d& position, const ACHAR* text,
              AcDbObjectId style = AcDbObjectId::kNull, double height = 0, double rotation = 0);
+    ~AcDbText();
 
     // Left end of its baseline and the point that it is aligned to [wcs].
     AcGePoint3d position() const { return m_position; }
@@ -190,7 +180,7 @@ public:
     // Width of the letters as a multiple of that of the style's font.
     double widthFactor() const { return m_widthFactor; }
     // The text [borrowed], good until it is changed.
-    const ACHAR* textStringConst() const { return m_text.c_str(); }
+    const ACHAR* textStringConst() const { return m_text; }
     // Where the alignment point lies in the text.
     AcDb::TextHorzMode horizontalMode() const { return m_horizontal; }
     AcDb::TextVertMode verticalMode() const { return m_vertical; }
@@ -230,7 +220,7 @@ private:
 
     AcGePoint3d m_position;
     AcGePoint3d m_alignment;
-    std::wstring m_text;
+    ACHAR* m_text;
     AcDbStub* m_style = nullptr;
     double m_height = 0;
     double m_rotation = 0;

@@ -32,9 +32,8 @@ public:
     Adesk::UInt32 numEntities() const;
     Adesk::UInt32 allEntityIds(AcDbObjectIdArray& ids) const;
 
-    struct Members;  // the host's own
+    struct Internals;  // the host's own
 
 private:
-    friend struct host::ObjectAccess;
-    Members* m_members;
+    Internals* m_internals;
 };

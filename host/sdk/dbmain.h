@@ -16,12 +16,6 @@ class AcDbLayerTable;
 class AcDbLinetypeTable;
 class AcDbTextStyleTable;
 
-namespace host
-{
-struct ObjectAccess;
-class DatabaseCore;
-}  // namespace host
-
 // One drawing. It owns every object in it; every pointer and id that it gives is [borrowed] and
 // good until the drawing is closed. A module does not make one: it asks the document or the host.
 class AcDbDatabase
@@ -51,13 +45,13 @@ public:
     AcDbObjectId textstyle() const;
     AcDbObjectId celtype() const;
 
-    host::DatabaseCore& core() const { return *m_core; }  // the host's own
+    struct Internals;  // the host's own
 
 private:
     AcDbDatabase(const AcDbDatabase&);
     AcDbDatabase& operator=(const AcDbDatabase&);
 
-    host::DatabaseCore* m_core;
+    Internals* m_internals;
 };
 
 // An object of the database, or one that is still to enter it.
@@ -105,6 +99,8 @@ public:
     // eNotInDatabase for a new object, eWasErased when it is in that state already.
     virtual Acad::ErrorStatus erase(Adesk::Boolean erasing = Adesk::kTrue);
 
+    struct Internals;  // the host's own
+
 protected:
     // End the run unless the object is open, or open for write. `call` is the name that the line on
     // standard error tells.
@@ -112,8 +108,6 @@ protected:
     void assertWriteEnabled(const char* call) const;
 
 private:
-    friend struct host::ObjectAccess;
-
     AcDbStub* m_stub;
     AcDbStub* m_owner;
     unsigned short m_readers;  // at most 256
@@ -200,6 +194,8 @@ public:
                                             Adesk::GsMarker thisMarker = 0,
                                             Adesk::GsMarker otherMarker = 0) const;
 
+    struct Internals;  // the host's own
+
 protected:
     // Sets the normal, which has to be a unit vector.
     void setNormal(const AcGeVector3d& normal) { m_normal = normal; }
@@ -207,8 +203,6 @@ protected:
     virtual void subentSetProperties() {}
 
 private:
-    friend struct host::ObjectAccess;
-
     AcDbStub* m_layer;
     AcDbStub* m_linetype;
     AcGeVector3d m_normal;
@@ -231,12 +225,9 @@ Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb:
 Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, AcDbObjectId id, AcDb::OpenMode mode,
                                      bool openErased = false);
 
-namespace host
-{
 // acdbOpenAcDbObject for a class; also through a locked layer when asked.
-Acad::ErrorStatus openObject(AcDbObject*& object, AcDbObjectId id, AcRxClass* type,
-                             AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer);
-}  // namespace host
+Acad::ErrorStatus acdbOpenOfClass(AcDbObject*& object, AcDbObjectId id, AcRxClass* type,
+                                  AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer);
 
 // The same for one class T: an object of another class is eNotThatKindOfClass.
 template <class T>
@@ -245,7 +236,7 @@ Acad::ErrorStatus acdbOpenObject(T*& object, AcDbObjectId id, AcDb::OpenMode mod
 {
     AcDbObject* opened = nullptr;
     const Acad::ErrorStatus status =
-        host::openObject(opened, id, T::desc(), mode, openErased, false);
+        acdbOpenOfClass(opened, id, T::desc(), mode, openErased, false);
     object = static_cast<T*>(opened);
     return status;
 }

@@ -44,7 +44,7 @@ protected:
     void openById(AcDbObjectId id, AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer)
     {
         AcDbObject* opened = nullptr;
-        m_status = host::openObject(opened, id, T::desc(), mode, openErased, openOnLockedLayer);
+        m_status = acdbOpenOfClass(opened, id, T::desc(), mode, openErased, openOnLockedLayer);
         m_object = static_cast<T*>(opened);
     }
     // Notes why nothing was opened.
@@ -91,7 +91,7 @@ public:
             this->fail(Acad::eNoDatabase);
             return;
         }
-        this->openById(host::tableIdFor<T>(database), mode, false, false);
+        this->openById(acdbTableIdFor<T>(database), mode, false, false);
     }
 };
 
@@ -116,7 +116,7 @@ public:
             this->fail(Acad::eNoDatabase);
             return;
         }
-        openByName(name, host::tableIdFor<T>(database), mode, openErased);
+        openByName(name, acdbTableIdFor<T>(database), mode, openErased);
     }
 
 private:

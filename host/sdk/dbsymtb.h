@@ -16,8 +16,9 @@ public:
     // Sets name to the record's own text [borrowed] [read], good while the drawing is open; eOk.
     Acad::ErrorStatus getName(const ACHAR*& name) const;
 
+    struct Internals;  // the host's own
+
 private:
-    friend struct host::ObjectAccess;
     const wchar_t* m_name = L"";  // lives as long as the database
 };
 
@@ -54,8 +55,6 @@ class AcDbSymbolTable : public AcDbObject
 public:
     ACRX_DECLARE_MEMBERS(AcDbSymbolTable)
 
-    struct Names;  // the host's own
-
     // An empty table; the host makes and fills it. Its records are the database's and stay.
     AcDbSymbolTable();
     ~AcDbSymbolTable();
@@ -68,6 +67,8 @@ public:
     // Whether getAt finds the name.
     bool has(const ACHAR* name) const;
 
+    struct Internals;  // the host's own
+
 protected:
     // The work of AcDbTableOf::getAt and AcDbTableOf::newIterator [read].
     Acad::ErrorStatus openAt(const ACHAR* name, AcDbObject*& record, AcDb::OpenMode mode,
@@ -75,8 +76,7 @@ protected:
     void fillIterator(AcDbSymbolTableIterator& iterator, bool atBeginning, bool skipErased) const;
 
 private:
-    friend struct host::ObjectAccess;
-    Names* m_names;
+    Internals* m_internals;
 };
 
 // A block: model space, a sheet, or what an insert repeats.
@@ -110,8 +110,9 @@ public:
     void setIsLocked(bool locked);
     void setIsOff(bool off);
 
+    struct Internals;  // the host's own
+
 private:
-    friend struct host::ObjectAccess;
     bool m_frozen = false;
     bool m_locked = false;
     bool m_off = false;
@@ -137,8 +138,9 @@ public:
     // Height of its texts in drawing units; 0 when each text has its own.
     double textSize() const { return m_textSize; }
 
+    struct Internals;  // the host's own
+
 private:
-    friend struct host::ObjectAccess;
     double m_oblique = 0;
     double m_xScale = 1;
     double m_textSize = 0;
@@ -221,9 +223,6 @@ public:
     ACRX_DECLARE_MEMBERS(AcDbTextStyleTable)
 };
 
-namespace host
-{
 // Ids of a database's tables by the class of table or record, for the smart pointers.
 template <class T>
-AcDbObjectId tableIdFor(const AcDbDatabase* database);
-}  // namespace host
+AcDbObjectId acdbTableIdFor(const AcDbDatabase* database);

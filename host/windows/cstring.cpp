@@ -3,9 +3,15 @@
 #include <algorithm>
 #include <cstdarg>
 #include <cwchar>
+#include <string>
 
 #include "tchar.h"
 #include "host/windows/format.h"
+
+struct CStringW::Internals
+{
+    std::wstring text;
+};
 
 namespace
 {
@@ -25,68 +31,115 @@ int position(std::size_t found)
 }
 }  // namespace
 
+CStringW::CStringW() : m_internals(new Internals()) {}
+
+CStringW::CStringW(LPCWSTR text) : m_internals(new Internals{orEmpty(text)}) {}
+
+CStringW::CStringW(LPCWSTR text, int length)
+    : m_internals(new Internals{std::wstring(text, std::size_t(length))})
+{
+}
+
+CStringW::CStringW(wchar_t unit, int count)
+    : m_internals(new Internals{std::wstring(std::size_t(count), unit)})
+{
+}
+
+CStringW::CStringW(const CStringW& text) : m_internals(new Internals(*text.m_internals)) {}
+
+CStringW::~CStringW()
+{
+    delete m_internals;
+}
+
+CStringW& CStringW::operator=(const CStringW& text)
+{
+    m_internals->text = text.m_internals->text;
+    return *this;
+}
+
 CStringW& CStringW::operator=(LPCWSTR text)
 {
-    m_text = orEmpty(text);
+    m_internals->text = orEmpty(text);
     return *this;
 }
 
 CStringW& CStringW::operator=(wchar_t unit)
 {
-    m_text.assign(1, unit);
+    m_internals->text.assign(1, unit);
     return *this;
+}
+
+LPCWSTR CStringW::GetString() const
+{
+    return m_internals->text.c_str();
+}
+
+int CStringW::GetLength() const
+{
+    return int(m_internals->text.size());
+}
+
+void CStringW::Empty()
+{
+    m_internals->text.clear();
+}
+
+void CStringW::SetAt(int index, wchar_t unit)
+{
+    m_internals->text[std::size_t(index)] = unit;
 }
 
 void CStringW::Format(LPCWSTR format, ...)
 {
     std::va_list arguments;
     va_start(arguments, format);
-    m_text = host::formatWide(format, arguments);
+    m_internals->text = host::formatWide(format, arguments);
     va_end(arguments);
 }
 
 CStringW& CStringW::operator+=(const CStringW& text)
 {
-    m_text += text.m_text;
+    m_internals->text += text.m_internals->text;
     return *this;
 }
 
 CStringW& CStringW::operator+=(LPCWSTR text)
 {
-    m_text += orEmpty(text);
+    m_internals->text += orEmpty(text);
     return *this;
 }
 
 CStringW& CStringW::operator+=(wchar_t unit)
 {
-    m_text += unit;
+    m_internals->text += unit;
     return *this;
 }
 
 int CStringW::Compare(LPCWSTR text) const
 {
-    return std::wcscmp(m_text.c_str(), orEmpty(text));
+    return std::wcscmp(m_internals->text.c_str(), orEmpty(text));
 }
 
 int CStringW::CompareNoCase(LPCWSTR text) const
 {
-    return _wcsicmp(m_text.c_str(), orEmpty(text));
+    return _wcsicmp(m_internals->text.c_str(), orEmpty(text));
 }
 
 // A start below zero lies beyond every text when it is taken without its sign.
 int CStringW::Find(LPCWSTR text, int start) const
 {
-    return text == nullptr ? -1 : position(m_text.find(text, start));
+    return text == nullptr ? -1 : position(m_internals->text.find(text, start));
 }
 
 int CStringW::Find(wchar_t unit, int start) const
 {
-    return position(m_text.find(unit, start));
+    return position(m_internals->text.find(unit, start));
 }
 
 int CStringW::ReverseFind(wchar_t unit) const
 {
-    return position(m_text.rfind(unit));
+    return position(m_internals->text.rfind(unit));
 }
 
 CStringW CStringW::Left(int count) const
@@ -103,7 +156,7 @@ CStringW CStringW::Mid(int first, int count) const
 {
     const std::size_t from = std::clamp(first, 0, GetLength());
     CStringW part;
-    part.m_text = m_text.substr(from, std::max(count, 0));
+    part.m_internals->text = m_internals->text.substr(from, std::max(count, 0));
     return part;
 }
 
@@ -147,13 +200,13 @@ CStringW& CStringW::TrimRight(wchar_t unit)
 
 CStringW& CStringW::TrimLeft(LPCWSTR set)
 {
-    m_text.erase(0, m_text.find_first_not_of(orEmpty(set)));
+    m_internals->text.erase(0, m_internals->text.find_first_not_of(orEmpty(set)));
     return *this;
 }
 
 CStringW& CStringW::TrimRight(LPCWSTR set)
 {
-    m_text.erase(m_text.find_last_not_of(orEmpty(set)) + 1);
+    m_internals->text.erase(m_internals->text.find_last_not_of(orEmpty(set)) + 1);
     return *this;
 }
 
@@ -162,10 +215,10 @@ int CStringW::Replace(LPCWSTR from, LPCWSTR to)
     const std::wstring old = orEmpty(from);
     const std::wstring replacement = orEmpty(to);
     int count = 0;
-    std::size_t at = old.empty() ? std::wstring::npos : m_text.find(old);
-    for (; at != std::wstring::npos; at = m_text.find(old, at + replacement.size()))
+    std::size_t at = old.empty() ? std::wstring::npos : m_internals->text.find(old);
+    for (; at != std::wstring::npos; at = m_internals->text.find(old, at + replacement.size()))
     {
-        m_text.replace(at, old.size(), replacement);
+        m_internals->text.replace(at, old.size(), replacement);
         ++count;
     }
     return count;
@@ -173,20 +226,22 @@ int CStringW::Replace(LPCWSTR from, LPCWSTR to)
 
 int CStringW::Replace(wchar_t from, wchar_t to)
 {
-    const int count = from != to ? int(std::count(m_text.begin(), m_text.end(), from)) : 0;
-    std::replace(m_text.begin(), m_text.end(), from, to);
+    const int count =
+        from != to ? int(std::count(m_internals->text.begin(), m_internals->text.end(), from)) : 0;
+    std::replace(m_internals->text.begin(), m_internals->text.end(), from, to);
     return count;
 }
 
 LPWSTR CStringW::GetBuffer(int length)
 {
-    m_text.resize(std::max(length, GetLength()));
-    return &m_text[0];
+    m_internals->text.resize(std::max(length, GetLength()));
+    return &m_internals->text[0];
 }
 
 void CStringW::ReleaseBuffer(int length)
 {
-    m_text.resize(length >= 0 ? std::size_t(length) : std::wcslen(m_text.c_str()));
+    m_internals->text.resize(length >= 0 ? std::size_t(length)
+                                         : std::wcslen(m_internals->text.c_str()));
 }
 
 CStringW operator+(const CStringW& left, const CStringW& right)

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <span>
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "host/database/drawing.h"
 #include "tests/command/scriptededitor.h"
 
@@ -224,12 +224,12 @@ TEST(GridCommand, anyOtherAnswerRebuildsTheGrid)
         const auto note = [&]
         {
             first = editor.contents();
-            objects = editor.database->core().stubs.size();
+            objects = host::coreOf(*editor.database).stubs.size();
         };
         const auto compare = [&]
         {
             EXPECT_EQ(editor.contents(), first);
-            EXPECT_EQ(editor.database->core().stubs.size(), objects + first.lines);
+            EXPECT_EQ(host::coreOf(*editor.database).stubs.size(), objects + first.lines);
         };
         editor.run({point(0, 0), point(300, 200), looking(answer, note), looking(esc, compare)});
         EXPECT_GT(first.lines, 0);
@@ -432,7 +432,7 @@ TEST(GridCommand, escErasesTheGridInItsOrderAndThenTheOutline)
     std::vector<AcDbStub*> standing;
     const auto note = [&]
     {
-        host::StubArena& stubs = editor.database->core().stubs;
+        host::StubArena& stubs = host::coreOf(*editor.database).stubs;
         for (std::size_t i = 0; i < stubs.size(); ++i)
         {
             if (host::typeOf(&stubs[i]) == AcDbLine::desc())
@@ -442,7 +442,7 @@ TEST(GridCommand, escErasesTheGridInItsOrderAndThenTheOutline)
         }
     };
     editor.run({point(0, 0), point(300, 200), looking(esc, note)});
-    const std::vector<AcDbStub*>& erased = editor.database->core().erasedLog;
+    const std::vector<AcDbStub*>& erased = host::coreOf(*editor.database).erasedLog;
     ASSERT_GT(standing.size(), 1u);
     ASSERT_GT(erased.size(), standing.size());
     EXPECT_TRUE(std::ranges::equal(standing, std::span(erased).first(standing.size())));
@@ -474,7 +474,7 @@ TEST(GridCommand, savesItsFileAsItWasWhenTheCommandBegan)
 std::set<std::wstring> textStyles(const AcDbDatabase& database)
 {
     std::set<std::wstring> names;
-    const host::StubArena& stubs = database.core().stubs;
+    const host::StubArena& stubs = host::coreOf(database).stubs;
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {
         AcDbText* text = nullptr;
@@ -500,7 +500,7 @@ TEST(GridCommand, labelsAreDrawnInTheDrawingsTextStyle)
                            {nullptr, L"Standard"}})
     {
         ScriptedEditor editor;
-        host::DatabaseCore& core = editor.database->core();
+        host::DatabaseCore& core = host::coreOf(*editor.database);
         core.current.textStyle = nullptr;
         if (row.currentStyle != nullptr)
         {
@@ -565,7 +565,7 @@ TEST(GridCommand, cornersAreTakenInTheCoordinateSystemOfTheScreen)
     AcGePoint3dArray outline;
     const auto look = [&]
     {
-        const host::StubArena& stubs = editor.database->core().stubs;
+        const host::StubArena& stubs = host::coreOf(*editor.database).stubs;
         for (std::size_t i = 0; i < stubs.size(); ++i)
         {
             AcDb2dPolyline* polyline = nullptr;

@@ -8,7 +8,7 @@
 
 #include "app/entry.h"
 #include "command/gridcommand.h"
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "host/database/strict.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
@@ -113,7 +113,7 @@ ScriptedAnswer ScriptedEditor::next(const std::wstring& call)
 Contents ScriptedEditor::contents() const
 {
     Contents contents;
-    const host::StubArena& stubs = database->core().stubs;
+    const host::StubArena& stubs = host::coreOf(*database).stubs;
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {
         AcDbStub& stub = stubs[i];

@@ -6,6 +6,7 @@
 
 #include "dbMPolygon.h"
 #include "dbobjptr.h"
+#include "host/database/polylinevertices.h"
 #include "tests/support/emptydrawing.h"
 
 namespace
@@ -410,7 +411,7 @@ TEST(Entity, ofADrawingIsNotMadeUnfitToBeSaved)
     AcDbObjectPointer<AcDb2dPolyline> outline(ids[2], AcDb::kForWrite);
     EXPECT_EQ(outline->transformBy(faraway()), Acad::eInvalidInput);
     EXPECT_EQ(outline->elevation(), 7);
-    EXPECT_TRUE(outline->vertexAt(2) == AcGePoint3d(1, 1, 7));
+    EXPECT_TRUE(host::cornersOf(*outline)[2] == AcGePoint3d(1, 1, 7));
 }
 
 // Engines compute with entities that are never seen.

@@ -6,7 +6,7 @@
 #include "dbdict.h"
 #include "dbgroup.h"
 #include "dbobjptr.h"
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "host/database/undo.h"
 #include "tests/support/emptydrawing.h"
 

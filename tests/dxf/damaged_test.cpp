@@ -22,7 +22,7 @@ std::string opening(const std::string& bytes)
     try
     {
         AcDbDatabase database;
-        load(database.core(), TagFile::fromText(bytes, "FILE"));
+        load(host::coreOf(database), TagFile::fromText(bytes, "FILE"));
         return "read";
     }
     catch (const Error& error)

@@ -11,7 +11,7 @@
 #include "dbdict.h"
 #include "dbgroup.h"
 #include "dbobjptr.h"
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "host/database/undo.h"
 #include "host/dxf/binaryform.h"
 #include "host/dxf/emptydrawing.h"
@@ -334,19 +334,19 @@ TEST_F(Drawing, withoutAGroupDictionaryOneIsMade)
 TEST_F(Drawing, aSeedThatLeavesNoRoomIsNotTrusted)
 {
     const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\nFFFFFFFFFFFFFFFF");
-    EXPECT_EQ(database->core().nextHandle, 0x2Au);
+    EXPECT_EQ(host::coreOf(*database).nextHandle, 0x2Au);
 }
 
 TEST_F(Drawing, aSeedBelowTheHighestHandleIsNotTrusted)
 {
     const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\n3");
-    EXPECT_EQ(database->core().nextHandle, 0x2Au);
+    EXPECT_EQ(host::coreOf(*database).nextHandle, 0x2Au);
 }
 
 TEST_F(Drawing, aSeedAboveTheHighestHandleIsKeptTo)
 {
     const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\n1000");
-    EXPECT_EQ(database->core().nextHandle, 0x1000u);
+    EXPECT_EQ(host::coreOf(*database).nextHandle, 0x1000u);
 }
 
 std::string corner(const std::string& name, const std::string& x, const std::string& y)
@@ -357,8 +357,9 @@ std::string corner(const std::string& name, const std::string& x, const std::str
 void addLine(AcDbDatabase& database, const AcGePoint3d& start, const AcGePoint3d& end)
 {
     AcDbBlockTableRecord* space = nullptr;
-    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(database.core().modelSpace), AcDb::kForWrite),
-              Acad::eOk);
+    ASSERT_EQ(
+        acdbOpenObject(space, AcDbObjectId(host::coreOf(database).modelSpace), AcDb::kForWrite),
+        Acad::eOk);
     auto* line = new AcDbLine(start, end);
     space->appendAcDbEntity(line);
     line->close();
@@ -454,7 +455,7 @@ TEST_F(Drawing, theExtentsAreMeasuredAndThoseOfTheHeaderCountWhereThatIsNotPossi
             opened(replaced(stated, corner("EXTMAX", "-1e+20", "-1e+20") + "-1e+20",
                             corner("EXTMAX", "100.0", "100.0") + "0.0"));
         host::dxf::setMeasure(row.measure);
-        const host::WorldExtents extents = host::modelExtents(database->core());
+        const host::WorldExtents extents = host::modelExtents(host::coreOf(*database));
         host::dxf::setMeasure(nullptr);
         EXPECT_TRUE(extents.low.isEqualTo(row.low)) << extents.low.x << "," << extents.low.y;
         EXPECT_TRUE(extents.high.isEqualTo(row.high)) << extents.high.x << "," << extents.high.y;
@@ -497,7 +498,7 @@ TEST_F(Drawing, anEntityThatCannotBeSavedIsNamed)
     AcDbLine* line = nullptr;
     ASSERT_EQ(acdbOpenObject(line, lines.addLine(0, 0, 1, 1), AcDb::kForWrite), Acad::eOk);
     line->setColorIndex(1);
-    host::ObjectAccess::setPoints(*line, AcGePoint3d(), AcGePoint3d(NAN, 0, 0));
+    AcDbLine::Internals::place(*line, AcGePoint3d(), AcGePoint3d(NAN, 0, 0));
     line->close();
     EXPECT_EQ(host::saveDrawing(lines.database(), path.string()).failure().line,
               path.string() + ": cannot be saved: the AcDbLine" + rest);

@@ -228,7 +228,7 @@ void drawALine()
 std::size_t linesIn(const AcDbDatabase& database)
 {
     std::size_t lines = 0;
-    const host::StubArena& stubs = database.core().stubs;
+    const host::StubArena& stubs = host::coreOf(database).stubs;
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {
         lines += (stubs[i].flags & AcDbStub::isLine) != 0 && !stubs[i].erased();

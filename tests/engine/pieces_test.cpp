@@ -1,6 +1,6 @@
 #include "engine/pieces.h"
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "tests/engine/gridtest.h"
 #include "tests/support/letgo.h"
 

@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "tests/engine/gridtest.h"
 #include "tests/support/letgo.h"
 
@@ -137,7 +137,7 @@ TEST_F(UcsGrid, theTestRectangleIsNeverSeenAndLiesInThePlane)
 {
     pickSheet();
     build();
-    const host::StubArena& stubs = database().core().stubs;
+    const host::StubArena& stubs = host::coreOf(database()).stubs;
     int seen = 0;
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {

@@ -1,7 +1,7 @@
 #include <cmath>
 #include <map>
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "tests/engine/gridtest.h"
 #include "tests/support/letgo.h"
 

@@ -6,7 +6,7 @@
 #include "dbents.h"
 #include "dbgroup.h"
 #include "dbsymtb.h"
-#include "host/database/access.h"
+#include "host/database/objectstate.h"
 #include "tests/faults/callthatfails.h"
 
 // Documents and databases.
@@ -53,7 +53,7 @@ STATUS_CALL(failClose, "_ZN10AcDbObject5closeEv", "AcDbObject::close", (AcDbObje
             Acad::eWasNotifying)
 
 STATUS_CALL(failOpenObject,
-            "_ZN4host10openObjectERP10AcDbObject12AcDbObjectIdP9AcRxClassN4AcDb8OpenModeEbb",
+            "_Z15acdbOpenOfClassRP10AcDbObject12AcDbObjectIdP9AcRxClassN4AcDb8OpenModeEbb",
             "AcDbObjectPointer",
             (AcDbObject * &object, AcDbObjectId id, AcRxClass* type, AcDb::OpenMode mode,
              bool erased, bool locked),
@@ -63,11 +63,11 @@ STATUS_CALL(failOpenEntity, "_Z18acdbOpenAcDbEntityRP10AcDbEntity12AcDbObjectIdN
             (AcDbEntity * &entity, AcDbObjectId id, AcDb::OpenMode mode, bool erased),
             (entity, id, mode, erased), entity = nullptr, REFUSED_OPENINGS)
 STATUS_CALL(failUpgrade, "_ZN10AcDbObject11upgradeOpenEv", "AcDbObject::upgradeOpen",
-            (AcDbObject * self), (self), host::ObjectAccess::refused(*self) = true,
+            (AcDbObject * self), (self), host::ObjectState::noteRefusal(*self),
             Acad::eOnLockedLayer, Acad::eHadMultipleReaders, Acad::eWasOpenForWrite)
 STATUS_CALL(failErase, "_ZN10AcDbObject5eraseEi", "AcDbObject::erase",
             (AcDbObject * self, Adesk::Boolean erasing), (self, erasing),
-            host::ObjectAccess::refused(*self) = true, Acad::eWasErased, Acad::eNotInDatabase,
+            host::ObjectState::noteRefusal(*self), Acad::eWasErased, Acad::eNotInDatabase,
             Acad::eIsWriteProtected)
 STATUS_CALL(failTableGetAt, "_ZNK15AcDbSymbolTable5getAtEPKwR12AcDbObjectIdb",
             "AcDbSymbolTable::getAt",

@@ -6,7 +6,7 @@
 #include "dbents.h"
 #include "dbgroup.h"
 #include "dbsymtb.h"
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "host/database/drawing.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/save_atomic.h"
@@ -24,7 +24,7 @@ constexpr std::size_t newEntities = 2;
 std::string saved(AcDbDatabase& database)
 {
     std::string bytes;
-    withChanges(database.core(),
+    withChanges(host::coreOf(database),
                 [&bytes](const Edits& edits)
                 {
                     writeTags(
@@ -67,10 +67,9 @@ void addGrid(AcDbDatabase& database)
 
 void switchLayers(AcDbDatabase& database)
 {
-    for (const LoadedLayer& loaded : sourceOf(database.core()).layers)
+    for (const LoadedLayer& loaded : sourceOf(host::coreOf(database)).layers)
     {
-        host::ObjectAccess::setLayerFlags(
-            {loaded.layer, !loaded.frozen, !loaded.locked, !loaded.off});
+        host::setFlags(*loaded.layer, {!loaded.frozen, !loaded.locked, !loaded.off});
     }
 }
 
@@ -91,7 +90,7 @@ void turn(host::DrawingState& state)
 std::unique_ptr<AcDbDatabase> opened(std::string_view bytes)
 {
     auto database = std::make_unique<AcDbDatabase>();
-    load(database->core(), TagFile::fromText(bytes, "FILE"));
+    load(host::coreOf(*database), TagFile::fromText(bytes, "FILE"));
     return database;
 }
 
@@ -111,7 +110,7 @@ std::string refusal(std::string_view bytes)
 
 std::string complaintAboutChanges(AcDbDatabase& database)
 {
-    const std::size_t before = sourceOf(database.core()).file.records("ENTITIES").size();
+    const std::size_t before = sourceOf(host::coreOf(database)).file.records("ENTITIES").size();
     addGrid(database);
     switchLayers(database);
     turn(host::stateOf(database));
@@ -137,9 +136,9 @@ void look(const TagFile& file)
 
 std::string complaintAboutSaving(std::string_view bytes, AcDbDatabase& database)
 {
-    look(sourceOf(database.core()).file);
+    look(sourceOf(host::coreOf(database)).file);
     const std::string unchanged = saved(database);
-    if (sourceOf(database.core()).file.repairedRecords().empty() && unchanged != bytes)
+    if (sourceOf(host::coreOf(database)).file.repairedRecords().empty() && unchanged != bytes)
     {
         return "saved unchanged it has other bytes";
     }

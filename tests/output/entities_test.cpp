@@ -1,6 +1,6 @@
 #include "output/entities.h"
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "output/labels.h"
 #include "tests/support/letgo.h"
 #include "tests/support/opendrawing.h"
@@ -21,13 +21,13 @@ protected:
     // A second layer, so that a test can tell it from the current one.
     AcDbLayerTableRecord* addLayer(const wchar_t* name)
     {
-        host::DatabaseCore& core = database().core();
+        host::DatabaseCore& core = host::coreOf(database());
         return core.addLoadedRecord<AcDbLayerTableRecord>(core.layerTable, name, core.nextHandle++);
     }
     template <class Record>
     void addErased(AcDbStub* table, const wchar_t* name)
     {
-        host::DatabaseCore& core = database().core();
+        host::DatabaseCore& core = host::coreOf(database());
         const AcDbObjectId id =
             core.addLoadedRecord<Record>(table, name, core.nextHandle++)->objectId();
         AcDbObjectPointer<Record>(id, AcDb::kForWrite)->erase();
@@ -84,7 +84,7 @@ TEST_F(Entities, aLineLooksAsTheGridLinesDo)
                           EXPECT_EQ(line.lineWeight(), AcDb::kLnWtByLayer);
                           EXPECT_EQ(linetypeOf(line), L"Continuous");
                           EXPECT_EQ(host::recordName(line.layerId()), L"0");
-                          EXPECT_EQ(line.ownerId().stub(), database().core().modelSpace);
+                          EXPECT_EQ(line.ownerId().stub(), host::coreOf(database()).modelSpace);
                           return 0;
                       });
 }
@@ -118,7 +118,7 @@ TEST_F(Entities, linetypesAreFoundOnlyWhenTheyAreLoaded)
     EXPECT_FALSE(linetypeExists(nullptr));
     EXPECT_FALSE(linetypeExists(L"NoSuchDashes"));
     EXPECT_TRUE(linetypeExists(L"Continuous"));
-    addErased<AcDbLinetypeTableRecord>(database().core().linetypeTable, L"Dashed");
+    addErased<AcDbLinetypeTableRecord>(host::coreOf(database()).linetypeTable, L"Dashed");
     EXPECT_FALSE(linetypeExists(L"Dashed"));
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
     EXPECT_FALSE(linetypeExists(L"Continuous"));
@@ -127,7 +127,7 @@ TEST_F(Entities, linetypesAreFoundOnlyWhenTheyAreLoaded)
 TEST_F(Entities, aLayerIsThawedUnlockedAndTurnedOnBeforeAnEntityIsPutOnIt)
 {
     AcDbLayerTableRecord* const walls = addLayer(L"Walls");
-    host::ObjectAccess::setLayerFlags({walls, true, true, true});
+    host::setFlags(*walls, {true, true, true});
     const AcDbObjectId line =
         addLine(true, {0, 0, 0}, {1, 0, 0}, 1, L"walls", nullptr, ACDB_MODEL_SPACE);
     EXPECT_FALSE(layer(L"Walls").isFrozen());
@@ -140,7 +140,7 @@ TEST_F(Entities, aLayerIsThawedUnlockedAndTurnedOnBeforeAnEntityIsPutOnIt)
 
 TEST_F(Entities, aLayerIsOnlyLookedAtWhenItNeedNotBeMadeUsable)
 {
-    host::ObjectAccess::setLayerFlags({addLayer(L"Walls"), true, true, true});
+    host::setFlags(*addLayer(L"Walls"), {true, true, true});
     EXPECT_TRUE(makeLayerUsable(L"Walls", false));
     EXPECT_TRUE(layer(L"Walls").isFrozen());
     EXPECT_TRUE(layer(L"Walls").isLocked());
@@ -266,7 +266,7 @@ TEST_F(Entities, nothingIsMadeWithoutADrawingOrWithoutTheBlock)
     AcDbLine loose({0, 0, 0}, {1, 0, 0});
     EXPECT_EQ(appendToBlock(&loose, id, L"NoSuchBlock"), Acad::eKeyNotFound);
     EXPECT_TRUE(addLine(true, {0, 0, 0}, {1, 0, 0}, 1, nullptr, nullptr, L"NoSuchBlock").isNull());
-    addErased<AcDbBlockTableRecord>(database().core().blockTable, L"Gone");
+    addErased<AcDbBlockTableRecord>(host::coreOf(database()).blockTable, L"Gone");
     EXPECT_EQ(appendToBlock(&loose, id, L"Gone"), Acad::eWasErased);
     EXPECT_EQ(entities().length(), 0);
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
@@ -279,7 +279,7 @@ TEST_F(Entities, nothingIsMadeWithoutADrawingOrWithoutTheBlock)
 TEST_F(Entities, nothingIsMadeWhileSomeoneWritesTheTableOfBlocks)
 {
     const tests::LetGo letGo;
-    AcDbObjectPointer<AcDbBlockTable> writer(AcDbObjectId(database().core().blockTable),
+    AcDbObjectPointer<AcDbBlockTable> writer(AcDbObjectId(host::coreOf(database()).blockTable),
                                              AcDb::kForWrite);
     AcDbObjectId id;
     AcDbLine loose({0, 0, 0}, {1, 0, 0});
@@ -339,7 +339,7 @@ TEST_F(Entities, anEntityOnALockedLayerStaysAndStaysOpen)
 {
     const AcDbObjectId id = addPlainLine();
     layer(L"0");
-    host::ObjectAccess::setLayerFlags({&layer(L"0"), false, true, false});
+    host::setFlags(layer(L"0"), {false, true, false});
     EXPECT_EQ(eraseEntity(id), Acad::eOnLockedLayer);
     EXPECT_FALSE(id.isErased());
     EXPECT_TRUE(host::resolve(id.stub())->isReadEnabled());

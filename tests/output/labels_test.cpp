@@ -1,6 +1,6 @@
 #include "output/labels.h"
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "output/numbers.h"
 #include "tests/output/unnamed.h"
 #include "tests/support/letgo.h"
@@ -16,10 +16,10 @@ class Labels : public tests::OpenDrawing
 protected:
     AcDbObjectId addStyle(const wchar_t* name, double oblique, double width, double height)
     {
-        host::DatabaseCore& core = database().core();
+        host::DatabaseCore& core = host::coreOf(database());
         auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, name,
                                                                      core.nextHandle++);
-        host::ObjectAccess::setTextStyle(*style, oblique, width, height);
+        host::setTextStyle(*style, oblique, width, height);
         return style->objectId();
     }
 };

@@ -172,6 +172,7 @@ DECLARED(AcDbText::setVerticalMode, Status (AcDbText::*)(AcDb::TextVertMode));
 DECLARED(AcDbText::setHorizontalMode, Status (AcDbText::*)(AcDb::TextHorzMode));
 DECLARED(AcDbText::setPosition, Status (AcDbText::*)(const AcGePoint3d&));
 DECLARED(AcDbText::setAlignmentPoint, Status (AcDbText::*)(const AcGePoint3d&));
+CONSTRUCTED(AcDbMPolygon);
 DECLARED(AcDbMPolygon::appendLoopFromBoundary,
          Status (AcDbMPolygon::*)(const AcDb2dPolyline*, bool, double));
 DECLARED(AcDbMPolygon::isPointInsideMPolygon,
@@ -235,6 +236,14 @@ DECLARED(CComboBox::FindStringExact, int (CComboBox::*)(int, LPCTSTR) const);
 DECLARED(CComboBox::GetLBText, void (CComboBox::*)(int, CString&) const);
 
 // Texts. Some members give a reference to the text itself, which nobody here needs.
+CONSTRUCTED(CString);
+CONSTRUCTED(CString, LPCTSTR);
+CONSTRUCTED(CString, const CString&);
+DECLARED(CString::operator=, CString& (CString::*)(const CString&));
+DECLARED(CString::Empty, void (CString::*)());
+DECLARED(CString::GetLength, int (CString::*)() const);
+DECLARED(CString::GetString, LPCTSTR (CString::*)() const);
+DECLARED(CString::SetAt, void (CString::*)(int, wchar_t));
 DECLARED(CString::Format, void (CString::*)(LPCTSTR, ...));
 DECLARED(CString::Replace, int (CString::*)(wchar_t, wchar_t));
 DECLARED(CString::CompareNoCase, int (CString::*)(LPCTSTR) const);

@@ -241,7 +241,7 @@ protected:
         }
         return addOutline(points);
     }
-    std::size_t objects() const { return database().core().stubs.size(); }
+    std::size_t objects() const { return host::coreOf(database()).stubs.size(); }
 };
 
 TEST_F(PlainGrid, isWhatTheEngineDrawsToTheLastBit)

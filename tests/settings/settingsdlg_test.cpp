@@ -4,7 +4,7 @@
 #include <limits>
 #include <numbers>
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "host/dialogs/modalloop.h"
 #include "tests/settings/dialogrun.h"
 #include "tests/settings/misleadingcolors.h"
@@ -404,7 +404,7 @@ TEST(SettingsDialog, storesWhatWasChangedOnOkAndNothingElse)
 TEST(SettingsDialog, storesTheTextStyleThatWasChosen)
 {
     support::Session session;
-    host::DatabaseCore& core = session.drawing().core();
+    host::DatabaseCore& core = host::coreOf(session.drawing());
     core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, L"Slanted",
                                                    core.nextHandle++);
     DialogRun run;

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "host/database/access.h"
+#include "host/database/packing.h"
 #include "tests/output/unnamed.h"
 #include "tests/support/opendrawing.h"
 
@@ -16,7 +16,7 @@ class TextStyles : public tests::OpenDrawing
 protected:
     AcDbObjectId addStyle(const wchar_t* name)
     {
-        host::DatabaseCore& core = database().core();
+        host::DatabaseCore& core = host::coreOf(database());
         return core
             .addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, name, core.nextHandle++)
             ->objectId();
@@ -59,8 +59,8 @@ TEST_F(TextStyles, whoseNamesAreNotToldAreLeftOut)
 TEST_F(TextStyles, areNoneWithoutTheirTable)
 {
     {
-        AcDbObjectPointer<AcDbTextStyleTable> writer(AcDbObjectId(database().core().textStyleTable),
-                                                     AcDb::kForWrite);
+        AcDbObjectPointer<AcDbTextStyleTable> writer(
+            AcDbObjectId(host::coreOf(database()).textStyleTable), AcDb::kForWrite);
         EXPECT_THAT(names(), IsEmpty());
     }
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);

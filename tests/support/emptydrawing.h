@@ -19,7 +19,7 @@ public:
 
     AcDbDatabase& database() { return *m_database; }
     AcDbDatabase* operator->() { return m_database.get(); }
-    host::DatabaseCore& core() { return m_database->core(); }
+    host::DatabaseCore& core() { return host::coreOf(*m_database); }
 
     // Appends to model space and closes; the entity belongs to the drawing afterwards.
     AcDbObjectId add(AcDbEntity* entity)

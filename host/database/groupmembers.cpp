@@ -1,0 +1,35 @@
+#include "host/database/groupmembers.h"
+
+#include "host/database/packing.h"
+
+bool AcDbGroup::Internals::add(AcDbStub* member, AcDbStub* group)
+{
+    if (addLikeTheLast(member))
+    {
+        return true;
+    }
+    if (host::coreOf(group).reactorLists.contains(host::reactorsOf(member), group))
+    {
+        return false;
+    }
+    const std::uint32_t before = member->style;
+    host::addReactor(member, group);
+    m_members.push_back(member);
+    if (member->packed())
+    {
+        m_styleBefore = before;
+        m_styleWithin = member->style;
+    }
+    return true;
+}
+
+bool AcDbGroup::Internals::addLikeTheLast(AcDbStub* member)
+{
+    if (!member->packed() || member->style != m_styleBefore)
+    {
+        return false;
+    }
+    member->style = m_styleWithin;
+    m_members.push_back(member);
+    return true;
+}

@@ -1,0 +1,34 @@
+// The records of one table by their names.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "dbsymtb.h"
+
+// Letter case does not count. Of two records with one name the first is found; a record that was
+// added stays, erased or not, so that order and names never lose one.
+struct AcDbSymbolTable::Internals
+{
+public:
+    static Internals& of(const AcDbSymbolTable& table) { return *table.m_internals; }
+
+    void add(const std::wstring& name, AcDbStub* record);
+    // Null when the table never had such a record.
+    AcDbStub* find(const wchar_t* name);
+    // As they were added.
+    const std::vector<AcDbStub*>& inOrder() const { return m_order; }
+
+private:
+    std::vector<AcDbStub*> m_order;
+    std::unordered_map<std::wstring, AcDbStub*> m_byFoldedName;
+    // One record is looked up a million times in a row: for every entity of a grid.
+    std::wstring m_lastName;
+    AcDbStub* m_last = nullptr;
+};
+
+namespace host
+{
+using RecordNames = AcDbSymbolTable::Internals;
+}  // namespace host

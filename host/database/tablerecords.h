@@ -1,0 +1,65 @@
+// What the host alone sets in the records of its tables.
+#pragma once
+
+#include "dbsymtb.h"
+
+// A record has one name for as long as its table holds it.
+struct AcDbSymbolTableRecord::Internals
+{
+    static const wchar_t* name(const AcDbSymbolTableRecord& record) { return record.m_name; }
+    // `name` outlives the record [borrowed].
+    static void setName(AcDbSymbolTableRecord& record, const wchar_t* name)
+    {
+        record.m_name = name;
+    }
+};
+
+namespace host
+{
+struct LayerFlags
+{
+    bool frozen, locked, off;
+
+    bool operator==(const LayerFlags&) const = default;
+};
+}  // namespace host
+
+// Changes a layer whether it is open or not, and unknown to the undo log.
+struct AcDbLayerTableRecord::Internals
+{
+    static void set(AcDbLayerTableRecord& layer, const host::LayerFlags& flags)
+    {
+        layer.m_frozen = flags.frozen;
+        layer.m_locked = flags.locked;
+        layer.m_off = flags.off;
+    }
+};
+
+// Nothing but the loader sets a text style.
+struct AcDbTextStyleTableRecord::Internals
+{
+    // oblique in radians; textSize in drawing units, 0 when the style does not fix it.
+    static void set(AcDbTextStyleTableRecord& style, double oblique, double xScale, double textSize)
+    {
+        style.m_oblique = oblique;
+        style.m_xScale = xScale;
+        style.m_textSize = textSize;
+    }
+};
+
+namespace host
+{
+inline LayerFlags flagsOf(const AcDbLayerTableRecord& layer)
+{
+    return {layer.isFrozen(), layer.isLocked(), layer.isOff()};
+}
+inline void setFlags(AcDbLayerTableRecord& layer, const LayerFlags& flags)
+{
+    AcDbLayerTableRecord::Internals::set(layer, flags);
+}
+inline void setTextStyle(AcDbTextStyleTableRecord& style, double oblique, double xScale,
+                         double textSize)
+{
+    AcDbTextStyleTableRecord::Internals::set(style, oblique, xScale, textSize);
+}
+}  // namespace host
