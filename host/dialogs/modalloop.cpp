@@ -95,7 +95,7 @@ public:
     {
         Question question{.kind = Question::Kind::dialog, .caption = windowText(m_dialog)};
         const bool isUnseen = hasStoodAside();
-        m_pickCount = m_editor.picksFromDialogs;
+        m_pickCount = m_editor.dialogs().picks();
         if (!m_editor.interactive())
         {
             return question;
@@ -109,7 +109,7 @@ public:
     }
 
     // Since the last question: after a click on a pick button.
-    bool hasStoodAside() const { return m_pickCount != m_editor.picksFromDialogs; }
+    bool hasStoodAside() const { return m_pickCount != m_editor.dialogs().picks(); }
 
 private:
     Editor& m_editor;
@@ -127,7 +127,7 @@ void runModalLoop(HWND dialog, const bool& ended)
     }
     ShowWindow(dialog, SW_SHOW);
     editor->printLine(L"[dialog] " + windowText(dialog));
-    const int shown = ++editor->shownDialogs;
+    const int shown = editor->dialogs().show();
     Viewer viewer(*editor, dialog);
     while (!ended)
     {
@@ -145,9 +145,9 @@ void runModalLoop(HWND dialog, const bool& ended)
         }
         take(*editor, dialog, answer);
         dispatchPendingMessages();  // some of what a message leads to is posted
-        requireBack(dialog, editor->shownDialogs == shown);
+        requireBack(dialog, editor->dialogs().count() == shown);
     }
-    --editor->shownDialogs;
+    editor->dialogs().hide();
     if (observer())
     {
         observer()(dialog);
@@ -161,14 +161,12 @@ void tellDialogClosed(bool ok)
 
 void dialogStepsAside()
 {
-    Editor* const editor = Editor::current();
-    --editor->shownDialogs;
-    ++editor->picksFromDialogs;
+    Editor::current()->dialogs().stepAside();
 }
 
 void dialogComesBack()
 {
-    ++Editor::current()->shownDialogs;
+    Editor::current()->dialogs().comeBack();
 }
 
 void setDialogObserver(std::function<void(HWND)> newObserver)

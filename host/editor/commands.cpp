@@ -102,15 +102,15 @@ Borrowed::Borrowed(Editor& editor, Document& document, const CommandPtr& command
     }
     documents().setApplicationContext(command->has(ACRX_CMD_SESSION));
     command->running = true;
-    editor.active.push_back(command);
+    editor.beginCommand(command);
 }
 
 Borrowed::~Borrowed()
 {
-    m_editor.active.pop_back();
+    m_editor.endCommand();
     m_command->running = false;
-    const bool outer = !m_editor.active.empty();
-    documents().setApplicationContext(!outer || m_editor.active.back()->has(ACRX_CMD_SESSION));
+    const bool outer = !m_editor.running().empty();
+    documents().setApplicationContext(!outer || m_editor.running().back()->has(ACRX_CMD_SESSION));
     if (!m_command->has(ACRX_CMD_SESSION))
     {
         documents().unlock(m_command->globalName());
@@ -140,7 +140,7 @@ void Borrowed::checkResources() const
 
 void Borrowed::checkMeter() const
 {
-    if (m_editor.meter)
+    if (m_editor.meter())
     {
         breach("acedSetStatusBarProgressMeter",
                toUtf8(shownName(*m_command)) + " did not restore the status bar");
@@ -238,13 +238,13 @@ void startTransparent(Editor& editor, std::wstring_view line)
         return;
     }
     run(editor, *document, command);
-    editor.printLine(own(L"Resuming %1 command.", {shownName(*editor.active.back())}));
+    editor.printLine(own(L"Resuming %1 command.", {shownName(*editor.running().back())}));
 }
 
 std::wstring runningNames(const Editor& editor)
 {
     std::wstring names;
-    for (const CommandPtr& command : editor.active)
+    for (const CommandPtr& command : editor.running())
     {
         names += (names.empty() ? L"" : L"'") + shownName(*command);
     }
@@ -254,7 +254,7 @@ std::wstring runningNames(const Editor& editor)
 void runCommands(Editor& editor)
 {
     const Question question{.kind = Question::Kind::command, .prompt = own(L"Command: ")};
-    while (!editor.quit && !editor.inputEnded())
+    while (!editor.hasQuit() && !editor.inputEnded())
     {
         const Answer answer = editor.ask(question);
         if (cancelled(answer))
@@ -262,10 +262,10 @@ void runCommands(Editor& editor)
             continue;
         }
         const std::wstring line(trimmed(answer.text));
-        const std::wstring chosen = line.empty() ? editor.lastLine : line;
+        const std::wstring chosen = line.empty() ? editor.lastLine() : line;
         if (!chosen.empty() && executeLine(editor, chosen))
         {
-            editor.lastLine = chosen;
+            editor.rememberLine(chosen);
         }
     }
 }

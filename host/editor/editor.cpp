@@ -92,6 +92,12 @@ void Editor::report(std::wstring_view line) const
     m_frontEnd.report(toUtf8(line));
 }
 
+void Editor::setMeter(std::optional<Meter> meter)
+{
+    m_meter = std::move(meter);
+    m_frontEnd.showMeter(m_meter);
+}
+
 Answer Editor::ask(const Question& question)
 {
     const Answer answer = askSilently(question);
@@ -130,7 +136,7 @@ void Editor::requireNoDialog(const Question& question) const
 {
     const bool ownWindow =
         question.kind == Question::Kind::dialog || question.kind == Question::Kind::messageBox;
-    if (shownDialogs > 0 && !ownWindow)
+    if (m_dialogs.count() > 0 && !ownWindow)
     {
         breach(callOf(question.kind), "asked while a dialog is shown, without BeginEditorCommand");
     }
@@ -143,7 +149,7 @@ void Editor::noteEnd(const Question& question)
     {
         return;
     }
-    const std::wstring name = active.empty() ? L"a question" : active.front()->globalName();
+    const std::wstring name = m_running.empty() ? L"a question" : m_running.front()->globalName();
     if (++m_unansweredQuestions == 1)
     {
         report(L"the input ended in the middle of " + name);

@@ -10,6 +10,7 @@
 
 #include "host/editor/frontend.h"
 #include "host/editor/keywords.h"
+#include "host/editor/showndialogs.h"
 #include "host/runtime/commandstack.h"
 
 namespace host
@@ -19,6 +20,13 @@ struct PromptOptions
 {
     int bits = 0;
     KeywordList keywords{};
+};
+
+// What the last prompt took that was no value of its own kind.
+struct PromptInput
+{
+    std::wstring text;
+    bool isKeyword = false;
 };
 
 // While one exists it serves the module's calls, from one thread at a time.
@@ -38,7 +46,6 @@ public:
     void traceLine(std::wstring_view line);  // likewise, if events are to be told
     void report(std::wstring_view line) const;
     void fail(std::wstring_view line);  // likewise, and the session ends with a failure
-    void showMeter() { m_frontEnd.showMeter(meter); }  // whenever it has changed
 
     // Shows the prompt, waits for the answer, echoes it and ends the line.
     Answer ask(const Question& question);
@@ -56,16 +63,34 @@ public:
     bool endedInsideCommand() const { return m_unansweredQuestions > 0; }
     bool failed() const { return m_failed; }
 
-    std::vector<CommandPtr> active;  // outermost first
-    std::wstring lastLine;           // what Enter at the command prompt starts again
-    std::wstring input;              // for acedGetInput
-    bool inputIsKeyword = false;
-    int errorNumber = 0;  // the variable ERRNO
-    std::optional<Meter> meter;
-    bool quit = false;
-    std::function<bool()> mayQuit{};  // asked by QUIT; left out: it may
-    int shownDialogs = 0;             // no prompt may be asked while there are any
-    int picksFromDialogs = 0;         // times that a dialog has stepped aside
+    // Commands begin and end in pairs, the innermost first.
+    void beginCommand(CommandPtr command) { m_running.push_back(std::move(command)); }
+    void endCommand() { m_running.pop_back(); }
+    const std::vector<CommandPtr>& running() const { return m_running; }  // outermost first
+
+    // What Enter at the command prompt starts again; empty before the first line.
+    const std::wstring& lastLine() const { return m_lastLine; }
+    void rememberLine(std::wstring line) { m_lastLine = std::move(line); }
+
+    // For acedGetInput; it stays until a prompt takes another.
+    const PromptInput& lastInput() const { return m_lastInput; }
+    void noteInput(PromptInput input) { m_lastInput = std::move(input); }
+
+    // The variable ERRNO.
+    int errorNumber() const { return m_errorNumber; }
+    void setErrorNumber(int number) { m_errorNumber = number; }
+
+    // The progress meter, which is shown at once; nothing takes it away.
+    const std::optional<Meter>& meter() const { return m_meter; }
+    void setMeter(std::optional<Meter> meter);
+
+    // Ends the session after this command, unless who was told to be asked says no.
+    void quit() { m_quit = !m_mayQuit || m_mayQuit(); }
+    void askBeforeQuitting(std::function<bool()> mayQuit) { m_mayQuit = std::move(mayQuit); }
+    bool hasQuit() const { return m_quit; }
+
+    // No prompt may be asked while one is shown.
+    ShownDialogs& dialogs() { return m_dialogs; }
 
     bool interactive() const { return m_frontEnd.interactive(); }
 
@@ -81,6 +106,14 @@ private:
     bool m_inputEnded = false;
     int m_unansweredQuestions = 0;
     bool m_failed = false;
+    std::vector<CommandPtr> m_running;
+    std::wstring m_lastLine;
+    PromptInput m_lastInput;
+    int m_errorNumber = 0;
+    std::optional<Meter> m_meter;
+    bool m_quit = false;
+    std::function<bool()> m_mayQuit;
+    ShownDialogs m_dialogs;
 };
 
 // Esc, or the end of the input, which counts as one.

@@ -83,7 +83,6 @@ void redoCommand()
 
 void quitCommand()
 {
-    Editor& editor = *Editor::current();
-    editor.quit = !editor.mayQuit || editor.mayQuit();
+    Editor::current()->quit();
 }
 }  // namespace host

@@ -36,7 +36,7 @@ int acedAlert(const ACHAR* str)
         return RTERROR;
     }
     // Whoever works a dialog on the screen looks there and not at the console.
-    const bool looksElsewhere = editor->interactive() && editor->shownDialogs > 0;
+    const bool looksElsewhere = editor->interactive() && editor->dialogs().count() > 0;
     if (!looksElsewhere || !host::alertOverDialog(str))
     {
         editor->printLine(L"[alert] " + std::wstring(str));

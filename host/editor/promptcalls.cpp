@@ -98,8 +98,8 @@ int acedGetKword(const ACHAR* prompt, ACHAR* result)
     {
         return code;
     }
-    copyInput(editor->input, result);
-    return editor->inputIsKeyword ? RTNORM : RTKWORD;
+    copyInput(editor->lastInput().text, result);
+    return editor->lastInput().isKeyword ? RTNORM : RTKWORD;
 }
 
 int acedGetInput(ACHAR* str)
@@ -109,6 +109,6 @@ int acedGetInput(ACHAR* str)
     {
         return RTERROR;
     }
-    copyInput(editor->input, str);
+    copyInput(editor->lastInput().text, str);
     return RTNORM;
 }

@@ -13,8 +13,7 @@ namespace
 // The answer comes out as text: acedGetInput tells it.
 int giveText(Editor& editor, std::wstring_view text, bool keyword)
 {
-    editor.input = text;
-    editor.inputIsKeyword = keyword;
+    editor.noteInput({std::wstring(text), keyword});
     return RTKWORD;
 }
 

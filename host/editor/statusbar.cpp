@@ -10,35 +10,34 @@ int acedSetStatusBarProgressMeter(const ACHAR* pszLabel, int nMinPos, int nMaxPo
     {
         return -1;
     }
-    editor->meter = host::Meter{pszLabel ? pszLabel : L"", nMinPos, nMaxPos, nMinPos};
-    editor->traceLine(L"[meter] " + editor->meter->label + L" " + std::to_wstring(nMinPos) + L".." +
+    const host::Meter meter{pszLabel ? pszLabel : L"", nMinPos, nMaxPos, nMinPos};
+    editor->traceLine(L"[meter] " + meter.label + L" " + std::to_wstring(nMinPos) + L".." +
                       std::to_wstring(nMaxPos));
-    editor->showMeter();
+    editor->setMeter(meter);
     return 0;
 }
 
 int acedSetStatusBarProgressMeterPos(int nPos)
 {
     Editor* editor = Editor::current();
-    if (editor == nullptr || !editor->meter)
+    if (editor == nullptr || !editor->meter())
     {
         return -1;
     }
-    int& position = editor->meter->position;
-    position = nPos < 0 ? position - nPos : nPos;
-    editor->traceLine(L"[meter] " + std::to_wstring(position));
-    editor->showMeter();
+    host::Meter meter = *editor->meter();
+    meter.position = nPos < 0 ? meter.position - nPos : nPos;
+    editor->traceLine(L"[meter] " + std::to_wstring(meter.position));
+    editor->setMeter(meter);
     return 0;
 }
 
 void acedRestoreStatusBar()
 {
     Editor* editor = Editor::current();
-    if (editor == nullptr || !editor->meter)
+    if (editor == nullptr || !editor->meter())
     {
         return;
     }
-    editor->meter.reset();
-    editor->showMeter();
+    editor->setMeter(std::nullopt);
     editor->traceLine(L"[meter] restored");
 }

@@ -70,7 +70,7 @@ int failed(host::VariableError error)
 {
     if (host::Editor* editor = host::Editor::current())
     {
-        editor->errorNumber = int(error);
+        editor->setErrorNumber(int(error));
     }
     return RTERROR;
 }

@@ -149,7 +149,7 @@ VariableError setTextStyle(Context at, Value value)
 
 VariableValue commandActive(Context at)
 {
-    const std::size_t count = at.editor ? at.editor->active.size() : 0;
+    const std::size_t count = at.editor ? at.editor->running().size() : 0;
     return count == 0 ? 0 : count == 1 ? 1 : 3;  // 2 is added for a transparent command
 }
 
@@ -178,14 +178,14 @@ VariableValue titled(Context at)
 
 VariableValue errorNumber(Context at)
 {
-    return at.editor ? at.editor->errorNumber : 0;
+    return at.editor ? at.editor->errorNumber() : 0;
 }
 
 VariableError setErrorNumber(Context at, Value value)
 {
     if (at.editor)
     {
-        at.editor->errorNumber = std::get<int>(value);
+        at.editor->setErrorNumber(std::get<int>(value));
     }
     return done;
 }

@@ -167,7 +167,7 @@ void ucsCommand()
     }
     else if (result == RTKWORD)
     {
-        useOption(editor, editor.input);
+        useOption(editor, editor.lastInput().text);
     }
     else if (result == RTNONE)
     {

@@ -122,7 +122,7 @@ bool save(const Options& options, Editor& editor, FrontEnd& frontEnd)
 bool saveOrKeep(const Options& options, Editor& editor, FrontEnd& frontEnd)
 {
     const bool isSaved = save(options, editor, frontEnd);
-    const bool isGivenUp = options.save.empty() && editor.quit;
+    const bool isGivenUp = options.save.empty() && editor.hasQuit();
     if (editor.interactive() && !isGivenUp && isUnsaved())
     {
         keepUnsaved(editor);
@@ -136,7 +136,7 @@ void watchOverWork(const Options& options, Editor& editor)
     tellKept(editor);
     if (options.save.empty())
     {
-        editor.mayQuit = [&editor] { return mayGiveUpChanges(editor); };
+        editor.askBeforeQuitting([&editor] { return mayGiveUpChanges(editor); });
     }
 }
 

@@ -28,12 +28,7 @@ LongWork::LongWork(OwnText label, FrontEnd& frontEnd)
 }
 
 LongWork::LongWork(OwnText label, Editor& editor)
-    : LongWork(own(label),
-               [&editor](const std::optional<Meter>& meter)
-               {
-                   editor.meter = meter;
-                   editor.showMeter();
-               })
+    : LongWork(own(label), [&editor](const std::optional<Meter>& meter) { editor.setMeter(meter); })
 {
 }
 

@@ -120,10 +120,11 @@ TEST(ValueTypes, aHeaderVariableHasTheTypeOfItsCode)
     {
         const std::string header = "$INSUNITS\n 70\n4\n";
         AcDbDatabase database;
-        load(database.core(),
+        load(host::coreOf(database),
              TagFile::fromText(
                  replaced(emptyDrawing(), header, header + "  9\n$SAMPLE\n" + row.tag), "FILE"));
-        EXPECT_EQ(database.core().state.variables.at(L"SAMPLE").index(), std::size_t(row.kept))
+        EXPECT_EQ(host::coreOf(database).state.variables.at(L"SAMPLE").index(),
+                  std::size_t(row.kept))
             << row.tag;
     }
 }

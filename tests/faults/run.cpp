@@ -78,7 +78,7 @@ std::optional<host::Meter> type(const Script& script)
     typist.lines = parted(script.answers, '|');
     host::Editor editor(typist, false);
     host::runCommands(editor);
-    return editor.meter;
+    return editor.meter();
 }
 
 bool hasCommand()
