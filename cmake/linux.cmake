@@ -7,7 +7,9 @@ find_library(EDIT edit REQUIRED)
 find_program(WINDRES x86_64-w64-mingw32-windres REQUIRED)
 
 set(system_headers ${CMAKE_SOURCE_DIR}/host/windows/emulated/include)
-set(system_services windows/emulated headless)
+set(system_text text/posix)
+set(system_windows windows/emulated headless)
+set(system_dialogs dialogs/headless)
 set(system_files dxf/posix)
 set(module_start windows/emulated/module/startup.cpp)
 
@@ -16,14 +18,18 @@ endfunction()
 
 function(complete_program)
   # Apart from the host: a module does not need it, and the library it calls is large.
+  file(GLOB png_sources CONFIGURE_DEPENDS png/cairo/*.cpp)
+  add_library(png STATIC ${png_sources})
+  target_include_directories(png SYSTEM PUBLIC ${CAIRO_INCLUDE})
+  target_link_libraries(png PUBLIC host PRIVATE ${CAIRO})
+
   file(GLOB picture_sources CONFIGURE_DEPENDS pictures/*.cpp)
   add_library(pictures STATIC ${picture_sources})
-  target_include_directories(pictures SYSTEM PUBLIC ${CAIRO_INCLUDE})
-  target_link_libraries(pictures PUBLIC host PRIVATE ${CAIRO})
+  target_link_libraries(pictures PUBLIC png PRIVATE ${CAIRO})
 
   file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp plot/cairo/*.cpp)
   add_library(plot STATIC ${plot_sources})
-  target_link_libraries(plot PUBLIC pictures PRIVATE ${CAIRO})
+  target_link_libraries(plot PUBLIC png PRIVATE ${CAIRO})
 
   file(GLOB terminal_sources CONFIGURE_DEPENDS program/terminal/*.cpp)
   target_sources(program PRIVATE ${terminal_sources})

@@ -39,7 +39,7 @@ add_custom_command(OUTPUT ${renamed_host} VERBATIM
   DEPENDS host_objects ${CMAKE_BINARY_DIR}/originals/renames.txt)
 
 file(GLOB plot_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/host/plot/*.cpp
-  ${CMAKE_SOURCE_DIR}/host/plot/windows/*.cpp ${CMAKE_SOURCE_DIR}/host/pictures/windows/drawing.cpp)
+  ${CMAKE_SOURCE_DIR}/host/plot/windows/*.cpp ${CMAKE_SOURCE_DIR}/host/png/windows/drawing.cpp)
 add_executable(unit_tests ${test_sources} ${plot_sources} ${renamed_host}
   ${CMAKE_SOURCE_DIR}/host/program/console/manifest.rc)
 target_compile_features(unit_tests PRIVATE cxx_std_20)

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cwchar>
 
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 void AcDbDictionary::Internals::addLoaded(const std::wstring& key, AcDbStub* stub)
 {

@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 void AcDbSymbolTable::Internals::add(const std::wstring& name, AcDbStub* record)
 {

@@ -6,7 +6,7 @@
 
 #include "host/dialogs/controlview.h"
 #include "host/dialogs/wnd.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 
 namespace host

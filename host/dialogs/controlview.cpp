@@ -5,9 +5,9 @@
 
 #include "host/dialogs/controlplace.h"
 #include "host/dialogs/wnd.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

@@ -6,9 +6,9 @@
 #include "host/dialogs/controlview.h"
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

@@ -6,7 +6,7 @@
 #include "host/dialogs/dialoglines.h"
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 #include "host/runtime/breach.h"
 #include "host/windows/pendingmessages.h"

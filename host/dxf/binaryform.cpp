@@ -12,6 +12,7 @@
 #include "host/dxf/error.h"
 #include "host/dxf/schema/structure.h"
 #include "host/dxf/tag.h"
+#include "host/text/numbers.h"
 
 namespace host::dxf
 {
@@ -203,15 +204,12 @@ void Reader::refuse(std::string_view expected, std::string_view found) const
 template <class Number>
 Number parsed(int code, std::string_view value)
 {
-    const std::string_view digits = trimmed(value);
-    Number number{};
-    const auto end = digits.data() + digits.size();
-    const auto result = std::from_chars(digits.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end)
+    const std::optional<Number> number = readNumber<Number>(value);
+    if (!number)
     {
         cannotHold(code, value);
     }
-    return number;
+    return *number;
 }
 
 std::optional<unsigned> hexDigit(char c)

@@ -4,7 +4,7 @@
 #include "host/database/dictionaryentries.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/loadstate.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host::dxf
 {

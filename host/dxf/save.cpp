@@ -13,7 +13,7 @@
 #include "host/dxf/save_atomic.h"
 #include "host/dxf/savestate.h"
 #include "host/dxf/savetables.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host::dxf
 {

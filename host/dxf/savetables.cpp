@@ -6,7 +6,7 @@
 #include "dbents.h"
 #include "host/database/drawing.h"
 #include "host/database/entitystyle.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host::dxf
 {

@@ -7,6 +7,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "host/text/trim.h"
+
 namespace host::dxf
 {
 // Stands for a line feed within a text of a binary drawing, where a zero ends the text and so is
@@ -30,16 +32,6 @@ struct TagStyle
     bool padIntegers = false;  // so are integers, to the width of their kind
     int binaryCodeSize = 0;    // of a binary file: bytes of a group code, 1 or 2
 };
-
-inline std::string_view trimmed(std::string_view value)
-{
-    const std::size_t first = value.find_first_not_of(" \t");
-    if (first == value.npos)
-    {
-        return {};
-    }
-    return value.substr(first, value.find_last_not_of(" \t") - first + 1);
-}
 
 // The tags of a range of bytes that holds whole, well-formed tags and nothing else; a TagFile
 // gives no others.

@@ -1,27 +1,18 @@
 #include "host/dxf/tagfile.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "host/dxf/binaryform.h"
 #include "host/dxf/schema/structure.h"
 #include "host/dxf/tagscanner.h"
 #include "host/dxf/wholefile.h"
+#include "host/text/numbers.h"
 
 namespace host::dxf
 {
 namespace
 {
-template <class Number, class... Base>
-bool parse(std::string_view value, Number& number, Base... base)
-{
-    value = trimmed(value);
-    const char* end = value.data() + value.size();
-    const auto result = std::from_chars(value.data(), end, number, base...);
-    return result.ec == std::errc() && result.ptr == end;
-}
-
 // One line, whatever the file holds there.
 std::string quoted(std::string_view value)
 {
@@ -144,32 +135,32 @@ const HeaderVariable* TagFile::header(std::string_view name) const
 
 double TagFile::real(const Tag& tag) const
 {
-    double number;
-    if (!parse(tag.value, number) || !std::isfinite(number))
+    const auto number = readNumber<double>(tag.value);
+    if (!number || !std::isfinite(*number))
     {
         refuseValue(tag, "a number");
     }
-    return number;
+    return *number;
 }
 
 std::int64_t TagFile::integer(const Tag& tag) const
 {
-    std::int64_t number;
-    if (!parse(tag.value, number))
+    const auto number = readNumber<std::int64_t>(tag.value);
+    if (!number)
     {
         refuseValue(tag, "an integer");
     }
-    return number;
+    return *number;
 }
 
 std::uint64_t TagFile::handle(const Tag& tag) const
 {
-    std::uint64_t number;
-    if (trimmed(tag.value).size() > 16 || !parse(tag.value, number, 16))
+    const auto number = readNumber<std::uint64_t>(tag.value, 16);
+    if (!number || trimmed(tag.value).size() > 16)
     {
         refuseValue(tag, "a handle of 1 to 16 hexadecimal digits");
     }
-    return number;
+    return *number;
 }
 
 void TagFile::refuse(std::uint32_t line, std::string_view expected, std::string_view found) const

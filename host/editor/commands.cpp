@@ -6,11 +6,11 @@
 #include "host/database/strict.h"
 #include "host/documents/documentmanager.h"
 #include "host/editor/hostcommands.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 #include "host/editor/sysvars.h"
 #include "host/runtime/breach.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 #include "host/runtime/lispfunctions.h"
 #include "host/windows/text.h"
 

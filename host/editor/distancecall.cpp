@@ -1,5 +1,5 @@
 #include "geassign.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/promptloop.h"
 
 namespace host

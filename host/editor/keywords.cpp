@@ -1,6 +1,6 @@
 #include "host/editor/keywords.h"
 
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

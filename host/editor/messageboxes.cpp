@@ -1,9 +1,9 @@
 #include "host/editor/messageboxes.h"
 
 #include "host/editor/editor.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 #include "host/windows/messagebox.h"
 
 namespace host

@@ -4,7 +4,7 @@
 #include <numbers>
 #include <vector>
 
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 
 namespace host
 {

@@ -3,7 +3,7 @@
 #include "geassign.h"
 #include "host/database/drawing.h"
 #include "host/documents/documentmanager.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/ucs.h"
 
 namespace host

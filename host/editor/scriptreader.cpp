@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 #include "host/windows/text.h"
 
 namespace host

@@ -1,11 +1,11 @@
 #include <utility>
 
 #include "host/editor/hostcommands.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/editor/sysvars.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 #include <numbers>
 

@@ -4,9 +4,9 @@
 
 #include "host/database/drawing.h"
 #include "host/documents/documentmanager.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/sysvartable.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

@@ -3,7 +3,7 @@
 #include "host/database/drawing.h"
 #include "host/documents/documentmanager.h"
 #include "host/editor/hostcommands.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/editor/ucs.h"

@@ -7,13 +7,6 @@
 
 namespace host
 {
-AcGeMatrix3d viewFrame(const View& view)
-{
-    AcGeMatrix3d frame = AcGeMatrix3d::planeToWorld(view.direction) *
-                         AcGeMatrix3d::rotation(-view.twist, AcGeVector3d(0, 0, 1));
-    return frame.setTranslation(view.target.asVector());
-}
-
 double inFullTurn(double radians)
 {
     const double turn = 2 * std::numbers::pi;

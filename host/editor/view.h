@@ -2,14 +2,10 @@
 #pragma once
 
 #include "gemat3d.h"
-#include "host/database/drawingstate.h"
+#include "host/database/viewframe.h"
 
 namespace host
 {
-// Display coordinates to WCS: X to the right and Y upwards on the screen, Z to the viewer, the
-// origin at the target.
-AcGeMatrix3d viewFrame(const View& view);
-
 // The same angle in [0, 2 pi); 0 for what is no number.
 double inFullTurn(double radians);
 

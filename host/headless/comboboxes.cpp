@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "host/headless/messages.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "host/headless/messages.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

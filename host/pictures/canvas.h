@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/dialogs/color.h"
-#include "host/pictures/surfacebytes.h"
+#include "host/colors/color.h"
+#include "host/png/cairo/surfacebytes.h"
 
 namespace host
 {

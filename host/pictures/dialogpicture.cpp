@@ -7,8 +7,8 @@
 #include "host/dialogs/wnd.h"
 #include "host/pictures/bitmap.h"
 #include "host/pictures/canvas.h"
-#include "host/dialogs/indexcolors.h"
-#include "host/runtime/foldcase.h"
+#include "host/colors/indexcolors.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

@@ -18,7 +18,7 @@ EntityTags::EntityTags(const dxf::TagFile& file, const dxf::Record& record)
         }
         if (tag.code == 102)
         {
-            inList = dxf::trimmed(tag.value).starts_with('{');
+            inList = trimmed(tag.value).starts_with('{');
         }
         else if (!inList)
         {
@@ -60,7 +60,7 @@ int EntityTags::integer(int code, int fallback) const
 std::string_view EntityTags::text(int code) const
 {
     const dxf::Tag* tag = find(code);
-    return tag != nullptr ? dxf::trimmed(tag->value) : std::string_view();
+    return tag != nullptr ? trimmed(tag->value) : std::string_view();
 }
 
 AcGePoint3d EntityTags::point(int code) const

@@ -2,7 +2,7 @@
 
 #include <cwctype>
 
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host::plot
 {

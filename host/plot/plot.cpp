@@ -4,9 +4,9 @@
 #include <filesystem>
 
 #include "host/database/drawing.h"
+#include "host/database/viewframe.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/outputfile.h"
-#include "host/editor/view.h"
 #include "host/plot/paper.h"
 #include "host/plot/scene.h"
 #include "host/windows/text.h"

@@ -6,7 +6,7 @@
 
 #include "gepnt3d.h"
 #include "gevec3d.h"
-#include "host/dialogs/color.h"
+#include "host/colors/color.h"
 
 namespace host::plot
 {

@@ -2,9 +2,9 @@
 
 #include <cstdlib>
 
-#include "host/dialogs/indexcolors.h"
+#include "host/colors/indexcolors.h"
 #include "host/plot/entitytags.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host::plot
 {
@@ -59,7 +59,7 @@ Tables::Tables(const dxf::TagFile& file, const dxf::CodePage& codePage) : m_code
 
 std::wstring Tables::key(std::string_view name) const
 {
-    return foldCase(m_codePage.decode(dxf::trimmed(name)));
+    return foldCase(m_codePage.decode(trimmed(name)));
 }
 
 void Tables::readLayer(const dxf::TagFile& file, const dxf::Record& record)

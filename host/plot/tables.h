@@ -10,7 +10,7 @@
 #include "gepnt3d.h"
 #include "host/dxf/codepage.h"
 #include "host/dxf/tagfile.h"
-#include "host/dialogs/color.h"
+#include "host/colors/color.h"
 
 namespace host::plot
 {

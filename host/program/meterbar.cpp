@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/windows/text.h"
 
 namespace host

@@ -9,7 +9,7 @@
 
 #include "host/plot/plot.h"
 #include "host/program/session.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 #include "host/runtime/locale.h"
 #include "host/runtime/result.h"
 #include "host/windows/modules.h"

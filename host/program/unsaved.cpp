@@ -3,7 +3,7 @@
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
 #include "host/editor/keywords.h"
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 #include "host/program/platform.h"
 #include "host/windows/text.h"

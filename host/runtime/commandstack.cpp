@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 ACRX_DEFINE_MEMBERS(AcEdCommand, AcRxObject)
 ACRX_DEFINE_MEMBERS(AcEdCommandStack, AcRxObject)

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "acedads.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 namespace host
 {

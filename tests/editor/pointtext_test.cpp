@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 
 namespace
 {

@@ -4,7 +4,7 @@
 
 #include "commctrl.h"
 #include "host/dialogs/bitmapbutton.h"
-#include "host/dialogs/indexcolors.h"
+#include "host/colors/indexcolors.h"
 #include "host/dialogs/windows/sizeonscreen.h"
 
 namespace host

@@ -1,6 +1,6 @@
 #include "host/pictures/dialogpicture.h"
 
-#include "host/pictures/windows/drawing.h"
+#include "host/png/windows/drawing.h"
 
 namespace host
 {

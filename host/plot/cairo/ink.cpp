@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "host/pictures/surfacebytes.h"
+#include "host/png/cairo/surfacebytes.h"
 #include "host/plot/cairo/typeface.h"
 
 namespace host::plot

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "host/pictures/windows/drawing.h"
+#include "host/png/windows/drawing.h"
 
 namespace host::plot
 {

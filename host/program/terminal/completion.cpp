@@ -6,7 +6,7 @@
 
 #include "host/editor/sysvartable.h"
 #include "host/runtime/commandstack.h"
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 #include "host/windows/text.h"
 
 namespace host

@@ -1,6 +1,6 @@
 #include "host/windows/emulated/resfile.h"
 
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 #include "host/windows/emulated/resourcereader.h"
 
 namespace host

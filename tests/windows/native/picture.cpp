@@ -2,7 +2,7 @@
 
 #include <shlwapi.h>
 
-#include "host/pictures/windows/drawing.h"
+#include "host/png/windows/drawing.h"
 
 namespace tests
 {

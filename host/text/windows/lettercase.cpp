@@ -1,4 +1,4 @@
-#include "host/windows/lettercase.h"
+#include "host/text/lettercase.h"
 
 #include "windows.h"
 

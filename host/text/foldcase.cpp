@@ -1,8 +1,8 @@
-#include "host/runtime/foldcase.h"
+#include "host/text/foldcase.h"
 
 #include <algorithm>
 
-#include "host/windows/lettercase.h"
+#include "host/text/lettercase.h"
 
 namespace host
 {

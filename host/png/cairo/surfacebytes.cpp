@@ -1,4 +1,4 @@
-#include "host/pictures/surfacebytes.h"
+#include "host/png/cairo/surfacebytes.h"
 
 #include <new>
 

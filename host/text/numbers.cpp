@@ -1,6 +1,5 @@
-#include "host/editor/numbertext.h"
+#include "host/text/numbers.h"
 
-#include <charconv>
 #include <cmath>
 #include <numbers>
 
@@ -21,19 +20,9 @@ std::string numberCharacters(std::wstring_view text)
         }
         characters += char(unit);
     }
-    // Only one sign may lead, and from_chars takes no plus.
+    // Only one sign may lead, and readNumber takes no plus.
     const bool plus = characters.starts_with('+') && !characters.starts_with("+-");
     return plus ? characters.substr(1) : characters;
-}
-
-template <class Number>
-std::optional<Number> parse(std::wstring_view text)
-{
-    const std::string characters = numberCharacters(text);
-    const char* const end = characters.data() + characters.size();
-    Number value{};
-    const auto [stop, error] = std::from_chars(characters.data(), end, value);
-    return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
 }
 
 std::wstring widen(const char* begin, const char* end)
@@ -42,21 +31,14 @@ std::wstring widen(const char* begin, const char* end)
 }
 }  // namespace
 
-std::wstring_view trimmed(std::wstring_view text)
-{
-    const std::size_t first = text.find_first_not_of(L" \t");
-    const std::size_t last = text.find_last_not_of(L" \t");
-    return first == text.npos ? std::wstring_view() : text.substr(first, last - first + 1);
-}
-
 std::optional<double> parseReal(std::wstring_view text)
 {
-    return parse<double>(text);
+    return readNumber<double>(numberCharacters(text));
 }
 
 std::optional<int> parseInteger(std::wstring_view text)
 {
-    return parse<int>(text);
+    return readNumber<int>(numberCharacters(text));
 }
 
 std::wstring realText(double value)

@@ -1,7 +1,7 @@
 // The colours of the host's palette on paper.
 #pragma once
 
-#include "host/dialogs/color.h"
+#include "host/colors/color.h"
 
 namespace host
 {

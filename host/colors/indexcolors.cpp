@@ -1,4 +1,4 @@
-#include "host/dialogs/indexcolors.h"
+#include "host/colors/indexcolors.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "host/pictures/windows/drawing.h"
+#include "host/png/windows/drawing.h"
 
 namespace host
 {
