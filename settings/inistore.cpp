@@ -48,6 +48,30 @@ CString inCodePage(CString line)
     return line;
 }
 
+// A text file that is closed on every way out.
+class TextFile
+{
+public:
+    TextFile(const wchar_t* path, const wchar_t* mode) : m_file(_wfopen(path, mode)) {}
+    ~TextFile() { close(); }
+
+    bool isOpen() const { return m_file != nullptr; }
+    FILE* get() const { return m_file; }
+    // False when the runtime could not write what it had kept back.
+    bool close()
+    {
+        FILE* const file = m_file;
+        m_file = nullptr;
+        return file == nullptr || fclose(file) == 0;
+    }
+
+private:
+    TextFile(const TextFile&);
+    TextFile& operator=(const TextFile&);
+
+    FILE* m_file;
+};
+
 bool writeLine(FILE* file, const CString& line)
 {
     return fwprintf(file, L"%s\n", static_cast<const wchar_t*>(inCodePage(line))) >= 0;
@@ -74,14 +98,14 @@ void IniStore::clear()
 bool IniStore::readFile(const CString& path)
 {
     clear();
-    FILE* file = _wfopen(path, L"r, ccs=UTF-8");
-    if (file == nullptr)
+    const TextFile file(path, L"r, ccs=UTF-8");
+    if (!file.isOpen())
     {
         return false;
     }
     IniSection* current = nullptr;
     CString line;
-    for (wint_t c = fgetwc(file); c != WEOF; c = fgetwc(file))
+    for (wint_t c = fgetwc(file.get()); c != WEOF; c = fgetwc(file.get()))
     {
         if (c != L'\n')
         {
@@ -91,7 +115,6 @@ bool IniStore::readFile(const CString& path)
         current = readLine(stripped(line, L" \t\r\n"), current);
         line.Empty();
     }
-    fclose(file);
     return true;
 }
 
@@ -115,18 +138,18 @@ IniSection* IniStore::readLine(const CString& line, IniSection* current)
 
 bool IniStore::writeFile(const CString& path) const
 {
-    FILE* file = _wfopen(path, L"w");
-    if (file == nullptr)
+    TextFile file(path, L"w");
+    if (!file.isOpen())
     {
         return false;
     }
     bool written = true;
     for (auto section = m_sections.begin(); section != m_sections.end() && written; ++section)
     {
-        written = writeSection(file, section->first, section->second);
+        written = writeSection(file.get(), section->first, section->second);
     }
     // The runtime keeps lines back until the file is closed: a full disk shows only then.
-    return fclose(file) == 0 && written;
+    return file.close() && written;
 }
 
 const IniSection* IniStore::findSection(const CString& name) const

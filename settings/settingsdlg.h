@@ -69,7 +69,9 @@ private:
     bool isChecked(int button) const;
 
     // settingspicks.cpp: values picked in the drawing
-    bool pickLength(Length& length, double& picked);
+    class SteppedAside;
+    void takeTyped(Length& length);
+    bool askLength(const Length& length, double& picked);
     void keepPicked(Length& length, double picked);
     void pickStep(Step& step);
     void pickSize(Length& size);

@@ -14,6 +14,24 @@ bool isZero(double length)
 }
 }  // namespace
 
+// Hides the dialog for the length of a prompt, and of the alerts that follow it, and shows it again
+// on every way out.
+class CSettingsDlg::SteppedAside
+{
+public:
+    explicit SteppedAside(CSettingsDlg& dialog) : m_dialog(dialog)
+    {
+        m_dialog.BeginEditorCommand();
+    }
+    ~SteppedAside() { m_dialog.CompleteEditorCommand(); }
+
+private:
+    SteppedAside(const SteppedAside&);
+    SteppedAside& operator=(const SteppedAside&);
+
+    CSettingsDlg& m_dialog;
+};
+
 void CSettingsDlg::OnPickVertStep()
 {
     pickStep(m_vertStep);
@@ -40,46 +58,46 @@ void CSettingsDlg::OnPickTextHeight()
 void CSettingsDlg::OnPickBasePoint()
 {
     AcGePoint3d picked(0.0, 0.0, 0.0);
-    BeginEditorCommand();
+    const SteppedAside aside(*this);
     if (acedGetPoint(nullptr, m_texts->basePointPrompt, asDblArray(picked)) == RTNORM)
     {
         m_basePoint = picked;
         m_basePointInUcs = isChecked(IDC_MODE_VIEW);
         showBasePoint();
     }
-    CompleteEditorCommand();
 }
 
 // Every pick that is refused leaves the edit, and with it what the next pick begins with, as it is.
 void CSettingsDlg::pickStep(Step& step)
 {
+    takeTyped(step.length);
+    const SteppedAside aside(*this);
     double picked = 0.0;
-    if (pickLength(step.length, picked) && stepIsAccepted(step, picked))
+    if (askLength(step.length, picked) && stepIsAccepted(step, picked))
     {
         keepPicked(step.length, picked);
     }
-    CompleteEditorCommand();
 }
 
 void CSettingsDlg::pickSize(Length& size)
 {
+    takeTyped(size);
+    const SteppedAside aside(*this);
     double picked = 0.0;
-    if (pickLength(size, picked))
+    if (!askLength(size, picked))
     {
-        if (isZero(picked))
-        {
-            acedAlert(size.texts->zero);
-        }
-        else
-        {
-            keepPicked(size, picked);
-        }
+        return;
     }
-    CompleteEditorCommand();
+    if (isZero(picked))
+    {
+        acedAlert(size.texts->zero);
+        return;
+    }
+    keepPicked(size, picked);
 }
 
-// Hides the dialog; the caller shows it again. True when the user gave a length.
-bool CSettingsDlg::pickLength(Length& length, double& picked)
+// A pick begins with what is typed; where that is no number, the edit shows what it begins with.
+void CSettingsDlg::takeTyped(Length& length)
 {
     const double typed = shownReal(length.edit);
     if (typed != notSetReal())
@@ -90,7 +108,11 @@ bool CSettingsDlg::pickLength(Length& length, double& picked)
     {
         showReal(length.edit, length.current);
     }
-    BeginEditorCommand();
+}
+
+// True when the user gave a length. The dialog has stepped aside.
+bool CSettingsDlg::askLength(const Length& length, double& picked)
+{
     CString prompt;
     prompt.Format(length.texts->prompt, length.current);
     picked = length.current;

@@ -25,16 +25,29 @@ CAdUiBaseDialog::CAdUiBaseDialog(UINT templateId, CWnd* parent, HINSTANCE resour
     }
 }
 
+namespace
+{
+// Makes a module's resources current for the length of a scope; null leaves them as they are.
+class CurrentResources
+{
+public:
+    explicit CurrentResources(HINSTANCE module) : m_former(AfxGetResourceHandle())
+    {
+        AfxSetResourceHandle(module != nullptr ? module : m_former);
+    }
+    ~CurrentResources() { AfxSetResourceHandle(m_former); }
+    CurrentResources(const CurrentResources&) = delete;
+    CurrentResources& operator=(const CurrentResources&) = delete;
+
+private:
+    HINSTANCE m_former;
+};
+}  // namespace
+
 INT_PTR CAdUiBaseDialog::DoModal()
 {
-    const HINSTANCE before = AfxGetResourceHandle();
-    if (m_resources != nullptr)
-    {
-        AfxSetResourceHandle(m_resources);
-    }
-    const INT_PTR result = CDialog::DoModal();
-    AfxSetResourceHandle(before);
-    return result;
+    const CurrentResources resources(m_resources);
+    return CDialog::DoModal();
 }
 
 CAdUiDialog::CAdUiDialog(UINT templateId, CWnd* parent, HINSTANCE resources)

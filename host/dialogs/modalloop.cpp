@@ -169,8 +169,13 @@ void dialogComesBack()
     Editor::current()->dialogs().comeBack();
 }
 
-void setDialogObserver(std::function<void(HWND)> newObserver)
+DialogObserver::DialogObserver(std::function<void(HWND)> look)
 {
-    observer() = std::move(newObserver);
+    observer() = std::move(look);
+}
+
+DialogObserver::~DialogObserver()
+{
+    observer() = nullptr;
 }
 }  // namespace host

@@ -17,6 +17,14 @@ void tellDialogClosed(bool ok);
 void dialogStepsAside();
 void dialogComesBack();
 
-// Called with every dialog as it stands when it is about to close; empty takes it away.
-void setDialogObserver(std::function<void(HWND)> observer);
+// Looks at every dialog as it stands when it is about to close, for the length of a scope. One at a
+// time.
+class DialogObserver
+{
+public:
+    explicit DialogObserver(std::function<void(HWND)> look);
+    ~DialogObserver();
+    DialogObserver(const DialogObserver&) = delete;
+    DialogObserver& operator=(const DialogObserver&) = delete;
+};
 }  // namespace host

@@ -17,6 +17,7 @@
 #include "host/program/unsaved.h"
 #include "host/runtime/linker.h"
 #include "host/runtime/locale.h"
+#include "host/runtime/scoped.h"
 #include "host/windows/text.h"
 
 namespace host
@@ -169,9 +170,8 @@ Result<> savePicture(const std::string& path, const Result<std::string>& picture
 bool runInputAndDraw(Editor& editor, const std::string& path)
 {
     Result<std::string> picture = Failure{"no dialog was shown that could be drawn"};
-    setDialogObserver([&](HWND dialog) { picture = drawDialog(dialog); });
+    const DialogObserver observer([&](HWND dialog) { picture = drawDialog(dialog); });
     const bool ended = runInput(editor);
-    setDialogObserver({});
     const Result<> saved = savePicture(path, picture);
     if (!saved)
     {
@@ -191,7 +191,8 @@ std::wstring welcome()
 bool runDocument(const Options& options, FrontEnd& frontEnd)
 {
     Editor editor(frontEnd, options.trace);
-    linker().report = [&](const std::string& line) { editor.printLine(fromUtf8(line)); };
+    const Scoped<Linker::Report> report(
+        linker().report, [&](const std::string& line) { editor.printLine(fromUtf8(line)); });
     bool done = loadModule(options, frontEnd);
     if (done)
     {
@@ -208,7 +209,6 @@ bool runDocument(const Options& options, FrontEnd& frontEnd)
     }
     documents().close();
     linker().unloadAll();
-    linker().report = nullptr;
     return done;
 }
 }  // namespace

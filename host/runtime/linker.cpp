@@ -6,6 +6,7 @@
 #include "host/runtime/breach.h"
 #include "host/runtime/commandstack.h"
 #include "host/runtime/lispfunctions.h"
+#include "host/runtime/scoped.h"
 #include "host/windows/text.h"
 
 ACRX_DEFINE_MEMBERS(AcRxDynamicLinker, AcRxObject)
@@ -118,10 +119,8 @@ Module* Linker::fromPacket(const void* packet) const
 
 AcRx::AppRetCode Linker::send(Module& module, AcRx::AppMsgCode message)
 {
-    Module* const former = std::exchange(m_current, &module);
-    const AcRx::AppRetCode result = module.file->send(message, &module);
-    m_current = former;
-    return result;
+    const Scoped<Module*> current(m_current, &module);
+    return module.file->send(message, &module);
 }
 
 Result<> Linker::load(const fs::path& name)

@@ -23,6 +23,8 @@ struct Module
 class Linker final : public AcRxDynamicLinker
 {
 public:
+    using Report = std::function<void(const std::string&)>;
+
     // A name without a folder is sought where a module of that name was loaded before, in the
     // current folder and in `searchFolder`; ".arx" may be left out.
     Result<> load(const std::filesystem::path& name);
@@ -45,7 +47,7 @@ public:
 
     std::filesystem::path searchFolder;
     // Prints a line for calls that ask for it.
-    std::function<void(const std::string&)> report;
+    Report report;
     // Objects of modules that the document manager calls.
     std::function<std::vector<const void*>()> listeners;
 

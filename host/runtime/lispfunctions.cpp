@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "acedads.h"
+#include "host/runtime/scoped.h"
 #include "host/text/foldcase.h"
 
 namespace host
@@ -56,7 +57,7 @@ void LispFunctions::forget(const Module& module)
 void LispFunctions::invoke(std::wstring_view name)
 {
     const Function function = m_functions.at(foldCase(name));
-    const int former = std::exchange(m_runningCode, function.code);
+    const Scoped<int> running(m_runningCode, function.code);
     if (function.handler != nullptr)
     {
         function.handler();
@@ -65,7 +66,6 @@ void LispFunctions::invoke(std::wstring_view name)
     {
         linker().send(*function.module, AcRx::kInvkSubrMsg);
     }
-    m_runningCode = former;
 }
 
 LispFunctions& lispFunctions()

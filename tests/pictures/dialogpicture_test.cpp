@@ -18,7 +18,7 @@ using host::ControlKind;
 void whileShown(const wchar_t* locale, const std::function<void(HWND)>& look)
 {
     int looked = 0;
-    host::setDialogObserver(
+    const host::DialogObserver observer(
         [&](HWND dialog)
         {
             ++looked;
@@ -29,7 +29,6 @@ void whileShown(const wchar_t* locale, const std::function<void(HWND)>& look)
     run.settings.needText = 1;
     run.settings.basePoint.set(-1000000, -1000000, 0);
     run.with({"^C"});
-    host::setDialogObserver({});
     EXPECT_EQ(looked, 1);
 }
 

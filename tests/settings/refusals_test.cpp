@@ -11,9 +11,8 @@ namespace
 {
 void observed(const std::string& lines, const std::function<void(HWND dialog)>& look)
 {
-    host::setDialogObserver(look);
+    const host::DialogObserver observer(look);
     DialogRun{}.with(typed(lines));
-    host::setDialogObserver({});
 }
 
 struct Refusal

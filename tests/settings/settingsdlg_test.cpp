@@ -110,10 +110,9 @@ TEST(SettingsDialog, showsTheDefaultsInBothLanguages)
 TEST(SettingsDialog, theListOfColorsHoldsTextsIsDrawnByItsOwnerAndKeepsItsOrder)
 {
     DWORD style = 0;
-    host::setDialogObserver([&](HWND dialog)
-                            { style = DWORD(GetWindowLongW(GetDlgItem(dialog, 113), GWL_STYLE)); });
+    const host::DialogObserver observer(
+        [&](HWND dialog) { style = DWORD(GetWindowLongW(GetDlgItem(dialog, 113), GWL_STYLE)); });
     DialogRun{}.with({"^C"});
-    host::setDialogObserver({});
     EXPECT_EQ(style & DWORD(CBS_HASSTRINGS | CBS_OWNERDRAWFIXED | CBS_SORT),
               DWORD(CBS_HASSTRINGS | CBS_OWNERDRAWFIXED));
 }

@@ -33,14 +33,13 @@ TEST(TabKey, stopsAtTheControlsInTheOrderOfTheEye)
     {
         int first = 0;
         std::vector<int> stops;
-        host::setDialogObserver(
+        const host::DialogObserver observer(
             [&](HWND dialog)
             {
                 first = GetDlgCtrlID(GetFocus());
                 stops = tabStopsOf(dialog);
             });
         DialogRun{.settings = order.settings()}.with({"^C"});
-        host::setDialogObserver({});
         EXPECT_EQ(stops, order.stops);
         EXPECT_EQ(first, order.stops.front());
     }

@@ -1,5 +1,8 @@
 #include "host/pictures/dialogpicture.h"
 
+#include <memory>
+#include <type_traits>
+
 #include "host/png/windows/drawing.h"
 
 namespace host
@@ -17,21 +20,39 @@ void paintAll(HWND dialog)
     }
 }
 
+// What the system draws with, given back on every way out.
+struct Deleting
+{
+    void operator()(HDC context) const { DeleteDC(context); }
+    void operator()(HBITMAP bitmap) const { DeleteObject(bitmap); }
+};
+using Memory = std::unique_ptr<std::remove_pointer_t<HDC>, Deleting>;
+using Bitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, Deleting>;
+
+struct Screen
+{
+    explicit Screen(HWND window) : window(window), context(GetWindowDC(window)) {}
+    ~Screen() { ReleaseDC(window, context); }
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    HWND window;
+    HDC context;
+};
+
 // With its frame, as it stands on the screen.
-HBITMAP photograph(HWND dialog)
+Bitmap photograph(HWND dialog)
 {
     RECT frame;
     GetWindowRect(dialog, &frame);
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
-    const HDC screen = GetWindowDC(dialog);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    const HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, 0, 0, SRCCOPY);
-    SelectObject(memory, before);
-    DeleteDC(memory);
-    ReleaseDC(dialog, screen);
+    const Screen screen(dialog);
+    const Memory memory(CreateCompatibleDC(screen.context));
+    Bitmap bitmap(CreateCompatibleBitmap(screen.context, width, height));
+    const HGDIOBJ before = SelectObject(memory.get(), bitmap.get());
+    BitBlt(memory.get(), 0, 0, width, height, screen.context, 0, 0, SRCCOPY);
+    SelectObject(memory.get(), before);  // a bitmap that is selected cannot be deleted
     return bitmap;
 }
 }  // namespace
@@ -40,9 +61,9 @@ Result<std::string> drawDialog(HWND dialog)
 {
     const Drawing drawing;
     paintAll(dialog);
-    const HBITMAP bitmap = photograph(dialog);
-    const std::unique_ptr<Gdiplus::Bitmap> image(Gdiplus::Bitmap::FromHBITMAP(bitmap, nullptr));
-    DeleteObject(bitmap);
+    const Bitmap bitmap = photograph(dialog);
+    const std::unique_ptr<Gdiplus::Bitmap> image(
+        Gdiplus::Bitmap::FromHBITMAP(bitmap.get(), nullptr));
     return pngOf(*image);
 }
 }  // namespace host

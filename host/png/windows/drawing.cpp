@@ -4,6 +4,11 @@ namespace host
 {
 namespace
 {
+struct Releasing
+{
+    void operator()(IUnknown* object) const { object->Release(); }
+};
+
 const CLSID pngEncoder = {
     0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
 
@@ -26,14 +31,13 @@ Result<std::string> bytesOf(IStream& stream)
 
 Result<std::string> pngOf(Gdiplus::Bitmap& bitmap)
 {
-    IStream* stream = nullptr;
-    if (CreateStreamOnHGlobal(nullptr, TRUE, &stream) != S_OK)
+    IStream* made = nullptr;
+    if (CreateStreamOnHGlobal(nullptr, TRUE, &made) != S_OK)
     {
         return noMemory;
     }
-    const bool isWritten = bitmap.Save(stream, &pngEncoder, nullptr) == Gdiplus::Ok;
-    Result<std::string> bytes = isWritten ? bytesOf(*stream) : noMemory;
-    stream->Release();
-    return bytes;
+    const std::unique_ptr<IStream, Releasing> stream(made);
+    const bool isWritten = bitmap.Save(stream.get(), &pngEncoder, nullptr) == Gdiplus::Ok;
+    return isWritten ? bytesOf(*stream) : noMemory;
 }
 }  // namespace host
