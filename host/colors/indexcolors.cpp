@@ -8,7 +8,7 @@ namespace host
 {
 namespace
 {
-Color gray(double level)
+Color grey(double level)
 {
     return {level, level, level};
 }
@@ -16,9 +16,9 @@ Color gray(double level)
 // A pure colour by its place on a circle of 24: red at 0, green at 8, blue at 16.
 Color hue(int place)
 {
-    const auto part = [place](int center)
+    const auto part = [place](int centre)
     {
-        const int turn = std::abs(place - center) % 24;
+        const int turn = std::abs(place - centre) % 24;
         const int distance = std::min(turn, 24 - turn);
         return std::clamp(2 - distance / 4.0, 0.0, 1.0);
     };
@@ -48,8 +48,8 @@ Color indexColor(int index)
                                        {0, 0, 1},
                                        {1, 0, 1},
                                        black,
-                                       gray(0.5),
-                                       gray(0.75)}};
+                                       grey(0.5),
+                                       grey(0.75)}};
     if (index < 0 || index > 255)
     {
         return black;
@@ -58,6 +58,6 @@ Color indexColor(int index)
     {
         return first[std::size_t(index)];
     }
-    return index < 250 ? wheelColor(index) : gray(0.2 + 0.16 * (index - 250));
+    return index < 250 ? wheelColor(index) : grey(0.2 + 0.16 * (index - 250));
 }
 }  // namespace host

@@ -24,7 +24,7 @@ double sweep(double start, double end)
 }
 }  // namespace
 
-Points ellipse(const AcGePoint3d& center, const AcGeVector3d& major, const AcGeVector3d& minor,
+Points ellipse(const AcGePoint3d& centre, const AcGeVector3d& major, const AcGeVector3d& minor,
                double start, double end)
 {
     const double angle = sweep(start, end);
@@ -33,14 +33,14 @@ Points ellipse(const AcGePoint3d& center, const AcGeVector3d& major, const AcGeV
     for (int i = 0; i <= chords; ++i)
     {
         const double at = start + angle * i / chords;
-        points.push_back(center + major * std::cos(at) + minor * std::sin(at));
+        points.push_back(centre + major * std::cos(at) + minor * std::sin(at));
     }
     return points;
 }
 
-Points arc(const AcGePoint3d& center, double radius, double start, double end)
+Points arc(const AcGePoint3d& centre, double radius, double start, double end)
 {
-    return ellipse(center, {radius, 0, 0}, {0, radius, 0}, start, end);
+    return ellipse(centre, {radius, 0, 0}, {0, radius, 0}, start, end);
 }
 
 Points segment(const Vertex& a, const AcGePoint3d& b)
@@ -53,15 +53,15 @@ Points segment(const Vertex& a, const AcGePoint3d& b)
     }
     // The centre lies to the left of the chord by this part of its half.
     const double offset = (1 / a.bulge - a.bulge) / 2;
-    const AcGePoint3d center = a.point + half + AcGeVector3d(-half.y, half.x, 0) * offset;
+    const AcGePoint3d centre = a.point + half + AcGeVector3d(-half.y, half.x, 0) * offset;
     const double angle = 4 * std::atan(a.bulge);
-    const AcGeVector3d out = a.point - center;
+    const AcGeVector3d out = a.point - centre;
     const AcGeVector3d left(-out.y, out.x, 0);
     const int chords = chordsFor(angle);
     for (int i = 1; i < chords; ++i)
     {
         const double at = angle * i / chords;
-        points.push_back(center + out * std::cos(at) + left * std::sin(at));
+        points.push_back(centre + out * std::cos(at) + left * std::sin(at));
     }
     return points;
 }

@@ -18,10 +18,10 @@ struct Vertex
 };
 
 // Counter-clockwise in the XY plane from one angle to the other, in radians.
-Points arc(const AcGePoint3d& center, double radius, double start, double end);
+Points arc(const AcGePoint3d& centre, double radius, double start, double end);
 
 // The same for an ellipse and the parameters of its ends: 0 is where the major axis ends.
-Points ellipse(const AcGePoint3d& center, const AcGeVector3d& major, const AcGeVector3d& minor,
+Points ellipse(const AcGePoint3d& centre, const AcGeVector3d& major, const AcGeVector3d& minor,
                double start, double end);
 
 // The segment from `a` to `b` without `b`.

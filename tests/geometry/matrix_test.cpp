@@ -91,21 +91,21 @@ TEST(Matrices, rotationIsRightHandedAboutEveryAxis)
                AcGePoint3d(3, 1, 2), 1e-14);
 }
 
-TEST(Matrices, rotationKeepsItsCenter)
+TEST(Matrices, rotationKeepsItsCentre)
 {
-    const AcGePoint3d center(100, 50, 7);
-    const AcGeMatrix3d turn = AcGeMatrix3d::rotation(pi / 2, axisZ, center);
-    expectNear(turn * center, center, 1e-13);
+    const AcGePoint3d centre(100, 50, 7);
+    const AcGeMatrix3d turn = AcGeMatrix3d::rotation(pi / 2, axisZ, centre);
+    expectNear(turn * centre, centre, 1e-13);
     expectNear(turn * AcGePoint3d(101, 50, 7), AcGePoint3d(100, 51, 7), 1e-13);
 }
 
 TEST(Matrices, aZeroAngleOrNoAxisIsTheIdentityToTheLastBit)
 {
-    const AcGePoint3d center(1e7, 0.1, 3);
+    const AcGePoint3d centre(1e7, 0.1, 3);
     const AcGeVector3d axis(1, 2, 3);
     for (const double zero : {0.0, -0.0})
     {
-        EXPECT_TRUE(sameBits(AcGeMatrix3d::rotation(zero, axis, center), AcGeMatrix3d::kIdentity));
+        EXPECT_TRUE(sameBits(AcGeMatrix3d::rotation(zero, axis, centre), AcGeMatrix3d::kIdentity));
     }
     EXPECT_TRUE(sameBits(AcGeMatrix3d::rotation(1, AcGeVector3d()), AcGeMatrix3d::kIdentity));
 }
