@@ -9,6 +9,7 @@
 class CStringW
 {
 public:
+    // Empty; a copy of a text; a copy of its first `length` units; `count` times the same unit.
     CStringW();
     CStringW(LPCWSTR text);
     CStringW(LPCWSTR text, int length);
@@ -16,16 +17,20 @@ public:
     CStringW(const CStringW& text);
     ~CStringW();
 
+    // Replaces the text.
     CStringW& operator=(const CStringW& text);
     CStringW& operator=(LPCWSTR text);
     CStringW& operator=(wchar_t unit);
 
+    // The text with a zero at its end [borrowed].
     operator LPCWSTR() const { return GetString(); }
     LPCWSTR GetString() const;
+    // Number of units before the zero, and whether it is 0. Empty makes it so.
     int GetLength() const;
     bool IsEmpty() const { return GetLength() == 0; }
     void Empty();
 
+    // One unit. index is at least 0 and below the length; nothing checks that.
     wchar_t GetAt(int index) const { return GetString()[index]; }
     wchar_t operator[](int index) const { return GetString()[index]; }
     void SetAt(int index, wchar_t unit);
@@ -87,6 +92,7 @@ private:
     Internals* m_internals;
 };
 
+// The text class of a Unicode module.
 typedef CStringW CString;
 
 // Both texts, one after the other.
