@@ -6,7 +6,8 @@
 
 #include "dbents.h"
 #include "host/dxf/filesource.h"
-#include "host/dxf/tagwriter.h"
+#include "host/dxf/recordwriter.h"
+#include "host/dxf/schema/entities.h"
 
 namespace host::dxf
 {
@@ -25,27 +26,22 @@ private:
     // `last` is the one that is being written.
     void writeAll(const AcDbStub* owner, TagWriter& writer, const AcDbStub*& last);
     void writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, TagWriter& writer);
+    void writeLine(const AcDbLine& line, TagWriter& writer);
     void writeText(const AcDbText& text, TagWriter& writer);
     void writePolyline(const AcDb2dPolyline& polyline, TagWriter& writer);
+    void writeVertex(const AcDb2dVertex& vertex, TagWriter& writer);
 
     const RecordForm& lineForm(std::uint32_t style);
     RecordForm makeLineForm(const LineStyle& style);
-    void writeHandle(std::uint64_t handle, TagWriter& writer) const;
-    void writeOwner(std::uint64_t handle, TagWriter& writer) const;
-    void writeSubclass(std::string_view name, TagWriter& writer) const;
-    void writeCommon(const LineStyle& style, TagWriter& writer);
-    void writeLater(const LineStyle& style, TagWriter& writer) const;
-    void writeReactors(const LineStyle& style, TagWriter& writer);
-    std::string nameOf(const AcDbStub* record) const;
+    void fillCommon(schema::entity::Entity& entity, const LineStyle& style,
+                    std::uint64_t handle) const;
+    void fillCommon(schema::entity::Entity& entity, const AcDbEntity& from) const;
+    static std::wstring nameOf(const AcDbStub* record);
 
     DatabaseCore& m_core;
-    const CodePage& m_codePage;
+    const FileForm m_form;
     const TagStyle m_style;
-    const Release& m_release;
     bool m_handles;
     std::unordered_map<std::uint32_t, RecordForm> m_lineForms;
 };
-
-// 210, 220, 230 when the entity does not lie in a plane parallel to the world's.
-void writeNormal(const AcGeVector3d& normal, TagWriter& writer);
 }  // namespace host::dxf

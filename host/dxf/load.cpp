@@ -4,78 +4,50 @@
 #include "host/database/dictionaryentries.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/loadstate.h"
+#include "host/dxf/recordreader.h"
+#include "host/dxf/schema/objects.h"
+#include "host/dxf/schema/tablerecords.h"
 #include "host/text/foldcase.h"
 
 namespace host::dxf
 {
 namespace
 {
-// The tags of a record that is looked at as a whole.
-struct Fields
+TagSource tagsOf(const FileSource& source)
 {
-    std::wstring name;
-    int flags = 0;
-    int color = 7;
-    double size = 0;
-    double widthFactor = 1;
-    double oblique = 0;  // degrees
-};
+    return {source.file, source.codePage};
+}
 
-Fields fieldsOf(const FileSource& source, const Record& record)
+template <class Table>
+std::wstring nameOf(const Table& table, const FileSource& source, const Record& record)
 {
-    Fields fields;
-    for (const Tag& tag : source.file.tags(record))
-    {
-        switch (tag.code)
-        {
-            case 2:
-                fields.name = source.codePage.decode(tag.value);
-                break;
-            case 70:
-                fields.flags = int(source.file.integer(tag));
-                break;
-            case 62:
-                fields.color = int(source.file.integer(tag));
-                break;
-            case 40:
-                fields.size = source.file.real(tag);
-                break;
-            case 41:
-                fields.widthFactor = source.file.real(tag);
-                break;
-            case 50:
-                fields.oblique = source.file.real(tag);
-                break;
-            case 1001:  // what follows is an application's own
-                return fields;
-        }
-    }
-    return fields;
+    return readRecord(table, tagsOf(source), record).name;
 }
 
 void loadLayer(DatabaseCore& core, FileSource& source, const Record& record)
 {
-    const Fields fields = fieldsOf(source, record);
+    const schema::layer::Layer read = readRecord(schema::layer::table, tagsOf(source), record);
     auto* layer =
-        core.addLoadedRecord<AcDbLayerTableRecord>(core.layerTable, fields.name, record.handle);
-    const bool frozen = fields.flags & 1;
-    const bool locked = fields.flags & 4;
-    const bool off = fields.color < 0;
+        core.addLoadedRecord<AcDbLayerTableRecord>(core.layerTable, read.name, record.handle);
+    const bool frozen = read.flags & schema::layer::frozenFlag;
+    const bool locked = read.flags & schema::layer::lockedFlag;
+    const bool off = read.color < 0;
     setFlags(*layer, {frozen, locked, off});
     source.layers.push_back({&record, layer, frozen, locked, off});
 }
 
 void loadTextStyle(DatabaseCore& core, const FileSource& source, const Record& record)
 {
-    const Fields fields = fieldsOf(source, record);
-    auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, fields.name,
+    const schema::textstyle::TextStyle read =
+        readRecord(schema::textstyle::table, tagsOf(source), record);
+    auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, read.name,
                                                                  record.handle);
-    setTextStyle(*style, fields.oblique * M_PI / 180, fields.widthFactor, fields.size);
+    setTextStyle(*style, read.oblique * M_PI / 180, read.widthFactor, read.height);
 }
 
 void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record& record)
 {
-    const std::wstring name = fieldsOf(source, record).name;
+    const std::wstring name = nameOf(schema::blockrecord::table, source, record);
     auto* block = core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, name, record.handle);
     if (equalNoCase(name, ACDB_MODEL_SPACE))
     {
@@ -88,7 +60,8 @@ AcDbStub* makeTable(DatabaseCore& core, const FileSource& source, std::string_vi
 {
     for (const Record& record : source.file.records("TABLES"))
     {
-        if (source.file.typeName(record) == "TABLE" && tableName(source.file, record) == type)
+        if (source.file.typeName(record) == schema::symbolTable.type &&
+            tableName(source.file, record) == type)
         {
             return core.addLoaded(new Table(), nullptr, record.handle);
         }
@@ -98,32 +71,33 @@ AcDbStub* makeTable(DatabaseCore& core, const FileSource& source, std::string_vi
 
 void loadTables(DatabaseCore& core, FileSource& source)
 {
-    core.blockTable = makeTable<AcDbBlockTable>(core, source, "BLOCK_RECORD");
-    core.layerTable = makeTable<AcDbLayerTable>(core, source, "LAYER");
-    core.linetypeTable = makeTable<AcDbLinetypeTable>(core, source, "LTYPE");
-    core.textStyleTable = makeTable<AcDbTextStyleTable>(core, source, "STYLE");
+    core.blockTable = makeTable<AcDbBlockTable>(core, source, schema::blockrecord::table.type);
+    core.layerTable = makeTable<AcDbLayerTable>(core, source, schema::layer::table.type);
+    core.linetypeTable = makeTable<AcDbLinetypeTable>(core, source, schema::linetype::table.type);
+    core.textStyleTable =
+        makeTable<AcDbTextStyleTable>(core, source, schema::textstyle::table.type);
     for (const Record& record : source.file.records("TABLES"))
     {
         const std::string_view type = source.file.typeName(record);
-        if (type == "LAYER")
+        if (type == schema::layer::table.type)
         {
             loadLayer(core, source, record);
         }
-        else if (type == "LTYPE")
+        else if (type == schema::linetype::table.type)
         {
             core.addLoadedRecord<AcDbLinetypeTableRecord>(
-                core.linetypeTable, fieldsOf(source, record).name, record.handle);
+                core.linetypeTable, nameOf(schema::linetype::table, source, record), record.handle);
         }
-        else if (type == "STYLE")
+        else if (type == schema::textstyle::table.type)
         {
             loadTextStyle(core, source, record);
         }
-        else if (type == "BLOCK_RECORD")
+        else if (type == schema::blockrecord::table.type)
         {
             loadBlockRecord(core, source, record);
         }
-        else if (type == "VPORT" && source.viewport == nullptr &&
-                 equalNoCase(fieldsOf(source, record).name, L"*ACTIVE"))
+        else if (type == schema::viewport::table.type && source.viewport == nullptr &&
+                 equalNoCase(nameOf(schema::viewport::table, source, record), L"*ACTIVE"))
         {
             source.viewport = &record;
         }
@@ -151,11 +125,13 @@ void completeTables(DatabaseCore& core, FileSource& source)
             core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, ACDB_MODEL_SPACE, 0);
         core.modelSpace = space->objectId().stub();
     }
-    ensure<AcDbLayerTableRecord>(core, source, core.layerTable, "LAYER", L"0");
-    ensure<AcDbTextStyleTableRecord>(core, source, core.textStyleTable, "STYLE", L"Standard");
+    ensure<AcDbLayerTableRecord>(core, source, core.layerTable, schema::layer::table.type, L"0");
+    ensure<AcDbTextStyleTableRecord>(core, source, core.textStyleTable,
+                                     schema::textstyle::table.type, L"Standard");
     for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
     {
-        ensure<AcDbLinetypeTableRecord>(core, source, core.linetypeTable, "LTYPE", name);
+        ensure<AcDbLinetypeTableRecord>(core, source, core.linetypeTable,
+                                        schema::linetype::table.type, name);
     }
 }
 
@@ -174,11 +150,12 @@ void forEachEntry(const FileSource& source, const Record& dictionary, Take take)
     std::wstring key;
     for (const Tag& tag : source.file.tags(dictionary))
     {
-        if (tag.code == 3)
+        if (tag.code == schema::dictionary::key)
         {
             key = source.codePage.decode(tag.value);
         }
-        else if (!key.empty() && (tag.code == 350 || tag.code == 360))
+        else if (!key.empty() && (tag.code == schema::dictionary::softEntry ||
+                                  tag.code == schema::dictionary::hardEntry))
         {
             take(key, source.file.handle(tag));
             key.clear();
@@ -222,7 +199,7 @@ std::string_view tableName(const TagFile& file, const Record& table)
 {
     for (const Tag& tag : file.tags(table))
     {
-        if (tag.code == 2)
+        if (tag.code == schema::name)
         {
             return trimmed(tag.value);
         }

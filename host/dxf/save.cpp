@@ -9,74 +9,43 @@
 #include "host/database/packing.h"
 #include "host/dxf/entitywriter.h"
 #include "host/dxf/filesource.h"
+#include "host/dxf/headervariables.h"
 #include "host/dxf/livestubs.h"
+#include "host/dxf/recordedits.h"
+#include "host/dxf/recordreader.h"
 #include "host/dxf/save_atomic.h"
 #include "host/dxf/savestate.h"
 #include "host/dxf/savetables.h"
+#include "host/dxf/schema/entities.h"
+#include "host/dxf/schema/header.h"
+#include "host/dxf/schema/objects.h"
+#include "host/dxf/schema/tablerecords.h"
 #include "host/text/foldcase.h"
 
 namespace host::dxf
 {
 namespace
 {
-// The record's first tag with that code; applications' own data, from code 1001 on, is not asked.
-std::optional<Tag> firstTag(const TagFile& file, const Record& record, int code)
+// Sets only what has changed: a layer's other flags and its colour stay as the file has them.
+void saveLayer(Edits& edits, const FileSource& source, const LoadedLayer& loaded)
 {
-    for (const Tag& tag : file.tags(record))
+    const AcDbLayerTableRecord& layer = *loaded.layer;
+    const auto& table = schema::layer::table;
+    const auto before = readRecord(table, TagSource{source.file, source.codePage}, *loaded.record);
+    auto now = before;
+    if (layer.isFrozen() != loaded.frozen || layer.isLocked() != loaded.locked)
     {
-        if (tag.code == code)
-        {
-            return tag;
-        }
-        if (tag.code == 1001)
-        {
-            break;
-        }
+        now.flags &= ~(schema::layer::frozenFlag | schema::layer::lockedFlag);
+        now.flags |= layer.isFrozen() ? schema::layer::frozenFlag : 0;
+        now.flags |= layer.isLocked() ? schema::layer::lockedFlag : 0;
     }
-    return std::nullopt;
-}
-
-// Where what is added to a record goes: before applications' own data.
-std::size_t endOfOwnTags(const TagFile& file, const Record& record)
-{
-    const std::optional<Tag> data = firstTag(file, record, 1001);
-    return data ? data->begin : record.end;
-}
-
-void setInteger(Edits& edits, const Record& record, int code, int value)
-{
-    if (const std::optional<Tag> tag = firstTag(edits.file(), record, code))
+    if (layer.isOff() != loaded.off)
     {
-        edits.setValue(*tag, std::to_string(value));
-        return;
+        now.color = layer.isOff() ? -std::abs(before.color) : std::abs(before.color);
     }
-    edits.insert(endOfOwnTags(edits.file(), record),
-                 [=](TagWriter& writer) { writer.integer(code, value); });
-}
-
-int firstInteger(const TagFile& file, const Record& record, int code, int fallback)
-{
-    const std::optional<Tag> tag = firstTag(file, record, code);
-    return tag ? int(file.integer(*tag)) : fallback;
-}
-
-void saveLayers(Edits& edits, const FileSource& source)
-{
-    for (const LoadedLayer& loaded : source.layers)
-    {
-        const AcDbLayerTableRecord& layer = *loaded.layer;
-        if (layer.isFrozen() != loaded.frozen || layer.isLocked() != loaded.locked)
-        {
-            const int others = firstInteger(source.file, *loaded.record, 70, 0) & ~5;
-            setInteger(edits, *loaded.record, 70,
-                       others | (layer.isFrozen() ? 1 : 0) | (layer.isLocked() ? 4 : 0));
-        }
-        if (layer.isOff() != loaded.off)
-        {
-            const int color = std::abs(firstInteger(source.file, *loaded.record, 62, 7));
-            setInteger(edits, *loaded.record, 62, layer.isOff() ? -color : color);
-        }
-    }
+    const FileForm form{source.file.release(), source.codePage};
+    saveChanges(edits, *loaded.record, RecordNumbers(table, before, form),
+                RecordNumbers(table, now, form));
 }
 
 // New entities of the spaces stand in ENTITIES, those of another block before its end.
@@ -92,15 +61,16 @@ std::size_t placeFor(const FileSource& source, const AcDbStub* owner)
     for (const Record& record : source.file.records("BLOCKS"))
     {
         const std::string_view type = source.file.typeName(record);
-        if (type == "ENDBLK" && inBlock)
+        if (type == schema::endOfBlock && inBlock)
         {
             return record.begin;
         }
-        if (type == "BLOCK")
+        if (type == schema::block::type)
         {
             for (const Tag& tag : source.file.tags(record))
             {
-                inBlock |= tag.code == 2 && equalNoCase(source.codePage.decode(tag.value), name);
+                inBlock |= tag.code == schema::name &&
+                           equalNoCase(source.codePage.decode(tag.value), name);
             }
         }
     }
@@ -140,30 +110,30 @@ void saveEntities(Edits& edits, const FileSource& source, const LiveStubs& live,
     }
 }
 
+FileForm formOf(const FileSource& source)
+{
+    return {source.file.release(), source.codePage};
+}
+
 void writeGroup(const DictionaryEntries::Entry& entry, std::uint64_t dictionary,
                 const FileSource& source, TagWriter& writer)
 {
     const GroupMembers& members = GroupMembers::of(*static_cast<AcDbGroup*>(entry.stub->object));
-    writer.text(0, "GROUP");
-    writer.handle(5, entry.stub->handle);
-    writer.text(102, "{ACAD_REACTORS");
-    writer.handle(330, dictionary);
-    writer.text(102, "}");
-    if (source.file.release().ownership)
-    {
-        writer.handle(330, dictionary);
-    }
-    writer.text(100, "AcDbGroup");
-    writer.text(300, source.codePage.encode(members.description));
-    writer.integer(70, members.anonymous ? 1 : 0);
-    writer.integer(71, members.selectable ? 1 : 0);
+    schema::group::Group group;
+    group.handle = entry.stub->handle;
+    group.reactors = {dictionary};
+    group.owner = dictionary;
+    group.description = members.description;
+    group.unnamed = members.anonymous ? 1 : 0;
+    group.selectable = members.selectable ? 1 : 0;
     for (const AcDbStub* member : members.inOrder())
     {
         if (!member->erased())
         {
-            writer.handle(340, member->handle);
+            group.members.push_back(member->handle);
         }
     }
+    writeRecord(writer, schema::group::table, group, formOf(source));
 }
 
 typedef std::vector<DictionaryEntries::Entry> NewGroups;
@@ -182,32 +152,24 @@ NewGroups newGroups(const DatabaseCore& core)
     return groups;
 }
 
-void writeEntry(std::string_view key, std::uint64_t handle, TagWriter& writer)
+void writeEntry(const std::wstring& key, std::uint64_t handle, const FileSource& source,
+                TagWriter& writer)
 {
-    writer.text(3, key);
-    writer.handle(350, handle);
+    writeRecord(writer, schema::dictionary::entry, {key, handle}, formOf(source));
 }
 
-void writeDictionary(const Release& release, std::uint64_t handle, std::uint64_t owner,
+// `owner` is 0 for the root.
+void writeDictionary(const FileSource& source, std::uint64_t handle, std::uint64_t owner,
                      const Producer& entries, TagWriter& writer)
 {
-    writer.text(0, "DICTIONARY");
-    writer.handle(5, handle);
+    schema::dictionary::Dictionary dictionary;
+    dictionary.handle = handle;
+    dictionary.owner = owner;
     if (owner != 0)
     {
-        writer.text(102, "{ACAD_REACTORS");
-        writer.handle(330, owner);
-        writer.text(102, "}");
+        dictionary.reactors = {owner};
     }
-    if (release.ownership)
-    {
-        writer.handle(330, owner);
-    }
-    writer.text(100, "AcDbDictionary");
-    if (release.ownership)
-    {
-        writer.integer(281, 1);
-    }
+    writeRecord(writer, schema::dictionary::table, dictionary, formOf(source));
     entries(writer);
 }
 
@@ -225,13 +187,12 @@ void saveGroups(Edits& edits, DatabaseCore& core)
     {
         dictionary->handle = core.nextHandle++;
     }
-    const CodePage& codePage = source.codePage;
     const std::uint64_t own = dictionary->handle;
-    const Producer entries = [&codePage, groups](TagWriter& writer)
+    const Producer entries = [&source, groups](TagWriter& writer)
     {
         for (const auto& group : groups)
         {
-            writeEntry(codePage.encode(group.key), group.stub->handle, writer);
+            writeEntry(group.key, group.stub->handle, source, writer);
         }
     };
     const std::uint64_t root =
@@ -241,14 +202,15 @@ void saveGroups(Edits& edits, DatabaseCore& core)
     {
         if (isNew)
         {
-            writeDictionary(source.file.release(), own, root, entries, writer);
+            writeDictionary(source, own, root, entries, writer);
         }
         for (const auto& group : groups)
         {
             writeGroup(group, own, source, writer);
         }
     };
-    const Producer rootEntry = [own](TagWriter& writer) { writeEntry("ACAD_GROUP", own, writer); };
+    const Producer rootEntry = [&source, own](TagWriter& writer)
+    { writeEntry(L"ACAD_GROUP", own, source, writer); };
     if (!isNew)
     {
         edits.insert(endOfOwnTags(source.file, *source.groupDictionary), entries);
@@ -264,7 +226,7 @@ void saveGroups(Edits& edits, DatabaseCore& core)
     }
     const Producer all = [&source, root, rootEntry, objects](TagWriter& writer)
     {
-        writeDictionary(source.file.release(), root, 0, rootEntry, writer);
+        writeDictionary(source, root, 0, rootEntry, writer);
         objects(writer);
     };
     const Section* section = source.file.section("OBJECTS");
@@ -291,7 +253,8 @@ void saveHandleSeed(Edits& edits, const DatabaseCore& core, const LiveStubs& liv
         return;
     }
     const std::uint64_t seed = core.nextHandle;
-    edits.setHeader("$HANDSEED", [seed](TagWriter& writer) { writer.handle(5, seed); });
+    HeaderEdits{edits, source.codePage}.setAll(schema::handleVariables,
+                                               schema::HandleVariables{seed});
 }
 }  // namespace
 
@@ -334,7 +297,10 @@ void noteChanges(Edits& edits, DatabaseCore& core, const LiveStubs& live, Entity
     const FileSource& source = sourceOf(core);
     saveTables(edits, core, live);
     saveRepairs(edits);
-    saveLayers(edits, source);
+    for (const LoadedLayer& layer : source.layers)
+    {
+        saveLayer(edits, source, layer);
+    }
     saveEntities(edits, source, live, entities);
     saveGroups(edits, core);
     saveState(edits, core);

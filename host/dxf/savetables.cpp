@@ -6,6 +6,8 @@
 #include "dbents.h"
 #include "host/database/drawing.h"
 #include "host/database/entitystyle.h"
+#include "host/dxf/recordwriter.h"
+#include "host/dxf/schema/tablerecords.h"
 #include "host/text/foldcase.h"
 
 namespace host::dxf
@@ -39,122 +41,65 @@ Stubs namedRecords(const DatabaseCore& core, const LiveStubs& live)
 struct NewRecord
 {
     std::uint64_t handle;
-    std::string name;  // encoded
+    std::wstring name;
 };
 
-void writeLayer(const NewRecord& record, TagWriter& writer)
+template <auto& table>
+void writeNew(const NewRecord& record, std::uint64_t owner, const FileForm& form, TagWriter& writer)
 {
-    writer.text(2, record.name);
-    writer.integer(70, 0);
-    writer.integer(62, 7);
-    writer.text(6, "CONTINUOUS");
-}
-
-void writeLinetype(const NewRecord& record, TagWriter& writer)
-{
-    writer.text(2, record.name);
-    writer.integer(70, 0);
-    writer.text(3, "Solid line");
-    writer.integer(72, 'A');
-    writer.integer(73, 0);
-    writer.real(40, 0);
-}
-
-void writeTextStyle(const NewRecord& record, TagWriter& writer)
-{
-    writer.text(2, record.name);
-    writer.integer(70, 0);
-    writer.real(40, 0);
-    writer.real(41, 1);
-    writer.real(50, 0);
-    writer.integer(71, 0);
-    writer.real(42, 2.5);
-    writer.text(3, "txt");
-    writer.text(4, "");
+    typename std::remove_reference_t<decltype(table)>::RecordType made;
+    made.handle = record.handle;
+    made.owner = owner;
+    made.name = record.name;
+    writeRecord(writer, table, made, form);
 }
 
 struct Kind
 {
     std::string_view type;
-    std::string_view subclass;
-    void (*write)(const NewRecord& record, TagWriter& writer);
+    void (*write)(const NewRecord& record, std::uint64_t owner, const FileForm& form,
+                  TagWriter& writer);
 };
+
+template <auto& table>
+constexpr Kind kindOf()
+{
+    return {table.type, writeNew<table>};
+}
 
 // In the order of a file.
 constexpr Kind kinds[] = {
-    {"LTYPE", "AcDbLinetypeTableRecord", writeLinetype},
-    {"LAYER", "AcDbLayerTableRecord", writeLayer},
-    {"STYLE", "AcDbTextStyleTableRecord", writeTextStyle},
+    kindOf<schema::linetype::table>(),
+    kindOf<schema::layer::table>(),
+    kindOf<schema::textstyle::table>(),
 };
 
-class RecordWriter
-{
-public:
-    RecordWriter(const Release& release, bool handles) : m_release(release), m_handles(handles) {}
-
-    // A table of its own, or only the records when the file has the table.
-    void writeTable(const Kind& kind, std::uint64_t handle, const std::vector<NewRecord>& records,
-                    TagWriter& writer) const;
-    void writeRecords(const Kind& kind, std::uint64_t table, const std::vector<NewRecord>& records,
-                      TagWriter& writer) const;
-
-private:
-    void begin(const Kind& kind, std::uint64_t handle, std::uint64_t owner,
-               TagWriter& writer) const;
-
-    const Release& m_release;
-    bool m_handles;
-};
-
-void RecordWriter::begin(const Kind& kind, std::uint64_t handle, std::uint64_t owner,
-                         TagWriter& writer) const
-{
-    writer.text(0, kind.type);
-    if (m_handles)
-    {
-        writer.handle(5, handle);
-    }
-    if (m_release.ownership && owner != 0)
-    {
-        writer.handle(330, owner);
-    }
-    if (m_release.objects)
-    {
-        writer.text(100, "AcDbSymbolTableRecord");
-        writer.text(100, kind.subclass);
-    }
-}
-
-void RecordWriter::writeRecords(const Kind& kind, std::uint64_t table,
-                                const std::vector<NewRecord>& records, TagWriter& writer) const
+void writeRecords(const Kind& kind, std::uint64_t table, const std::vector<NewRecord>& records,
+                  const FileForm& form, TagWriter& writer)
 {
     for (const NewRecord& record : records)
     {
-        begin(kind, record.handle, table, writer);
-        kind.write(record, writer);
+        kind.write(record, table, form, writer);
     }
 }
 
-void RecordWriter::writeTable(const Kind& kind, std::uint64_t handle,
-                              const std::vector<NewRecord>& records, TagWriter& writer) const
+void writeTable(const Kind& kind, std::uint64_t handle, const std::vector<NewRecord>& records,
+                const FileForm& form, TagWriter& writer)
 {
-    writer.text(0, "TABLE");
-    writer.text(2, kind.type);
-    if (m_release.objects)
-    {
-        writer.handle(5, handle);
-        writer.text(100, "AcDbSymbolTable");
-    }
-    writer.integer(70, std::int64_t(records.size()));
-    writeRecords(kind, handle, records, writer);
-    writer.text(0, "ENDTAB");
+    schema::SymbolTable table;
+    table.name = std::wstring(kind.type.begin(), kind.type.end());
+    table.handle = handle;
+    table.count = int(records.size());
+    writeRecord(writer, schema::symbolTable, table, form);
+    writeRecords(kind, handle, records, form, writer);
+    writer.text(schema::recordType, schema::endOfTable);
 }
 
 std::uint64_t tableHandle(const TagFile& file, std::string_view type)
 {
     for (const Record& record : file.records("TABLES"))
     {
-        if (file.typeName(record) == "TABLE" && tableName(file, record) == type)
+        if (file.typeName(record) == schema::symbolTable.type && tableName(file, record) == type)
         {
             return record.handle;
         }
@@ -169,11 +114,11 @@ const Record* endOfTable(const TagFile& file, std::string_view type)
     for (const Record& record : file.records("TABLES"))
     {
         const std::string_view name = file.typeName(record);
-        if (name == "ENDTAB" && inside)
+        if (name == schema::endOfTable && inside)
         {
             return &record;
         }
-        if (name == "TABLE")
+        if (name == schema::symbolTable.type)
         {
             inside = tableName(file, record) == type;
         }
@@ -194,6 +139,7 @@ std::size_t placeForTables(const TagFile& file)
     }
     return place;
 }
+
 // R12 has no records for the two linetypes that stand for others.
 bool isRecordOf(const Release& release, const std::wstring& name)
 {
@@ -203,17 +149,18 @@ bool isRecordOf(const Release& release, const std::wstring& name)
 std::vector<NewRecord> missingRecords(DatabaseCore& core, const Kind& kind, const Stubs& named)
 {
     const FileSource& source = sourceOf(core);
+    const TagFile& file = source.file;
     std::vector<NewRecord> records;
     for (const AddedRecord& added : source.added)
     {
         const std::wstring name = recordName(AcDbObjectId(added.stub));
         if (added.type != kind.type || !named.contains(added.stub) ||
-            !isRecordOf(source.file.release(), name))
+            !isRecordOf(file.release(), name))
         {
             continue;
         }
         added.stub->handle = added.stub->handle != 0 ? added.stub->handle : core.nextHandle++;
-        records.push_back({added.stub->handle, source.codePage.encode(name)});
+        records.push_back({file.hasHandles() ? added.stub->handle : 0, name});
     }
     return records;
 }
@@ -238,7 +185,7 @@ void saveTables(Edits& edits, DatabaseCore& core, const LiveStubs& live)
     {
         return;
     }
-    const RecordWriter writes(source.file.release(), source.file.hasHandles());
+    const FileForm form{source.file.release(), source.codePage};
     const Stubs named = namedRecords(core, live);
     std::string tables;
     TagWriter newTables([&tables](std::string_view bytes) { tables += bytes; },
@@ -250,12 +197,12 @@ void saveTables(Edits& edits, DatabaseCore& core, const LiveStubs& live)
         if (end != nullptr)
         {
             const std::uint64_t table = tableHandle(source.file, kind.type);
-            edits.insert(end->begin, [writes, &kind, table, records](TagWriter& writer)
-                         { writes.writeRecords(kind, table, records, writer); });
+            edits.insert(end->begin, [form, &kind, table, records](TagWriter& writer)
+                         { writeRecords(kind, table, records, form, writer); });
         }
         else if (!records.empty())
         {
-            writes.writeTable(kind, core.nextHandle++, records, newTables);
+            writeTable(kind, core.nextHandle++, records, form, newTables);
         }
     }
     newTables.flush();

@@ -246,6 +246,20 @@ TEST_F(Drawing, aViewThatWasTurnedIsSavedInTheViewportAndNothingElseChanges)
     EXPECT_NEAR(host::stateOf(*database).view.twist, 0.5235987755982988, 1e-15);
 }
 
+// Other programs leave them out.
+TEST_F(Drawing, aViewportWithoutAnIconIsGivenNone)
+{
+    std::string text = host::dxf::emptyDrawing();
+    for (const std::string tag : {"\n 71\n0", "\n 74\n3"})
+    {
+        text.erase(text.find(tag, text.find("\nVPORT\n")), tag.size());
+    }
+    const auto database = opened(text);
+    host::stateOf(*database).ucsIcon = 0;
+    host::stateOf(*database).ucsFollow = 1;
+    EXPECT_EQ(saved(*database), text);
+}
+
 TEST_F(Drawing, aTwistBeyondOneTurnIsSavedAsItWasRead)
 {
     for (const double degrees : {-30.0, 390.0, -750.0, 360.0})

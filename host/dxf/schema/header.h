@@ -11,6 +11,7 @@ inline constexpr Code integerVariable{70};
 inline constexpr Code realVariable{40};
 inline constexpr Code pointVariable{10};
 inline constexpr Code textVariable{1};
+inline constexpr Code usualCodes[] = {integerVariable, realVariable, pointVariable, textVariable};
 
 // Which coordinate of a variable that holds a point: 0 to 2.
 constexpr std::optional<int> axisOfVariable(Code code)

@@ -3,12 +3,12 @@
 //
 //     struct Circle : Entity
 //     {
-//         AcGePoint3d center;
+//         AcGePoint3d centre;
 //         double radius = 1;
 //     };
 //     inline constexpr auto table = tableOf<Circle>("CIRCLE", entityRows,
 //     subclassRow("AcDbCircle"),
-//                                                   row(center, &Circle::center),
+//                                                   row(centre, &Circle::centre),
 //                                                   row(radius, &Circle::radius));
 //
 // A row whose member cannot have the type of its code does not compile.
@@ -91,8 +91,21 @@ struct Table
 };
 
 template <class Value>
+struct Required
+{
+    using Type = Value;
+};
+
+template <class Value>
+struct Required<std::optional<Value>>
+{
+    using Type = Value;
+};
+
+template <class Member>
 constexpr bool fits(ValueType type)
 {
+    using Value = typename Required<Member>::Type;
     if constexpr (std::same_as<Value, std::wstring>)
     {
         return type == ValueType::text;

@@ -1,0 +1,63 @@
+// The tags of a record without what applications hang on it.
+#pragma once
+
+#include "host/dxf/schema/structure.h"
+#include "host/dxf/tagfile.h"
+
+namespace host::dxf
+{
+// Ends before the data of applications and embedded objects.
+class OwnTags
+{
+public:
+    class Iterator : public Tags::Iterator
+    {
+    public:
+        explicit Iterator(const Tags& tags) : Tags::Iterator(tags.begin()) {}
+        bool operator==(std::default_sentinel_t end) const
+        {
+            return Tags::Iterator::operator==(end) || schema::endsOwnTags(Code((*this)->code));
+        }
+    };
+
+    explicit OwnTags(const Tags& tags) : m_tags(tags) {}
+    Iterator begin() const { return Iterator(m_tags); }
+    std::default_sentinel_t end() const { return {}; }
+
+private:
+    Tags m_tags;
+};
+
+inline OwnTags ownTags(const TagFile& file, const Record& record)
+{
+    return OwnTags(file.tags(record));
+}
+
+// Where what is added to a record goes.
+inline std::size_t endOfOwnTags(const TagFile& file, const Record& record)
+{
+    std::size_t end = record.begin;
+    for (const Tag& tag : ownTags(file, record))
+    {
+        end = tag.end;
+    }
+    return end;
+}
+
+// Follows the lists of a record, whose tags have the codes of other things: "102 {ACAD_REACTORS"
+// to "102 }". To be given each tag.
+class BraceLists
+{
+public:
+    // Whether the tag belongs to a list.
+    bool take(const Tag& tag)
+    {
+        const bool bounds = tag.code == schema::list;
+        m_inside = bounds ? trimmed(tag.value).starts_with('{') : m_inside;
+        return bounds || m_inside;
+    }
+
+private:
+    bool m_inside = false;
+};
+}  // namespace host::dxf

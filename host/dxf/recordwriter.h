@@ -1,0 +1,93 @@
+// Records as tags, by their tables.
+#pragma once
+
+#include "host/dxf/schema/structure.h"
+#include "host/dxf/tagwriter.h"
+#include "host/dxf/values.h"
+
+namespace host::dxf
+{
+// What the file that is written can hold.
+struct FileForm
+{
+    const Release& release;
+    const CodePage& codePage;
+};
+
+inline bool has(const Release& release, schema::Since since)
+{
+    return since == schema::Since::r12 || (since == schema::Since::r13 && release.objects) ||
+           (since == schema::Since::r2000 && release.ownership);
+}
+
+template <class Record>
+const Record& usual()
+{
+    static const Record record;
+    return record;
+}
+
+template <class Out, class Record>
+class RowWriter
+{
+public:
+    RowWriter(Out& out, const Record& record, const FileForm& form)
+        : m_out(out), m_record(record), m_form(form)
+    {
+    }
+
+    template <class Owner, class Value>
+    void operator()(const schema::Row<Owner, Value>& row) const
+    {
+        if (has(m_form.release, row.since) && !isLeftOut(row))
+        {
+            putValue(m_out, row.code, m_record.*row.member, m_form.codePage);
+        }
+    }
+
+    template <class Owner>
+    void operator()(const schema::ListRow<Owner>& row) const
+    {
+        if (has(m_form.release, row.since) && !(m_record.*row.member).empty())
+        {
+            m_out.text(schema::list, row.name);
+            putValue(m_out, row.code, m_record.*row.member, m_form.codePage);
+            m_out.text(schema::list, "}");
+        }
+    }
+
+    void operator()(const schema::SubclassRow& row) const
+    {
+        if (has(m_form.release, schema::Since::r13))
+        {
+            m_out.text(schema::subclass, row.name);
+        }
+    }
+
+private:
+    template <class Owner, class Value>
+    bool isLeftOut(const schema::Row<Owner, Value>& row) const
+    {
+        const bool may =
+            row.when == schema::When::unlessUsual || (row.when == schema::When::unlessUsualInR12 &&
+                                                      !has(m_form.release, schema::Since::r13));
+        return may && same(m_record.*row.member, usual<Record>().*row.member);
+    }
+
+    Out& m_out;
+    const Record& m_record;
+    const FileForm& m_form;
+};
+
+// `Out` has the functions of a TagWriter.
+template <class Out, class Table>
+void writeRecord(Out& out, const Table& table, const typename Table::RecordType& record,
+                 const FileForm& form)
+{
+    if (!table.type.empty())
+    {
+        out.text(schema::recordType, table.type);
+    }
+    schema::forEachRow(table.rows, RowWriter(out, record, form));
+}
+}  // namespace host::dxf

@@ -1,0 +1,144 @@
+// The records of section TABLES.
+#pragma once
+
+#include "host/dxf/schema/structure.h"
+#include "host/dxf/schema/table.h"
+
+namespace host::dxf::schema
+{
+struct SymbolTable
+{
+    std::wstring name;
+    Handle handle = 0;
+    int count = 0;
+};
+
+inline constexpr auto symbolTable =
+    tableOf<SymbolTable>("TABLE", row(name, &SymbolTable::name),
+                         row(handle, &SymbolTable::handle, When::always, Since::r13),
+                         subclassRow("AcDbSymbolTable"), row(Code(70), &SymbolTable::count));
+
+inline constexpr std::string_view endOfTable = "ENDTAB";
+
+// What all records have in common.
+struct SymbolRecord
+{
+    Handle handle = 0;
+    Handle owner = 0;
+    std::wstring name;
+    int flags = 0;
+};
+
+inline constexpr auto symbolRows =
+    rowsOf(row(handle, &SymbolRecord::handle, When::unlessUsual),
+           row(owner, &SymbolRecord::owner, When::unlessUsual, Since::r2000),
+           subclassRow("AcDbSymbolTableRecord"));
+inline constexpr Code symbolFlags{70};
+inline constexpr auto nameAndFlagRows =
+    rowsOf(row(name, &SymbolRecord::name), row(symbolFlags, &SymbolRecord::flags));
+
+namespace linetype
+{
+struct Linetype : SymbolRecord
+{
+    std::wstring description = L"Solid line";
+    int alignment = 'A';
+    int dashes = 0;
+    double length = 0;
+};
+
+inline constexpr auto table =
+    tableOf<Linetype>("LTYPE", symbolRows, subclassRow("AcDbLinetypeTableRecord"), nameAndFlagRows,
+                      row(Code(3), &Linetype::description), row(Code(72), &Linetype::alignment),
+                      row(Code(73), &Linetype::dashes), row(Code(40), &Linetype::length));
+}  // namespace linetype
+
+namespace layer
+{
+enum Flag
+{
+    frozenFlag = 1,
+    lockedFlag = 4
+};
+
+inline constexpr Code color{62};  // with a minus while the layer is off
+inline constexpr Code linetype{6};
+inline constexpr Code plots{290};
+inline constexpr Code trueColor{420};
+
+struct Layer : SymbolRecord
+{
+    int color = 7;
+    std::wstring linetype = L"CONTINUOUS";
+};
+
+inline constexpr auto table =
+    tableOf<Layer>("LAYER", symbolRows, subclassRow("AcDbLayerTableRecord"), nameAndFlagRows,
+                   row(color, &Layer::color), row(linetype, &Layer::linetype));
+}  // namespace layer
+
+namespace textstyle
+{
+struct TextStyle : SymbolRecord
+{
+    double height = 0;
+    double widthFactor = 1;
+    double oblique = 0;  // degrees
+    int generation = 0;
+    double lastHeight = 2.5;
+    std::wstring font = L"txt";
+    std::wstring bigFont;
+};
+
+inline constexpr auto table =
+    tableOf<TextStyle>("STYLE", symbolRows, subclassRow("AcDbTextStyleTableRecord"),
+                       nameAndFlagRows, row(Code(40), &TextStyle::height),
+                       row(Code(41), &TextStyle::widthFactor), row(Code(50), &TextStyle::oblique),
+                       row(Code(71), &TextStyle::generation), row(Code(42), &TextStyle::lastHeight),
+                       row(Code(3), &TextStyle::font), row(Code(4), &TextStyle::bigFont));
+}  // namespace textstyle
+
+namespace blockrecord
+{
+struct BlockRecord : SymbolRecord
+{
+};
+
+inline constexpr auto table = tableOf<BlockRecord>(
+    "BLOCK_RECORD", symbolRows, subclassRow("AcDbBlockTableRecord"), row(name, &BlockRecord::name));
+}  // namespace blockrecord
+
+namespace viewport
+{
+enum Mode
+{
+    ucsFollowMode = 8
+};
+
+struct Viewport : SymbolRecord
+{
+    PlanePoint centre;  // in display coordinates
+    AcGeVector3d direction{0, 0, 1};
+    AcGePoint3d target;
+    double height = 297;
+    double aspect = 1.4;
+    double twist = 0;         // degrees
+    std::optional<int> mode;  // a record that lacks it, or the icon, is given none
+    std::optional<int> ucsIcon;
+    AcGePoint3d ucsOrigin;
+    AcGeVector3d ucsX{1, 0, 0};
+    AcGeVector3d ucsY{0, 1, 0};
+};
+
+// Even R12 is given the coordinate system when it has changed: what does not know its codes
+// passes over them.
+inline constexpr auto table =
+    tableOf<Viewport>("VPORT", symbolRows, subclassRow("AcDbViewportTableRecord"), nameAndFlagRows,
+                      row(Code(12), &Viewport::centre), row(Code(16), &Viewport::direction),
+                      row(Code(17), &Viewport::target), row(Code(40), &Viewport::height),
+                      row(Code(41), &Viewport::aspect), row(Code(51), &Viewport::twist),
+                      row(Code(71), &Viewport::mode), row(Code(74), &Viewport::ucsIcon),
+                      row(Code(110), &Viewport::ucsOrigin), row(Code(111), &Viewport::ucsX),
+                      row(Code(112), &Viewport::ucsY));
+}  // namespace viewport
+}  // namespace host::dxf::schema

@@ -1,0 +1,118 @@
+// How an attribute of each type is written as tags, read from them and compared.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "host/dxf/codepage.h"
+#include "host/dxf/schema/table.h"
+#include "host/dxf/tagfile.h"
+
+namespace host::dxf
+{
+// `Out` has the functions of a TagWriter.
+template <class Out>
+void putValue(Out& out, Code code, const std::wstring& value, const CodePage& codePage)
+{
+    out.text(code, codePage.encode(value));
+}
+
+template <class Out>
+void putValue(Out& out, Code code, int value, const CodePage&)
+{
+    out.integer(code, value);
+}
+
+template <class Out>
+void putValue(Out& out, Code code, double value, const CodePage&)
+{
+    out.real(code, value);
+}
+
+template <class Out>
+void putValue(Out& out, Code code, schema::Handle value, const CodePage&)
+{
+    out.handle(code, value);
+}
+
+template <class Out>
+void putValue(Out& out, Code code, const schema::Handles& values, const CodePage&)
+{
+    for (const schema::Handle value : values)
+    {
+        out.handle(code, value);
+    }
+}
+
+template <class Out>
+void putValue(Out& out, Code code, const schema::PlanePoint& value, const CodePage&)
+{
+    out.point(code, value.x, value.y);
+}
+
+template <class Out>
+void putValue(Out& out, Code code, const AcGePoint3d& value, const CodePage&)
+{
+    out.point(code, value.x, value.y, value.z);
+}
+
+template <class Out>
+void putValue(Out& out, Code code, const AcGeVector3d& value, const CodePage&)
+{
+    out.point(code, value.x, value.y, value.z);
+}
+
+template <class Out, class Value>
+void putValue(Out& out, Code code, const std::optional<Value>& value, const CodePage& codePage)
+{
+    if (value)
+    {
+        putValue(out, code, *value, codePage);
+    }
+}
+
+// Where tags are read from.
+struct TagSource
+{
+    const TagFile& file;
+    const CodePage& codePage;
+};
+
+// Each takes a tag for the attribute that begins with `code`, if it is one of its tags. All throw
+// an Error for a value that is none of that type.
+void takeValue(const TagSource& source, const Tag& tag, Code code, std::wstring& value);
+void takeValue(const TagSource& source, const Tag& tag, Code code, int& value);
+void takeValue(const TagSource& source, const Tag& tag, Code code, double& value);
+void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handle& value);
+void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handles& values);
+void takeValue(const TagSource& source, const Tag& tag, Code code, schema::PlanePoint& value);
+void takeValue(const TagSource& source, const Tag& tag, Code code, AcGePoint3d& value);
+void takeValue(const TagSource& source, const Tag& tag, Code code, AcGeVector3d& value);
+template <class Value>
+void takeValue(const TagSource& source, const Tag& tag, Code code, std::optional<Value>& value)
+{
+    if (tag.code == code)
+    {
+        value.emplace();
+    }
+    if (value)
+    {
+        takeValue(source, tag, code, *value);
+    }
+}
+
+// To the last bit, unlike the operators of points, which have tolerances.
+bool same(const AcGePoint3d& a, const AcGePoint3d& b);
+bool same(const AcGeVector3d& a, const AcGeVector3d& b);
+bool same(const schema::PlanePoint& a, const schema::PlanePoint& b);
+template <class Value>
+bool same(const Value& a, const Value& b)
+{
+    return a == b;
+}
+template <class Value>
+bool same(const std::optional<Value>& a, const std::optional<Value>& b)
+{
+    return a && b ? same(*a, *b) : a.has_value() == b.has_value();
+}
+}  // namespace host::dxf

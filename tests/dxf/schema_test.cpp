@@ -1,0 +1,265 @@
+// What a table of host/dxf/schema writes, it reads back.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "host/database/drawing.h"
+#include "host/dxf/binaryform.h"
+#include "host/dxf/emptydrawing.h"
+#include "host/dxf/filesource.h"
+#include "host/dxf/headervariables.h"
+#include "host/dxf/lineform.h"
+#include "host/dxf/recordreader.h"
+#include "host/dxf/schema/objects.h"
+#include "host/dxf/schema/tablerecords.h"
+#include "tests/dxf/smalldrawing.h"
+
+using namespace host::dxf;
+
+namespace
+{
+// Random values of every type that a row can have.
+class Values
+{
+public:
+    void fill(Code, std::wstring& text)
+    {
+        const std::wstring letters = L"aZ09 _*^\\%\u00C4\u0416\u4E2D";
+        text.clear();
+        for (int i = below(12); i > 0; --i)
+        {
+            text += letters[std::size_t(below(int(letters.size())))];
+        }
+    }
+    void fill(Code code, int& number)
+    {
+        const ValueType type = valueType(code);
+        const int least = type == ValueType::int8    ? 0
+                          : type == ValueType::int16 ? -32768
+                                                     : std::numeric_limits<int>::min();
+        const int most = type == ValueType::int8    ? 255
+                         : type == ValueType::int16 ? 32767
+                                                    : std::numeric_limits<int>::max();
+        number = std::uniform_int_distribution(least, most)(m_random);
+    }
+    void fill(Code, double& number)
+    {
+        const double magnitude = std::pow(10, std::uniform_int_distribution(-30, 30)(m_random));
+        number = below(4) == 0 ? below(100)
+                               : std::uniform_real_distribution(-1.0, 1.0)(m_random) * magnitude;
+    }
+    void fill(Code, schema::Handle& handle)
+    {
+        handle = 1 + std::uniform_int_distribution<schema::Handle>()(m_random) / 4;
+    }
+    void fill(Code code, schema::Handles& handles)
+    {
+        handles.resize(std::size_t(below(4)));
+        for (schema::Handle& handle : handles)
+        {
+            fill(code, handle);
+        }
+    }
+    void fill(Code code, schema::PlanePoint& point)
+    {
+        fill(code, point.x);
+        fill(code, point.y);
+    }
+    void fill(Code code, AcGePoint3d& point) { fillPoint(code, point); }
+    void fill(Code code, AcGeVector3d& vector) { fillPoint(code, vector); }
+    template <class Value>
+    void fill(Code code, std::optional<Value>& value)
+    {
+        value.reset();
+        if (below(2) == 0)
+        {
+            fill(code, value.emplace());
+        }
+    }
+    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(m_random); }
+
+private:
+    template <class Point>
+    void fillPoint(Code code, Point& point)
+    {
+        fill(code, point.x);
+        fill(code, point.y);
+        fill(code, point.z);
+    }
+
+    // The seed that the run prints.
+    std::mt19937 m_random{unsigned(testing::UnitTest::GetInstance()->random_seed())};
+};
+
+template <class Row>
+constexpr bool isAttribute = requires(const Row& row)
+{
+    row.member;
+};
+
+// Every attribute, some with their defaults.
+template <class Table>
+typename Table::RecordType randomRecord(const Table& table, Values& values)
+{
+    typename Table::RecordType record;
+    schema::forEachRow(table.rows,
+                       [&]<class Row>(const Row& row)
+                       {
+                           if constexpr (isAttribute<Row>)
+                           {
+                               if (values.below(4) != 0)
+                               {
+                                   values.fill(row.code, record.*row.member);
+                               }
+                           }
+                       });
+    return record;
+}
+
+template <class Table>
+void expectSame(const Table& table, const typename Table::RecordType& read,
+                const typename Table::RecordType& written, const Release& release)
+{
+    schema::forEachRow(table.rows,
+                       [&]<class Row>(const Row& row)
+                       {
+                           if constexpr (isAttribute<Row>)
+                           {
+                               const auto& expected =
+                                   has(release, row.since)
+                                       ? written.*row.member
+                                       : usual<typename Table::RecordType>().*row.member;
+                               EXPECT_TRUE(same(read.*row.member, expected))
+                                   << release.name << ' ' << table.type << ' ' << row.code.number();
+                           }
+                       });
+}
+
+std::string binaryOf(const std::string& ascii)
+{
+    std::string binary;
+    BinaryEncoder encoder([&binary](std::string_view bytes) { binary += bytes; }, 2);
+    encoder.take(ascii);
+    encoder.finish();
+    return binary;
+}
+
+std::string drawingOf(const Release& release, const std::string& record)
+{
+    return drawingWith(record, std::string(release.version));
+}
+
+template <class Table>
+void expectReadBack(const Table& table, Values& values, const Release& release)
+{
+    const CodePage codePage(release, "ANSI_1252");
+    const auto written = randomRecord(table, values);
+    std::string tags;
+    TagWriter writer([&tags](std::string_view bytes) { tags += bytes; }, TagStyle());
+    if (table.type.empty())
+    {
+        writer.text(schema::recordType, "PART");
+    }
+    writeRecord(writer, table, written, FileForm{release, codePage});
+    writer.text(schema::applicationData, "ACAD");  // an application's own, which is not asked
+    writer.raw("330\nF\n40\n7\n");
+    writer.flush();
+    for (const std::string& drawing :
+         {drawingOf(release, tags), binaryOf(drawingOf(release, tags))})
+    {
+        const TagFile file = TagFile::fromText(drawing, "FILE");
+        const Record& record = file.records("ENTITIES")[0];
+        EXPECT_EQ(file.typeName(record), table.type.empty() ? "PART" : table.type);
+        expectSame(table, readRecord(table, TagSource{file, codePage}, record), written, release);
+    }
+}
+
+template <class... Table>
+void expectAllReadBack(Values& values, const Release& release, const Table&... tables)
+{
+    (expectReadBack(tables, values, release), ...);
+}
+
+class EveryRelease : public testing::TestWithParam<const char*>
+{
+protected:
+    const Release& release() const { return *findRelease(GetParam()); }
+    Values values;
+};
+
+INSTANTIATE_TEST_SUITE_P(Schema, EveryRelease,
+                         testing::Values("AC1009", "AC1012", "AC1014", "AC1015", "AC1018", "AC1021",
+                                         "AC1024", "AC1027", "AC1032"));
+
+// A new table is to be named here.
+TEST_P(EveryRelease, readsBackWhatEveryTableWrites)
+{
+    for (int i = 0; i < 50; ++i)
+    {
+        expectAllReadBack(values, release(), schema::symbolTable, schema::linetype::table,
+                          schema::layer::table, schema::textstyle::table,
+                          schema::blockrecord::table, schema::viewport::table, schema::line::table,
+                          schema::text::table, schema::polyline::table, schema::vertex::table,
+                          schema::sequenceend::table, schema::dictionary::table,
+                          schema::dictionary::entry, schema::group::table);
+    }
+}
+
+// The form of a million lines is the table's.
+TEST_P(EveryRelease, writesAFormOfLinesAsTheTableDoes)
+{
+    const CodePage codePage(release(), "ANSI_1252");
+    const FileForm form{release(), codePage};
+    for (int i = 0; i < 50; ++i)
+    {
+        schema::line::Line line = randomRecord(schema::line::table, values);
+        std::string byForm, byTable;
+        TagWriter formWriter([&](std::string_view bytes) { byForm += bytes; }, TagStyle());
+        formWriter.record(
+            lineFormOf(line, form, TagStyle(), line.handle != 0), line.handle,
+            {line.start.x, line.start.y, line.start.z, line.end.x, line.end.y, line.end.z});
+        formWriter.flush();
+        TagWriter tableWriter([&](std::string_view bytes) { byTable += bytes; }, TagStyle());
+        writeRecord(tableWriter, schema::line::table, line, form);
+        tableWriter.flush();
+        EXPECT_EQ(byForm, byTable);
+    }
+}
+
+template <class Variables, class Rows>
+void expectVariablesReadBack(const Rows& rows, Values& values, const std::string& prefix)
+{
+    Variables written;
+    schema::forEachRow(rows, [&](const auto& row) { values.fill(row.code, written.*row.member); });
+    const TagFile empty = TagFile::fromText(emptyDrawing(), "FILE");
+    const CodePage codePage(empty.release(), empty.codePageName());
+    Edits edits(empty);
+    HeaderEdits{edits, codePage}.setAll(rows, written, prefix);
+    std::string saved;
+    TagWriter writer([&saved](std::string_view bytes) { saved += bytes; }, TagStyle());
+    edits.write(writer);
+    writer.flush();
+    AcDbDatabase database;
+    load(host::coreOf(database), TagFile::fromText(saved, "FILE"));
+    const auto read = readVariables<Variables>(rows, host::stateOf(database).variables, prefix);
+    schema::forEachRow(
+        rows, [&](const auto& row)
+        { EXPECT_TRUE(same(read.*row.member, written.*row.member)) << prefix << row.name; });
+}
+
+TEST(Schema, readsBackWhatEveryTableOfHeaderVariablesWrites)
+{
+    Values values;
+    for (int i = 0; i < 20; ++i)
+    {
+        expectVariablesReadBack<schema::CurrentVariables>(schema::currentVariables, values, "");
+        expectVariablesReadBack<schema::UcsVariables>(schema::ucsVariables, values, "");
+        expectVariablesReadBack<schema::UcsVariables>(schema::ucsVariables, values, "P");
+        expectVariablesReadBack<schema::SpaceVariables>(schema::spaceVariables, values, "");
+        expectVariablesReadBack<schema::ExtentsVariables>(schema::extentsVariables, values, "");
+        expectVariablesReadBack<schema::HandleVariables>(schema::handleVariables, values, "");
+    }
+}
+}  // namespace
