@@ -205,7 +205,7 @@ void appendEscape(std::string& bytes, char32_t character)
 bool CodePage::isKnown(const Release& release, std::string_view codePageName)
 try
 {
-    CodePage(release, codePageName);
+    const CodePage known(release, codePageName);
     return true;
 }
 catch (const Error&)

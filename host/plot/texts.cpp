@@ -180,7 +180,8 @@ void drawParagraphs(const EntityTags& text, const dxf::CodePage& codePage, const
     line.along = directionOf(text) * height;
     line.up = Ocs(text.normal()).normal().crossProduct(line.along);
     line.across = attachment % 3 / 2.0;
-    double down = 1 - all * (attachment / 3) / 2.0;  // from the given point to the first line
+    const int row = attachment / 3;
+    double down = 1 - all * row / 2.0;  // from the given point to the first line
     for (const std::wstring& words : lines)
     {
         line.text = words;
