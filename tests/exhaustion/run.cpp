@@ -1,4 +1,4 @@
-#include "tests/scarce/run.h"
+#include "tests/exhaustion/run.h"
 
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -14,8 +14,8 @@
 #include <iterator>
 #include <string>
 
-#include "tests/scarce/desk.h"
-#include "tests/scarce/scarcity.h"
+#include "tests/exhaustion/desk.h"
+#include "tests/exhaustion/scarcity.h"
 
 namespace fs = std::filesystem;
 

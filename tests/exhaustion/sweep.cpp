@@ -19,8 +19,8 @@
 #include "host/database/core.h"
 #include "host/dxf/drawingfile.h"
 #include "host/plot/plot.h"
-#include "tests/scarce/run.h"
-#include "tests/scarce/scarcity.h"
+#include "tests/exhaustion/run.h"
+#include "tests/exhaustion/scarcity.h"
 #include "tests/support/scratchfolder.h"
 
 namespace fs = std::filesystem;

@@ -1,4 +1,4 @@
-#include "tests/scarce/desk.h"
+#include "tests/exhaustion/desk.h"
 
 #include <fcntl.h>
 #include <sys/time.h>

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Esc at every prompt, of the command and of the picks from its dialog, leaves the drawing as it was opened.
 
-In every drawing at hand (those of the tests, the example and the real ones, see tests/real) all ways out
+In every drawing at hand (those of the tests, the example and the real ones, see tests/realdrawings) all ways out
 are taken one after the other, after 0 to 3 rebuilds of the grid; the saved drawing, in its canonical
 writing, has to be the opened one. When it is not, each way is taken by itself and the first wrong one is told.
 """
@@ -10,10 +10,10 @@ from functools import cache
 from pathlib import Path
 
 TESTS = Path(__file__).resolve().parents[1]
-sys.path[:0] = [str(TESTS / folder) for folder in ("support", "golden", "real", "readers")]
+sys.path[:0] = [str(TESTS / folder) for folder in ("support", "golden", "realdrawings", "readers")]
 from arxhost import ROOT, Desk, need_built, options_text  # noqa: E402
 from canonical import canonical, first_difference  # noqa: E402
-from check_real import EDGES, FOLDER, extents, is_readable, is_tilted  # noqa: E402
+from check_realdrawings import EDGES, FOLDER, extents, is_readable, is_tilted  # noqa: E402
 from dxftags import read_tags  # noqa: E402
 from report import add, expect, expect_equal, run_all  # noqa: E402
 

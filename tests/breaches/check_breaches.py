@@ -59,7 +59,7 @@ RULES = [
 
 
 def module_file(name):
-    own = ROOT / "build" / "strict_modules" / f"{name}.arx"
+    own = ROOT / "build" / "breach_modules" / f"{name}.arx"
     return own if own.exists() else ROOT / "build" / "test_modules" / own.name  # one of the loader's tests
 
 

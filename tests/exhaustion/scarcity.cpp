@@ -1,4 +1,4 @@
-#include "tests/scarce/scarcity.h"
+#include "tests/exhaustion/scarcity.h"
 
 #include <dlfcn.h>
 #include <fcntl.h>
