@@ -18,18 +18,11 @@ enum Answer
     answerOther
 };
 
-AcDbObjectIdArray buildFrom(const GridSettings& s, const PickedRectangle& rectangle,
-                            const CString& localeName)
+AcDbObjectIdArray build(const GridRun& run, const PickedRectangle& rectangle)
 {
-    // Any int may stand in the file; the conversion takes it modulo 65536, and the host refuses
-    // what is then no colour index.
-    const Adesk::UInt16 color = static_cast<Adesk::UInt16>(s.Color);
-    return buildGrid(
-        rectangle.boundaryId, rectangle.firstCorner, rectangle.otherCorner, s.HorStep, s.VertStep,
-        color, s.crossSize, s.LookType, s.WCSBasePoint, s.basePoint, s.needText != 0, s.heightText,
-        s.iCountSigns, s.bXTopScribe != 0, s.bXBottomScribe != 0, s.bXLeftScribe != 0,
-        s.bXRightScribe != 0, s.bYTopScribe != 0, s.bYBottomScribe != 0, s.bYLeftScribe != 0,
-        s.bYRightScribe != 0, s.textXScribe, s.textYScribe, s.textStyleName, localeName);
+    const GridRequest request = {rectangle.firstCorner, rectangle.otherCorner, run.settings,
+                                 run.localeName};
+    return drawGrid(rectangle.boundaryId, request);
 }
 
 // Only the whole keyword counts here, in its case: any other text rebuilds the grid.
@@ -87,12 +80,12 @@ bool offerGrid(GridRun& run, const PickedRectangle& rectangle, AcDbObjectIdArray
     for (;;)
     {
         eraseEntities(gridIds);
-        const bool build =
+        const bool isWanted =
             asked || mayBuildGrid(rectangle.width, rectangle.height, run.settings, run.localeName);
         asked = true;
-        if (build)
+        if (isWanted)
         {
-            gridIds = buildFrom(run.settings, rectangle, run.localeName);
+            gridIds = build(run, rectangle);
         }
         switch (askAnswer(*run.messages, failures))
         {

@@ -2,55 +2,64 @@
 
 #include <algorithm>
 
-#include "engine/gridrequest.h"
 #include "engine/ucsgrid.h"
 #include "engine/worldgrid.h"
 #include "output/frame.h"
 #include "output/tolerance.h"
 
-static double largestInBothFrames(const AcGePoint3d& wcs)
+namespace
+{
+double largestInBothFrames(const AcGePoint3d& wcs)
 {
     return (std::max)(largestCoordinate(wcs), largestCoordinate(toUcs(wcs)));
 }
 
-static double pointTolerance(const GridRequest& request)
+double pointTolerance(const GridRequest& request)
 {
+    const AcGePoint3d& basePoint = request.options.basePoint;
     double largest = largestCoordinate(toWcs(AcGePoint3d::kOrigin));
     largest = (std::max)(largest, largestInBothFrames(request.corner1));
     largest = (std::max)(largest, largestInBothFrames(request.corner2));
-    if (isMeasurable(request.basePoint))
+    if (isMeasurable(basePoint))
     {
-        largest = (std::max)(largest, largestInBothFrames(request.basePoint));
+        largest = (std::max)(largest, largestInBothFrames(basePoint));
     }
     return atLeastRounding(AcGeContext::gTol.equalPoint(), largest);
 }
 
-// Keeps one reader on the outline for good. Always been so: the command can then not take the
-// outline back, and the draughtsman sees by the frame left behind that the grid has failed.
-static void leaveOpen(AcDbObjectId boundaryId)
+// Keeps one reader on the outline for good, so that the command cannot take the outline back: the
+// draughtsman sees by the frame left behind that the grid has failed.
+void leaveOpen(AcDbObjectId boundaryId)
 {
     AcDbEntity* leftOpen = nullptr;
     acdbOpenAcDbEntity(leftOpen, boundaryId, AcDb::kForRead, false);
 }
+}  // namespace
 
-static void drawGrid(const GridRequest& request, AcDbObjectId boundaryId, int WCSBasePoint,
-                     GridDrawing& drawing)
+AcDbObjectIdArray drawGrid(AcDbObjectId boundaryId, const GridRequest& request)
 {
+    AcDbObjectIdArray made;
     AcDbObjectPointer<AcDbEntity> boundary(boundaryId, AcDb::kForRead);
     if (boundary.openStatus() != Acad::eOk || !isMeasurable(request.corner1) ||
         !isMeasurable(request.corner2))
     {
-        return;
+        return made;
+    }
+    GridRequest measurable = request;
+    if (!isMeasurable(request.options.heightText))
+    {
+        measurable.options.needText = 0;  // the drawing could not be saved again
     }
     const BorrowedTolerance tolerance(pointTolerance(request));
-    if (WCSBasePoint == 0)
+    if (request.options.WCSBasePoint == 0)
     {
-        drawWorldGrid(request, *boundary.object(), drawing);
+        drawWorldGrid(measurable, *boundary.object(), made);
     }
-    else if (!drawUcsGrid(request, *boundary.object(), drawing))
+    else if (!drawUcsGrid(measurable, *boundary.object(), made))
     {
         leaveOpen(boundaryId);
     }
+    return made;
 }
 
 AcDbObjectIdArray buildGrid(AcDbObjectId boundaryId, AcGePoint3d corner1, AcGePoint3d corner2,
@@ -63,16 +72,31 @@ AcDbObjectIdArray buildGrid(AcDbObjectId boundaryId, AcGePoint3d corner1, AcGePo
                             const CString& textYScribe, const CString& textStyleName,
                             const CString& localeName)
 {
-    const LabelRequest xLabels = {bXTopScribe, bXBottomScribe, bXLeftScribe, bXRightScribe,
-                                  textXScribe};
-    const LabelRequest yLabels = {bYTopScribe, bYBottomScribe, bYLeftScribe, bYRightScribe,
-                                  textYScribe};
-    // As little as a cross of no size that can be measured: the drawing could not be saved again.
-    const bool drawText = needText && isMeasurable(heightText);
-    const GridRequest request = {corner1,     corner2,   basePoint, HorStep,       VertStep,
-                                 Color,       crossSize, LookType,  drawText,      heightText,
-                                 iCountSigns, xLabels,   yLabels,   textStyleName, localeName};
-    GridDrawing drawing;
-    drawGrid(request, boundaryId, WCSBasePoint, drawing);
-    return drawing.made;
+    GridRequest request;
+    GridSettings& options = request.options;
+    request.corner1 = corner1;
+    request.corner2 = corner2;
+    request.localeName = localeName;
+    options.HorStep = HorStep;
+    options.VertStep = VertStep;
+    options.Color = Color;
+    options.crossSize = crossSize;
+    options.LookType = LookType;
+    options.WCSBasePoint = WCSBasePoint;
+    options.basePoint = basePoint;
+    options.needText = needText;
+    options.heightText = heightText;
+    options.iCountSigns = iCountSigns;
+    options.bXTopScribe = bXTopScribe;
+    options.bXBottomScribe = bXBottomScribe;
+    options.bXLeftScribe = bXLeftScribe;
+    options.bXRightScribe = bXRightScribe;
+    options.bYTopScribe = bYTopScribe;
+    options.bYBottomScribe = bYBottomScribe;
+    options.bYLeftScribe = bYLeftScribe;
+    options.bYRightScribe = bYRightScribe;
+    options.textXScribe = textXScribe;
+    options.textYScribe = textYScribe;
+    options.textStyleName = textStyleName;
+    return drawGrid(boundaryId, request);
 }

@@ -1,8 +1,42 @@
 #include "engine/gridlabels.h"
 
+#include "engine/pointtests.h"
 #include "output/frame.h"
 #include "output/labels.h"
 #include "output/numbers.h"
+
+WantedEdges wantedEdges(const GridSettings& options, int axis)
+{
+    const WantedEdges ofX = {options.bXTopScribe != 0, options.bXBottomScribe != 0,
+                             options.bXLeftScribe != 0, options.bXRightScribe != 0};
+    const WantedEdges ofY = {options.bYTopScribe != 0, options.bYBottomScribe != 0,
+                             options.bYLeftScribe != 0, options.bYRightScribe != 0};
+    return axis == 0 ? ofX : ofY;
+}
+
+// The supporting line runs from end to end of the grid. A piece that was clipped gives its
+// direction to a few units of the last place over its own length; a thousand lengths away, at
+// survey coordinates, each piece of one line would end at a point of its own.
+AcGePoint3dArray labelPoints(const GridRequest& request, const std::vector<double>& positions,
+                             int axis, const PieceClipper& clipper)
+{
+    Piece line = {request.corner1, request.corner2};
+    line.start.z = clipper.elevation;
+    line.end.z = clipper.elevation;
+    AcGePoint3dArray pairs;
+    for (std::size_t i = 0; i < positions.size(); ++i)
+    {
+        line.start[axis] = positions[i];
+        line.end[axis] = positions[i];
+        AcGePoint3dArray ends;
+        clipper.intersectOutline(line, AcDb::kExtendThis, ends);
+        if (ends.length() == 2 && !containsPoint(pairs, ends[0]))
+        {
+            pairs.append(ends);
+        }
+    }
+    return pairs;
+}
 
 LabelPlace labelPlace(const AcGePoint3dArray& pairs, int index, bool startsHere)
 {
@@ -15,11 +49,13 @@ LabelPlace labelPlace(const AcGePoint3dArray& pairs, int index, bool startsHere)
     return startsHere ? starting : ending;
 }
 
-void addLabel(const GridRequest& request, const CString& prefix, double value,
-              const LabelPlace& place, GridDrawing& drawing)
+void addLabel(const GridRequest& request, int axis, double value, const LabelPlace& place,
+              AcDbObjectIdArray& made)
 {
-    const CString text = prefix + formatReal(value, request.iCountSigns);
-    addMade(drawing, addLabelText(true, text, place.anchor, request.heightText, place.rotation,
-                                  request.Color, request.textStyleName, place.mode,
-                                  AcDb::kTextBottom, ACDB_MODEL_SPACE));
+    const GridSettings& options = request.options;
+    const CString text = (axis == 0 ? options.textXScribe : options.textYScribe) +
+                         formatReal(value, options.iCountSigns);
+    addMade(made, addLabelText(true, text, place.anchor, options.heightText, place.rotation,
+                               colorIndex(request), options.textStyleName, place.mode,
+                               AcDb::kTextBottom, ACDB_MODEL_SPACE));
 }

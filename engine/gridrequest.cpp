@@ -2,14 +2,18 @@
 
 #include <algorithm>
 
-void addMade(GridDrawing& drawing, AcDbObjectId id)
+Adesk::UInt16 colorIndex(const GridRequest& request)
+{
+    return static_cast<Adesk::UInt16>(request.options.Color);
+}
+
+void addMade(AcDbObjectIdArray& made, AcDbObjectId id)
 {
     if (id.isNull())
     {
         return;
     }
     // The host grows its arrays by a few entries; a million of them would be copied all day.
-    AcDbObjectIdArray& made = drawing.made;
     if (made.length() == made.physicalLength())
     {
         made.setPhysicalLength(made.length() * 2 + 8);

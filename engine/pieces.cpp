@@ -1,109 +1,120 @@
 #include "engine/pieces.h"
 
-#include <vector>
-
-#include "engine/pointtests.h"
 #include "output/entities.h"
+#include "output/frame.h"
 #include "output/tolerance.h"
 
-PieceClipper::PieceClipper(const AcDbEntity& boundary, bool isInUcs, const AcGeMatrix3d& toWorld,
-                           double elevation)
-    : isInUcs(isInUcs), elevation(elevation), m_boundary(boundary), m_toWorld(toWorld)
+PieceClipper::PieceClipper(const AcDbEntity& boundary, bool isInUcs,
+                           const AcGePoint3d (&corners)[4], double elevation)
+    : isInUcs(isInUcs),
+      elevation(elevation),
+      m_boundary(boundary),
+      m_toWorld(isInUcs ? currentUcs() : AcGeMatrix3d()),
+      m_filter(corners, elevation)
 {
 }
 
-bool PieceClipper::meetOutline(const Piece& piece, AcDb::Intersect mode,
-                               AcGePoint3dArray& points) const
+bool PieceClipper::isInside(const AcGePoint3d& point) const
+{
+    const int place = m_filter.locate(point);
+    return (place != 0 ? place : locate(point)) == 1;
+}
+
+bool PieceClipper::intersectOutline(const Piece& piece, AcDb::Intersect mode,
+                                    AcGePoint3dArray& points) const
 {
     AcDbLine line(piece.start, piece.end);
     line.transformBy(m_toWorld);
     return line.intersectWith(&m_boundary, mode, points) == Acad::eOk;
 }
 
+// In the UCS grid the node is not asked: a cross with only its centre inside is dropped there,
+// unlike in the world grid. Both are kept: a grid drawn again must match the filed sheet.
+bool PieceClipper::clip(Piece& piece, const AcGePoint3d& node) const
+{
+    const bool startIsInside = isInside(piece.start);
+    const bool endIsInside = isInside(piece.end);
+    if (startIsInside && endIsInside)
+    {
+        return true;
+    }
+    if (!startIsInside && !endIsInside && (isInUcs || !isInside(node)))
+    {
+        return false;
+    }
+    AcGePoint3dArray points;
+    if (!intersectOutline(piece, AcDb::kOnBothOperands, points))
+    {
+        return false;
+    }
+    if (points.isEmpty())
+    {
+        return true;
+    }
+    // The host gives the far end first; with only the node inside they bound the piece from both
+    // sides.
+    const AcGePoint3d first = isInUcs ? toUcs(points.first()) : points.first();
+    (startIsInside ? piece.end : piece.start) = first;
+    if (!startIsInside && !endIsInside)
+    {
+        piece.end = points.last();
+    }
+    return true;
+}
+
 namespace
 {
-// One of the lines that the pieces make up.
-struct WholeLine
+// From a node to the end of its piece along X, or else along Y.
+AcGeVector3d halfPiece(const GridSettings& options, bool alongX)
 {
-    Piece piece;
-    bool isNoted;  // its label points have been asked for
-};
-}  // namespace
-
-static std::vector<WholeLine> wholeLines(const GridRequest& request, const std::vector<double>& at,
-                                         int axis, double elevation)
-{
-    std::vector<WholeLine> lines(at.size());
-    for (std::size_t i = 0; i < at.size(); ++i)
-    {
-        Piece& piece = lines[i].piece;
-        piece.start = AcGePoint3d(request.corner1.x, request.corner1.y, elevation);
-        piece.end = AcGePoint3d(request.corner2.x, request.corner2.y, elevation);
-        piece.start[axis] = at[i];
-        piece.end[axis] = at[i];
-        lines[i].isNoted = false;
-    }
-    return lines;
+    const double step = alongX ? options.HorStep : options.VertStep;
+    const double half = (options.LookType == 0 ? step : options.crossSize) / 2;
+    return alongX ? AcGeVector3d(half, 0, 0) : AcGeVector3d(0, half, 0);
 }
 
-// Of the pieces of one line the first that is drawn notes its ends; the others would find them
-// noted.
-static void noteLabelPoints(const PieceClipper& clipper, const Piece& wholeLine,
-                            AcGePoint3dArray& labelPoints)
-{
-    AcGePoint3dArray meets;
-    clipper.meetOutline(wholeLine, AcDb::kExtendThis, meets);
-    if (meets.length() == 2 && !containsPoint(labelPoints, meets[0]))
-    {
-        labelPoints.append(meets);
-    }
-}
-
-// wholeLine stands for the piece where its line is carried on. A piece that was cut short gives its
-// direction to a few units of the last place over its own length; a thousand lengths away, at
-// survey coordinates, each piece of one line would end at a point of its own.
-static void drawPiece(const GridRequest& request, const PieceClipper& clipper,
-                      const AcGePoint3d& node, const AcGeVector3d& half, WholeLine& wholeLine,
-                      AcGePoint3dArray& labelPoints, GridDrawing& drawing)
+bool drawPiece(const GridRequest& request, const PieceClipper& clipper, const AcGePoint3d& node,
+               const AcGeVector3d& half, AcDbObjectIdArray& made)
 {
     Piece piece = {node - half, node + half};
     if (!clipper.clip(piece, node))
     {
-        return;
+        return false;
     }
-    const AcDbObjectId id = addLine(clipper.isInUcs, piece.start, piece.end, request.Color, nullptr,
-                                    nullptr, ACDB_MODEL_SPACE);
-    if (request.needText && !wholeLine.isNoted && !id.isNull())
-    {
-        noteLabelPoints(clipper, wholeLine.piece, labelPoints);
-        wholeLine.isNoted = true;
-    }
-    addMade(drawing, id);
+    const AcDbObjectId id = addLine(clipper.isInUcs, piece.start, piece.end, colorIndex(request),
+                                    nullptr, nullptr, ACDB_MODEL_SPACE);
+    addMade(made, id);
+    return !id.isNull();
 }
+}  // namespace
 
-void drawPieces(const GridRequest& request, const GridLines& lines, const PieceClipper& clipper,
-                GridDrawing& drawing)
+GridLines drawPieces(const GridRequest& request, const GridLines& lines,
+                     const PieceClipper& clipper, AcDbObjectIdArray& made)
 {
+    GridLines drawn;
     // A cross of no size that can be measured would end at no point that can be drawn.
-    const bool isContinuous = request.LookType == 0;
-    if (!isContinuous && !isMeasurable(request.crossSize))
+    if (request.options.LookType != 0 && !isMeasurable(request.options.crossSize))
     {
-        return;
+        return drawn;
     }
-    const double up = isContinuous ? request.VertStep : request.crossSize;
-    const double across = isContinuous ? request.HorStep : request.crossSize;
-    const AcGeVector3d halfUp(0, up / 2, 0);
-    const AcGeVector3d halfAcross(across / 2, 0, 0);
-    std::vector<WholeLine> vertical = wholeLines(request, lines.x, 0, clipper.elevation);
-    std::vector<WholeLine> horizontal = wholeLines(request, lines.y, 1, clipper.elevation);
+    const AcGeVector3d across = halfPiece(request.options, true);
+    const AcGeVector3d up = halfPiece(request.options, false);
+    std::vector<bool> isDrawn(lines.y.size());
     for (std::size_t i = 0; i < lines.x.size(); ++i)
     {
         for (std::size_t j = 0; j < lines.y.size(); ++j)
         {
             const AcGePoint3d node(lines.x[i], lines.y[j], clipper.elevation);
-            drawPiece(request, clipper, node, halfUp, vertical[i], drawing.xLabelPoints, drawing);
-            drawPiece(request, clipper, node, halfAcross, horizontal[j], drawing.yLabelPoints,
-                      drawing);
+            if (drawPiece(request, clipper, node, up, made) &&
+                (drawn.x.empty() || drawn.x.back() != node.x))
+            {
+                drawn.x.push_back(node.x);
+            }
+            if (drawPiece(request, clipper, node, across, made) && !isDrawn[j])
+            {
+                isDrawn[j] = true;
+                drawn.y.push_back(node.y);
+            }
         }
     }
+    return drawn;
 }

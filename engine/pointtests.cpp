@@ -5,70 +5,42 @@
 
 #include "output/tolerance.h"
 
-static const double listTolerance = 1e-6;
-static const double twoPi = 6.283185307179586;
-
-static double largestOf(const AcGePoint3d& P, const AcGePoint3d* const (&corners)[4])
+namespace
 {
-    double largest = largestCoordinate(P);
-    for (int i = 0; i < 4; ++i)
-    {
-        largest = (std::max)(largest, largestCoordinate(*corners[i]));
-    }
-    return largest;
-}
+const double listTolerance = 1e-6;
+const double twoPi = 6.283185307179586;
+}  // namespace
 
-static bool isAtCorner(const AcGeVector3d (&toCorner)[4], double tolerance)
+double largestPointTolerance()
 {
-    for (int i = 0; i < 4; ++i)
-    {
-        if (toCorner[i].length() <= tolerance)
-        {
-            return true;
-        }
-    }
-    return false;
-}
-
-static bool isOnEdge(const AcGePoint3d& P, const AcGePoint3d* const (&corners)[4], double tolerance)
-{
-    for (int i = 0; i < 4; ++i)
-    {
-        const AcGeLineSeg3d edge(*corners[i], *corners[(i + 1) % 4]);
-        if (edge.distanceTo(P) <= tolerance)
-        {
-            return true;
-        }
-    }
-    return false;
-}
-
-// Only from within do the four corners stand all round.
-static bool isEncircled(const AcGeVector3d (&toCorner)[4])
-{
-    double sum = 0;
-    for (int i = 0; i < 4; ++i)
-    {
-        sum += toCorner[i].angleTo(toCorner[(i + 1) % 4]);
-    }
-    return std::fabs(sum - twoPi) <= 1e-6;
+    const double ofHost =
+        (std::max)(AcGeContext::gTol.equalPoint(), AcGeContext::gTol.equalVector());
+    return (std::max)(ofHost, listTolerance);
 }
 
 int pointInQuad(const AcGePoint3d& P, const AcGePoint3d& Q0, const AcGePoint3d& Q1,
                 const AcGePoint3d& Q2, const AcGePoint3d& Q3)
 {
-    const AcGePoint3d* const corners[4] = {&Q0, &Q1, &Q2, &Q3};
-    const AcGeVector3d toCorner[4] = {Q0 - P, Q1 - P, Q2 - P, Q3 - P};
-    const double largest = largestOf(P, corners);
-    if (isAtCorner(toCorner, atLeastRounding(AcGeContext::gTol.equalVector(), largest)))
+    const AcGeVector3d toCorner[] = {Q0 - P, Q1 - P, Q2 - P, Q3 - P};
+    const AcGeLineSeg3d edges[] = {AcGeLineSeg3d(Q0, Q1), AcGeLineSeg3d(Q1, Q2),
+                                   AcGeLineSeg3d(Q2, Q3), AcGeLineSeg3d(Q3, Q0)};
+    bool isOnEdge = false;
+    double angleSum = 0;
+    for (int i = 0; i < 4; ++i)
     {
-        return 2;
+        if (toCorner[i].length() <= AcGeContext::gTol.equalVector())
+        {
+            return 2;
+        }
+        isOnEdge = isOnEdge || edges[i].distanceTo(P) <= AcGeContext::gTol.equalPoint();
+        angleSum += toCorner[i].angleTo(toCorner[(i + 1) % 4]);
     }
-    if (isOnEdge(P, corners, atLeastRounding(AcGeContext::gTol.equalPoint(), largest)))
+    if (isOnEdge)
     {
         return 0;
     }
-    return isEncircled(toCorner) ? 1 : -1;
+    // The angle-sum test: only from within do the corners make up a full turn.
+    return std::fabs(angleSum - twoPi) <= 1e-6 ? 1 : -1;
 }
 
 int pointInOutlinePoints(const AcGePoint3d& P, const AcGePoint3dArray& points)
@@ -90,17 +62,11 @@ CurveArea::CurveArea(const AcDbCurve& curve) : m_curve(curve), m_isPolyline(fals
     }
 }
 
-double CurveArea::widestTolerance()
-{
-    return (std::max)(listTolerance, AcGeContext::gTol.equalPoint());
-}
-
 int CurveArea::locate(const AcGePoint3d& P) const
 {
-    const double largest = largestCoordinate(P);
     AcGePoint3d closest;
     if (m_curve.getClosestPointTo(P, closest) == Acad::eOk &&
-        closest.distanceTo(P) <= atLeastRounding(AcGeContext::gTol.equalPoint(), largest))
+        closest.distanceTo(P) <= AcGeContext::gTol.equalPoint())
     {
         return 0;
     }
@@ -109,8 +75,7 @@ int CurveArea::locate(const AcGePoint3d& P) const
         return -99;
     }
     AcGeIntArray loops;
-    const double tolerance = atLeastRounding(listTolerance, largest);
-    return m_polygon.isPointInsideMPolygon(P, loops, tolerance) < 1 ? -1 : 1;
+    return m_polygon.isPointInsideMPolygon(P, loops, listTolerance) < 1 ? -1 : 1;
 }
 
 int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve)

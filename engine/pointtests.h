@@ -1,10 +1,13 @@
 // Where a point lies.
 //
-// Tolerances are the host's own (AcGeContext::gTol), as they stand at the call, but never finer
-// than the rounding of the coordinates.
+// Tolerances are the host's own (AcGeContext::gTol), as they stand at the call: at survey
+// coordinates the caller raises equalPoint to their rounding (output/tolerance.h).
 #pragma once
 
 #include "hostapi/host.h"
+
+// The largest of the tolerances that decide in the tests below, in drawing units.
+double largestPointTolerance();
 
 // Tells where P lies with respect to the outline Q0-Q1-Q2-Q3.
 //
@@ -29,9 +32,6 @@ public:
 
     // As pointInCurve.
     int locate(const AcGePoint3d& P) const;
-
-    // The largest of the tolerances that decide, drawing units; rounding apart.
-    static double widestTolerance();
 
 private:
     CurveArea(const CurveArea&);

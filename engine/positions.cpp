@@ -4,10 +4,13 @@
 
 #include "output/tolerance.h"
 
-static bool fitsInt(double value)
+namespace
+{
+bool fitsInt(double value)
 {
     return std::fabs(value) < 2147483648.0;
 }
+}  // namespace
 
 std::vector<double> linePositions(double low, double high, double base, double step, int limit)
 {
@@ -35,15 +38,17 @@ std::vector<double> linePositions(double low, double high, double base, double s
     return positions;
 }
 
-GridLines gridLines(const AcGePoint3d& low, const AcGePoint3d& high, const AcGePoint3d& base,
-                    double HorStep, double VertStep)
+GridLines gridLines(const GridRequest& request)
 {
+    const AcGePoint3d& low = request.corner1;
+    const AcGePoint3d& high = request.corner2;
+    const GridSettings& options = request.options;
     GridLines lines;
-    lines.x = linePositions(low.x, high.x, base.x, HorStep, maxNodes);
+    lines.x = linePositions(low.x, high.x, options.basePoint.x, options.HorStep, maxNodes);
     if (!lines.x.empty())
     {
         const int left = maxNodes / static_cast<int>(lines.x.size());
-        lines.y = linePositions(low.y, high.y, base.y, VertStep, left);
+        lines.y = linePositions(low.y, high.y, options.basePoint.y, options.VertStep, left);
     }
     // Millions of lines without one across would fill the memory for no node.
     if (lines.y.empty())

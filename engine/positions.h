@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "hostapi/host.h"
+#include "engine/gridrequest.h"
 
 // 2^25. A grid has at most this many nodes and twice as many lines. The host keeps some hundred
 // bytes a line, so no machine holds the drawing of a bigger one; and its counts are ints, which
@@ -25,7 +25,6 @@ struct GridLines
 // and more than 2^31 steps between base and low.
 std::vector<double> linePositions(double low, double high, double base, double step, int limit);
 
-// Both directions, in the system of the points; low holds the smaller x and y, high the larger.
+// Both directions, from corner1 to corner2 of the request, which are sorted.
 // A direction without lines leaves the grid without nodes; then the other has none either.
-GridLines gridLines(const AcGePoint3d& low, const AcGePoint3d& high, const AcGePoint3d& base,
-                    double HorStep, double VertStep);
+GridLines gridLines(const GridRequest& request);

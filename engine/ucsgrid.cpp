@@ -1,6 +1,5 @@
 #include "engine/ucsgrid.h"
 
-#include "engine/cleararea.h"
 #include "engine/gridlabels.h"
 #include "engine/pieces.h"
 #include "engine/pointtests.h"
@@ -9,124 +8,85 @@
 
 namespace
 {
-// Tests ends against a rectangle whose coordinates are [ucs], cuts with the boundary, which is
+// Tests points against a rectangle whose coordinates are [ucs], clips with the boundary, which is
 // [wcs].
 class UcsClipper : public PieceClipper
 {
 public:
-    // rectangle  [borrowed], open for read while this lives, from corner1 to corner2
-    UcsClipper(const AcDbEntity& boundary, const AcDbCurve& rectangle, const AcGePoint3d& corner1,
-               const AcGePoint3d& corner2)
-        : PieceClipper(boundary, true, currentUcs(), 0),
-          m_area(rectangle),
-          m_clear(AcGePoint3d(corner1.x, corner1.y, 0), AcGePoint3d(corner2.x, corner1.y, 0),
-                  AcGePoint3d(corner2.x, corner2.y, 0), AcGePoint3d(corner1.x, corner2.y, 0),
-                  CurveArea::widestTolerance())
+    // rectangle  [borrowed], open for read while this lives, with these corners
+    UcsClipper(const AcDbEntity& boundary, const AcDbCurve& rectangle,
+               const AcGePoint3d (&corners)[4])
+        : PieceClipper(boundary, true, corners, 0), m_area(rectangle)
     {
     }
-
-    virtual bool clip(Piece& piece, const AcGePoint3d& node) const override;
 
 private:
-    bool isInside(const AcGePoint3d& point) const
-    {
-        const int place = m_clear.locate(point);
-        return (place != 0 ? place : m_area.locate(point)) == 1;
-    }
+    virtual int locate(const AcGePoint3d& point) const override { return m_area.locate(point); }
 
     const CurveArea m_area;
-    const ClearArea m_clear;
 };
-}  // namespace
 
-// The node is not asked: a cross with only its centre inside is dropped here, unlike in the world
-// grid. Kept for the drawings that are checked against earlier ones.
-bool UcsClipper::clip(Piece& piece, const AcGePoint3d&) const
-{
-    const bool startIsInside = isInside(piece.start);
-    const bool endIsInside = isInside(piece.end);
-    if (startIsInside == endIsInside)
-    {
-        return startIsInside;
-    }
-    AcGePoint3dArray cuts;
-    if (!meetOutline(piece, AcDb::kOnBothOperands, cuts))
-    {
-        return false;
-    }
-    if (!cuts.isEmpty())
-    {
-        (startIsInside ? piece.end : piece.start) = toUcs(cuts.first());
-    }
-    return true;
-}
-
-static void convertPoints(GridRequest& request)
+void convertPoints(GridRequest& request)
 {
     request.corner1 = toUcs(request.corner1);
     request.corner2 = toUcs(request.corner2);
-    request.basePoint = toUcs(request.basePoint);
+    request.options.basePoint = toUcs(request.options.basePoint);
     sortCorners(request.corner1, request.corner2);
 }
 
-static bool drawPiecesWithin(AcDbObjectId rectangleId, const GridRequest& request,
-                             const AcDbEntity& boundary, GridDrawing& drawing)
+// Vertical lines end at the top and the bottom edge, horizontal ones at the left and the right. So
+// left and right for X, top and bottom for Y are not asked, and neither is the view twist.
+void addLabels(const GridRequest& request, int axis, const AcGePoint3dArray& pairs,
+               AcDbObjectIdArray& made)
+{
+    const WantedEdges wanted = wantedEdges(request.options, axis);
+    // The host gives the far end of a line first: the upper or the right one.
+    const bool isWanted[] = {axis == 0 ? wanted.top : wanted.right,
+                             axis == 0 ? wanted.bottom : wanted.left};
+    for (int i = 0; i < pairs.length(); ++i)
+    {
+        if (isWanted[i % 2])
+        {
+            const LabelPlace place = labelPlace(pairs, i, i % 2 != 0);
+            // Not brought to exactly 0 near the base, unlike in the world grid: labels here show
+            // what was computed, and filed drawings may say "-0".
+            const double value = place.anchor[axis] - request.options.basePoint[axis];
+            addLabel(request, axis, value, place, made);
+        }
+    }
+}
+
+bool drawWithin(AcDbObjectId rectangleId, const GridRequest& request, const AcDbEntity& boundary,
+                AcDbObjectIdArray& made)
 {
     AcDbObjectPointer<AcDb2dPolyline> rectangle(rectangleId, AcDb::kForRead);
     if (rectangle.openStatus() != Acad::eOk)
     {
         return false;
     }
-    const GridLines lines = gridLines(request.corner1, request.corner2, request.basePoint,
-                                      request.HorStep, request.VertStep);
-    const UcsClipper clipper(boundary, *rectangle.object(), request.corner1, request.corner2);
-    drawPieces(request, lines, clipper, drawing);
+    const AcGePoint3d& low = request.corner1;
+    const AcGePoint3d& high = request.corner2;
+    const AcGePoint3d corners[4] = {AcGePoint3d(low.x, low.y, 0), AcGePoint3d(high.x, low.y, 0),
+                                    AcGePoint3d(high.x, high.y, 0), AcGePoint3d(low.x, high.y, 0)};
+    const UcsClipper clipper(boundary, *rectangle.object(), corners);
+    const GridLines drawn = drawPieces(request, gridLines(request), clipper, made);
+    if (request.options.needText != 0)
+    {
+        addLabels(request, 0, labelPoints(request, drawn.x, 0, clipper), made);
+        addLabels(request, 1, labelPoints(request, drawn.y, 1, clipper), made);
+    }
     return true;
 }
+}  // namespace
 
-// The host gives the far end of a line first: the upper of a vertical, the right of a horizontal
-// one.
-static void addLabels(const GridRequest& request, const CString& prefix,
-                      const AcGePoint3dArray& pairs, int axis, bool atFarEnd, bool atNearEnd,
-                      GridDrawing& drawing)
-{
-    for (int i = 0; i < pairs.length(); ++i)
-    {
-        const bool isFarEnd = i % 2 == 0;
-        if (isFarEnd ? !atFarEnd : !atNearEnd)
-        {
-            continue;
-        }
-        const LabelPlace place = labelPlace(pairs, i, !isFarEnd);
-        // Not brought to exactly 0 near the base, unlike in the world grid: labels here show what
-        // was computed, and drawings are compared with earlier ones that may say "-0".
-        const double value = place.anchor[axis] - request.basePoint[axis];
-        addLabel(request, prefix, value, place, drawing);
-    }
-}
-
-// Vertical lines end at the top and the bottom edge, horizontal ones at the left and the right. So
-// left and right for X, top and bottom for Y are not asked, and neither is the view twist.
-static void addUcsLabels(const GridRequest& request, GridDrawing& drawing)
-{
-    const LabelRequest& x = request.xLabels;
-    const LabelRequest& y = request.yLabels;
-    addLabels(request, x.prefix, drawing.xLabelPoints, 0, x.top, x.bottom, drawing);
-    addLabels(request, y.prefix, drawing.yLabelPoints, 1, y.right, y.left, drawing);
-}
-
-bool drawUcsGrid(GridRequest request, const AcDbEntity& boundary, GridDrawing& drawing)
+bool drawUcsGrid(GridRequest request, const AcDbEntity& boundary, AcDbObjectIdArray& made)
 {
     convertPoints(request);
     const AcDbObjectId rectangleId = addHiddenRectangle(request.corner1, request.corner2);
-    if (!drawPiecesWithin(rectangleId, request, boundary, drawing))
+    const bool isDrawn = drawWithin(rectangleId, request, boundary, made);
+    if (isDrawn)
     {
-        return false;
+        eraseEntity(rectangleId);
     }
-    if (request.needText)
-    {
-        addUcsLabels(request, drawing);
-    }
-    eraseEntity(rectangleId);
-    return true;
+    return isDrawn;
 }

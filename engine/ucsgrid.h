@@ -10,4 +10,4 @@
 // boundary  [borrowed], open for read, the rectangle between the corners in the plane of the UCS
 // False when the host refuses the auxiliary rectangle that points are tested against; nothing is
 // drawn then. The rectangle is invisible and never stays in the drawing.
-bool drawUcsGrid(GridRequest request, const AcDbEntity& boundary, GridDrawing& drawing);
+bool drawUcsGrid(GridRequest request, const AcDbEntity& boundary, AcDbObjectIdArray& made);

@@ -3,106 +3,61 @@
 #include <algorithm>
 #include <cmath>
 
-#include "engine/cleararea.h"
+#include "engine/gridlabels.h"
 #include "engine/pieces.h"
 #include "engine/pointtests.h"
 #include "engine/worldlabels.h"
 #include "output/frame.h"
 #include "output/labels.h"
 #include "output/language.h"
+#include "output/tolerance.h"
 
 namespace
 {
-// Against the quadrilateral of the boundary's first four points.
+// Takes the outline for the quadrilateral of its first four points.
 class WorldClipper : public PieceClipper
 {
 public:
-    // outline  [borrowed], at least four points
-    WorldClipper(const AcDbEntity& boundary, const AcGePoint3dArray& outline, double elevation)
-        : PieceClipper(boundary, false, AcGeMatrix3d(), elevation),
+    // tolerance  of the point test: the outline may reach beyond the picked corners, to coarser
+    //            coordinates
+    WorldClipper(const AcDbEntity& boundary, const AcGePoint3dArray& outline,
+                 const AcGePoint3d (&corners)[4], double elevation, double tolerance)
+        : PieceClipper(boundary, false, corners, elevation),
           m_outline(outline),
-          m_clear(outline[0], outline[1], outline[2], outline[3], widestTolerance())
+          m_tolerance(tolerance)
     {
     }
-
-    virtual bool clip(Piece& piece, const AcGePoint3d& node) const override;
 
 private:
-    static double widestTolerance()
+    virtual int locate(const AcGePoint3d& point) const override
     {
-        return (std::max)(AcGeContext::gTol.equalPoint(), AcGeContext::gTol.equalVector());
+        const BorrowedTolerance tolerance(m_tolerance);
+        return pointInOutlinePoints(point, m_outline);
     }
 
-    bool isInside(const AcGePoint3d& point) const
-    {
-        const int place = m_clear.locate(point);
-        return place != 0 ? place == 1 : pointInOutlinePoints(point, m_outline) == 1;
-    }
-
-    const AcGePoint3dArray& m_outline;
-    const ClearArea m_clear;
+    const AcGePoint3dArray& m_outline;  // [borrowed]
+    const double m_tolerance;
 };
-}  // namespace
 
-// Cuts come far end first; with only the node inside they bound the piece from both sides.
-static void cutEndsOutside(Piece& piece, bool startIsInside, bool endIsInside,
-                           const AcGePoint3dArray& cuts)
-{
-    if (startIsInside)
-    {
-        piece.end = cuts.first();
-        return;
-    }
-    piece.start = cuts.first();
-    if (!endIsInside)
-    {
-        piece.end = cuts.last();
-    }
-}
-
-bool WorldClipper::clip(Piece& piece, const AcGePoint3d& node) const
-{
-    const bool startIsInside = isInside(piece.start);
-    const bool endIsInside = isInside(piece.end);
-    if (startIsInside && endIsInside)
-    {
-        return true;
-    }
-    if (!startIsInside && !endIsInside && !isInside(node))
-    {
-        return false;
-    }
-    AcGePoint3dArray cuts;
-    if (!meetOutline(piece, AcDb::kOnBothOperands, cuts))
-    {
-        return false;
-    }
-    if (!cuts.isEmpty())
-    {
-        cutEndsOutside(piece, startIsInside, endIsInside, cuts);
-    }
-    return true;
-}
-
-static bool isTilted(const GridRequest& request)
+bool isTilted(const GridRequest& request)
 {
     return std::fabs(request.corner1.z - request.corner2.z) > AcGeContext::gTol.equalPoint();
 }
 
-static void addTiltedText(const GridRequest& request, GridDrawing& drawing)
+void addTiltedText(const GridRequest& request, AcDbObjectIdArray& made)
 {
     const ACHAR* text = isRussian(request.localeName)
                             ? L"Плоскость рисования не параллельна плоскости XY в МСК"
                             : L"Current plane is not parallel to XY plane in WCS";
     const AcGePoint3d middle = request.corner1 + (request.corner2 - request.corner1) / 2;
     const double height = std::fabs(request.corner2.x - request.corner1.x) / 30.0;
-    addMade(drawing,
-            addLabelText(true, text, toUcs(middle), height, 0, request.Color, request.textStyleName,
-                         AcDb::kTextMid, AcDb::kTextVertMid, ACDB_MODEL_SPACE));
+    addMade(made, addLabelText(true, text, toUcs(middle), height, 0, colorIndex(request),
+                               request.options.textStyleName, AcDb::kTextMid, AcDb::kTextVertMid,
+                               ACDB_MODEL_SPACE));
 }
 
 // corner1 takes the smallest, corner2 the largest x and y of both corners and the outline.
-static void widenTo(const AcGePoint3dArray& outline, AcGePoint3d& corner1, AcGePoint3d& corner2)
+void widenTo(const AcGePoint3dArray& outline, AcGePoint3d& corner1, AcGePoint3d& corner2)
 {
     sortCorners(corner1, corner2);
     for (int i = 0; i < outline.length(); ++i)
@@ -114,11 +69,13 @@ static void widenTo(const AcGePoint3dArray& outline, AcGePoint3d& corner1, AcGeP
     }
 }
 
-void drawWorldGrid(GridRequest request, const AcDbEntity& boundary, GridDrawing& drawing)
+}  // namespace
+
+void drawWorldGrid(GridRequest request, const AcDbEntity& boundary, AcDbObjectIdArray& made)
 {
     if (isTilted(request))
     {
-        addTiltedText(request, drawing);
+        addTiltedText(request, made);
         return;
     }
     const FrameEdges edges = frameEdges(request);
@@ -129,12 +86,15 @@ void drawWorldGrid(GridRequest request, const AcDbEntity& boundary, GridDrawing&
         return;
     }
     widenTo(outline, request.corner1, request.corner2);
-    const GridLines lines = gridLines(request.corner1, request.corner2, request.basePoint,
-                                      request.HorStep, request.VertStep);
-    const WorldClipper clipper(boundary, outline, request.corner1.z);
-    drawPieces(request, lines, clipper, drawing);
-    if (request.needText)
+    const AcGePoint3d corners[4] = {outline[0], outline[1], outline[2], outline[3]};
+    const double largest =
+        (std::max)(largestCoordinate(request.corner1), largestCoordinate(request.corner2));
+    const double tolerance = atLeastRounding(AcGeContext::gTol.equalPoint(), largest);
+    const WorldClipper clipper(boundary, outline, corners, request.corner1.z, tolerance);
+    const GridLines drawn = drawPieces(request, gridLines(request), clipper, made);
+    if (request.options.needText != 0)
     {
-        addWorldLabels(request, edges, drawing);
+        addWorldLabels(request, edges, 0, labelPoints(request, drawn.x, 0, clipper), made);
+        addWorldLabels(request, edges, 1, labelPoints(request, drawn.y, 1, clipper), made);
     }
 }

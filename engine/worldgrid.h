@@ -10,4 +10,4 @@
 // boundary  [borrowed], open for read, a quadrilateral [wcs] at the elevation of the corners
 // Corners at different elevations give one text in the middle instead, in the user's language: the
 // answer stands where the eye is, and is grouped or taken back like a grid.
-void drawWorldGrid(GridRequest request, const AcDbEntity& boundary, GridDrawing& drawing);
+void drawWorldGrid(GridRequest request, const AcDbEntity& boundary, AcDbObjectIdArray& made);

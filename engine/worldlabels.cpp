@@ -5,12 +5,16 @@
 #include "engine/gridlabels.h"
 #include "output/frame.h"
 
-static AcGePoint3d cornerWcs(double xUcs, double yUcs, double zWcs)
+namespace
+{
+AcGePoint3d cornerWcs(double xUcs, double yUcs, double zWcs)
 {
     AcGePoint3d corner = toWcs(AcGePoint3d(xUcs, yUcs, 0));
     corner.z = zWcs;
     return corner;
 }
+
+}  // namespace
 
 FrameEdges frameEdges(const GridRequest& request)
 {
@@ -28,19 +32,20 @@ FrameEdges frameEdges(const GridRequest& request)
     return edges;
 }
 
-static bool isOnWantedEdge(const AcGePoint3d& point, const FrameEdges& edges,
-                           const LabelRequest& labels)
+namespace
+{
+bool isOnWantedEdge(const AcGePoint3d& point, const FrameEdges& edges, const WantedEdges& wanted)
 {
     const double tolerance = AcGeContext::gTol.equalPoint();
-    return (labels.top && edges.top.distanceTo(point) <= tolerance) ||
-           (labels.bottom && edges.bottom.distanceTo(point) <= tolerance) ||
-           (labels.left && edges.left.distanceTo(point) <= tolerance) ||
-           (labels.right && edges.right.distanceTo(point) <= tolerance);
+    return (wanted.top && edges.top.distanceTo(point) <= tolerance) ||
+           (wanted.bottom && edges.bottom.distanceTo(point) <= tolerance) ||
+           (wanted.left && edges.left.distanceTo(point) <= tolerance) ||
+           (wanted.right && edges.right.distanceTo(point) <= tolerance);
 }
 
 // In a view turned by a quarter both ends of a line are as high and rounding alone would tell them
 // apart, for each line anew. Such pairs stay as the host gave them, all of a sheet the same way.
-static void orderPairs(AcGePoint3dArray& pairs, int axis)
+void orderPairs(AcGePoint3dArray& pairs, int axis)
 {
     const double tolerance = AcGeContext::gTol.equalPoint();
     for (int i = 0; i + 1 < pairs.length(); i += 2)
@@ -54,7 +59,7 @@ static void orderPairs(AcGePoint3dArray& pairs, int axis)
 
 // Strictly between quarter turns of twelve decimals, which are a little longer than whole ones: a
 // view that is turned by just 90 or 270 degrees is twisted, one turned by 0 or 180 is not.
-static bool isViewTwisted()
+bool isViewTwisted()
 {
     resbuf variable = resbuf();
     acedGetVar(L"VIEWTWIST", &variable);
@@ -62,7 +67,7 @@ static bool isViewTwisted()
     return (twist > 0 && twist < labelPi / 2) || (twist > labelPi && twist < labelPi / 2 + labelPi);
 }
 
-static LabelPlace turnedOver(LabelPlace place)
+LabelPlace turnedOver(LabelPlace place)
 {
     const bool endsHere = place.mode == AcDb::kTextRight;
     place.mode = endsHere ? AcDb::kTextLeft : AcDb::kTextRight;
@@ -71,32 +76,27 @@ static LabelPlace turnedOver(LabelPlace place)
 }
 
 // Exactly 0 for the line through the base point, or rounding would print it with a minus sign.
-static double offsetFromBase(double coordinate, double base)
+double offsetFromBase(double coordinate, double base)
 {
     const double offset = coordinate - base;
     return std::fabs(offset) < AcGeContext::gTol.equalPoint() ? 0 : offset;
 }
 
-static void addLabels(const GridRequest& request, const FrameEdges& edges,
-                      const LabelRequest& labels, const AcGePoint3dArray& pairs, int axis,
-                      bool isTurned, GridDrawing& drawing)
+}  // namespace
+
+void addWorldLabels(const GridRequest& request, const FrameEdges& edges, int axis,
+                    AcGePoint3dArray pairs, AcDbObjectIdArray& made)
 {
+    const WantedEdges wanted = wantedEdges(request.options, axis);
+    const bool isTurned = axis == 0 && isViewTwisted();
+    orderPairs(pairs, 1 - axis);
     for (int i = 0; i < pairs.length(); ++i)
     {
-        if (!isOnWantedEdge(pairs[i], edges, labels))
+        if (isOnWantedEdge(pairs[i], edges, wanted))
         {
-            continue;
+            const LabelPlace place = labelPlace(pairs, i, i % 2 == 0);
+            const double value = offsetFromBase(pairs[i][axis], request.options.basePoint[axis]);
+            addLabel(request, axis, value, isTurned ? turnedOver(place) : place, made);
         }
-        const LabelPlace place = labelPlace(pairs, i, i % 2 == 0);
-        addLabel(request, labels.prefix, offsetFromBase(pairs[i][axis], request.basePoint[axis]),
-                 isTurned ? turnedOver(place) : place, drawing);
     }
-}
-
-void addWorldLabels(const GridRequest& request, const FrameEdges& edges, GridDrawing& drawing)
-{
-    orderPairs(drawing.xLabelPoints, 1);
-    orderPairs(drawing.yLabelPoints, 0);
-    addLabels(request, edges, request.xLabels, drawing.xLabelPoints, 0, isViewTwisted(), drawing);
-    addLabels(request, edges, request.yLabels, drawing.yLabelPoints, 1, false, drawing);
 }

@@ -1,47 +1,65 @@
 #include "engine/pieces.h"
 
+#include "engine/gridlabels.h"
 #include "host/database/packing.h"
 #include "tests/engine/gridtest.h"
 #include "tests/support/letgo.h"
 
 namespace
 {
+// Every point is inside.
 class WholePieces : public PieceClipper
 {
 public:
-    explicit WholePieces(const AcDbEntity& boundary)
-        : PieceClipper(boundary, false, AcGeMatrix3d(), 0)
+    explicit WholePieces(const AcDbEntity& boundary) : PieceClipper(boundary, false, noCorners(), 0)
     {
     }
-    bool clip(Piece&, const AcGePoint3d&) const override { return true; }
+
+private:
+    using Corners = AcGePoint3d[4];
+    static const Corners& noCorners()
+    {
+        static const Corners corners;
+        return corners;
+    }
+    int locate(const AcGePoint3d&) const override { return 1; }
+};
+
+struct Drawn
+{
+    AcDbObjectIdArray made;
+    AcGePoint3dArray xLabelPoints;
+    AcGePoint3dArray yLabelPoints;
 };
 
 class Pieces : public tests::Grid
 {
 protected:
     // One node in the middle of the sheet.
-    GridDrawing draw() const { return draw({10}); }
+    Drawn draw() const { return draw({10}); }
     // One node at each of these x.
-    GridDrawing draw(const std::vector<double>& x) const
+    Drawn draw(const std::vector<double>& x) const
     {
         GridRequest request = GridRequest();
         request.corner2 = corner2;
-        request.HorStep = request.VertStep = 10;
-        request.needText = true;
+        request.options.HorStep = request.options.VertStep = 10;
         GridLines lines;
         lines.x = x;
         lines.y.push_back(10);
-        GridDrawing drawing;
+        Drawn drawn;
         AcDbObjectPointer<AcDbEntity> boundary(outline, AcDb::kForRead);
-        drawPieces(request, lines, WholePieces(*boundary.object()), drawing);
-        return drawing;
+        const WholePieces clipper(*boundary.object());
+        const GridLines drawnLines = drawPieces(request, lines, clipper, drawn.made);
+        drawn.xLabelPoints = labelPoints(request, drawnLines.x, 0, clipper);
+        drawn.yLabelPoints = labelPoints(request, drawnLines.y, 1, clipper);
+        return drawn;
     }
 };
 
-TEST_F(Pieces, noteTheEndsOfTheirLinesForTheLabels)
+TEST_F(Pieces, giveTheEndsOfTheirLinesForTheLabels)
 {
     pickSheet();
-    const GridDrawing drawing = draw();
+    const Drawn drawing = draw();
     EXPECT_EQ(drawing.made.length(), 2);
     EXPECT_EQ(drawing.xLabelPoints.length(), 2);
     EXPECT_EQ(drawing.yLabelPoints.length(), 2);
@@ -59,7 +77,7 @@ TEST_F(Pieces, thatCannotBeDrawnGetNoLabels)
     pickSheet();
     const tests::LetGo letGo;
     AcDbObjectPointer<AcDbBlockTableRecord> someoneElse(modelSpace(), AcDb::kForRead);
-    const GridDrawing drawing = draw();
+    const Drawn drawing = draw();
     EXPECT_EQ(drawing.made.length(), 0);
     EXPECT_TRUE(drawing.xLabelPoints.isEmpty());
     EXPECT_TRUE(drawing.yLabelPoints.isEmpty());

@@ -132,26 +132,37 @@ TEST(Positions, noListIsLongerThanItsLimit)
     EXPECT_EQ(linePositions(5, 6.5, 0, 0.1, 18).size(), 18u);
 }
 
+// Lines count from the low corner.
+GridRequest grid(const AcGePoint3d& low, const AcGePoint3d& high, double HorStep, double VertStep)
+{
+    GridRequest request;
+    request.corner1 = request.options.basePoint = low;
+    request.corner2 = high;
+    request.options.HorStep = HorStep;
+    request.options.VertStep = VertStep;
+    return request;
+}
+
 TEST(Positions, aDirectionWithoutLinesLeavesNoNodes)
 {
     const AcGePoint3d low(0, 0, 0);
     const AcGePoint3d high(20, 20, 0);
-    const GridLines both = gridLines(low, high, low, 10, 20);
+    const GridLines both = gridLines(grid(low, high, 10, 20));
     EXPECT_EQ(both.x, (Positions{-10, 0, 10, 20, 30}));
     EXPECT_EQ(both.y, (Positions{-20, 0, 20, 40}));
-    EXPECT_TRUE(gridLines(low, high, low, 0, 20).y.empty());
-    EXPECT_TRUE(gridLines(low, high, low, 10, 0).y.empty());
-    EXPECT_TRUE(gridLines(low, high, low, 10, 0).x.empty());  // they may be millions
+    EXPECT_TRUE(gridLines(grid(low, high, 0, 20)).y.empty());
+    EXPECT_TRUE(gridLines(grid(low, high, 10, 0)).y.empty());
+    EXPECT_TRUE(gridLines(grid(low, high, 10, 0)).x.empty());  // they may be millions
 }
 
 TEST(Positions, thereAreNeverMoreNodesThanAMachineCanHold)
 {
     const AcGePoint3d low(0, 0, 0);
     const AcGePoint3d high(5788, 5788, 0);  // 5791 positions each way are just below the bound
-    const GridLines most = gridLines(low, high, low, 1, 1);
+    const GridLines most = gridLines(grid(low, high, 1, 1));
     EXPECT_EQ(most.x.size() * most.y.size(), 5791u * 5791u);
     const AcGePoint3d higher(5790, 5790, 0);
-    EXPECT_TRUE(gridLines(low, higher, low, 1, 1).y.empty());
+    EXPECT_TRUE(gridLines(grid(low, higher, 1, 1)).y.empty());
 }
 
 // Numbers as a damaged settings file may hold them, and every other kind of double.

@@ -149,27 +149,30 @@ TEST_F(WorldLabels, belongToAnEdgeThatIsAsFarAsTheTolerance)
 {
     struct Row
     {
-        bool LabelRequest::*flag;
+        int GridSettings::*flag;
         AcGePoint3d end;
     };
     const Row rows[] = {
-        {&LabelRequest::top, {10, 21, 0}},
-        {&LabelRequest::bottom, {10, -1, 0}},
-        {&LabelRequest::left, {-1, 10, 0}},
-        {&LabelRequest::right, {31, 10, 0}},
+        {&GridSettings::bXTopScribe, {10, 21, 0}},
+        {&GridSettings::bXBottomScribe, {10, -1, 0}},
+        {&GridSettings::bXLeftScribe, {-1, 10, 0}},
+        {&GridSettings::bXRightScribe, {31, 10, 0}},
     };
     const BorrowedTolerance tolerance(1);
     for (const Row& row : rows)
     {
-        GridRequest request = {};
+        GridRequest request;
         request.corner2 = AcGePoint3d(30, 20, 0);
-        request.heightText = 1;
-        request.xLabels.*row.flag = true;
-        GridDrawing drawing;
-        drawing.xLabelPoints.append(row.end);
-        drawing.xLabelPoints.append(AcGePoint3d(10, 10, 0));
-        addWorldLabels(request, frameEdges(request), drawing);
-        EXPECT_EQ(drawing.made.length(), 1) << row.end.x << ' ' << row.end.y;
+        for (const Row& other : rows)
+        {
+            request.options.*other.flag = other.flag == row.flag;
+        }
+        AcGePoint3dArray ends;
+        ends.append(row.end);
+        ends.append(AcGePoint3d(10, 10, 0));
+        AcDbObjectIdArray made;
+        addWorldLabels(request, frameEdges(request), 0, ends, made);
+        EXPECT_EQ(made.length(), 1) << row.end.x << ' ' << row.end.y;
     }
 }
 

@@ -41,7 +41,7 @@ struct Grid
 };
 
 // Exchanges x and y, each by itself, so that corner1 holds the smaller and corner2 the larger.
-void sortCorners(AcGePoint3d& corner1, AcGePoint3d& corner2);
+void orderCorners(AcGePoint3d& corner1, AcGePoint3d& corner2);
 
 // Draws the pieces at each node and notes their label points.
 void drawNodes(Grid& grid, double elevation);

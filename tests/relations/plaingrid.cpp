@@ -14,7 +14,7 @@ namespace relations
 {
 namespace plain
 {
-void sortCorners(AcGePoint3d& corner1, AcGePoint3d& corner2)
+void orderCorners(AcGePoint3d& corner1, AcGePoint3d& corner2)
 {
     for (const unsigned axis : {0u, 1u})
     {
@@ -51,7 +51,7 @@ void addTiltedText(Grid& grid)
 
 void widen(Grid& grid)
 {
-    sortCorners(grid.corner1, grid.corner2);
+    orderCorners(grid.corner1, grid.corner2);
     for (int i = 0; i < grid.outline.length(); ++i)
     {
         for (const unsigned axis : {0u, 1u})
@@ -98,7 +98,7 @@ void drawInUcs(Grid& grid)
     {
         *point = toUcs(*point);
     }
-    sortCorners(grid.corner1, grid.corner2);
+    orderCorners(grid.corner1, grid.corner2);
     const AcDbObjectId id = addRectangle(grid.corner1, grid.corner2);
     {
         AcDbObjectPointer<AcDb2dPolyline> rectangle(id, AcDb::kForRead);

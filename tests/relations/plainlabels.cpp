@@ -94,7 +94,7 @@ Edges edgesOf(const Grid& grid)
 {
     AcGePoint3d low = toUcs(grid.corner1);
     AcGePoint3d high = toUcs(grid.corner2);
-    sortCorners(low, high);
+    orderCorners(low, high);
     const auto corner = [&](double x, double y)
     {
         AcGePoint3d wcs = toWcs(AcGePoint3d(x, y, 0));
