@@ -190,9 +190,10 @@ def commands_draw_a_grid(locale, path):
 
 
 def scripts_draw_a_grid(locale):
-    scripts = [block for block in blocks("README.md") if "zv_netrax" in block]
-    expect_equal(len(scripts), 2, "scripts in README.md")
-    for script, name in zip(scripts, ("whole.txt", "whole.scr")):
+    scripts = [block for path in ("README.md", "docs/arxhost.md") for block in blocks(*path.split("/"))
+               if "zv_netrax" in block]
+    expect_equal(len(scripts), 3, "scripts in README.md and docs/arxhost.md")
+    for script, name in zip(scripts, ("whole.txt", "whole.txt", "whole.scr")):
         with examples_desk() as desk:
             (desk / name).write_text(script)
             run_as(desk, locale, "site.dxf", "--script", name, "--save", "out.dxf")
@@ -200,7 +201,7 @@ def scripts_draw_a_grid(locale):
 
 
 def lines_for_the_dialog_do_the_same_in_every_run(locale):
-    text = text_of("README.md")
+    text = " ".join(text_of("docs", "arxhost.md").split())
     part = text[text.index("the dialog is worked by lines"):text.index("After a click on a pick")]
     lines = [line for line in re.findall(r"`([a-z]+ \d+[^`]*)`", part) if line not in ("click 1", "click 2")]
     expect_equal(sorted({line.split()[0] for line in lines}), ["check", "click", "color", "select", "set"], "kinds of lines")
@@ -217,9 +218,9 @@ def lines_for_the_dialog_do_the_same_in_every_run(locale):
 
 
 for locale in ("en-US", "ru-RU"):
-    for text in ("README.md", "docs/guide-en.md", "docs/guide-ru.md", "packaging/README.txt"):
+    for text in ("README.md", "docs/arxhost.md", "docs/guide-en.md", "docs/guide-ru.md", "packaging/README.txt"):
         add(f"the commands of {text} draw a grid for {locale}", commands_draw_a_grid, locale, text)
-    add(f"the scripts of README.md draw a grid for {locale}", scripts_draw_a_grid, locale)
+    add(f"the scripts of README.md and docs/arxhost.md draw a grid for {locale}", scripts_draw_a_grid, locale)
     add(f"lines for the dialog do the same in every run for {locale}", lines_for_the_dialog_do_the_same_in_every_run, locale)
 
 
