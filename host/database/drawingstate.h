@@ -15,11 +15,11 @@ namespace host
 // stored).
 using VariableValue = std::variant<int, double, AcGePoint3d, std::wstring>;
 
-// The model space viewport, all in WCS.
+// The model space viewport. Points and directions are [wcs].
 struct View
 {
     AcGeVector3d direction{0, 0, 1};  // from the target to the camera, any length but 0
-    double twist = 0;                 // radians, counter-clockwise; as read, any
+    double twist = 0;                 // [rad], counter-clockwise; any value, as it was read
     AcGePoint3d target;
     double centreX = 0;  // in display coordinates
     double centreY = 0;
@@ -29,7 +29,7 @@ struct View
 
 struct Ucs
 {
-    AcGeMatrix3d toWorld;  // columns: X axis, Y axis, Z axis, origin; all WCS
+    AcGeMatrix3d toWorld;  // [wcs]; its columns are the X, Y and Z axis and the origin
     std::wstring name;     // empty for an unnamed one and for the world
 };
 

@@ -12,7 +12,7 @@ namespace host
 {
 bool isFit(const AcDbEntity& entity);
 
-// Angles, in radians, are written in degrees.
+// Whether the angle [rad] stays finite in degrees, in which it is written.
 bool isAngle(double radians);
 // A point of a plane with that normal is written in the plane's own coordinates.
 bool isFitInPlane(const AcGePoint3d& point, const AcGeVector3d& normal);

@@ -19,7 +19,7 @@ public:
     double moveTo(std::vector<AcGePoint3d> points, const AcGeVector3d& normal, double elevation);
 
     const std::vector<AcDb2dVertex*>& vertices() const { return m_vertices; }
-    const std::vector<AcGePoint3d>& points() const { return m_points; }  // WCS
+    const std::vector<AcGePoint3d>& points() const { return m_points; }  // [wcs]
 
     // The object that ends the sequence in a drawing; null outside.
     AcDbStub* sequenceEnd = nullptr;
@@ -33,7 +33,7 @@ namespace host
 {
 using PolylineVertices = AcDb2dPolyline::Internals;
 
-// WCS, in order, nothing repeated for a closed one.
+// The vertices [wcs] in their order; a closed polyline does not repeat the first one.
 inline const std::vector<AcGePoint3d>& cornersOf(const AcDb2dPolyline& polyline)
 {
     return PolylineVertices::of(polyline).points();

@@ -26,7 +26,7 @@ public:
     std::uint32_t flags;
     union
     {
-        double line[6];  // start and end, WCS
+        double line[6];  // start and end [wcs]
         AcDbObject* object;
     };
 

@@ -38,7 +38,7 @@ struct AcDbLayerTableRecord::Internals
 // Nothing but the loader sets a text style.
 struct AcDbTextStyleTableRecord::Internals
 {
-    // oblique in radians; textSize in drawing units, 0 when the style does not fix it.
+    // oblique is [rad]; textSize is in drawing units, 0 when the style does not fix it.
     static void set(AcDbTextStyleTableRecord& style, double oblique, double xScale, double textSize)
     {
         style.m_oblique = oblique;

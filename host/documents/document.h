@@ -15,7 +15,7 @@
 
 namespace host
 {
-// What a command found when it started; taking the command back returns to it.
+// The state that a command found when it started. Undoing the command returns to it.
 struct UndoStep
 {
     std::wstring command;
@@ -24,7 +24,7 @@ struct UndoStep
     UcsHistory ucsHistory;
 };
 
-// A command that was taken back, and what it left.
+// A command that was undone, and the state that it had left.
 struct RedoStep
 {
     UndoStep step;
@@ -33,10 +33,11 @@ struct RedoStep
     UcsHistory ucsHistory;
 };
 
+// The open drawing.
 class Document final : public AcApDocument
 {
 public:
-    // An empty path: the drawing has no file yet.
+    // Takes the database over [adopted]. An empty path means that the drawing has no file yet.
     Document(std::unique_ptr<AcDbDatabase> database, std::filesystem::path path);
 
     AcDbDatabase* database() const override { return m_database.get(); }
@@ -50,7 +51,7 @@ public:
     UcsHistory ucsHistory;
     std::vector<UndoStep> undo;
     std::vector<RedoStep> redo;  // until something else is done
-    AcGePoint3d lastPoint;       // WCS
+    AcGePoint3d lastPoint;       // [wcs]; "@" counts from it
     bool blockEditor = false;    // a block is being edited
     std::vector<AcAp::DocLockMode> locks;
     std::uint64_t savedDigest = 0;  // of the changes that its file holds

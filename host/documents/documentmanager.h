@@ -1,4 +1,4 @@
-// The documents of the host. There is one at most.
+// The documents of the host. At most one is open.
 #pragma once
 
 #include <functional>
@@ -9,21 +9,26 @@
 
 namespace host
 {
+// Opens and closes the document, locks it and tells the reactors of modules.
 class DocumentManager final : public AcApDocManager
 {
 public:
     DocumentManager();
 
-    // Makes the drawing the current document and its database the working one; one that is open is
-    // closed first.
+    // Makes the drawing the current document and its database the working one [adopted]. A document
+    // that is open is closed first.
     Document& open(std::unique_ptr<AcDbDatabase> database, std::filesystem::path path = {});
+    // Closes the document, if one is open.
     void close();
+    // The open document [borrowed]; null when there is none.
     Document* document() const { return m_document.get(); }
 
+    // Add a lock to the document and take the newest one back; `command` is what reactors are told.
+    // lock gives eNoDatabase without a document; an unlock without its lock ends the run.
     Acad::ErrorStatus lock(AcAp::DocLockMode mode, const ACHAR* command);
     Acad::ErrorStatus unlock(const ACHAR* command);
 
-    // While set, no command of document context runs.
+    // Notes whether a command runs that works on one document: false while it does.
     void setApplicationContext(bool set) { m_applicationContext = set; }
 
     AcApDocument* curDocument() const override { return m_document.get(); }
@@ -50,5 +55,6 @@ private:
     bool m_applicationContext = true;
 };
 
+// The one document manager.
 DocumentManager& documents();
 }  // namespace host

@@ -1,4 +1,4 @@
-// Resource handles that are current for a while.
+// The resource handles that were current before.
 #pragma once
 
 #include <vector>
@@ -7,13 +7,14 @@
 
 namespace host
 {
-// Each push makes a handle current; the pop that belongs to it brings back the one before.
+// Each push makes a handle current, and its pop makes the former handle current again.
 class ResourceStack
 {
 public:
     void push(HINSTANCE resources);
-    // A pop without its push ends the run.
+    // Ends the run when nothing was pushed.
     void pop();
+    // How many handles have been pushed and not popped.
     std::size_t depth() const { return m_former.size(); }
 
 private:

@@ -1,4 +1,4 @@
-// Coordinate systems that were current before, of one document.
+// The coordinate systems that were current before in one document.
 #pragma once
 
 #include <vector>
@@ -7,12 +7,14 @@
 
 namespace host
 {
-// Ten of model space and ten of paper space, each list taken back from its own end.
+// Two lists of at most ten, one of model space and one of paper space; the newest comes back first.
 class UcsHistory
 {
 public:
+    // Adds the current UCS to the list of the current space. The oldest of more than ten goes.
     void push(const DrawingState& state);
-    // False when the list of the current space is empty.
+    // Takes the newest former UCS off that list. False when the list is empty; former is as it was
+    // then.
     bool pop(const DrawingState& state, Ucs& former);
 
 private:

@@ -34,7 +34,7 @@ struct Question
     Kind kind = Kind::text;
     std::wstring prompt{};                 // as it stands on the command line
     std::vector<std::wstring> keywords{};  // what may be answered by name; the buttons of a box
-    std::optional<AcGePoint3d> base{};     // UCS; where a rubber band starts
+    std::optional<AcGePoint3d> base{};     // [ucs]; where a rubber band starts
     std::wstring caption{};                // of a box or dialog
     std::wstring text{};                   // of a box
     // Whether it was answered otherwise, by a click on a window; asked on the command's thread.

@@ -14,7 +14,7 @@ struct TypedPoint
     AcGePoint3d coordinates;
     bool hasZ = false;
     bool relative = false;  // "@": from the last point
-    bool world = false;     // "*": in the WCS
+    bool world = false;     // "*": [wcs], else [ucs]
 };
 
 // "x,y", "x,y,z", "dist<angle" with the angle in degrees, each with "@" or "*" before it; "@" alone

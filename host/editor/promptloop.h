@@ -39,7 +39,8 @@ inline Reading foreign(OwnText complaint)
 // none.
 using Reader = std::function<Reading(std::wstring_view)>;
 
-// Typed points in the current UCS, measured from the base if there is one. Both have to outlive it.
+// Reads typed points [ucs], measured from the base if there is one. Base and point [borrowed]
+// outlive the reader.
 Reader pointReader(const AcGePoint3d* base, AcGePoint3d& point);
 
 // Asks until the answer is one that the options allow. Gives RTNORM for a value, else what the
@@ -53,6 +54,6 @@ Question questionOf(Question::Kind kind, const ACHAR* prompt, const ads_real* ba
 // Null when there is nobody to ask or nothing to draw in.
 Editor* askingEditor();
 
-// What "@" is measured from next; in the current UCS.
+// Sets the point [ucs] that "@" is measured from next.
 void setLastPoint(const AcGePoint3d& point);
 }  // namespace host

@@ -21,6 +21,7 @@ std::optional<std::wstring> askLine(Editor& editor, Question::Kind kind,
 // The number of degrees; `initial` for Enter, nothing for Esc. Asks until it is one.
 std::optional<double> askDegrees(Editor& editor, const std::wstring& prompt, double initial);
 
-// In the current UCS. `base` is what "@" is measured from, the last point if there is none.
+// Returns the typed point [ucs]. "@" is measured from `base`, or from the last point when it is
+// null.
 AcGePoint3d resolvePoint(const TypedPoint& typed, const AcGePoint3d* base);
 }  // namespace host

@@ -15,7 +15,7 @@ enum class VariableType
     integer,  // 16 bits
     real,
     positive,  // a real above 0
-    angle,     // radians, shown in degrees
+    angle,     // [rad], shown in degrees
     point,
     text
 };

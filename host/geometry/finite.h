@@ -1,4 +1,4 @@
-// Whether numbers are numbers: neither infinite nor none.
+// Whether the coordinates are finite: neither infinite nor NaN.
 #pragma once
 
 #include <cmath>

@@ -6,9 +6,9 @@
 
 namespace host
 {
-// The coordinates of pointWcs in the frame whose matrix carries frame coordinates to the world's.
-// The origin is taken off before turning: the product with the inverse matrix would take the
-// difference of two turned points, each rounded at the size of world coordinates.
+// Converts pointWcs [wcs] to the coordinates of a frame; `frame` maps these to [wcs]. The origin is
+// subtracted before the turn: a product with the inverse matrix would subtract two turned points,
+// each rounded at the size of world coordinates.
 inline AcGePoint3d worldToFrame(const AcGeMatrix3d& frame, const AcGePoint3d& pointWcs)
 {
     return AcGePoint3d() + frame.inverse() * (pointWcs.asVector() - frame.translation());

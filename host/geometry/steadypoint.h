@@ -8,13 +8,15 @@
 
 namespace host
 {
+// One coordinate of steadyPoint.
 inline double steadyCoordinate(double a, double offset, double b, double otherOffset)
 {
     return std::abs(offset) <= std::abs(otherOffset) ? a + offset : b + otherOffset;
 }
 
-// The point p + offset, which is also q + otherOffset but for rounding. Each coordinate is taken
-// from the side that moves less in it: an offset of 0 hands the coordinate on as it is.
+// Returns the point p + offset, which is also q + otherOffset apart from rounding. Each coordinate
+// is taken from the side that moves less in it, so an offset of 0 hands the coordinate on
+// unrounded.
 inline AcGePoint3d steadyPoint(const AcGePoint3d& p, const AcGeVector3d& offset,
                                const AcGePoint3d& q, const AcGeVector3d& otherOffset)
 {

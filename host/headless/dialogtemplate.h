@@ -1,4 +1,4 @@
-// A dialog as a resource compiler writes it down.
+// A dialog as a resource compiler describes it.
 #pragma once
 
 #include <cstddef>
@@ -10,15 +10,15 @@
 
 namespace host
 {
-// Windows to be made, without handles and parents yet.
+// The windows that a template describes. They have no handles and parents yet.
 struct DialogTemplate
 {
-    Window dialog;  // its place is the client area
+    Window dialog;  // its place is that of its client area
     std::vector<Window> controls;
 };
 
 // Reads the extended form (DLGTEMPLATEEX). Dialog units become pixels by the measures of "MS Shell
-// Dlg" 8 on a screen of 96 dots to the inch, whatever font is named. Nothing for bytes that are no
-// whole template and for classes of windows that are not known.
+// Dlg" 8 on a screen of 96 dots to the inch, whatever font the template names. No value when the
+// bytes are not a whole template or name an unknown class of windows.
 std::optional<DialogTemplate> readDialogTemplate(std::span<const std::byte> bytes);
 }  // namespace host

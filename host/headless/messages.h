@@ -1,7 +1,7 @@
-// What the classes of windows do with messages.
+// Answers of the classes of windows to messages.
 //
-// The window may be gone when a function comes back, since a dialog that is told something may
-// destroy itself: nothing of it is touched after the telling.
+// A dialog that is told something may destroy itself. So the window may be gone when a function
+// returns, and no function touches it after it has told the dialog.
 #pragma once
 
 #include <string>
@@ -10,18 +10,19 @@
 
 namespace host
 {
-// Any window: it has a text. 0 for all other messages.
+// Answers for any window: reads and sets its text. Any other message gets 0.
 LRESULT anyMessage(Window& window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT buttonMessage(Window& button, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT editMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT comboBoxMessage(Window& list, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT dialogMessage(Window& dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Tells the control's dialog.
+// Tells the control's dialog what happened (BN_CLICKED and the like).
 void notifyDialog(const Window& control, WORD code);
 
-// The text that a message brings; empty for null.
+// The text that a message brings; a null pointer is an empty text.
 std::wstring textAt(LPARAM text);
-// Length of what was copied; `size` counts the final NUL.
+// Copies as much of the text as fits and ends it with a zero, for which `size` has to leave room.
+// Returns the length without the zero.
 LRESULT copyCut(const std::wstring& from, LPWSTR to, std::size_t size);
 }  // namespace host

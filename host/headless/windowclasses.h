@@ -1,4 +1,4 @@
-// The classes of windows that exist without being registered by anybody.
+// The classes of windows that the system itself registers.
 #pragma once
 
 #include <string_view>
@@ -9,9 +9,10 @@ namespace host
 {
 extern const WindowClass dialogClass;
 
-// By name, in any case, or by number; null for one that is not known.
+// The class of that name, in any case, or of that number [borrowed]; null when there is none.
 const WindowClass* controlClass(std::wstring_view name, WORD ordinal);
 
-// A button of that type (BS_...), not just any control with those bits.
+// Whether the window is a button of that type (BS_...). Other controls use the same bits for other
+// styles.
 bool isButton(const Window& window, DWORD type);
 }  // namespace host

@@ -1,4 +1,4 @@
-// Windows without a screen: what each of them knows of itself, and where it is found.
+// Windows without a screen: the state of each window, and the list of all.
 #pragma once
 
 #include <cstddef>
@@ -12,19 +12,22 @@ namespace host
 {
 struct Window;
 
+// What windows of one kind have in common.
 struct WindowClass
 {
-    WORD ordinal;  // stands for the name in templates
+    WORD ordinal;  // the number that templates use instead of the name
     const wchar_t* name;
     LRESULT (*answer)(Window& window, UINT message, WPARAM wParam, LPARAM lParam);
 };
 
+// An item of a combo box.
 struct ListItem
 {
     std::wstring text;
     DWORD_PTR data = 0;
 };
 
+// A window. Only the members of its kind mean something.
 struct Window
 {
     HWND handle = nullptr;
@@ -32,7 +35,7 @@ struct Window
     HWND parent = nullptr;  // a control's dialog, a dialog's owner
     int id = 0;
     DWORD style = 0;  // WS_VISIBLE and WS_DISABLED as they are now
-    RECT place{};     // pixels, with the corner of the dialog's client area for origin
+    RECT place{};     // pixels from the corner of the dialog's client area
     std::wstring text{};
 
     bool checked = false;           // buttons
@@ -47,16 +50,18 @@ struct Window
     bool isEnabled() const { return !has(WS_DISABLED); }
 };
 
-// A handle is a number that is never used again.
+// Adds a copy of the window and returns its handle. A handle is never used again.
 HWND addWindow(const Window& window);
-// With the windows that have it for parent.
+// Removes the window and the windows whose parent it is.
 void removeWindow(HWND window);
-// Null for none; good until the window is removed, which any procedure may do.
+// The window [borrowed]; null when there is none. It is good until the window is removed, which any
+// dialog procedure may do.
 Window* findWindow(HWND window);
-// In the order in which they were made.
+// The controls of a dialog in the order in which they were made.
 std::vector<HWND> controlsOf(HWND dialog);
-// Dialogs and their controls; 0 when no dialog was left behind.
+// How many dialogs and controls there are; 0 when no dialog was left behind.
 std::size_t openWindows();
 
+// The window that has the keyboard; null when none has.
 HWND& focusedWindow();
 }  // namespace host

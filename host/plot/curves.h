@@ -17,7 +17,7 @@ struct Vertex
     double endWidth = 0;
 };
 
-// Counter-clockwise in the XY plane from one angle to the other, in radians.
+// Counter-clockwise in the XY plane from one angle to the other [rad].
 Points arc(const AcGePoint3d& centre, double radius, double start, double end);
 
 // The same for an ellipse and the parameters of its ends: 0 is where the major axis ends.

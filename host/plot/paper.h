@@ -25,7 +25,7 @@ struct Window
 class Paper : public Sink
 {
 public:
-    // `toView` carries WCS to the view.
+    // `toView` maps [wcs] to the view.
     Paper(FileKind kind, const AcGeMatrix3d& toView, const Window& window);
 
     void path(const Points& points, bool closed, Color color) override;

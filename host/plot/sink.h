@@ -24,7 +24,7 @@ struct TextLine
     std::wstring text;
 };
 
-// Everything is in WCS and finite.
+// Takes shapes. Every coordinate is [wcs] and finite.
 class Sink
 {
 public:

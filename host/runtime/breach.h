@@ -5,7 +5,7 @@
 
 namespace host
 {
-// Ends the run with status 1 after one line on standard error that names the call.
-// Whatever was printed before is flushed; nothing is saved, so no file is damaged.
+// Writes one line to standard error that names the call, and ends the run with status 1. What was
+// printed before is flushed. Nothing is saved, so no file is damaged.
 [[noreturn]] void breach(std::string_view call, std::string_view what);
 }  // namespace host

@@ -11,6 +11,7 @@
 
 namespace host
 {
+// What a command was registered with; see AcEdCommandStack::addCommand.
 struct CommandEntry
 {
     std::wstring group;
@@ -21,6 +22,7 @@ struct CommandEntry
     HINSTANCE resources = nullptr;
 };
 
+// A registered command.
 class Command final : public AcEdCommand
 {
 public:
@@ -33,16 +35,17 @@ public:
 
     const CommandEntry& entry() const { return m_entry; }
     bool has(Adesk::Int32 flag) const { return (m_entry.flags & flag) != 0; }
-    // Set by the dispatcher: the command has been started and not ended yet.
+    // True from the start of the command to its end; the dispatcher sets it.
     bool running = false;
 
 private:
     CommandEntry m_entry;
 };
 
-// A command that is running outlives its removal, hence the shared ownership.
+// The ownership is shared because a command that is running outlives its removal.
 using CommandPtr = std::shared_ptr<Command>;
 
+// The stack that modules see as acedRegCmds.
 class CommandStack final : public AcEdCommandStack
 {
 public:
@@ -54,10 +57,11 @@ public:
     Acad::ErrorStatus removeGroup(const ACHAR* group) override;
     AcEdCommand* lookupCmd(const ACHAR* name, bool globalLookup, bool allGroups) const override;
 
-    // By local name, or by global name alone. The newest group is searched first.
+    // Finds a command by its local name, or by its global name alone, in any letter case. The
+    // newest group is searched first. Null when there is no such command.
     CommandPtr findLocal(std::wstring_view name) const;
     CommandPtr findGlobal(std::wstring_view name) const;
-    // In the order of groups and of registration.
+    // All commands: the newest group first, and in a group the first registered first.
     std::vector<CommandPtr> all() const;
 
 private:
@@ -72,5 +76,6 @@ private:
     std::list<Group> m_groups;  // newest first
 };
 
+// The one command stack.
 CommandStack& commandStack();
 }  // namespace host

@@ -11,44 +11,48 @@
 
 namespace host
 {
-// One loaded module. Its address is the packet that names it to the host.
+// One loaded module. Its address is the packet of kInitAppMsg, by which the module names itself.
 struct Module
 {
     std::unique_ptr<ModuleFile> file;
-    bool locked = true;
-    bool mdiAware = false;
-    int references = 1;
+    bool locked = true;     // cannot be unloaded
+    bool mdiAware = false;  // copes with several drawings
+    int references = 1;     // loads that have not been taken back
 };
 
+// Loads and unloads modules and sends them messages. Modules see it as acrxDynamicLinker.
 class Linker final : public AcRxDynamicLinker
 {
 public:
     using Report = std::function<void(const std::string&)>;
 
-    // A name without a folder is sought where a module of that name was loaded before, in the
-    // current folder and in `searchFolder`; ".arx" may be left out.
+    // Loads a module and starts it; loading it again only counts. A name without a folder means a
+    // module of that name that was loaded before, then a file in the current folder, then one in
+    // `searchFolder`. ".arx" may be left out.
     Result<> load(const std::filesystem::path& name);
-    // Refused for a locked module, for one with a running command, or when the module refuses. A
-    // module that leaves a command or a document reactor behind ends the run.
+    // Unloads a module, however often it was loaded. It fails for a locked module, for one whose
+    // command is running, and when the module refuses. A module that leaves a command or a document
+    // reactor behind ends the run.
     Result<> unload(const std::filesystem::path& name);
-    // Takes every module out of the host, the newest first, locked or not.
+    // Unloads every module, the newest first, locked or not.
     void unloadAll();
 
-    // Whether a drawing is there. Modules with LISP functions are told of it.
+    // Notes whether a drawing is open and tells the modules with LISP functions.
     void setDrawingOpen(bool open);
-    // To every module.
+    // Sends the message to every module.
     void broadcast(AcRx::AppMsgCode message);
 
-    // The module that the host is talking to; null when it is to none.
+    // The module that is answering a message [borrowed]; null while none is.
     Module* current() const { return m_current; }
-    // Null for an address that is no packet.
+    // The module of that packet [borrowed]; null for any other address.
     Module* fromPacket(const void* packet) const;
+    // Sends the message to one module and returns its answer.
     AcRx::AppRetCode send(Module& module, AcRx::AppMsgCode message);
 
     std::filesystem::path searchFolder;
-    // Prints a line for calls that ask for it.
+    // Prints why loadModule failed, when its caller asked for that.
     Report report;
-    // Objects of modules that the document manager calls.
+    // Returns the objects of modules that the document manager calls.
     std::function<std::vector<const void*>()> listeners;
 
     bool loadModule(const ACHAR* fileName, bool printit, bool asCmd) override;
@@ -74,5 +78,6 @@ private:
     bool m_drawingOpen = false;
 };
 
+// The one linker.
 Linker& linker();
 }  // namespace host

@@ -1,4 +1,5 @@
-// Language of the product. It is the module's to follow; the host's own texts are English.
+// Language of the product. The module follows it. The host's own texts follow it only for a person
+// who reads along; scripts get English.
 #pragma once
 
 #include "windows.h"

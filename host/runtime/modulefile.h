@@ -9,21 +9,24 @@
 
 namespace host
 {
+// An open module file; the destructor unloads it.
 class ModuleFile
 {
 public:
-    // Loads the file; a failure when it is no module of this generation. The path is taken as it is
-    // named: a link to a module is a module in the folder of the link.
+    // Loads the file and starts the module. It fails when the file is not a module of this
+    // generation or its start fails. The path is kept as it is named: a link to a module counts as
+    // a module in the folder of the link.
     static Result<std::unique_ptr<ModuleFile>> open(const std::filesystem::path& path);
     ~ModuleFile();
     ModuleFile(const ModuleFile&) = delete;
     ModuleFile& operator=(const ModuleFile&) = delete;
 
+    // Calls the module's entry point.
     AcRx::AppRetCode send(AcRx::AppMsgCode message, void* packet)
     {
         return m_entryPoint(message, packet);
     }
-    // Whether a function or a table lies in this file.
+    // Whether the address of a function or table lies in this file.
     bool holds(const void* address) const;
     const std::filesystem::path& path() const { return m_path; }
 

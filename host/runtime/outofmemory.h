@@ -1,4 +1,4 @@
-// What the program does when memory runs out and nobody can be told.
+// The end of a run whose memory ran out where no failure can be returned.
 #pragma once
 
 #include <string_view>
@@ -7,11 +7,11 @@ namespace host
 {
 inline constexpr std::string_view notEnoughMemory = "not enough memory";
 
-// Ends the run with status 1 after that line on standard error.
+// Writes that line to standard error and ends the run with status 1.
 [[noreturn]] void endWithoutMemory();
 
-// While one stands, a request for memory that fails ends the run instead of throwing: nothing may
-// be thrown through the system's loader, which would keep its lock for good.
+// As long as an object of this class lives, a request for memory that fails ends the run instead of
+// throwing. Nothing may be thrown through the system's loader: it would keep its lock for good.
 class NoThrowing
 {
 public:

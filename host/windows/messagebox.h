@@ -6,21 +6,24 @@
 
 namespace host
 {
+// A message box that the module shows.
 struct ShownBox
 {
     std::wstring text;
     std::wstring caption;
     unsigned type = 0;               // as MessageBoxW has it
-    std::function<bool()> isGone{};  // the user has answered with the mouse
+    std::function<bool()> isGone{};  // true once the user has answered it with the mouse
 };
 
-// Returns the id of the button, 0 when the user cannot be asked or has answered already.
+// Asks the user and returns the id of the pressed button; 0 when nobody can be asked or the box is
+// gone already.
 using MessageBoxHandler = std::function<int(const ShownBox& box)>;
 
-// The editor answers from now on; an empty handler takes it away. Without one MessageBoxW gives 0.
+// Hands every later message box to the handler; an empty one takes it away. Without a handler
+// MessageBoxW returns 0.
 void setMessageBoxHandler(MessageBoxHandler handler);
 
-// Shows the text in a box over the dialog at which the user works; it is answered like any other.
-// False where no dialog is on a screen.
+// Shows the text in a box over the dialog on the screen and waits until the user has answered it.
+// False when no dialog is on a screen; nothing is shown then.
 bool alertOverDialog(const std::wstring& text);
 }  // namespace host

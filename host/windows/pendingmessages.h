@@ -3,6 +3,6 @@
 
 namespace host
 {
-// Hands the messages that wait to their windows. False where windows need none.
+// Hands the messages that wait to their windows. False on a system whose windows need no messages.
 bool dispatchPendingMessages();
 }  // namespace host

@@ -10,10 +10,11 @@ namespace host
 // Handles of the modules with a CDynLinkLibrary, newest first.
 std::vector<HINSTANCE> linkedModules();
 
-// Whether the host's dialog library is among them: without it a dialog of the host misses its texts
+// Whether the host's dialog library is among them. Without it a dialog of the host misses its texts
 // and pictures.
 bool isDialogLibraryLinked();
 
-// Order of a look-up: the current resource handle, then the linked modules.
+// The modules in the order in which a resource is looked up: the current resource handle, then the
+// linked modules.
 std::vector<HINSTANCE> resourceChain();
 }  // namespace host
