@@ -19,7 +19,7 @@ void appendVertices(host::DatabaseCore& core, AcDb2dPolyline& polyline)
         core.makeResident(vertex, owner);
         vertex->close();
     }
-    vertices.sequenceEnd = core.addForeign(core.nextHandle++);
+    vertices.sequenceEnd = core.objects().addForeign(core.handles().take());
 }
 
 // What texts and polylines need beyond a line.
@@ -28,7 +28,7 @@ void completeMembers(host::DatabaseCore& core, AcDbEntity& entity)
     AcDbText* text = AcDbText::cast(&entity);
     if (text != nullptr && text->textStyle().isNull())
     {
-        text->setTextStyle(AcDbObjectId(core.current.textStyle));
+        text->setTextStyle(AcDbObjectId(core.current().textStyle));
     }
     if (AcDb2dPolyline* polyline = AcDb2dPolyline::cast(&entity))
     {
@@ -55,7 +55,7 @@ Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbE
     }
     AcDbStub* own = objectId().stub();
     host::DatabaseCore& core = host::coreOf(own);
-    host::EntityStyle::fill(*entity, core.current);
+    host::EntityStyle::fill(*entity, core.current());
     const AcDbStub* stub = core.makeResident(entity, own);
     id = entity->objectId();
     host::ObjectState::forgiveClose(*entity);

@@ -1,12 +1,10 @@
 // What stands behind an AcDbDatabase.
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <deque>
 #include <memory>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "dbdict.h"
 #include "dbgroup.h"
@@ -15,11 +13,11 @@
 #include "host/database/currentproperties.h"
 #include "host/database/drawingstate.h"
 #include "host/database/extents.h"
-#include "host/database/linestyle.h"
-#include "host/database/stub.h"
-#include "host/database/tablerecords.h"
-
-class AcDbLine;
+#include "host/database/handles.h"
+#include "host/database/objectstore.h"
+#include "host/database/openobjects.h"
+#include "host/database/rootobjects.h"
+#include "host/database/undolog.h"
 
 namespace host
 {
@@ -31,33 +29,11 @@ struct DrawingSource
     virtual const WorldExtents& modelExtents() = 0;
 };
 
-// Objects that were closed a moment ago. Makers of entities still ask a closed line for its id,
-// draw it and close it a second time, so its heap object outlives the close for a while.
-class RetiredObjects
-{
-public:
-    ~RetiredObjects();
-    void add(AcDbObject* object);
-    // The one that would go next, for another line to be opened in its place; null when there is
-    // none. All of them are lines.
-    AcDbLine* take();
-
-private:
-    std::array<AcDbObject*, 8> m_ring{};
-    std::size_t m_next = 0;
-};
-
-struct ChangedLayer
-{
-    AcDbLayerTableRecord* layer;
-    LayerFlags flags;
-};
-
+// Puts together the parts of a drawing, each of which keeps its own rules.
 class DatabaseCore
 {
 public:
-    explicit DatabaseCore(AcDbDatabase& database);
-    ~DatabaseCore();
+    explicit DatabaseCore(AcDbDatabase& database) : m_database(database), m_objects(*this) {}
     DatabaseCore(const DatabaseCore&) = delete;
     DatabaseCore& operator=(const DatabaseCore&) = delete;
 
@@ -65,47 +41,51 @@ public:
     AcDbStub* makeResident(AcDbObject* object, AcDbStub* owner);
     // The same for an object read from a file under its own handle: it is closed and unchanged.
     AcDbStub* addLoaded(AcDbObject* object, AcDbStub* owner, std::uint64_t handle);
-    // A record of a table, likewise; the name is kept by the database.
+    // The same for a record of a table; the table keeps the name.
     template <class Record>
-    Record* addLoadedRecord(AcDbStub* table, std::wstring name, std::uint64_t handle);
-    // A stub for an object of the file that is only referred to.
-    AcDbStub* addForeign(std::uint64_t handle) { return stubs.add(handle); }
+    Record* addLoadedRecord(AcDbStub* table, const std::wstring& name, std::uint64_t handle);
 
-    AcDbDatabase& database;
-    StubArena stubs;
-    LineStyles lineStyles;
-    ReactorLists reactorLists;
-    DrawingState state;
-    CurrentProperties current;
-    RetiredObjects retired;
-    std::vector<AcDbObject*> open;
-    std::vector<AcDbObject*> objects;  // all but lines, which have one only while they are open
-    std::uint64_t nextHandle = 1;
+    AcDbDatabase& database() const { return m_database; }
+    ObjectStore& objects() { return m_objects; }
+    const ObjectStore& objects() const { return m_objects; }
+    OpenObjects& open() { return m_open; }
+    Handles& handles() { return m_handles; }
+    const Handles& handles() const { return m_handles; }
+    RootObjects& roots() { return m_roots; }
+    const RootObjects& roots() const { return m_roots; }
+    UndoLog& undoLog() { return m_undoLog; }
+    const UndoLog& undoLog() const { return m_undoLog; }
+    DrawingState& state() { return m_state; }
+    const DrawingState& state() const { return m_state; }
+    CurrentProperties& current() { return m_current; }
+    const CurrentProperties& current() const { return m_current; }
 
-    AcDbStub* blockTable = nullptr;
-    AcDbStub* layerTable = nullptr;
-    AcDbStub* linetypeTable = nullptr;
-    AcDbStub* textStyleTable = nullptr;
-    AcDbStub* groupDictionary = nullptr;
-    AcDbStub* modelSpace = nullptr;
-
-    std::vector<AcDbStub*> erasedLog;
-    std::vector<ChangedLayer> layerLog;  // as they were before each change
-
-    std::unique_ptr<DrawingSource> source;
+    // Null for a drawing that was never read.
+    DrawingSource* source() const { return m_source.get(); }
+    void setSource(std::unique_ptr<DrawingSource> source) { m_source = std::move(source); }
 
 private:
-    void nameRecord(AcDbStub* table, AcDbSymbolTableRecord* record, std::wstring name);
+    static void nameRecord(AcDbStub* table, AcDbSymbolTableRecord& record,
+                           const std::wstring& name);
 
-    std::deque<std::wstring> m_names;
+    AcDbDatabase& m_database;
+    Handles m_handles;
+    ObjectStore m_objects;
+    OpenObjects m_open;  // goes before the objects
+    RootObjects m_roots;
+    UndoLog m_undoLog;
+    DrawingState m_state;
+    CurrentProperties m_current;
+    std::unique_ptr<DrawingSource> m_source;
 };
 
 template <class Record>
-Record* DatabaseCore::addLoadedRecord(AcDbStub* table, std::wstring name, std::uint64_t handle)
+Record* DatabaseCore::addLoadedRecord(AcDbStub* table, const std::wstring& name,
+                                      std::uint64_t handle)
 {
     auto* record = new Record();
     addLoaded(record, table, handle);
-    nameRecord(table, record, std::move(name));
+    nameRecord(table, *record, name);
     return record;
 }
 

@@ -46,37 +46,38 @@ Acad::ErrorStatus AcDbDatabase::getTextStyleTable(AcDbTextStyleTable*& table, Ac
 
 Acad::ErrorStatus AcDbDatabase::getGroupDictionary(AcDbDictionary*& dictionary, AcDb::OpenMode mode)
 {
-    return acdbOpenObject(dictionary, AcDbObjectId(m_internals->core.groupDictionary), mode);
+    return acdbOpenObject(
+        dictionary, AcDbObjectId(m_internals->core.roots()[host::Root::groupDictionary]), mode);
 }
 
 AcDbObjectId AcDbDatabase::blockTableId() const
 {
-    return AcDbObjectId(m_internals->core.blockTable);
+    return AcDbObjectId(m_internals->core.roots()[host::Root::blockTable]);
 }
 AcDbObjectId AcDbDatabase::layerTableId() const
 {
-    return AcDbObjectId(m_internals->core.layerTable);
+    return AcDbObjectId(m_internals->core.roots()[host::Root::layerTable]);
 }
 AcDbObjectId AcDbDatabase::linetypeTableId() const
 {
-    return AcDbObjectId(m_internals->core.linetypeTable);
+    return AcDbObjectId(m_internals->core.roots()[host::Root::linetypeTable]);
 }
 AcDbObjectId AcDbDatabase::textStyleTableId() const
 {
-    return AcDbObjectId(m_internals->core.textStyleTable);
+    return AcDbObjectId(m_internals->core.roots()[host::Root::textStyleTable]);
 }
 
 AcDbObjectId AcDbDatabase::clayer() const
 {
-    return AcDbObjectId(m_internals->core.current.layer);
+    return AcDbObjectId(m_internals->core.current().layer);
 }
 AcDbObjectId AcDbDatabase::textstyle() const
 {
-    return AcDbObjectId(m_internals->core.current.textStyle);
+    return AcDbObjectId(m_internals->core.current().textStyle);
 }
 AcDbObjectId AcDbDatabase::celtype() const
 {
-    return AcDbObjectId(m_internals->core.current.linetype);
+    return AcDbObjectId(m_internals->core.current().linetype);
 }
 
 AcDbHostApplicationServices* acdbHostApplicationServices()

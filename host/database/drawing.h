@@ -7,11 +7,11 @@ namespace host
 {
 inline DrawingState& stateOf(AcDbDatabase& database)
 {
-    return coreOf(database).state;
+    return coreOf(database).state();
 }
 inline CurrentProperties& currentOf(AcDbDatabase& database)
 {
-    return coreOf(database).current;
+    return coreOf(database).current();
 }
 
 // Name of a table record; empty for a null id. No object is opened.

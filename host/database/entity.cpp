@@ -114,7 +114,8 @@ Acad::ErrorStatus AcDbEntity::setLayer(const ACHAR* name, Adesk::Boolean doSuben
         return Acad::eNoDatabase;
     }
     AcDbObjectId id;
-    const Acad::ErrorStatus status = lookUp(host::coreOf(*database).layerTable, name, id);
+    const Acad::ErrorStatus status =
+        lookUp(host::coreOf(*database).roots()[host::Root::layerTable], name, id);
     return status == Acad::eOk ? setLayer(id, doSubents, allowHiddenLayer) : status;
 }
 
@@ -138,7 +139,8 @@ Acad::ErrorStatus AcDbEntity::setLinetype(const ACHAR* name, Adesk::Boolean doSu
         return Acad::eNoDatabase;
     }
     AcDbObjectId id;
-    const Acad::ErrorStatus status = lookUp(host::coreOf(*database).linetypeTable, name, id);
+    const Acad::ErrorStatus status =
+        lookUp(host::coreOf(*database).roots()[host::Root::linetypeTable], name, id);
     return status == Acad::eOk ? setLinetype(id, doSubents) : status;
 }
 

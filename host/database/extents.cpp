@@ -73,10 +73,10 @@ void addUnpacked(WorldExtents& extents, const AcDbObject& object)
 WorldExtents madeExtents(const DatabaseCore& core)
 {
     WorldExtents extents;
-    for (std::size_t i = 0; i < core.stubs.size(); ++i)
+    for (std::size_t i = 0; i < core.objects().size(); ++i)
     {
-        const AcDbStub& stub = core.stubs[i];
-        if (stub.erased() || ownerOf(&stub) != core.modelSpace)
+        const AcDbStub& stub = core.objects()[i];
+        if (stub.erased() || ownerOf(&stub) != core.roots()[Root::modelSpace])
         {
             continue;
         }
@@ -93,7 +93,8 @@ WorldExtents madeExtents(const DatabaseCore& core)
 
 WorldExtents modelExtents(const DatabaseCore& core)
 {
-    WorldExtents extents = core.source != nullptr ? core.source->modelExtents() : WorldExtents();
+    WorldExtents extents =
+        core.source() != nullptr ? core.source()->modelExtents() : WorldExtents();
     extents.add(madeExtents(core));
     return extents;
 }

@@ -8,12 +8,13 @@ bool AcDbGroup::Internals::add(AcDbStub* member, AcDbStub* group)
     {
         return true;
     }
-    if (host::coreOf(group).reactorLists.contains(host::reactorsOf(member), group))
+    host::ObjectStore& objects = host::coreOf(group).objects();
+    if (objects.hasReactor(host::reactorsOf(member), group))
     {
         return false;
     }
     const std::uint32_t before = member->style;
-    host::addReactor(member, group);
+    objects.addReactor(member, group);
     m_members.push_back(member);
     if (member->packed())
     {

@@ -7,14 +7,14 @@ namespace
 // So that the change can be taken back.
 void remember(AcDbLayerTableRecord& layer)
 {
-    host::coreOf(layer.objectId().stub()).layerLog.push_back({&layer, host::flagsOf(layer)});
+    host::coreOf(layer.objectId().stub()).undoLog().noteLayer(layer);
 }
 }  // namespace
 
 Acad::ErrorStatus AcDbLayerTableRecord::setIsFrozen(bool frozen)
 {
     assertWriteEnabled("AcDbLayerTableRecord::setIsFrozen");
-    if (frozen && host::coreOf(objectId().stub()).current.layer == objectId().stub())
+    if (frozen && host::coreOf(objectId().stub()).current().layer == objectId().stub())
     {
         return Acad::eInvalidLayer;
     }

@@ -16,7 +16,7 @@ bool AcDbObjectId::isErased() const
 
 AcDbDatabase* AcDbObjectId::database() const
 {
-    return m_stub != nullptr ? &host::coreOf(m_stub).database : nullptr;
+    return m_stub != nullptr ? &host::coreOf(m_stub).database() : nullptr;
 }
 
 AcDbObject::AcDbObject()
@@ -89,19 +89,6 @@ bool onLockedLayer(const AcDbStub* stub)
     return layer != nullptr && layer->object != nullptr &&
            static_cast<AcDbLayerTableRecord*>(layer->object)->isLocked();
 }
-
-void noteClosed(AcDbObject* object)
-{
-    std::vector<AcDbObject*>& open = host::coreOf(object->objectId().stub()).open;
-    // What was opened last is mostly closed first.
-    if (open.back() == object)
-    {
-        open.pop_back();
-        return;
-    }
-    const auto found = std::find(open.rbegin(), open.rend(), object);
-    open.erase(std::next(found).base());
-}
 }  // namespace
 
 Acad::ErrorStatus AcDbObject::upgradeOpen()
@@ -171,10 +158,11 @@ Acad::ErrorStatus AcDbObject::close()
     m_readers = 0;
     m_forWrite = false;
     m_refused = false;
-    noteClosed(this);
+    host::DatabaseCore& core = host::coreOf(m_stub);
+    core.open().remove(*this);
     if (kind & AcDbStub::isLine)
     {
-        host::pack(this);
+        core.objects().pack(static_cast<AcDbLine*>(this));
     }
     return Acad::eOk;
 }
@@ -193,11 +181,7 @@ Acad::ErrorStatus AcDbObject::erase(Adesk::Boolean erasing)
         m_refused = true;
         return Acad::eWasErased;
     }
-    m_stub->setErased(erasing != Adesk::kFalse);
-    if (erasing)
-    {
-        host::coreOf(m_stub).erasedLog.push_back(m_stub);
-    }
+    host::coreOf(m_stub).undoLog().erase(m_stub, erasing != Adesk::kFalse);
     return Acad::eOk;
 }
 
@@ -214,7 +198,7 @@ void markOpen(AcDbObject& object, AcDb::OpenMode mode)
 {
     if (host::ObjectState::open(object, mode))
     {
-        host::coreOf(object.objectId().stub()).open.push_back(&object);
+        host::coreOf(object.objectId().stub()).open().add(object);
     }
 }
 }  // namespace
@@ -251,7 +235,7 @@ Acad::ErrorStatus acdbOpenOfClass(AcDbObject*& object, AcDbObjectId id, AcRxClas
     }
     else if (wasPacked)
     {
-        host::pack(found);
+        host::coreOf(stub).objects().pack(static_cast<AcDbLine*>(found));
     }
     return status;
 }

@@ -1,4 +1,4 @@
-// Objects behind their stubs, packed lines among them.
+// What a stub tells of its object, packed or not.
 #pragma once
 
 #include <string>
@@ -20,16 +20,12 @@ namespace host
 {
 // The object on the heap; a packed line is unpacked, a foreign object has none.
 AcDbObject* resolve(AcDbStub* stub);
-// Puts a closed line back into its stub.
-void pack(AcDbObject* object);
 // Run-time type without unpacking; null for a foreign object.
 AcRxClass* typeOf(const AcDbStub* stub);
 AcDbStub* layerOf(const AcDbStub* stub);
 AcDbStub* ownerOf(const AcDbStub* stub);
 // The number of the entity's list of persistent reactors; 0 for anything else.
 std::uint32_t reactorsOf(const AcDbStub* stub);
-// One more persistent reactor of an entity.
-void addReactor(AcDbStub* entity, AcDbStub* reactor);
 // Class and handle, for the line that stops a run.
 std::string describe(const AcDbObject& object);
 std::string describe(const AcDbStub& stub);  // not of a foreign object

@@ -155,13 +155,7 @@ Acad::ErrorStatus AcDb2dPolyline::erase(Adesk::Boolean erasing)
         return status;
     }
     const auto eraseToo = [erasing](AcDbStub* stub)
-    {
-        stub->setErased(erasing != Adesk::kFalse);
-        if (erasing)
-        {
-            host::coreOf(stub).erasedLog.push_back(stub);
-        }
-    };
+    { host::coreOf(stub).undoLog().erase(stub, erasing != Adesk::kFalse); };
     for (const AcDb2dVertex* vertex : m_internals->vertices())
     {
         eraseToo(vertex->objectId().stub());

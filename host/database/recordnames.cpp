@@ -4,10 +4,11 @@
 
 #include "host/text/foldcase.h"
 
-void AcDbSymbolTable::Internals::add(const std::wstring& name, AcDbStub* record)
+const std::wstring& AcDbSymbolTable::Internals::add(const std::wstring& name, AcDbStub* record)
 {
     m_order.push_back(record);
     m_byFoldedName.emplace(host::foldCase(name), record);
+    return m_names.emplace_back(name);
 }
 
 AcDbStub* AcDbSymbolTable::Internals::find(const wchar_t* name)

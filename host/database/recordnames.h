@@ -1,6 +1,7 @@
 // The records of one table by their names.
 #pragma once
 
+#include <deque>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -14,7 +15,8 @@ struct AcDbSymbolTable::Internals
 public:
     static Internals& of(const AcDbSymbolTable& table) { return *table.m_internals; }
 
-    void add(const std::wstring& name, AcDbStub* record);
+    // The name as the table keeps it, for as long as the table lives.
+    const std::wstring& add(const std::wstring& name, AcDbStub* record);
     // Null when the table never had such a record.
     AcDbStub* find(const wchar_t* name);
     // As they were added.
@@ -22,6 +24,7 @@ public:
 
 private:
     std::vector<AcDbStub*> m_order;
+    std::deque<std::wstring> m_names;
     std::unordered_map<std::wstring, AcDbStub*> m_byFoldedName;
     // One record is looked up a million times in a row: for every entity of a grid.
     std::wstring m_lastName;

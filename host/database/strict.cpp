@@ -8,15 +8,15 @@ namespace host
 {
 void requireNothingOpen(AcDbDatabase& database, std::string_view call)
 {
-    std::vector<AcDbObject*>& open = coreOf(database).open;
+    const OpenObjects& open = coreOf(database).open();
     while (!open.empty())
     {
-        AcDbObject* object = open.back();
-        if (!ObjectState::wasRefused(*object))
+        AcDbObject& object = open.last();
+        if (!ObjectState::wasRefused(object))
         {
-            breach(call, "the " + describe(*object) + " was left open");
+            breach(call, "the " + describe(object) + " was left open");
         }
-        ObjectState::closeForAll(*object);
+        ObjectState::closeForAll(object);
     }
 }
 }  // namespace host

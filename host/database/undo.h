@@ -7,9 +7,8 @@ namespace host
 {
 struct UndoMark
 {
-    std::size_t stubs;
-    std::size_t erased;
-    std::size_t layers;
+    std::size_t objects;
+    UndoLog::Mark log;
     CurrentProperties current;
 };
 
@@ -20,9 +19,7 @@ struct UndoneChanges
 {
     UndoMark mark;
     std::vector<bool> erased;  // of the objects made since the mark, as they were
-    std::vector<AcDbStub*> erasedLog;
-    std::vector<ChangedLayer> layerLog;
-    std::vector<ChangedLayer> layers;  // as they were
+    UndoLog::Undone log;
     CurrentProperties current;
 };
 

@@ -40,9 +40,9 @@ void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDb
     // Many lines in a row share one style; those of another owner have no form here.
     std::uint32_t style = UINT32_MAX;
     const RecordForm* form = nullptr;
-    for (std::size_t i = 0; i < m_core.stubs.size(); ++i)
+    for (std::size_t i = 0; i < m_core.objects().size(); ++i)
     {
-        const AcDbStub& stub = m_core.stubs[i];
+        const AcDbStub& stub = m_core.objects()[i];
         if (stub.erased())
         {
             continue;
@@ -56,7 +56,7 @@ void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDb
         if (stub.style != style)
         {
             style = stub.style;
-            form = m_core.lineStyles[style].owner == owner ? &lineForm(style) : nullptr;
+            form = m_core.objects().style(style).owner == owner ? &lineForm(style) : nullptr;
         }
         if (form != nullptr)
         {
@@ -90,7 +90,8 @@ const RecordForm& EntityWriter::lineForm(std::uint32_t style)
     const auto found = m_lineForms.find(style);
     return found != m_lineForms.end()
                ? found->second
-               : m_lineForms.emplace(style, makeLineForm(m_core.lineStyles[style])).first->second;
+               : m_lineForms.emplace(style, makeLineForm(m_core.objects().style(style)))
+                     .first->second;
 }
 
 RecordForm EntityWriter::makeLineForm(const LineStyle& style)
@@ -110,7 +111,7 @@ void EntityWriter::fillCommon(schema::entity::Entity& entity, const LineStyle& s
                               std::uint64_t handle) const
 {
     entity.handle = m_handles ? handle : 0;
-    for (const AcDbStub* reactor : m_core.reactorLists[style.reactors])
+    for (const AcDbStub* reactor : m_core.objects().reactors(style.reactors))
     {
         if (!reactor->erased())
         {

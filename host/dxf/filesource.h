@@ -69,7 +69,7 @@ void setMeasure(Measure measure);
 
 inline FileSource& sourceOf(const DatabaseCore& core)
 {
-    return static_cast<FileSource&>(*core.source);
+    return static_cast<FileSource&>(*core.source());
 }
 
 // What the tables of TABLES are called.

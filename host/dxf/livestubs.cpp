@@ -6,9 +6,9 @@ LiveStubs liveStubs(const DatabaseCore& core)
 {
     LiveStubs live;
     std::uint32_t lastStyle = UINT32_MAX;
-    for (std::size_t i = 0; i < core.stubs.size(); ++i)
+    for (std::size_t i = 0; i < core.objects().size(); ++i)
     {
-        const AcDbStub& stub = core.stubs[i];
+        const AcDbStub& stub = core.objects()[i];
         if (stub.erased() || (stub.packed() && stub.style == lastStyle))
         {
             continue;

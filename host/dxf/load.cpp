@@ -27,8 +27,8 @@ std::wstring nameOf(const Table& table, const FileSource& source, const Record& 
 void loadLayer(DatabaseCore& core, FileSource& source, const Record& record)
 {
     const schema::layer::Layer read = readRecord(schema::layer::table, tagsOf(source), record);
-    auto* layer =
-        core.addLoadedRecord<AcDbLayerTableRecord>(core.layerTable, read.name, record.handle);
+    auto* layer = core.addLoadedRecord<AcDbLayerTableRecord>(core.roots()[Root::layerTable],
+                                                             read.name, record.handle);
     const bool frozen = read.flags & schema::layer::frozenFlag;
     const bool locked = read.flags & schema::layer::lockedFlag;
     const bool off = read.color < 0;
@@ -40,18 +40,19 @@ void loadTextStyle(DatabaseCore& core, const FileSource& source, const Record& r
 {
     const schema::textstyle::TextStyle read =
         readRecord(schema::textstyle::table, tagsOf(source), record);
-    auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, read.name,
-                                                                 record.handle);
+    auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.roots()[Root::textStyleTable],
+                                                                 read.name, record.handle);
     setTextStyle(*style, read.oblique * M_PI / 180, read.widthFactor, read.height);
 }
 
 void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record& record)
 {
     const std::wstring name = nameOf(schema::blockrecord::table, source, record);
-    auto* block = core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, name, record.handle);
+    auto* block = core.addLoadedRecord<AcDbBlockTableRecord>(core.roots()[Root::blockTable], name,
+                                                             record.handle);
     if (equalNoCase(name, ACDB_MODEL_SPACE))
     {
-        core.modelSpace = block->objectId().stub();
+        core.roots().set(Root::modelSpace, block->objectId().stub());
     }
 }
 
@@ -71,11 +72,14 @@ AcDbStub* makeTable(DatabaseCore& core, const FileSource& source, std::string_vi
 
 void loadTables(DatabaseCore& core, FileSource& source)
 {
-    core.blockTable = makeTable<AcDbBlockTable>(core, source, schema::blockrecord::table.type);
-    core.layerTable = makeTable<AcDbLayerTable>(core, source, schema::layer::table.type);
-    core.linetypeTable = makeTable<AcDbLinetypeTable>(core, source, schema::linetype::table.type);
-    core.textStyleTable =
-        makeTable<AcDbTextStyleTable>(core, source, schema::textstyle::table.type);
+    core.roots().set(Root::blockTable,
+                     makeTable<AcDbBlockTable>(core, source, schema::blockrecord::table.type));
+    core.roots().set(Root::layerTable,
+                     makeTable<AcDbLayerTable>(core, source, schema::layer::table.type));
+    core.roots().set(Root::linetypeTable,
+                     makeTable<AcDbLinetypeTable>(core, source, schema::linetype::table.type));
+    core.roots().set(Root::textStyleTable,
+                     makeTable<AcDbTextStyleTable>(core, source, schema::textstyle::table.type));
     for (const Record& record : source.file.records("TABLES"))
     {
         const std::string_view type = source.file.typeName(record);
@@ -86,7 +90,8 @@ void loadTables(DatabaseCore& core, FileSource& source)
         else if (type == schema::linetype::table.type)
         {
             core.addLoadedRecord<AcDbLinetypeTableRecord>(
-                core.linetypeTable, nameOf(schema::linetype::table, source, record), record.handle);
+                core.roots()[Root::linetypeTable], nameOf(schema::linetype::table, source, record),
+                record.handle);
         }
         else if (type == schema::textstyle::table.type)
         {
@@ -119,18 +124,19 @@ void ensure(DatabaseCore& core, FileSource& source, AcDbStub* table, std::string
 // The spaces of R12 are no objects, nor has a drawing without tables any.
 void completeTables(DatabaseCore& core, FileSource& source)
 {
-    if (core.modelSpace == nullptr)
+    if (core.roots()[Root::modelSpace] == nullptr)
     {
-        auto* space =
-            core.addLoadedRecord<AcDbBlockTableRecord>(core.blockTable, ACDB_MODEL_SPACE, 0);
-        core.modelSpace = space->objectId().stub();
+        auto* space = core.addLoadedRecord<AcDbBlockTableRecord>(core.roots()[Root::blockTable],
+                                                                 ACDB_MODEL_SPACE, 0);
+        core.roots().set(Root::modelSpace, space->objectId().stub());
     }
-    ensure<AcDbLayerTableRecord>(core, source, core.layerTable, schema::layer::table.type, L"0");
-    ensure<AcDbTextStyleTableRecord>(core, source, core.textStyleTable,
+    ensure<AcDbLayerTableRecord>(core, source, core.roots()[Root::layerTable],
+                                 schema::layer::table.type, L"0");
+    ensure<AcDbTextStyleTableRecord>(core, source, core.roots()[Root::textStyleTable],
                                      schema::textstyle::table.type, L"Standard");
     for (const wchar_t* name : {L"ByBlock", L"ByLayer", L"Continuous"})
     {
-        ensure<AcDbLinetypeTableRecord>(core, source, core.linetypeTable,
+        ensure<AcDbLinetypeTableRecord>(core, source, core.roots()[Root::linetypeTable],
                                         schema::linetype::table.type, name);
     }
 }
@@ -182,8 +188,8 @@ void loadGroupDictionary(DatabaseCore& core, FileSource& source)
     }
     auto* dictionary = new AcDbDictionary();
     const Record* record = source.groupDictionary;
-    core.groupDictionary =
-        core.addLoaded(dictionary, nullptr, record != nullptr ? record->handle : 0);
+    core.roots().set(Root::groupDictionary,
+                     core.addLoaded(dictionary, nullptr, record != nullptr ? record->handle : 0));
     if (record == nullptr)
     {
         return;
@@ -191,7 +197,7 @@ void loadGroupDictionary(DatabaseCore& core, FileSource& source)
     DictionaryEntries& entries = DictionaryEntries::of(*dictionary);
     forEachEntry(source, *record,
                  [&](const std::wstring& key, std::uint64_t handle)
-                 { entries.addLoaded(key, core.addForeign(handle)); });
+                 { entries.addLoaded(key, core.objects().addForeign(handle)); });
 }
 }  // namespace
 
@@ -211,17 +217,17 @@ void load(DatabaseCore& core, TagFile file)
 {
     auto owned = std::make_unique<FileSource>(std::move(file));
     FileSource& source = *owned;
-    core.source = std::move(owned);
+    core.setSource(std::move(owned));
     if (source.file.highestHandle() > highestUsableHandle)
     {
         source.file.refuse(1, "handles that leave room for new objects", "one above all others");
     }
-    core.nextHandle = source.file.highestHandle() + 1;
+    core.handles().startAt(source.file.highestHandle() + 1);
     loadTables(core, source);
     completeTables(core, source);
     loadGroupDictionary(core, source);
     loadState(core, source);
-    source.state = core.state;
-    source.current = core.current;
+    source.state = core.state();
+    source.current = core.current();
 }
 }  // namespace host::dxf

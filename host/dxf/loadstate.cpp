@@ -86,9 +86,9 @@ AcDbStub* record(const AcDbObjectId& table, const std::wstring& name, const wcha
 void loadCurrent(DatabaseCore& core)
 {
     const auto read =
-        readVariables<schema::CurrentVariables>(schema::currentVariables, core.state.variables);
-    const AcDbDatabase& database = core.database;
-    CurrentProperties& current = core.current;
+        readVariables<schema::CurrentVariables>(schema::currentVariables, core.state().variables);
+    const AcDbDatabase& database = core.database();
+    CurrentProperties& current = core.current();
     current.layer = record(database.layerTableId(), read.layer, L"0");
     current.textStyle = record(database.textStyleTableId(), read.textStyle, L"Standard");
     current.linetype = record(database.linetypeTableId(), read.linetype, L"ByLayer");
@@ -100,7 +100,7 @@ void loadCurrent(DatabaseCore& core)
 
 void loadState(DatabaseCore& core, const FileSource& source)
 {
-    DrawingState& state = core.state;
+    DrawingState& state = core.state();
     for (const HeaderVariable& variable : source.file.headerVariables())
     {
         if (variable.name.starts_with('$'))
@@ -128,7 +128,7 @@ void loadState(DatabaseCore& core, const FileSource& source)
         readVariables<schema::HandleVariables>(schema::handleVariables, state.variables).seed;
     if (seed <= highestUsableHandle)
     {
-        core.nextHandle = std::max(core.nextHandle, seed);
+        core.handles().startAt(seed);
     }
 }
 }  // namespace host::dxf

@@ -141,7 +141,8 @@ typedef std::vector<DictionaryEntries::Entry> NewGroups;
 NewGroups newGroups(const DatabaseCore& core)
 {
     NewGroups groups;
-    const auto* dictionary = static_cast<AcDbDictionary*>(core.groupDictionary->object);
+    const auto* dictionary =
+        static_cast<AcDbDictionary*>(core.roots()[Root::groupDictionary]->object);
     for (const auto& entry : DictionaryEntries::of(*dictionary).inOrder())
     {
         if (!entry.loaded && !entry.stub->erased())
@@ -182,10 +183,10 @@ void saveGroups(Edits& edits, DatabaseCore& core)
     {
         return;
     }
-    AcDbStub* dictionary = core.groupDictionary;
+    AcDbStub* dictionary = core.roots()[Root::groupDictionary];
     if (dictionary->handle == 0)
     {
-        dictionary->handle = core.nextHandle++;
+        dictionary->handle = core.handles().take();
     }
     const std::uint64_t own = dictionary->handle;
     const Producer entries = [&source, groups](TagWriter& writer)
@@ -196,7 +197,7 @@ void saveGroups(Edits& edits, DatabaseCore& core)
         }
     };
     const std::uint64_t root =
-        source.rootDictionary != nullptr ? source.rootDictionary->handle : core.nextHandle++;
+        source.rootDictionary != nullptr ? source.rootDictionary->handle : core.handles().take();
     const bool isNew = source.groupDictionary == nullptr;
     const Producer objects = [&source, groups, own, root, isNew, entries](TagWriter& writer)
     {
@@ -252,7 +253,7 @@ void saveHandleSeed(Edits& edits, const DatabaseCore& core, const LiveStubs& liv
     {
         return;
     }
-    const std::uint64_t seed = core.nextHandle;
+    const std::uint64_t seed = core.handles().next();
     HeaderEdits{edits, source.codePage}.setAll(schema::handleVariables,
                                                schema::HandleVariables{seed});
 }
@@ -289,7 +290,7 @@ namespace
 std::size_t sizeAbout(const DatabaseCore& core, const Edits& edits)
 {
     const std::size_t bytesOfLine = 160;
-    return edits.file().bytes().size() + core.stubs.size() * bytesOfLine;
+    return edits.file().bytes().size() + core.objects().size() * bytesOfLine;
 }
 
 void noteChanges(Edits& edits, DatabaseCore& core, const LiveStubs& live, EntityWriter& entities)

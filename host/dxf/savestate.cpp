@@ -157,11 +157,11 @@ void saveExtents(const HeaderEdits& header, const DatabaseCore& core)
 void saveState(Edits& edits, const DatabaseCore& core)
 {
     const FileSource& source = sourceOf(core);
-    const DrawingState& state = core.state;
+    const DrawingState& state = core.state();
     const HeaderEdits header{edits, source.codePage};
     saveViewport(edits, source, state);
     header.setChanged(schema::currentVariables, variablesOf(source.current),
-                      variablesOf(core.current));
+                      variablesOf(core.current()));
     saveVariables(edits, source, state);
     saveExtents(header, core);
     if (!same(source.state.modelUcs, state.modelUcs))

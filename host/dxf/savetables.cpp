@@ -26,7 +26,7 @@ Stubs namedRecords(const DatabaseCore& core, const LiveStubs& live)
     {
         if (stub->packed())
         {
-            add(core.lineStyles[stub->style]);
+            add(core.objects().style(stub->style));
         }
         else if (const AcDbEntity* entity = AcDbEntity::cast(stub->object))
         {
@@ -159,7 +159,7 @@ std::vector<NewRecord> missingRecords(DatabaseCore& core, const Kind& kind, cons
         {
             continue;
         }
-        added.stub->handle = added.stub->handle != 0 ? added.stub->handle : core.nextHandle++;
+        added.stub->handle = added.stub->handle != 0 ? added.stub->handle : core.handles().take();
         records.push_back({file.hasHandles() ? added.stub->handle : 0, name});
     }
     return records;
@@ -202,7 +202,7 @@ void saveTables(Edits& edits, DatabaseCore& core, const LiveStubs& live)
         }
         else if (!records.empty())
         {
-            writeTable(kind, core.nextHandle++, records, form, newTables);
+            writeTable(kind, core.handles().take(), records, form, newTables);
         }
     }
     newTables.flush();

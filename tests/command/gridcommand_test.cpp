@@ -224,12 +224,12 @@ TEST(GridCommand, anyOtherAnswerRebuildsTheGrid)
         const auto note = [&]
         {
             first = editor.contents();
-            objects = host::coreOf(*editor.database).stubs.size();
+            objects = host::coreOf(*editor.database).objects().size();
         };
         const auto compare = [&]
         {
             EXPECT_EQ(editor.contents(), first);
-            EXPECT_EQ(host::coreOf(*editor.database).stubs.size(), objects + first.lines);
+            EXPECT_EQ(host::coreOf(*editor.database).objects().size(), objects + first.lines);
         };
         editor.run({point(0, 0), point(300, 200), looking(answer, note), looking(esc, compare)});
         EXPECT_GT(first.lines, 0);
@@ -432,7 +432,7 @@ TEST(GridCommand, escErasesTheGridInItsOrderAndThenTheOutline)
     std::vector<AcDbStub*> standing;
     const auto note = [&]
     {
-        host::StubArena& stubs = host::coreOf(*editor.database).stubs;
+        const host::ObjectStore& stubs = host::coreOf(*editor.database).objects();
         for (std::size_t i = 0; i < stubs.size(); ++i)
         {
             if (host::typeOf(&stubs[i]) == AcDbLine::desc())
@@ -442,7 +442,7 @@ TEST(GridCommand, escErasesTheGridInItsOrderAndThenTheOutline)
         }
     };
     editor.run({point(0, 0), point(300, 200), looking(esc, note)});
-    const std::vector<AcDbStub*>& erased = host::coreOf(*editor.database).erasedLog;
+    const std::vector<AcDbStub*>& erased = host::coreOf(*editor.database).undoLog().erased();
     ASSERT_GT(standing.size(), 1u);
     ASSERT_GT(erased.size(), standing.size());
     EXPECT_TRUE(std::ranges::equal(standing, std::span(erased).first(standing.size())));
@@ -474,7 +474,7 @@ TEST(GridCommand, savesItsFileAsItWasWhenTheCommandBegan)
 std::set<std::wstring> textStyles(const AcDbDatabase& database)
 {
     std::set<std::wstring> names;
-    const host::StubArena& stubs = host::coreOf(database).stubs;
+    const host::ObjectStore& stubs = host::coreOf(database).objects();
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {
         AcDbText* text = nullptr;
@@ -501,12 +501,12 @@ TEST(GridCommand, labelsAreDrawnInTheDrawingsTextStyle)
     {
         ScriptedEditor editor;
         host::DatabaseCore& core = host::coreOf(*editor.database);
-        core.current.textStyle = nullptr;
+        core.current().textStyle = nullptr;
         if (row.currentStyle != nullptr)
         {
-            auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable,
-                                                                         row.currentStyle, 0x7777);
-            core.current.textStyle = style->objectId().stub();
+            auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(
+                core.roots()[host::Root::textStyleTable], row.currentStyle, 0x7777);
+            core.current().textStyle = style->objectId().stub();
         }
         editor.settings.write(
             "[GRID]\nHorStep=100\nVertStep=100\nneedText=2\nheightText=2\nbXTopScribe=1\n"
@@ -565,7 +565,7 @@ TEST(GridCommand, cornersAreTakenInTheCoordinateSystemOfTheScreen)
     AcGePoint3dArray outline;
     const auto look = [&]
     {
-        const host::StubArena& stubs = host::coreOf(*editor.database).stubs;
+        const host::ObjectStore& stubs = host::coreOf(*editor.database).objects();
         for (std::size_t i = 0; i < stubs.size(); ++i)
         {
             AcDb2dPolyline* polyline = nullptr;

@@ -113,7 +113,7 @@ ScriptedAnswer ScriptedEditor::next(const std::wstring& call)
 Contents ScriptedEditor::contents() const
 {
     Contents contents;
-    const host::StubArena& stubs = host::coreOf(*database).stubs;
+    const host::ObjectStore& stubs = host::coreOf(*database).objects();
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {
         AcDbStub& stub = stubs[i];

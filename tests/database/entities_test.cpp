@@ -359,10 +359,11 @@ TEST(Block, anEntityWithANumberThatIsNotFiniteIsRefusedWhole)
 {
     EmptyDrawing drawing;
     AcDbBlockTableRecord* space = nullptr;
-    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(drawing.core().modelSpace), AcDb::kForWrite),
+    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(drawing.core().roots()[host::Root::modelSpace]),
+                             AcDb::kForWrite),
               Acad::eOk);
-    const std::size_t stubs = drawing.core().stubs.size();
-    const std::uint64_t handle = drawing.core().nextHandle;
+    const std::size_t stubs = drawing.core().objects().size();
+    const std::uint64_t handle = drawing.core().handles().next();
     for (const Unfit& row : unfit)
     {
         const std::unique_ptr<AcDbEntity> entity(row.make());
@@ -372,8 +373,8 @@ TEST(Block, anEntityWithANumberThatIsNotFiniteIsRefusedWhole)
         EXPECT_TRUE(entity->objectId().isNull() && entity->layerId().isNull()) << row.what;
     }
     space->close();
-    EXPECT_EQ(drawing.core().stubs.size(), stubs);
-    EXPECT_EQ(drawing.core().nextHandle, handle);
+    EXPECT_EQ(drawing.core().objects().size(), stubs);
+    EXPECT_EQ(drawing.core().handles().next(), handle);
 }
 
 AcGeMatrix3d faraway()

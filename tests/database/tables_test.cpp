@@ -15,8 +15,8 @@ namespace
 TEST(SymbolTables, namesAreFoundInAnyLetterCase)
 {
     EmptyDrawing drawing;
-    drawing.core().addLoadedRecord<AcDbLayerTableRecord>(drawing.core().layerTable, L"Фундамент",
-                                                         0xF00);
+    drawing.core().addLoadedRecord<AcDbLayerTableRecord>(
+        drawing.core().roots()[host::Root::layerTable], L"Фундамент", 0xF00);
     AcDbSymbolTablePointer<AcDbLayerTable> table(&drawing.database(), AcDb::kForRead);
     AcDbObjectId id;
     EXPECT_EQ(table->getAt(L"фУНДАМЕНТ", id), Acad::eOk);
@@ -56,8 +56,8 @@ void addTextStyles(EmptyDrawing& drawing)
 {
     for (const wchar_t* name : {L"B", L"A", L""})
     {
-        drawing.core().addLoadedRecord<AcDbTextStyleTableRecord>(drawing.core().textStyleTable,
-                                                                 name, 0);
+        drawing.core().addLoadedRecord<AcDbTextStyleTableRecord>(
+            drawing.core().roots()[host::Root::textStyleTable], name, 0);
     }
 }
 
@@ -218,9 +218,10 @@ TEST_F(Groups, aMemberIsTakenOnceAndKnowsItsGroups)
 
     AcDbGroup* other = make(L"*");
     EXPECT_EQ(other->append(line), Acad::eOk);
-    const auto& lists = drawing.core().reactorLists;
-    EXPECT_EQ(lists[host::reactorsOf(line.stub())].size(), 2u);
-    EXPECT_EQ(lists[host::reactorsOf(text.stub())].size(), 1u);
+    const auto countOf = [&](const AcDbObjectId& id)
+    { return drawing.core().objects().reactors(host::reactorsOf(id.stub())).size(); };
+    EXPECT_EQ(countOf(line), 2u);
+    EXPECT_EQ(countOf(text), 1u);
     other->close();
     group->close();
 }

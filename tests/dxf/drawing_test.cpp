@@ -348,19 +348,19 @@ TEST_F(Drawing, withoutAGroupDictionaryOneIsMade)
 TEST_F(Drawing, aSeedThatLeavesNoRoomIsNotTrusted)
 {
     const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\nFFFFFFFFFFFFFFFF");
-    EXPECT_EQ(host::coreOf(*database).nextHandle, 0x2Au);
+    EXPECT_EQ(host::coreOf(*database).handles().next(), 0x2Au);
 }
 
 TEST_F(Drawing, aSeedBelowTheHighestHandleIsNotTrusted)
 {
     const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\n3");
-    EXPECT_EQ(host::coreOf(*database).nextHandle, 0x2Au);
+    EXPECT_EQ(host::coreOf(*database).handles().next(), 0x2Au);
 }
 
 TEST_F(Drawing, aSeedAboveTheHighestHandleIsKeptTo)
 {
     const auto database = changed("$HANDSEED\n  5\n2A", "$HANDSEED\n  5\n1000");
-    EXPECT_EQ(host::coreOf(*database).nextHandle, 0x1000u);
+    EXPECT_EQ(host::coreOf(*database).handles().next(), 0x1000u);
 }
 
 std::string corner(const std::string& name, const std::string& x, const std::string& y)
@@ -372,7 +372,8 @@ void addLine(AcDbDatabase& database, const AcGePoint3d& start, const AcGePoint3d
 {
     AcDbBlockTableRecord* space = nullptr;
     ASSERT_EQ(
-        acdbOpenObject(space, AcDbObjectId(host::coreOf(database).modelSpace), AcDb::kForWrite),
+        acdbOpenObject(space, AcDbObjectId(host::coreOf(database).roots()[host::Root::modelSpace]),
+                       AcDb::kForWrite),
         Acad::eOk);
     auto* line = new AcDbLine(start, end);
     space->appendAcDbEntity(line);

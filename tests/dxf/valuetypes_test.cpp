@@ -123,7 +123,7 @@ TEST(ValueTypes, aHeaderVariableHasTheTypeOfItsCode)
         load(host::coreOf(database),
              TagFile::fromText(
                  replaced(emptyDrawing(), header, header + "  9\n$SAMPLE\n" + row.tag), "FILE"));
-        EXPECT_EQ(host::coreOf(database).state.variables.at(L"SAMPLE").index(),
+        EXPECT_EQ(host::coreOf(database).state().variables.at(L"SAMPLE").index(),
                   std::size_t(row.kept))
             << row.tag;
     }

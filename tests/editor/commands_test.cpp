@@ -228,7 +228,7 @@ void drawALine()
 std::size_t linesIn(const AcDbDatabase& database)
 {
     std::size_t lines = 0;
-    const host::StubArena& stubs = host::coreOf(database).stubs;
+    const host::ObjectStore& stubs = host::coreOf(database).objects();
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {
         lines += (stubs[i].flags & AcDbStub::isLine) != 0 && !stubs[i].erased();

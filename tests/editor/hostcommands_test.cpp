@@ -316,9 +316,11 @@ TEST(SetvarCommand, theExtentsAreThoseOfTheCurrentSpaceAsItIsNow)
     EXPECT_TRUE(has(session.type({"EXTMIN"}), "\nEXTMIN = 1e+20,1e+20,1e+20\n"))
         << session.type({"EXTMIN"});
     AcDbBlockTableRecord* space = nullptr;
-    ASSERT_EQ(acdbOpenObject(space, AcDbObjectId(host::coreOf(session.drawing()).modelSpace),
-                             AcDb::kForWrite),
-              Acad::eOk);
+    ASSERT_EQ(
+        acdbOpenObject(
+            space, AcDbObjectId(host::coreOf(session.drawing()).roots()[host::Root::modelSpace]),
+            AcDb::kForWrite),
+        Acad::eOk);
     auto* line = new AcDbLine(AcGePoint3d(1, 2, 0), AcGePoint3d(30, 4, 5));
     space->appendAcDbEntity(line);
     line->close();

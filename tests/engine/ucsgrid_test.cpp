@@ -137,7 +137,7 @@ TEST_F(UcsGrid, theTestRectangleIsNeverSeenAndLiesInThePlane)
 {
     pickSheet();
     build();
-    const host::StubArena& stubs = host::coreOf(database()).stubs;
+    const host::ObjectStore& stubs = host::coreOf(database()).objects();
     int seen = 0;
     for (std::size_t i = 0; i < stubs.size(); ++i)
     {

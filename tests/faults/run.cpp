@@ -39,7 +39,7 @@ std::optional<State> atFirst;
 State stateNow()
 {
     const host::Document& document = *host::documents().document();
-    const host::DrawingState& drawing = host::coreOf(*document.database()).state;
+    const host::DrawingState& drawing = host::coreOf(*document.database()).state();
     return {drawing.modelUcs.toWorld,
             drawing.ucsIcon,
             drawing.ucsFollow,
@@ -119,7 +119,7 @@ void openDrawing()
     host::registerHostCommands();
     host::documents().open(host::newDrawing());
     // Neither is what a run sets, so one that is not given back is seen.
-    host::DrawingState& state = host::coreOf(*host::documents().document()->database()).state;
+    host::DrawingState& state = host::coreOf(*host::documents().document()->database()).state();
     state.modelUcs.toWorld = AcGeMatrix3d::rotation(0.5, AcGeVector3d::kZAxis);
     state.modelUcs.toWorld.setTranslation(AcGeVector3d(3, 4, 0));
     state.ucsFollow = 1;

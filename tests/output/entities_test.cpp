@@ -22,14 +22,15 @@ protected:
     AcDbLayerTableRecord* addLayer(const wchar_t* name)
     {
         host::DatabaseCore& core = host::coreOf(database());
-        return core.addLoadedRecord<AcDbLayerTableRecord>(core.layerTable, name, core.nextHandle++);
+        return core.addLoadedRecord<AcDbLayerTableRecord>(core.roots()[host::Root::layerTable],
+                                                          name, core.handles().take());
     }
     template <class Record>
     void addErased(AcDbStub* table, const wchar_t* name)
     {
         host::DatabaseCore& core = host::coreOf(database());
         const AcDbObjectId id =
-            core.addLoadedRecord<Record>(table, name, core.nextHandle++)->objectId();
+            core.addLoadedRecord<Record>(table, name, core.handles().take())->objectId();
         AcDbObjectPointer<Record>(id, AcDb::kForWrite)->erase();
     }
     AcDbObjectId addPlainLine()
@@ -84,7 +85,8 @@ TEST_F(Entities, aLineLooksAsTheGridLinesDo)
                           EXPECT_EQ(line.lineWeight(), AcDb::kLnWtByLayer);
                           EXPECT_EQ(linetypeOf(line), L"Continuous");
                           EXPECT_EQ(host::recordName(line.layerId()), L"0");
-                          EXPECT_EQ(line.ownerId().stub(), host::coreOf(database()).modelSpace);
+                          EXPECT_EQ(line.ownerId().stub(),
+                                    host::coreOf(database()).roots()[host::Root::modelSpace]);
                           return 0;
                       });
 }
@@ -118,7 +120,8 @@ TEST_F(Entities, linetypesAreFoundOnlyWhenTheyAreLoaded)
     EXPECT_FALSE(linetypeExists(nullptr));
     EXPECT_FALSE(linetypeExists(L"NoSuchDashes"));
     EXPECT_TRUE(linetypeExists(L"Continuous"));
-    addErased<AcDbLinetypeTableRecord>(host::coreOf(database()).linetypeTable, L"Dashed");
+    addErased<AcDbLinetypeTableRecord>(host::coreOf(database()).roots()[host::Root::linetypeTable],
+                                       L"Dashed");
     EXPECT_FALSE(linetypeExists(L"Dashed"));
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
     EXPECT_FALSE(linetypeExists(L"Continuous"));
@@ -266,7 +269,8 @@ TEST_F(Entities, nothingIsMadeWithoutADrawingOrWithoutTheBlock)
     AcDbLine loose({0, 0, 0}, {1, 0, 0});
     EXPECT_EQ(appendToBlock(&loose, id, L"NoSuchBlock"), Acad::eKeyNotFound);
     EXPECT_TRUE(addLine(true, {0, 0, 0}, {1, 0, 0}, 1, nullptr, nullptr, L"NoSuchBlock").isNull());
-    addErased<AcDbBlockTableRecord>(host::coreOf(database()).blockTable, L"Gone");
+    addErased<AcDbBlockTableRecord>(host::coreOf(database()).roots()[host::Root::blockTable],
+                                    L"Gone");
     EXPECT_EQ(appendToBlock(&loose, id, L"Gone"), Acad::eWasErased);
     EXPECT_EQ(entities().length(), 0);
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
@@ -279,8 +283,8 @@ TEST_F(Entities, nothingIsMadeWithoutADrawingOrWithoutTheBlock)
 TEST_F(Entities, nothingIsMadeWhileSomeoneWritesTheTableOfBlocks)
 {
     const tests::LetGo letGo;
-    AcDbObjectPointer<AcDbBlockTable> writer(AcDbObjectId(host::coreOf(database()).blockTable),
-                                             AcDb::kForWrite);
+    AcDbObjectPointer<AcDbBlockTable> writer(
+        AcDbObjectId(host::coreOf(database()).roots()[host::Root::blockTable]), AcDb::kForWrite);
     AcDbObjectId id;
     AcDbLine loose({0, 0, 0}, {1, 0, 0});
     EXPECT_EQ(appendToBlock(&loose, id, ACDB_MODEL_SPACE), Acad::eWasOpenForWrite);

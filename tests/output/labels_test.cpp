@@ -17,8 +17,8 @@ protected:
     AcDbObjectId addStyle(const wchar_t* name, double oblique, double width, double height)
     {
         host::DatabaseCore& core = host::coreOf(database());
-        auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, name,
-                                                                     core.nextHandle++);
+        auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(
+            core.roots()[host::Root::textStyleTable], name, core.handles().take());
         host::setTextStyle(*style, oblique, width, height);
         return style->objectId();
     }

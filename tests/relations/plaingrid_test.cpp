@@ -241,7 +241,7 @@ protected:
         }
         return addOutline(points);
     }
-    std::size_t objects() const { return host::coreOf(database()).stubs.size(); }
+    std::size_t objects() const { return host::coreOf(database()).objects().size(); }
 };
 
 TEST_F(PlainGrid, isWhatTheEngineDrawsToTheLastBit)

@@ -404,8 +404,8 @@ TEST(SettingsDialog, storesTheTextStyleThatWasChosen)
 {
     support::Session session;
     host::DatabaseCore& core = host::coreOf(session.drawing());
-    core.addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, L"Slanted",
-                                                   core.nextHandle++);
+    core.addLoadedRecord<AcDbTextStyleTableRecord>(core.roots()[host::Root::textStyleTable],
+                                                   L"Slanted", core.handles().take());
     DialogRun run;
     run.with(session, {"check 154 on", "select 131 Slanted", "click 1"});
     EXPECT_EQ(run.settings.textStyleName, L"Slanted");

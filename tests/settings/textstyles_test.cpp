@@ -18,7 +18,8 @@ protected:
     {
         host::DatabaseCore& core = host::coreOf(database());
         return core
-            .addLoadedRecord<AcDbTextStyleTableRecord>(core.textStyleTable, name, core.nextHandle++)
+            .addLoadedRecord<AcDbTextStyleTableRecord>(core.roots()[host::Root::textStyleTable],
+                                                       name, core.handles().take())
             ->objectId();
     }
     static std::vector<std::wstring> names()
@@ -60,7 +61,8 @@ TEST_F(TextStyles, areNoneWithoutTheirTable)
 {
     {
         AcDbObjectPointer<AcDbTextStyleTable> writer(
-            AcDbObjectId(host::coreOf(database()).textStyleTable), AcDb::kForWrite);
+            AcDbObjectId(host::coreOf(database()).roots()[host::Root::textStyleTable]),
+            AcDb::kForWrite);
         EXPECT_THAT(names(), IsEmpty());
     }
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);

@@ -10,7 +10,7 @@ namespace tests
 void OpenDrawing::SetUp()
 {
     host::documents().open(host::newDrawing());
-    m_begin = host::coreOf(database()).stubs.size();
+    m_begin = host::coreOf(database()).objects().size();
     m_tolerance = AcGeContext::gTol;
 }
 
@@ -30,7 +30,7 @@ AcDbDatabase& OpenDrawing::database() const
 
 AcDbObjectId OpenDrawing::modelSpace() const
 {
-    return AcDbObjectId(host::coreOf(database()).modelSpace);
+    return AcDbObjectId(host::coreOf(database()).roots()[host::Root::modelSpace]);
 }
 
 void OpenDrawing::setUcs(const AcGePoint3d& origin, double degrees)
@@ -42,7 +42,7 @@ void OpenDrawing::setUcs(const AcGePoint3d& origin, double degrees)
 AcDbObjectIdArray OpenDrawing::entities() const
 {
     AcDbObjectIdArray ids;
-    const host::StubArena& stubs = host::coreOf(database()).stubs;
+    const host::ObjectStore& stubs = host::coreOf(database()).objects();
     for (std::size_t i = m_begin; i < stubs.size(); ++i)
     {
         const AcRxClass* const type = host::typeOf(&stubs[i]);
