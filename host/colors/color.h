@@ -1,9 +1,9 @@
-// A colour as pictures have it.
+// A colour of a picture.
 #pragma once
 
 namespace host
 {
-// Each part from 0 to 1.
+// Red, green and blue, each from 0 to 1.
 struct Color
 {
     double red;

@@ -5,6 +5,7 @@
 
 namespace host
 {
-// Of a colour index, 1 to 255; black for 7, which is black on white paper, and for any other.
+// The colour of an index from 1 to 255. Index 7 is black, as on white paper; any other number is
+// black as well.
 Color indexColor(int index);
 }  // namespace host

@@ -1,4 +1,4 @@
-// What a button with a picture shows.
+// The picture of a button.
 #pragma once
 
 #include <cstddef>
@@ -8,6 +8,7 @@
 
 namespace host
 {
-// The bitmap's bytes as the module's resources hold them; empty for a button that has none.
+// The bitmap's bytes as the module's resources hold them [borrowed], good while the module is
+// loaded. Empty for a button without a bitmap.
 std::span<const std::byte> bitmapOfButton(HWND button);
 }  // namespace host

@@ -1,4 +1,4 @@
-// Where a control of a dialog stands among the others.
+// Names of controls by where they stand in their dialog.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace host
 {
-// What a person calls the control: its text; for a check box without one that of the frame in
-// whose caption it stands; and for check boxes of one text around a figure of lines, as well, the
-// edge of the figure at which each of them stands.
+// Returns what a person calls the control: its text. A check box without a text has the text of the
+// frame in whose caption it stands. Check boxes of one text around a figure of lines also name the
+// edge of the figure at which they stand.
 std::wstring shownName(HWND control);
 }  // namespace host

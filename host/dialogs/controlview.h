@@ -1,4 +1,4 @@
-// What a user reads in a dialog.
+// A dialog as text.
 #pragma once
 
 #include <string>
@@ -9,6 +9,7 @@
 
 namespace host
 {
+// The kinds of controls that a script or a person can tell apart.
 enum class ControlKind
 {
     edit,
@@ -22,12 +23,13 @@ enum class ControlKind
 };
 
 ControlKind kindOf(HWND control);
+// The word for it in lines and messages.
 OwnText nameOf(ControlKind kind);
 
-// `[control] ID KIND enabled|disabled STATE "TEXT"`
+// The control as a script reads it: `[control] ID KIND enabled|disabled STATE "TEXT"`.
 std::wstring controlLine(HWND control);
 
-// The whole dialog for a person at a terminal: controls with their labels and values, the disabled
-// ones marked, and a line of help. No line end after the last line.
+// The whole dialog for a person at a terminal: the controls with their labels and values, marks on
+// those that are disabled, and a line of help. The last line has no end.
 std::wstring readableView(HWND dialog);
 }  // namespace host

@@ -11,7 +11,7 @@ namespace host
 {
 class Editor;
 
-// Does what the line says, over the functions of windows only: `set ID TEXT`, `check ID on|off`,
+// Does what the line says, by the functions of windows alone: `set ID TEXT`, `check ID on|off`,
 // `click ID`, `select ID TEXT` or `#N`, `color ID N`, `show`, `close`. A line that does nothing is
 // a failure.
 Result<> takeDialogLine(Editor& editor, HWND dialog, std::wstring_view line);

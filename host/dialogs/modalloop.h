@@ -1,4 +1,4 @@
-// A dialog and the user in front of it.
+// Runs a dialog with the user in front of it.
 #pragma once
 
 #include <functional>
@@ -8,12 +8,13 @@
 
 namespace host
 {
-// Shows the dialog and hands the user's lines to it until `ended` is set. A dialog that is hidden
-// when the user should see it is a breach.
+// Shows the dialog and hands the user's lines to it until `ended` [borrowed] is set. A dialog that
+// is hidden when the user should see it ends the run.
 void runModalLoop(HWND dialog, const bool& ended);
+// Tells the user that the dialog is closed, by OK or not [prints].
 void tellDialogClosed(bool ok);
 
-// Prompts are allowed between the two; while a dialog is shown they are a breach.
+// Prompts are allowed between these two calls; while a dialog is shown a prompt ends the run.
 void dialogStepsAside();
 void dialogComesBack();
 

@@ -6,8 +6,8 @@
 
 namespace host
 {
-// The dialog's answer to a message that asks for drawing: TRUE when something was drawn. Without a
-// screen nobody asks.
+// Answers a message to a dialog that asks for drawing; TRUE when something was drawn. Without a
+// screen no such message comes.
 INT_PTR answerDrawing(UINT message, LPARAM lParam);
 
 // Shows the text when the pointer rests on the control.

@@ -5,7 +5,8 @@
 
 namespace host
 {
-// Before the dialog is shown: in the middle of the screen, as its owner is not to be seen, and with
-// a button of its own on the taskbar. Without a screen nothing.
+// Puts the dialog in the middle of the screen, because its owner is not visible, and gives it a
+// button of its own on the taskbar. It is called before the dialog is shown. Without a screen it
+// does nothing.
 void placeDialog(HWND dialog);
 }  // namespace host

@@ -1,4 +1,4 @@
-// Bitmaps out of a module's resources.
+// Bitmaps from a module's resources.
 #pragma once
 
 #include <cairo.h>
@@ -9,10 +9,11 @@
 
 namespace host
 {
+// A picture of the drawing library; it frees itself.
 using Image = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
 
-// An uncompressed bitmap of 4, 8 or 24 bits a pixel, rows from the bottom up, as a resource holds
-// it (without the header of the file). The light grey that stands for the button's face (192 each)
-// is transparent. Null for anything else.
+// Reads an uncompressed bitmap of 4, 8 or 24 bits a pixel, rows from the bottom up, as a resource
+// holds it: without the header of the file. The light grey that stands for the button's face (192
+// each) becomes transparent. Null for any other bytes.
 Image imageOfBitmap(std::span<const std::byte> bytes);
 }  // namespace host

@@ -1,4 +1,5 @@
-// What the pictures of dialogs are drawn with: pixels of a screen of 96 dots to the inch.
+// The surface that pictures of dialogs are drawn on. All measures are pixels of a screen of 96 dots
+// to the inch, from the upper left corner.
 #pragma once
 
 #include <string>
@@ -9,12 +10,14 @@
 
 namespace host
 {
+// Colours of a dialog.
 inline constexpr Color face{0.941, 0.941, 0.941};
 inline constexpr Color shadow{0.627, 0.627, 0.627};
 inline constexpr Color edge{0.478, 0.478, 0.478};
 inline constexpr Color dimmed{0.55, 0.55, 0.55};
 inline constexpr Color accent{0, 0.471, 0.843};
 
+// A rectangle by its upper left corner and its size.
 struct Box
 {
     double x;
@@ -26,6 +29,7 @@ struct Box
     Box inset(double by) const { return {x + by, y + by, width - 2 * by, height - 2 * by}; }
 };
 
+// Draws; what comes later covers what is there.
 class Canvas
 {
 public:
@@ -39,9 +43,9 @@ public:
     void line(double x1, double y1, double x2, double y2, Color color, double width = 1);
     void circle(double x, double y, double radius, Color color, bool filled);
     void triangleDown(double x, double y, double size, Color color);
-    // Centred upright on `middle`; cut at the box.
+    // The text begins at x, stands centred on the height `middle` and is cut at the box.
     void text(const Box& box, double x, double middle, std::wstring_view text, Color color);
-    void veil(const Box& box);  // what lies below fades into the face
+    void veil(const Box& box);  // fades what is there into the face
     void image(const Box& box, cairo_surface_t* image);
 
     double textWidth(std::wstring_view text) const;

@@ -1,4 +1,4 @@
-// Pictures of dialogs, for documentation and for looking at them.
+// Pictures of dialogs.
 #pragma once
 
 #include <string>
@@ -10,6 +10,6 @@
 namespace host
 {
 // Draws the dialog as it stands, with its frame and caption, twice the size it has on a screen of
-// 96 dots to the inch. The bytes of a PNG file. It fails when memory ran out.
+// 96 dots to the inch, and returns the bytes of a PNG file. It fails when memory runs out.
 Result<std::string> drawDialog(HWND dialog);
 }  // namespace host

@@ -1,4 +1,4 @@
-// What one run of arxhost does, from the drawing that is opened to the drawing that is saved.
+// One run of arxhost, from the drawing that it opens to the drawing that it saves.
 #pragma once
 
 #include "host/editor/frontend.h"
@@ -6,6 +6,7 @@
 
 namespace host
 {
-// Status that the program ends with. Every failure is one line on the front end's report.
+// Runs the session and returns the status that the program ends with. Every failure is reported to
+// the front end in one line.
 int runJob(const Options& options, FrontEnd& frontEnd);
 }  // namespace host

@@ -1,4 +1,4 @@
-// The progress meter of work that takes longer than a person waits without a word.
+// The progress meter of work that takes long.
 #pragma once
 
 #include <chrono>
@@ -14,7 +14,7 @@ namespace host
 {
 class Editor;
 
-// Shows the meter from the first second on, and takes it away when it goes.
+// Shows a meter for work that takes longer than a second. The meter goes with the object.
 class LongWork
 {
 public:
@@ -27,7 +27,7 @@ public:
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
-    Progress progress();  // good as long as this is there
+    Progress progress();  // good while the object lives
 
 private:
     void reach(double part);

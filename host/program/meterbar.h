@@ -7,6 +7,7 @@
 
 namespace host
 {
-// For a terminal of so many columns; stays clear of the last one, where it would begin a new line.
+// Fits a terminal of so many columns. The last column stays free: text there would begin a new
+// line.
 std::string meterBar(const Meter& meter, int columns);
 }  // namespace host

@@ -10,6 +10,7 @@
 
 namespace host
 {
+// What the command line asks for.
 struct Options
 {
     std::string drawing;  // empty: a new one
@@ -23,7 +24,7 @@ struct Options
     bool quiet = false;
 };
 
-// Arguments with the program's name first. Nothing when there is nothing to run: `status` is what
-// the program ends with then, and the text to show has been printed.
+// Reads the arguments, the program's name first. No value when there is nothing to run: the text to
+// show has been printed then, and `status` is what the program ends with.
 std::optional<Options> parseOptions(std::vector<std::string> arguments, int& status);
 }  // namespace host

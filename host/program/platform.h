@@ -1,4 +1,4 @@
-// What arxhost asks of the system that it runs on.
+// The services of the system that arxhost runs on.
 #pragma once
 
 #include <cstdio>
@@ -12,33 +12,34 @@
 
 namespace host
 {
-// First of all: how output is written, and what must not end the run.
+// Called first. Sets how output is written and how signals of the system end the run.
 void beginProcess();
 
-// UTF-8, the program's name first.
+// The arguments in UTF-8, the program's name first.
 std::vector<std::string> givenArguments(int count, char** arguments);
 
-// False when it cannot be done.
+// Sends standard output nowhere. False when that cannot be done.
 bool silenceOutput();
 
-// Where the user's programs keep what outlasts a session, made if that was possible; empty if there
-// is no such place.
+// The folder in which the user's programs keep what outlasts a session. It has been made if that
+// was possible. Empty when there is no such place.
 std::filesystem::path stateFolder();
 
 // Writes to standard output or standard error.
 void write(std::FILE* stream, std::string_view text);
 
-// Last of all: lets whoever sees the output in a window that closes with the program read why it
-// failed.
+// Called last. Where the window of the output closes with the program, waits so that the user can
+// read why the run failed.
 void beforeTheEnd(int status);
 
-// Makes an empty file; false if there is one of that name, or it cannot be made.
+// Makes an empty file. False when there is a file of that name or it cannot be made.
 bool makeNewFile(const std::filesystem::path& file);
 
-// Runs with what a person types at the terminal, status of the program; nothing when nobody sits
-// at standard input and output.
+// Runs a session with what a person types at the terminal and returns the status of the program. No
+// value when standard input and output are not a terminal.
 std::optional<int> runAtTerminal(const Options& options);
 
-// Of the terminal that standard error is; 0 when it is none, or one that cannot go back in a line.
+// The width of the terminal that standard error is. 0 when it is not a terminal, or one that cannot
+// go back in a line.
 int errorColumns();
 }  // namespace host

@@ -1,4 +1,4 @@
-// A run of arxhost with somebody, or a script, at its command line.
+// A run of arxhost with a person or a script at its command line.
 #pragma once
 
 #include "host/editor/linefrontend.h"
@@ -6,17 +6,18 @@
 
 namespace host
 {
-// One line on standard error.
+// Writes one line to standard error.
 void printError(std::string_view line);
 
-// Standard output, and standard error for reports.
+// Prints to standard output and reports to standard error.
 LineOutput standardOutput();
 
-// Status that the program ends with. The answers are read on the calling thread.
+// Runs a job and returns the status that the program ends with. The answers are read on the calling
+// thread.
 int runSession(const Options& options, AnswerReader& reader, LineOutput output = standardOutput());
 
-// Where std::terminate leads. Ends with status 1 and one line for what nobody could be told of:
-// memory that ran out while the input was read or while things were put away, an input that breaks
-// off.
+// The handler of std::terminate. It ends the program with status 1 and one line on what no result
+// can tell: an input that breaks off, or memory that runs out while the input is read or while
+// objects are destroyed.
 [[noreturn]] void endAtOnce();
 }  // namespace host

@@ -1,4 +1,4 @@
-// What a person would lose: questions before it, and a file for the work that was not saved.
+// Guards the work of a person: asks before it is lost, and keeps in a file what was not saved.
 #pragma once
 
 #include <filesystem>
@@ -7,22 +7,24 @@
 
 namespace host
 {
-// The open drawing is as its file has it: just opened, or just saved. Only with a person there.
+// Notes that the open drawing is as its file has it, just opened or just saved. Without a person it
+// does nothing.
 void noteSaved(Editor& editor);
-bool isUnsaved();  // since then
+// Whether the drawing has changed since then.
+bool isUnsaved();
 
-// Whether QUIT may give up what is not saved, if anything.
+// Asks whether QUIT may give up the changes; true without a question when there are none.
 bool mayGiveUpChanges(Editor& editor);
-// Whether the file may be written: there is none of that name, or it may be replaced. Only a person
-// is asked; a script names the files that it wants.
+// Asks whether a file that exists may be replaced; true without a question when it does not exist.
+// Only a person is asked: a script names the files that it wants.
 bool mayReplace(Editor& editor, const std::filesystem::path& file);
-// Tells a person that the file is there.
+// Tells a person that the file is written [prints].
 void tellSaved(Editor& editor, const std::filesystem::path& file);
 
-// Keeps the open drawing in a file of its own and reports where. It stands beside the drawing, or
-// in the user's folder for the state of programs, or in that for temporary files; it replaces no
-// other.
+// Saves the open drawing in a new file and reports where: beside the drawing, or in the user's
+// folder for the state of programs, or in the folder for temporary files. It replaces no other
+// file.
 void keepUnsaved(Editor& editor);
-// Tells of the files of that kind that belong to the drawing.
+// Tells a person which such files belong to the drawing [prints].
 void tellKept(Editor& editor);
 }  // namespace host

@@ -5,7 +5,7 @@
 
 namespace host
 {
-// In the screen's dots: a picture is made for 96 dots per inch, and grows with the dialog where
-// there are more.
+// Returns the size of the picture in dots of the screen. A picture is made for 96 dots to the inch
+// and grows with the dialog on a finer screen.
 SIZE sizeOnScreen(SIZE picture, int dotsPerInch);
 }  // namespace host

@@ -9,9 +9,9 @@
 
 namespace host
 {
-// For the library's streams: puts the data behind those that the std::string `bytes` has.
+// Appends the data to `bytes`, which is a std::string [borrowed]. The library's streams call it.
 cairo_status_t appendTo(void* bytes, const unsigned char* data, unsigned length);
 
-// The bytes of a PNG file. It fails when memory ran out.
+// The picture as the bytes of a PNG file. It fails when memory runs out.
 Result<std::string> pngOf(cairo_surface_t* surface);
 }  // namespace host

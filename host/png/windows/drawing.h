@@ -12,7 +12,7 @@
 
 namespace host
 {
-// It can be called for as long as one of these lives.
+// Starts the library; it can be called for as long as such an object lives.
 class Drawing
 {
 public:
@@ -29,6 +29,6 @@ private:
     ULONG_PTR m_token = 0;
 };
 
-// The bytes of a PNG file. It fails when memory ran out.
+// The picture as the bytes of a PNG file. It fails when memory runs out.
 Result<std::string> pngOf(Gdiplus::Bitmap& bitmap);
 }  // namespace host
