@@ -34,9 +34,9 @@ TEST_F(Names, aRecordIsFoundInAnyLetterCaseAsOftenAsItIsAskedFor)
         AcDbStub* found;
     };
     const Row rows[] = {
-        {L"Walls", walls},  {L"Walls", walls}, {L"WALLS", walls},
-        {L"дВЕРИ", doors},  {L"Двери", doors}, {L"walls", walls},
-        {L"Wall", nullptr}, {L"", nullptr},    {L"Walls", walls},
+        {L"Walls", walls}, {L"Walls", walls}, {L"WALLS", walls}, {L"дВЕРИ", doors},
+        {L"Walls", walls}, {L"Двери", doors}, {L"walls", walls}, {L"Wall", nullptr},
+        {L"", nullptr},    {L"Walls", walls},
     };
     for (const Row& row : rows)
     {
