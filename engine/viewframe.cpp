@@ -1,7 +1,9 @@
 #include "engine/viewframe.h"
 
+namespace
+{
 // A variable that cannot be read leaves zeros; the frame is then built from them.
-static resbuf readVariable(const ACHAR* name)
+resbuf readVariable(const ACHAR* name)
 {
     resbuf variable = resbuf();
     acedGetVar(name, &variable);
@@ -9,13 +11,14 @@ static resbuf readVariable(const ACHAR* name)
 }
 
 // The variable holds UCS coordinates and any length.
-static AcGeVector3d viewDirection()
+AcGeVector3d viewDirection()
 {
     AcGePoint3d direction = asPnt3d(readVariable(L"VIEWDIR").resval.rpoint);
     acdbUcs2Wcs(asDblArray(direction), asDblArray(direction), true);
     const AcGeVector3d towardsViewer = direction.asVector();
     return towardsViewer * (1 / towardsViewer.length());
 }
+}  // namespace
 
 Acad::ErrorStatus setViewFrameUcs()
 {

@@ -1,6 +1,8 @@
 #include "output/entities.h"
 
-static AcDbDictionary* openGroups()
+namespace
+{
+AcDbDictionary* openGroups()
 {
     AcDbDatabase* database = acdbHostApplicationServices()->workingDatabase();
     AcDbDictionary* groups = nullptr;
@@ -12,7 +14,7 @@ static AcDbDictionary* openGroups()
 }
 
 // The meter moves about twenty times, whatever the size of the group.
-static void appendWithMeter(AcDbGroup* group, const AcDbObjectIdArray& ids)
+void appendWithMeter(AcDbGroup* group, const AcDbObjectIdArray& ids)
 {
     acedSetStatusBarProgressMeter(L"Progress: ", 0, ids.length());
     const int twentieth = static_cast<int>(ids.length() * 0.05);
@@ -26,6 +28,7 @@ static void appendWithMeter(AcDbGroup* group, const AcDbObjectIdArray& ids)
         group->append(ids[i]);
     }
 }
+}  // namespace
 
 AcDbObjectId makeGroup(const AcDbObjectIdArray& ids, const ACHAR* name)
 {

@@ -27,9 +27,11 @@ Acad::ErrorStatus currentTextStyleName(CString& name)
     return status;
 }
 
+namespace
+{
 // A style that is not there leaves the text its own style, slant 0 and width 1. The fixed height
 // of a style is not taken: the height of labels is an option of its own.
-static void setStyle(AcDbText* text, const ACHAR* styleName)
+void setStyle(AcDbText* text, const ACHAR* styleName)
 {
     AcDbSymbolTablePointer<AcDbTextStyleTable> styles(
         acdbHostApplicationServices()->workingDatabase(), AcDb::kForRead);
@@ -48,14 +50,15 @@ static void setStyle(AcDbText* text, const ACHAR* styleName)
 }
 
 // Modes before points: the host takes no alignment point while the text still sits on its baseline.
-static void anchor(AcDbText* text, const AcGePoint3d& position, AcDb::TextHorzMode horizontal,
-                   AcDb::TextVertMode vertical)
+void anchor(AcDbText* text, const AcGePoint3d& position, AcDb::TextHorzMode horizontal,
+            AcDb::TextVertMode vertical)
 {
     text->setVerticalMode(vertical);
     text->setHorizontalMode(horizontal);
     text->setPosition(position);
     text->setAlignmentPoint(position);
 }
+}  // namespace
 
 AcDbObjectId addLabelText(bool positionInUcs, const ACHAR* text, AcGePoint3d position,
                           double height, double rotation, Adesk::UInt16 color,

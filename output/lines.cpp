@@ -5,8 +5,10 @@
 #include "output/frame.h"
 #include "output/tolerance.h"
 
-static void setLook(AcDbEntity* entity, Adesk::UInt16 color, const ACHAR* layerName,
-                    const ACHAR* linetypeName)
+namespace
+{
+void setLook(AcDbEntity* entity, Adesk::UInt16 color, const ACHAR* layerName,
+             const ACHAR* linetypeName)
 {
     if (color != 0)
     {
@@ -20,11 +22,12 @@ static void setLook(AcDbEntity* entity, Adesk::UInt16 color, const ACHAR* layerN
     entity->setLinetype(linetypeExists(linetypeName) ? linetypeName : L"Continuous", true);
 }
 
-static bool coincide(const AcGePoint3d& p, const AcGePoint3d& q)
+bool coincide(const AcGePoint3d& p, const AcGePoint3d& q)
 {
     const double largest = (std::max)(largestCoordinate(p), largestCoordinate(q));
     return p.distanceTo(q) < atLeastRounding(AcGeContext::gTol.equalPoint(), largest);
 }
+}  // namespace
 
 AcDbObjectId addPolylineFrame(bool pointsInUcs, AcGePoint3dArray points, Adesk::UInt16 color,
                               const ACHAR* layerName, const ACHAR* linetypeName,

@@ -26,14 +26,17 @@ CString formatInt(int value)
     return text;
 }
 
+namespace
+{
 // The conversion has room for one digit, so 10 decimals are 1 and 25 are 2. Settings files that
 // say so are around and their labels must not change.
-static wchar_t decimalsDigit(int decimals)
+wchar_t decimalsDigit(int decimals)
 {
     CString digits;
     digits.Format(L"%d", decimals);
     return decimals < 0 ? L'0' : digits[0];
 }
+}  // namespace
 
 CString formatReal(double value, int decimals)
 {
