@@ -173,7 +173,7 @@ void writeTags(std::string_view tags, TagWriter& writer)
         const std::size_t codeEnd = std::min(tag.find(' '), tag.size());
         int code = 0;
         std::from_chars(tag.data(), tag.data() + codeEnd, code);
-        writer.text(code, tag.substr(std::min(codeEnd + 1, tag.size())));
+        writer.text(Code(code), tag.substr(std::min(codeEnd + 1, tag.size())));
         tags.remove_prefix(tag.size());
     }
 }

@@ -19,7 +19,7 @@ VariableValue valueOf(const FileSource& source, const HeaderVariable& variable)
     AcGePoint3d point;
     for (const Tag& tag : source.file.tags(variable))
     {
-        const Code code(tag.code);
+        const Code code = tag.code;
         const ValueType type = valueType(code);
         if (const auto axis = schema::axisOfVariable(code))
         {

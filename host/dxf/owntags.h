@@ -16,7 +16,7 @@ public:
         explicit Iterator(const Tags& tags) : Tags::Iterator(tags.begin()) {}
         bool operator==(std::default_sentinel_t end) const
         {
-            return Tags::Iterator::operator==(end) || schema::endsOwnTags(Code((*this)->code));
+            return Tags::Iterator::operator==(end) || schema::endsOwnTags((*this)->code);
         }
     };
 

@@ -53,7 +53,7 @@ void saveChanges(Edits& edits, const Record& record, const RecordNumbers& before
     auto changes = changed(before, now);
     for (const Tag& tag : ownTags(edits.file(), record))
     {
-        const auto found = changes.find(Code(tag.code));
+        const auto found = changes.find(tag.code);
         if (found != changes.end())
         {
             edits.setValue(tag, textOf(found->second));

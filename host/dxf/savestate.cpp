@@ -110,7 +110,7 @@ Code codeOf(const FileSource& source, const std::string& name, const VariableVal
     Code code = usual;
     for (const Tag& tag : source.file.tags(*source.file.header(name)))
     {
-        code = Code(tag.code);
+        code = tag.code;
     }
     return code;
 }

@@ -7,6 +7,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "host/dxf/schema/code.h"
+
 #include "host/text/trim.h"
 
 namespace host::dxf
@@ -17,7 +19,7 @@ inline constexpr char lineFeedInText = '\0';
 
 struct Tag
 {
-    int code;
+    Code code;
     std::string_view value;  // the file's bytes, blanks kept, without the line ending
     std::size_t begin;       // offset of the group code's line
     std::size_t end;         // offset after the value's line
@@ -107,7 +109,7 @@ inline void Tags::Iterator::readTag()
     }
     const char* lineEnd = static_cast<const char*>(std::memchr(p, '\n', m_end - p));
     const char* valueEnd = lineEnd > p && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
-    m_tag = {code,
+    m_tag = {Code(code),
              {p, static_cast<std::size_t>(valueEnd - p)},
              static_cast<std::size_t>(m_at - m_file),
              static_cast<std::size_t>(lineEnd + 1 - m_file),

@@ -30,7 +30,7 @@ TagReader::TagReader(const TagFile& file)
 void TagReader::next()
 {
     const char* begin = m_next;
-    const int code = readCode();
+    const Code code = readCode();
     const char* value = m_next;
     const auto* lineEnd = static_cast<const char*>(std::memchr(value, '\n', m_end - value + 1));
     const char* valueEnd = lineEnd > value && lineEnd[-1] == '\r' ? lineEnd - 1 : lineEnd;
@@ -44,7 +44,7 @@ void TagReader::next()
 }
 
 // Leaves m_next at the value, which is there.
-inline int TagReader::readCode()
+inline Code TagReader::readCode()
 {
     const char* at = m_next;
     if (at >= m_end)
@@ -79,7 +79,7 @@ inline int TagReader::readCode()
         m_file.refuse(m_nextLine + 1, "a value", "the end of the file");
     }
     m_next = at + 1;
-    return code;
+    return Code(code);
 }
 
 void TagReader::nextButComments()
@@ -90,7 +90,7 @@ void TagReader::nextButComments()
     } while (m_tag.code == schema::comment);
 }
 
-void TagReader::skipTo(int code)
+void TagReader::skipTo(Code code)
 {
     while (m_tag.code != code)
     {
@@ -107,7 +107,7 @@ void TagReader::refuseLine() const
 {
     const char* end = std::find(m_next, m_end, '\n');
     end -= end > m_next && end[-1] == '\r';
-    const Tag line{0, {m_next, end}, 0, 0, m_nextLine - 1};
+    const Tag line{Code(), {m_next, end}, 0, 0, m_nextLine - 1};
     m_file.refuseValue(line, "a group code from 0 to 1071");
 }
 
@@ -117,6 +117,6 @@ void TagReader::refuse(std::string_view expected) const
     {
         m_file.refuseValue(m_tag, expected);
     }
-    m_file.refuse(m_tag.line, expected, "group code " + std::to_string(m_tag.code));
+    m_file.refuse(m_tag.line, expected, "group code " + std::to_string(m_tag.code.number()));
 }
 }  // namespace host::dxf

@@ -16,7 +16,7 @@ public:
     // All throw an Error if there is no tag.
     void next();
     void nextButComments();
-    void skipTo(int code);  // from the current tag on
+    void skipTo(Code code);  // from the current tag on
 
     const Tag& tag() const { return m_tag; }
     bool is(std::string_view word) const  // the tag has code 0 and this value
@@ -29,7 +29,7 @@ public:
     [[noreturn]] void refuse(std::string_view expected) const;  // the tag
 
 private:
-    int readCode();
+    Code readCode();
     [[noreturn]] void refuseLine() const;
 
     const TagFile& m_file;

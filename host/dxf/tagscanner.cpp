@@ -131,7 +131,7 @@ void TagFileScanner::readHeaderValue(std::string_view variable)
     {
         m_file.m_codePage = trimmed(m_tag.value);
     }
-    else if (valueType(Code(m_tag.code)) == ValueType::int16 && m_tag.value.starts_with(' '))
+    else if (valueType(m_tag.code) == ValueType::int16 && m_tag.value.starts_with(' '))
     {
         m_file.m_style.padIntegers = true;
     }
@@ -186,7 +186,7 @@ void TagFileScanner::readRecord()
 // The handle stands before the record's own data. What has its code there is something else: the
 // sort handles of a SORTENTSTABLE, or anything in an XRECORD or between the braces of a group 102.
 // Returns 0 if there is none; one that is empty or zero is to be repaired.
-std::uint64_t TagFileScanner::readHandle(int handleCode)
+std::uint64_t TagFileScanner::readHandle(Code handleCode)
 {
     bool inBraces = false;
     for (m_reader.next(); m_tag.code != schema::recordType && m_tag.code != schema::subclass;

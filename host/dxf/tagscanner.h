@@ -23,7 +23,7 @@ private:
     void readRecords();
     void readRecord();
     void tellProgress() const;
-    std::uint64_t readHandle(int handleCode);
+    std::uint64_t readHandle(Code handleCode);
     void skipContents();
 
     void takeStyle();

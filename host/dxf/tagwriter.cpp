@@ -147,7 +147,7 @@ TagWriter::TagWriter(Drain drain, const TagStyle& style)
     }
 }
 
-void TagWriter::text(int code, std::string_view encoded)
+void TagWriter::text(Code code, std::string_view encoded)
 {
     if (encoded.find('\n') != encoded.npos)
     {
@@ -158,24 +158,25 @@ void TagWriter::text(int code, std::string_view encoded)
     end(m_at);
 }
 
-void TagWriter::integer(int code, std::int64_t value)
+void TagWriter::integer(Code code, std::int64_t value)
 {
     char digits[24];
     const char* last = std::to_chars(digits, digits + sizeof digits, value).ptr;
     char* at = begin(code);
-    for (auto width = last - digits; width < m_codes[code].integerWidth; ++width)
+    for (auto width = last - digits; width < m_codes[std::size_t(code.number())].integerWidth;
+         ++width)
     {
         *at++ = ' ';
     }
     end(std::copy(static_cast<const char*>(digits), last, at));
 }
 
-void TagWriter::handle(int code, std::uint64_t value)
+void TagWriter::handle(Code code, std::uint64_t value)
 {
     end(appendHandle(begin(code), value));
 }
 
-void TagWriter::real(int code, double value)
+void TagWriter::real(Code code, double value)
 {
     end(appendKnownReal(begin(code), value));
 }
@@ -192,16 +193,16 @@ char* TagWriter::appendNewReal(char* at, double value, RealText& known)
     return last;
 }
 
-void TagWriter::point(int code, double x, double y)
+void TagWriter::point(Code code, double x, double y)
 {
     real(code, x);
-    real(code + 10, y);
+    real(code.y(), y);
 }
 
-void TagWriter::point(int code, double x, double y, double z)
+void TagWriter::point(Code code, double x, double y, double z)
 {
     point(code, x, y);
-    real(code + 20, z);
+    real(code.z(), z);
 }
 
 void TagWriter::raw(std::string_view bytes)
@@ -227,7 +228,7 @@ void TagWriter::record(const RecordForm& form, std::uint64_t handle, const doubl
     copy(form.tail);
 }
 
-void TagWriter::codeLine(int code)
+void TagWriter::codeLine(Code code)
 {
     m_at = begin(code);
 }
@@ -248,13 +249,13 @@ void TagWriter::flush()
 }
 
 // Where the value goes, with room for a number and the line ending.
-char* TagWriter::begin(int code)
+char* TagWriter::begin(Code code)
 {
     if (m_full - m_at < static_cast<std::ptrdiff_t>(slack))
     {
         flush();
     }
-    const CodeLine& line = m_codes.at(code);
+    const CodeLine& line = m_codes.at(std::size_t(code.number()));
     std::memcpy(m_at, line.text, sizeof line.text);
     return m_at + line.length;
 }

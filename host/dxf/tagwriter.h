@@ -51,18 +51,18 @@ public:
     TagWriter& operator=(const TagWriter&) = delete;
 
     // Group codes are 0 to 1071.
-    void text(int code, std::string_view encoded);  // one line in the file's code page
-    void integer(int code, std::int64_t value);
-    void handle(int code, std::uint64_t value);          // hexadecimal capitals
-    void real(int code, double value);                   // as realText
-    void point(int code, double x, double y, double z);  // code, code + 10, code + 20
-    void point(int code, double x, double y);
+    void text(Code code, std::string_view encoded);  // one line in the file's code page
+    void integer(Code code, std::int64_t value);
+    void handle(Code code, std::uint64_t value);          // hexadecimal capitals
+    void real(Code code, double value);                   // as realText
+    void point(Code code, double x, double y, double z);  // code, its Y and its Z
+    void point(Code code, double x, double y);
 
     void raw(std::string_view bytes);  // as they are
     void record(const RecordForm& form, std::uint64_t handle, const double (&numbers)[6]);
 
     // A tag in two halves, for the parts of a form.
-    void codeLine(int code);
+    void codeLine(Code code);
     void lineEnd();
 
     // To be called at the end; a writer that goes out of scope before has lost its last bytes.
@@ -85,7 +85,7 @@ private:
     };
     static constexpr unsigned realTextBits = 13;
 
-    char* begin(int code);
+    char* begin(Code code);
     void end(char* at);
     char* appendKnownReal(char* at, double value);
     char* appendNewReal(char* at, double value, RealText& known);

@@ -3,6 +3,9 @@
 #include <array>
 #include <numbers>
 
+#include "host/dxf/schema/curves.h"
+#include "host/dxf/schema/entities.h"
+
 #include "host/geometry/ocs.h"
 #include "host/plot/curves.h"
 
@@ -12,51 +15,61 @@ namespace
 {
 void drawLine(const EntityTags& line, const Pen& pen)
 {
-    pen.path({line.point(10), line.point(11)});
+    pen.path({line.point(schema::line::start), line.point(schema::line::end)});
 }
 
 void drawCircle(const EntityTags& circle, const Pen& pen)
 {
     pen.withinPlane(circle.normal())
-        .path(arc(circle.point(10), circle.real(40), 0, 2 * std::numbers::pi), true);
+        .path(arc(circle.point(schema::circle::centre), circle.real(schema::circle::radius), 0,
+                  2 * std::numbers::pi),
+              true);
 }
 
 void drawArc(const EntityTags& curve, const Pen& pen)
 {
     pen.withinPlane(curve.normal())
-        .path(arc(curve.point(10), curve.real(40), curve.radians(50), curve.radians(51)));
+        .path(arc(curve.point(schema::circle::centre), curve.real(schema::circle::radius),
+                  curve.radians(schema::circle::startAngle),
+                  curve.radians(schema::circle::endAngle)));
 }
 
 // Stored in the coordinates around it, unlike circles and arcs.
 void drawEllipse(const EntityTags& curve, const Pen& pen)
 {
-    const AcGeVector3d major = curve.point(11).asVector();
-    const AcGeVector3d minor = Ocs(curve.normal()).normal().crossProduct(major) * curve.real(40, 1);
-    pen.path(ellipse(curve.point(10), major, minor, curve.real(41),
-                     curve.real(42, 2 * std::numbers::pi)));
+    const AcGeVector3d major = curve.point(schema::ellipse::majorAxis).asVector();
+    const AcGeVector3d minor =
+        Ocs(curve.normal()).normal().crossProduct(major) * curve.real(schema::ellipse::ratio, 1);
+    pen.path(ellipse(curve.point(schema::ellipse::centre), major, minor,
+                     curve.real(schema::ellipse::start),
+                     curve.real(schema::ellipse::end, 2 * std::numbers::pi)));
 }
 
 void drawPoint(const EntityTags& point, const Pen& pen)
 {
-    pen.dot(point.point(10));
+    pen.dot(point.point(schema::point::position));
 }
 
 // The last two corners stand in the order of a zigzag.
 void drawSolid(const EntityTags& solid, const Pen& pen)
 {
-    Points corners{solid.point(10), solid.point(11), solid.point(12)};
-    if (solid.has(13))
+    Points corners{solid.point(schema::solid::corners[0]), solid.point(schema::solid::corners[1]),
+                   solid.point(schema::solid::corners[2])};
+    if (solid.has(schema::solid::corners[3]))
     {
-        corners.insert(corners.begin() + 2, solid.point(13));
+        corners.insert(corners.begin() + 2, solid.point(schema::solid::corners[3]));
     }
     pen.withinPlane(solid.normal()).area({corners});
 }
 
 void drawFace(const EntityTags& face, const Pen& pen)
 {
-    const std::array corners{face.point(10), face.point(11), face.point(12),
-                             face.has(13) ? face.point(13) : face.point(12)};
-    const int hidden = face.integer(70);
+    const std::array corners{
+        face.point(schema::solid::corners[0]), face.point(schema::solid::corners[1]),
+        face.point(schema::solid::corners[2]),
+        face.has(schema::solid::corners[3]) ? face.point(schema::solid::corners[3])
+                                            : face.point(schema::solid::corners[2])};
+    const int hidden = face.integer(schema::solid::hiddenEdges);
     for (std::size_t i = 0; i < corners.size(); ++i)
     {
         if ((hidden >> i & 1) == 0)
@@ -66,7 +79,7 @@ void drawFace(const EntityTags& face, const Pen& pen)
     }
 }
 
-std::vector<double> reals(const EntityTags& entity, int code)
+std::vector<double> reals(const EntityTags& entity, Code code)
 {
     std::vector<double> values;
     for (const dxf::Tag& tag : entity.all())
@@ -82,42 +95,44 @@ std::vector<double> reals(const EntityTags& entity, int code)
 void drawSpline(const EntityTags& spline, const Pen& pen)
 {
     const Points curve =
-        bspline(spline.integer(71), reals(spline, 40), spline.points(10), reals(spline, 41));
-    pen.path(curve.empty() ? spline.points(11) : curve);
+        bspline(spline.integer(schema::spline::degree), reals(spline, schema::spline::knot),
+                spline.points(schema::spline::pole), reals(spline, schema::spline::weight));
+    pen.path(curve.empty() ? spline.points(schema::spline::fitPoint) : curve);
 }
 
 void drawXline(const EntityTags& line, const Pen& pen)
 {
-    pen.ray(line.point(10), line.point(11).asVector(), true);
+    pen.ray(line.point(schema::ray::start), line.point(schema::ray::direction).asVector(), true);
 }
 
 void drawRay(const EntityTags& line, const Pen& pen)
 {
-    pen.ray(line.point(10), line.point(11).asVector(), false);
+    pen.ray(line.point(schema::ray::start), line.point(schema::ray::direction).asVector(), false);
 }
 
 void drawLeader(const EntityTags& leader, const Pen& pen)
 {
-    pen.path(leader.points(10));
+    pen.path(leader.points(schema::leader::vertex));
 }
 
 // Each vertex tells how far along its miter each element lies.
 void drawMultiline(const EntityTags& multiline, const Pen& pen)
 {
-    const Points vertices = multiline.points(11);
-    const Points miters = multiline.points(13);
+    const Points vertices = multiline.points(schema::multiline::vertex);
+    const Points miters = multiline.points(schema::multiline::miter);
     std::vector<Points> elements;
     std::size_t vertex = 0, element = 0;
     bool distanceNext = false;
     for (const dxf::Tag& tag : multiline.all())
     {
-        if (tag.code == 11)
+        if (tag.code == schema::multiline::vertex)
         {
             ++vertex;
             element = 0;
         }
-        distanceNext |= tag.code == 74;
-        if (tag.code != 41 || !distanceNext || vertex == 0 || vertex > miters.size())
+        distanceNext |= tag.code == schema::multiline::parameterCount;
+        if (tag.code != schema::multiline::parameter || !distanceNext || vertex == 0 ||
+            vertex > miters.size())
         {
             continue;
         }
@@ -131,7 +146,7 @@ void drawMultiline(const EntityTags& multiline, const Pen& pen)
     }
     for (const Points& line : elements)
     {
-        pen.path(line, (multiline.integer(71) & 2) != 0);
+        pen.path(line, (multiline.integer(schema::multiline::flags) & 2) != 0);
     }
 }
 

@@ -4,23 +4,18 @@
 #include <limits>
 #include <numbers>
 
+#include "host/dxf/owntags.h"
+#include "host/dxf/schema/entities.h"
+
 namespace host::plot
 {
 EntityTags::EntityTags(const dxf::TagFile& file, const dxf::Record& record)
     : m_file(file), m_record(record)
 {
-    bool inList = false;  // "{ACAD_REACTORS" and the like
-    for (const dxf::Tag& tag : file.tags(record))
+    dxf::BraceLists lists;
+    for (const dxf::Tag& tag : dxf::ownTags(file, record))
     {
-        if (tag.code == 1001 || tag.code == 101)
-        {
-            break;
-        }
-        if (tag.code == 102)
-        {
-            inList = trimmed(tag.value).starts_with('{');
-        }
-        else if (!inList)
+        if (!lists.take(tag))
         {
             m_tags.push_back(tag);
         }
@@ -32,13 +27,13 @@ std::string_view EntityTags::type() const
     return m_file.typeName(m_record);
 }
 
-const dxf::Tag* EntityTags::find(int code) const
+const dxf::Tag* EntityTags::find(Code code) const
 {
     const auto found = std::ranges::find(m_tags, code, &dxf::Tag::code);
     return found != m_tags.end() ? &*found : nullptr;
 }
 
-double EntityTags::real(int code, double fallback) const
+double EntityTags::real(Code code, double fallback) const
 {
     const dxf::Tag* tag = find(code);
     return tag != nullptr ? m_file.real(*tag) : fallback;
@@ -51,34 +46,35 @@ int EntityTags::integer(const dxf::Tag& tag) const
                                         std::numeric_limits<int>::max()));
 }
 
-int EntityTags::integer(int code, int fallback) const
+int EntityTags::integer(Code code, int fallback) const
 {
     const dxf::Tag* tag = find(code);
     return tag != nullptr ? integer(*tag) : fallback;
 }
 
-std::string_view EntityTags::text(int code) const
+std::string_view EntityTags::text(Code code) const
 {
     const dxf::Tag* tag = find(code);
     return tag != nullptr ? trimmed(tag->value) : std::string_view();
 }
 
-AcGePoint3d EntityTags::point(int code) const
+AcGePoint3d EntityTags::point(Code code) const
 {
-    return {real(code), real(code + 10), real(code + 20)};
+    return {real(code), real(code.y()), real(code.z())};
 }
 
 AcGeVector3d EntityTags::normal() const
 {
-    return {real(210), real(220), real(230, 1)};
+    const Code x = schema::entity::normal;
+    return {real(x), real(x.y()), real(x.z(), 1)};
 }
 
-double EntityTags::radians(int code, double fallback) const
+double EntityTags::radians(Code code, double fallback) const
 {
     return real(code, fallback) * std::numbers::pi / 180;
 }
 
-Points EntityTags::points(int code, double z) const
+Points EntityTags::points(Code code, double z) const
 {
     Points points;
     for (const dxf::Tag& tag : m_tags)
@@ -87,11 +83,11 @@ Points EntityTags::points(int code, double z) const
         {
             points.emplace_back(real(tag), 0, z);
         }
-        else if (!points.empty() && tag.code == code + 10)
+        else if (!points.empty() && tag.code == code.y())
         {
             points.back().y = real(tag);
         }
-        else if (!points.empty() && tag.code == code + 20)
+        else if (!points.empty() && tag.code == code.z())
         {
             points.back().z = real(tag);
         }

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "host/dxf/schema/hatch.h"
 #include "host/plot/curves.h"
 #include "host/plot/entities.h"
 
@@ -16,11 +17,11 @@ public:
     explicit Cursor(const EntityTags& hatch) : m_hatch(hatch), m_tags(hatch.all()) {}
 
     bool atEnd() const { return m_at == m_tags.size(); }
-    bool at(int code) const { return !atEnd() && m_tags[m_at].code == code; }
+    bool at(Code code) const { return !atEnd() && m_tags[m_at].code == code; }
     void skip() { ++m_at; }
 
     // Goes on to the first tag with the code; false, and stays, when there is none.
-    bool seek(int code)
+    bool seek(Code code)
     {
         const auto found = std::ranges::find(m_tags.subspan(m_at), code, &dxf::Tag::code);
         if (found == m_tags.end())
@@ -32,20 +33,20 @@ public:
     }
 
     // Takes the tag if it has the code.
-    double real(int code, double fallback = 0)
+    double real(Code code, double fallback = 0)
     {
         return at(code) ? m_hatch.real(m_tags[m_at++]) : fallback;
     }
-    int integer(int code, int fallback = 0)
+    int integer(Code code, int fallback = 0)
     {
         return at(code) ? m_hatch.integer(m_tags[m_at++]) : fallback;
     }
-    AcGePoint3d point(int code)
+    AcGePoint3d point(Code code)
     {
         const double x = real(code);
-        return {x, real(code + 10), 0};
+        return {x, real(code.y()), 0};
     }
-    double radians(int code) { return real(code) * std::numbers::pi / 180; }
+    double radians(Code code) { return real(code) * std::numbers::pi / 180; }
 
 private:
     const EntityTags& m_hatch;
@@ -55,14 +56,14 @@ private:
 
 Points polylineLoop(Cursor& cursor)
 {
-    const bool bulges = cursor.integer(72) != 0;
-    cursor.integer(73);  // closed: a hatch has no others
-    const int count = cursor.integer(93);
+    const bool bulges = cursor.integer(schema::hatch::hasBulges) != 0;
+    cursor.integer(schema::hatch::isClosed);  // closed: a hatch has no others
+    const int count = cursor.integer(schema::hatch::partCount);
     std::vector<Vertex> vertices;
-    for (int i = 0; i < count && cursor.at(10); ++i)
+    for (int i = 0; i < count && cursor.at(schema::hatch::vertex); ++i)
     {
-        vertices.push_back({cursor.point(10)});
-        vertices.back().bulge = bulges ? cursor.real(42) : 0;
+        vertices.push_back({cursor.point(schema::hatch::vertex)});
+        vertices.back().bulge = bulges ? cursor.real(schema::hatch::bulge) : 0;
     }
     return chain(vertices, true);
 }
@@ -80,43 +81,45 @@ Points turned(bool counterClockwise, double start, double end, const AcGePoint3d
 
 Points arcEdge(Cursor& cursor)
 {
-    const AcGePoint3d center = cursor.point(10);
-    const double radius = cursor.real(40);
-    const double start = cursor.radians(50);
-    const double end = cursor.radians(51);
-    return turned(cursor.integer(73, 1) != 0, start, end, center, {radius, 0, 0}, {0, radius, 0});
+    const AcGePoint3d center = cursor.point(schema::hatch::centre);
+    const double radius = cursor.real(schema::hatch::radius);
+    const double start = cursor.radians(schema::hatch::startAngle);
+    const double end = cursor.radians(schema::hatch::endAngle);
+    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, center,
+                  {radius, 0, 0}, {0, radius, 0});
 }
 
 Points ellipseEdge(Cursor& cursor)
 {
-    const AcGePoint3d center = cursor.point(10);
-    const AcGeVector3d major = cursor.point(11).asVector();
-    const double ratio = cursor.real(40, 1);
-    const double start = cursor.radians(50);
-    const double end = cursor.radians(51);
-    return turned(cursor.integer(73, 1) != 0, start, end, center, major,
-                  AcGeVector3d(-major.y, major.x, 0) * ratio);
+    const AcGePoint3d center = cursor.point(schema::hatch::centre);
+    const AcGeVector3d major = cursor.point(schema::hatch::majorAxis).asVector();
+    const double ratio = cursor.real(schema::hatch::ratio, 1);
+    const double start = cursor.radians(schema::hatch::startAngle);
+    const double end = cursor.radians(schema::hatch::endAngle);
+    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, center,
+                  major, AcGeVector3d(-major.y, major.x, 0) * ratio);
 }
 
 Points splineEdge(Cursor& cursor)
 {
-    const int degree = cursor.integer(94);
-    cursor.integer(73);  // rational: tells that weights stand beside the poles
-    cursor.integer(74);
-    const int knotCount = cursor.integer(95);
-    const int poleCount = cursor.integer(96);
+    const int degree = cursor.integer(schema::hatch::degree);
+    cursor.integer(
+        schema::hatch::isRational);  // rational: tells that weights stand beside the poles
+    cursor.integer(schema::hatch::isPeriodic);
+    const int knotCount = cursor.integer(schema::hatch::knotCount);
+    const int poleCount = cursor.integer(schema::hatch::poleCount);
     std::vector<double> knots, weights;
-    for (int i = 0; i < knotCount && cursor.at(40); ++i)
+    for (int i = 0; i < knotCount && cursor.at(schema::hatch::knot); ++i)
     {
-        knots.push_back(cursor.real(40));
+        knots.push_back(cursor.real(schema::hatch::knot));
     }
     Points poles;
-    for (int i = 0; i < poleCount && cursor.at(10); ++i)
+    for (int i = 0; i < poleCount && cursor.at(schema::hatch::pole); ++i)
     {
-        poles.push_back(cursor.point(10));
-        if (cursor.at(42))
+        poles.push_back(cursor.point(schema::hatch::pole));
+        if (cursor.at(schema::hatch::weight))
         {
-            weights.push_back(cursor.real(42));
+            weights.push_back(cursor.real(schema::hatch::weight));
         }
     }
     return bspline(degree, knots, poles, weights);
@@ -124,12 +127,12 @@ Points splineEdge(Cursor& cursor)
 
 Points edge(Cursor& cursor)
 {
-    switch (cursor.integer(72))
+    switch (cursor.integer(schema::hatch::edgeKind))
     {
         case 1:
         {
-            const AcGePoint3d start = cursor.point(10);
-            return {start, cursor.point(11)};
+            const AcGePoint3d start = cursor.point(schema::hatch::start);
+            return {start, cursor.point(schema::hatch::end)};
         }
         case 2:
             return arcEdge(cursor);
@@ -145,8 +148,8 @@ Points edge(Cursor& cursor)
 Points edgeLoop(Cursor& cursor)
 {
     Points loop;
-    const int count = cursor.integer(93);
-    for (int i = 0; i < count && cursor.seek(72); ++i)
+    const int count = cursor.integer(schema::hatch::partCount);
+    for (int i = 0; i < count && cursor.seek(schema::hatch::edgeKind); ++i)
     {
         const Points part = edge(cursor);
         loop.insert(loop.end(), part.begin(), part.end());
@@ -158,14 +161,14 @@ std::vector<Points> readLoops(Cursor& cursor)
 {
     const int polylineFlag = 2;
     std::vector<Points> loops;
-    if (!cursor.seek(91))
+    if (!cursor.seek(schema::hatch::loopCount))
     {
         return loops;
     }
-    const int count = cursor.integer(91);
-    for (int i = 0; i < count && cursor.seek(92); ++i)
+    const int count = cursor.integer(schema::hatch::loopCount);
+    for (int i = 0; i < count && cursor.seek(schema::hatch::loopFlags); ++i)
     {
-        const bool polyline = (cursor.integer(92) & polylineFlag) != 0;
+        const bool polyline = (cursor.integer(schema::hatch::loopFlags) & polylineFlag) != 0;
         loops.push_back(polyline ? polylineLoop(cursor) : edgeLoop(cursor));
     }
     return loops;
@@ -182,11 +185,11 @@ struct PatternLine
 PatternLine readPatternLine(Cursor& cursor)
 {
     PatternLine line{};
-    line.angle = cursor.radians(53);
-    line.base.x = cursor.real(43);
-    line.base.y = cursor.real(44);
-    line.offset.x = cursor.real(45);
-    line.offset.y = cursor.real(46);
+    line.angle = cursor.radians(schema::hatch::lineAngle);
+    line.base.x = cursor.real(schema::hatch::lineBaseX);
+    line.base.y = cursor.real(schema::hatch::lineBaseY);
+    line.offset.x = cursor.real(schema::hatch::lineOffsetX);
+    line.offset.y = cursor.real(schema::hatch::lineOffsetY);
     return line;
 }
 
@@ -251,16 +254,18 @@ void drawHatch(const EntityTags& hatch, const Pen& pen)
 {
     Cursor cursor(hatch);
     std::vector<Points> loops = readLoops(cursor);
-    const double elevation = hatch.point(10).z;
+    const double elevation = hatch.point(schema::hatch::elevation).z;
     const Pen plane =
         pen.withinPlane(hatch.normal()).within(AcGeMatrix3d::translation({0, 0, elevation}));
-    if (hatch.integer(70) != 0)
+    if (hatch.integer(schema::hatch::isSolid) != 0)
     {
         plane.area(loops);
         return;
     }
-    const int count = cursor.seek(78) ? cursor.integer(78) : 0;
-    for (int i = 0; i < count && cursor.seek(53); ++i)
+    const int count = cursor.seek(schema::hatch::patternLineCount)
+                          ? cursor.integer(schema::hatch::patternLineCount)
+                          : 0;
+    for (int i = 0; i < count && cursor.seek(schema::hatch::lineAngle); ++i)
     {
         drawFamily(loops, readPatternLine(cursor), plane);
     }

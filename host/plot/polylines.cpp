@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/dxf/schema/curves.h"
+#include "host/dxf/schema/entities.h"
 #include "host/plot/curves.h"
 #include "host/plot/entities.h"
 
@@ -8,22 +10,6 @@ namespace host::plot
 {
 namespace
 {
-enum PolylineFlag
-{
-    closedFlag = 1,
-    flag3d = 8,
-    meshFlag = 16,
-    closedAcrossFlag = 32,
-    facesFlag = 64
-};
-
-enum VertexFlag
-{
-    splineFrameFlag = 16,
-    meshVertexFlag = 64,
-    faceFlag = 128
-};
-
 AcGeVector3d unitLeft(const AcGePoint3d& from, const AcGePoint3d& to)
 {
     const double length = std::hypot(to.x - from.x, to.y - from.y);
@@ -68,14 +54,17 @@ void drawFlat(const std::vector<Vertex>& vertices, bool closed, const Pen& pen)
 // `count` points across, in rows one after the other.
 void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
 {
-    const int flags = mesh.integer(70);
-    const auto rows =
-        std::size_t(std::max(mesh.integer(73) ? mesh.integer(73) : mesh.integer(71), 1));
+    const int flags = mesh.integer(schema::entity::flags);
+    const auto rows = std::size_t(std::max(mesh.integer(schema::polyline::smoothRows)
+                                               ? mesh.integer(schema::polyline::smoothRows)
+                                               : mesh.integer(schema::polyline::meshRows),
+                                           1));
     const std::size_t across = points.size() / rows;
     for (std::size_t row = 0; row < rows && across > 0; ++row)
     {
         const auto first = points.begin() + std::ptrdiff_t(row * across);
-        pen.path(Points(first, first + std::ptrdiff_t(across)), (flags & closedAcrossFlag) != 0);
+        pen.path(Points(first, first + std::ptrdiff_t(across)),
+                 (flags & schema::polyline::closedAcrossFlag) != 0);
     }
     for (std::size_t column = 0; column < across; ++column)
     {
@@ -84,7 +73,7 @@ void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
         {
             line.push_back(points[row * across + column]);
         }
-        pen.path(line, (flags & closedFlag) != 0);
+        pen.path(line, (flags & schema::polyline::closedFlag) != 0);
     }
 }
 
@@ -92,7 +81,7 @@ void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
 void drawFaceOf(const EntityTags& face, const Points& points, const Pen& pen)
 {
     std::vector<int> corners;
-    for (int code = 71; code <= 74; ++code)
+    for (const Code code : schema::vertex::corners)
     {
         const int corner = face.integer(code);
         if (corner != 0 && std::size_t(std::abs(corner)) <= points.size())
@@ -116,10 +105,10 @@ void drawFaces(std::span<const EntityTags> vertices, const Pen& pen)
     Points points;
     for (const EntityTags& vertex : vertices)
     {
-        const int flags = vertex.integer(70);
-        if ((flags & faceFlag) == 0 || (flags & meshVertexFlag) != 0)
+        const int flags = vertex.integer(schema::entity::flags);
+        if ((flags & schema::vertex::faceFlag) == 0 || (flags & schema::vertex::meshFlag) != 0)
         {
-            points.push_back(vertex.point(10));
+            points.push_back(vertex.point(schema::vertex::position));
         }
         else
         {
@@ -130,18 +119,18 @@ void drawFaces(std::span<const EntityTags> vertices, const Pen& pen)
 
 bool isOfFrame(const EntityTags& vertex)
 {
-    return (vertex.integer(70) & splineFrameFlag) != 0;
+    return (vertex.integer(schema::entity::flags) & schema::vertex::splineFrameFlag) != 0;
 }
 }  // namespace
 
 void drawLightPolyline(const EntityTags& polyline, const Pen& pen)
 {
-    const double elevation = polyline.real(38);
-    const double width = polyline.real(43);
+    const double elevation = polyline.real(schema::lightpolyline::elevation);
+    const double width = polyline.real(schema::lightpolyline::width);
     std::vector<Vertex> vertices;
     for (const dxf::Tag& tag : polyline.all())
     {
-        if (tag.code == 10)
+        if (tag.code == schema::lightpolyline::vertex)
         {
             vertices.push_back({{polyline.real(tag), 0, elevation}, 0, width, width});
             continue;
@@ -151,32 +140,34 @@ void drawLightPolyline(const EntityTags& polyline, const Pen& pen)
             continue;
         }
         Vertex& vertex = vertices.back();
-        double* const field = tag.code == 20   ? &vertex.point.y
-                              : tag.code == 40 ? &vertex.startWidth
-                              : tag.code == 41 ? &vertex.endWidth
-                              : tag.code == 42 ? &vertex.bulge
-                                               : nullptr;
+        double* const field = tag.code == schema::lightpolyline::vertex.y()   ? &vertex.point.y
+                              : tag.code == schema::lightpolyline::startWidth ? &vertex.startWidth
+                              : tag.code == schema::lightpolyline::endWidth   ? &vertex.endWidth
+                              : tag.code == schema::lightpolyline::bulge      ? &vertex.bulge
+                                                                              : nullptr;
         if (field != nullptr)
         {
             *field = polyline.real(tag);
         }
     }
-    const bool closed = (polyline.integer(70) & closedFlag) != 0;
+    const bool closed =
+        (polyline.integer(schema::entity::flags) & schema::polyline::closedFlag) != 0;
     drawFlat(vertices, closed, pen.withinPlane(polyline.normal()));
 }
 
 void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertices, const Pen& pen)
 {
-    const int flags = polyline.integer(70);
-    if ((flags & facesFlag) != 0)
+    const int flags = polyline.integer(schema::entity::flags);
+    if ((flags & schema::polyline::facesFlag) != 0)
     {
         drawFaces(vertices, pen);
         return;
     }
-    const bool spatial = (flags & (flag3d | meshFlag)) != 0;
-    const double elevation = polyline.point(10).z;
-    const double startWidth = polyline.real(40);
-    const double endWidth = polyline.real(41);
+    const bool spatial =
+        (flags & (schema::polyline::spatialFlag | schema::polyline::meshFlag)) != 0;
+    const double elevation = polyline.point(schema::polyline::elevation).z;
+    const double startWidth = polyline.real(schema::polyline::startWidth);
+    const double endWidth = polyline.real(schema::polyline::endWidth);
     std::vector<Vertex> flat;
     Points points;
     for (const EntityTags& vertex : vertices)
@@ -185,15 +176,15 @@ void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertic
         {
             continue;
         }
-        const AcGePoint3d point = vertex.point(10);
+        const AcGePoint3d point = vertex.point(schema::vertex::position);
         points.push_back(point);
         flat.push_back({{point.x, point.y, elevation},
-                        vertex.real(42),
-                        vertex.real(40, startWidth),
-                        vertex.real(41, endWidth)});
+                        vertex.real(schema::vertex::bulge),
+                        vertex.real(schema::vertex::startWidth, startWidth),
+                        vertex.real(schema::vertex::endWidth, endWidth)});
     }
-    const bool closed = (flags & closedFlag) != 0;
-    if ((flags & meshFlag) != 0)
+    const bool closed = (flags & schema::polyline::closedFlag) != 0;
+    if ((flags & schema::polyline::meshFlag) != 0)
     {
         drawMesh(polyline, points, pen);
     }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/dxf/schema/entities.h"
+#include "host/dxf/schema/references.h"
 #include "host/geometry/ocs.h"
 #include "host/plot/entities.h"
 #include "host/plot/pen.h"
@@ -106,8 +108,9 @@ std::size_t Scene::drawOne(Records records, const Place& place, Sink& sink)
     try
     {
         const EntityTags entity(m_file, records[0]);
-        const bool elsewhere = place.depth == 0 && entity.integer(67) != 0;
-        if (!isSilent(type) && !elsewhere && entity.integer(60) == 0)
+        const bool elsewhere =
+            place.depth == 0 && entity.integer(schema::entity::inPaperSpace) != 0;
+        if (!isSilent(type) && !elsewhere && entity.integer(schema::entity::invisible) == 0)
         {
             drawn = drawSeen(entity, records.subspan(1, followers), place, sink);
         }
@@ -125,7 +128,7 @@ std::size_t Scene::drawOne(Records records, const Place& place, Sink& sink)
 
 const Layer& Scene::layerOf(const EntityTags& entity, const Place& place) const
 {
-    const std::string_view name = entity.text(8);
+    const std::string_view name = entity.text(schema::entity::layer);
     return place.layer != nullptr && (name == "0" || name.empty()) ? *place.layer
                                                                    : m_tables.layer(name);
 }
@@ -133,8 +136,10 @@ const Layer& Scene::layerOf(const EntityTags& entity, const Place& place) const
 Color Scene::colorOf(const EntityTags& entity, const Place& place) const
 {
     const OwnColor own =
-        ownColor(entity.integer(62, 256),
-                 entity.has(420) ? std::optional(entity.integer(420)) : std::nullopt);
+        ownColor(entity.integer(schema::entity::color, schema::entity::colorByLayer),
+                 entity.has(schema::entity::trueColor)
+                     ? std::optional(entity.integer(schema::entity::trueColor))
+                     : std::nullopt);
     return own.byLayer ? layerOf(entity, place).color : own.byBlock ? place.color : own.color;
 }
 
@@ -167,7 +172,8 @@ bool Scene::drawSeen(const EntityTags& entity, Records followers, const Place& p
     }
     if (entity.type() == "ATTDEF" && place.depth > 0)
     {
-        if ((entity.integer(70) & (invisibleFlag | constantFlag)) == constantFlag)
+        if ((entity.integer(schema::attribute::flags) & (invisibleFlag | constantFlag)) ==
+            constantFlag)
         {
             drawText(entity, m_codePage, pen);
         }
@@ -186,24 +192,27 @@ bool Scene::drawReference(const EntityTags& entity, const Place& place, Sink& si
     {
         return drawInsert(entity, inside, sink);
     }
-    const Block* block = m_tables.block(entity.text(2));
+    const Block* block = m_tables.block(entity.text(schema::insert::block));
     return block != nullptr && drawBlock(*block, inside, sink);
 }
 
 bool Scene::drawInsert(const EntityTags& insert, const Place& place, Sink& sink)
 {
-    const Block* block = m_tables.block(insert.text(2));
+    const Block* block = m_tables.block(insert.text(schema::insert::block));
     if (block == nullptr)
     {
         return false;
     }
-    const AcGeMatrix3d start = place.toWorld * Ocs(insert.normal()).matrix() *
-                               AcGeMatrix3d::translation(insert.point(10).asVector()) *
-                               AcGeMatrix3d::rotation(insert.radians(50), AcGeVector3d::kZAxis);
-    const AcGeMatrix3d end = scaling(insert.real(41, 1), insert.real(42, 1), insert.real(43, 1)) *
-                             AcGeMatrix3d::translation(-block->base.asVector());
-    const int columns = std::max(insert.integer(70, 1), 1);
-    const int rows = std::max(insert.integer(71, 1), 1);
+    const AcGeMatrix3d start =
+        place.toWorld * Ocs(insert.normal()).matrix() *
+        AcGeMatrix3d::translation(insert.point(schema::insert::position).asVector()) *
+        AcGeMatrix3d::rotation(insert.radians(schema::insert::rotation), AcGeVector3d::kZAxis);
+    const AcGeMatrix3d end =
+        scaling(insert.real(schema::insert::scaleX, 1), insert.real(schema::insert::scaleY, 1),
+                insert.real(schema::insert::scaleZ, 1)) *
+        AcGeMatrix3d::translation(-block->base.asVector());
+    const int columns = std::max(insert.integer(schema::insert::columns, 1), 1);
+    const int rows = std::max(insert.integer(schema::insert::rows, 1), 1);
     bool drawn = true;
     for (int row = 0; row < rows; ++row)
     {
@@ -213,7 +222,8 @@ bool Scene::drawInsert(const EntityTags& insert, const Place& place, Sink& sink)
             {
                 return true;
             }
-            const AcGeVector3d shift(column * insert.real(44), row * insert.real(45), 0);
+            const AcGeVector3d shift(column * insert.real(schema::insert::columnSpacing),
+                                     row * insert.real(schema::insert::rowSpacing), 0);
             Place cell = place;
             cell.toWorld = start * AcGeMatrix3d::translation(shift) * end;
             drawn = drawBlock(*block, cell, sink) && drawn;

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "host/dxf/schema/entities.h"
+#include "host/dxf/schema/tablerecords.h"
 #include "host/colors/indexcolors.h"
 #include "host/plot/entitytags.h"
 #include "host/text/foldcase.h"
@@ -31,7 +33,9 @@ void readable(const Read& read)
 
 std::optional<int> trueColor(const EntityTags& tags)
 {
-    return tags.has(420) ? std::optional(tags.integer(420)) : std::nullopt;
+    return tags.has(schema::entity::trueColor)
+               ? std::optional(tags.integer(schema::entity::trueColor))
+               : std::nullopt;
 }
 }  // namespace
 
@@ -42,14 +46,15 @@ OwnColor ownColor(int index, std::optional<int> rgb)
         const auto part = [&](int shift) { return (*rgb >> shift & 255) / 255.0; };
         return {false, false, {part(16), part(8), part(0)}};
     }
-    return {index == 256, index == 0, indexColor(std::abs(index))};
+    return {index == schema::entity::colorByLayer, index == schema::entity::colorByBlock,
+            indexColor(std::abs(index))};
 }
 
 Tables::Tables(const dxf::TagFile& file, const dxf::CodePage& codePage) : m_codePage(codePage)
 {
     for (const dxf::Record& record : file.records("TABLES"))
     {
-        if (file.typeName(record) == "LAYER")
+        if (file.typeName(record) == schema::layer::table.type)
         {
             readable([&] { readLayer(file, record); });
         }
@@ -65,12 +70,13 @@ std::wstring Tables::key(std::string_view name) const
 void Tables::readLayer(const dxf::TagFile& file, const dxf::Record& record)
 {
     const EntityTags tags(file, record);
-    const int index = tags.integer(62, 7);
+    const int index = tags.integer(schema::layer::color, schema::layer::usualColor);
     Layer layer;
     layer.color = ownColor(std::abs(index), trueColor(tags)).color;
-    layer.frozen = (tags.integer(70) & 1) != 0;
-    layer.shown = index >= 0 && tags.integer(290, 1) != 0 && !isDefpoints(tags.text(2));
-    m_layers[key(tags.text(2))] = layer;
+    layer.frozen = (tags.integer(schema::symbolFlags) & schema::layer::frozenFlag) != 0;
+    layer.shown = index >= 0 && tags.integer(schema::layer::plots, 1) != 0 &&
+                  !isDefpoints(tags.text(schema::name));
+    m_layers[key(tags.text(schema::name))] = layer;
 }
 
 void Tables::readBlocks(const dxf::TagFile& file)
@@ -78,19 +84,19 @@ void Tables::readBlocks(const dxf::TagFile& file)
     const std::span<const dxf::Record> records = file.records("BLOCKS");
     for (std::size_t i = 0; i < records.size(); ++i)
     {
-        if (file.typeName(records[i]) != "BLOCK")
+        if (file.typeName(records[i]) != schema::block::type)
         {
             continue;
         }
         const EntityTags head(file, records[i]);
         const std::size_t first = i + 1;
-        while (i + 1 < records.size() && file.typeName(records[i + 1]) != "ENDBLK")
+        while (i + 1 < records.size() && file.typeName(records[i + 1]) != schema::endOfBlock)
         {
             ++i;
         }
-        Block& block = m_blocks[key(head.text(2))];
+        Block& block = m_blocks[key(head.text(schema::name))];
         block.records = records.subspan(first, i + 1 - first);
-        readable([&] { block.base = head.point(10); });
+        readable([&] { block.base = head.point(schema::block::base); });
     }
 }
 

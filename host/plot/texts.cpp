@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/dxf/schema/entities.h"
+#include "host/dxf/schema/references.h"
 #include "host/geometry/ocs.h"
 #include "host/plot/entities.h"
 #include "host/plot/plaintext.h"
@@ -62,17 +64,21 @@ void stretch(TextLine& line, const AcGeVector3d& between, bool heightToo)
 
 void place(TextLine& line, const EntityTags& text)
 {
-    const int horizontal = text.integer(72);
-    const int vertical = text.integer(text.type() == "TEXT" ? 73 : 74);
-    line.origin = text.point(10);
+    const int horizontal = text.integer(schema::text::horizontalMode);
+    const int vertical =
+        text.integer(text.type() == schema::text::table.type ? schema::text::verticalMode
+                                                             : schema::attribute::verticalMode);
+    line.origin = text.point(schema::text::position);
     if (horizontal == alignedMode || horizontal == fitMode)
     {
-        stretch(line, text.point(11) - text.point(10), horizontal == alignedMode);
+        stretch(line, text.point(schema::text::alignment) - text.point(schema::text::position),
+                horizontal == alignedMode);
         return;
     }
     if (horizontal != leftMode || vertical != baselineMode)
     {
-        line.origin = text.has(11) ? text.point(11) : text.point(10);
+        line.origin = text.has(schema::text::alignment) ? text.point(schema::text::alignment)
+                                                        : text.point(schema::text::position);
     }
     line.across = horizontal == rightMode                                ? 1
                   : horizontal == centerMode || horizontal == middleMode ? 0.5
@@ -82,15 +88,17 @@ void place(TextLine& line, const EntityTags& text)
 
 void drawWords(const EntityTags& text, std::wstring words, const Pen& pen)
 {
-    const double height = text.real(40);
-    const double angle = text.radians(50);
+    const double height = text.real(schema::text::height);
+    const double angle = text.radians(schema::text::rotation);
     TextLine line;
     line.text = withoutPercentCodes(words);
-    line.along = AcGeVector3d(std::cos(angle), std::sin(angle), 0) * (height * text.real(41, 1));
+    line.along = AcGeVector3d(std::cos(angle), std::sin(angle), 0) *
+                 (height * text.real(schema::text::widthFactor, 1));
     line.up = AcGeVector3d(-std::sin(angle), std::cos(angle), 0) * height;
     place(line, text);
-    line.up = line.up + line.along.normal() * (line.up.length() * std::tan(text.radians(51)));
-    const int flags = text.integer(71);
+    line.up = line.up + line.along.normal() *
+                            (line.up.length() * std::tan(text.radians(schema::text::oblique)));
+    const int flags = text.integer(schema::text::generation);
     line.along = (flags & backwards) != 0 ? -line.along : line.along;
     line.up = (flags & upsideDown) != 0 ? -line.up : line.up;
     pen.withinPlane(text.normal()).text(line);
@@ -123,11 +131,11 @@ std::wstring contents(const EntityTags& text, const dxf::CodePage& codePage)
     std::string bytes;  // a long text comes in pieces, which may part a character
     for (const dxf::Tag& tag : text.all())
     {
-        bytes += tag.code == 3 ? tag.value : std::string_view();
+        bytes += tag.code == schema::paragraphs::part ? tag.value : std::string_view();
     }
     for (const dxf::Tag& tag : text.all())
     {
-        bytes += tag.code == 1 ? tag.value : std::string_view();
+        bytes += tag.code == schema::paragraphs::lastPart ? tag.value : std::string_view();
     }
     return codePage.decode(bytes);
 }
@@ -135,22 +143,23 @@ std::wstring contents(const EntityTags& text, const dxf::CodePage& codePage)
 // In WCS; the angle counts only without a direction.
 AcGeVector3d directionOf(const EntityTags& text)
 {
-    const AcGeVector3d direction = text.point(11).asVector();
-    return text.has(11) && direction.lengthSqrd() > 0
+    const AcGeVector3d direction = text.point(schema::paragraphs::direction).asVector();
+    return text.has(schema::paragraphs::direction) && direction.lengthSqrd() > 0
                ? direction / direction.length()
-               : Ocs(text.normal()).directionWcs(text.radians(50));
+               : Ocs(text.normal()).directionWcs(text.radians(schema::paragraphs::rotation));
 }
 }  // namespace
 
 void drawText(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
 {
-    if (text.type() == "ATTRIB" && (text.integer(70) & invisibleAttribute) != 0)
+    if (text.type() == "ATTRIB" &&
+        (text.integer(schema::attribute::flags) & invisibleAttribute) != 0)
     {
         return;
     }
     for (const dxf::Tag& tag : text.all())
     {
-        if (tag.code == 1)
+        if (tag.code == schema::text::contents)
         {
             drawWords(text, codePage.decode(tag.value), pen);
             return;
@@ -161,20 +170,21 @@ void drawText(const EntityTags& text, const dxf::CodePage& codePage, const Pen& 
 // Outside of blocks its tag is what is seen.
 void drawAttributeDefinition(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
 {
-    drawWords(text, codePage.decode(text.text(2)), pen);
+    drawWords(text, codePage.decode(text.text(schema::attribute::tag)), pen);
 }
 
 void drawParagraphs(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
 {
-    const double height = text.real(40);
-    const double width = height > 0 ? text.real(41) / height : 0;
+    const double height = text.real(schema::paragraphs::height);
+    const double width = height > 0 ? text.real(schema::paragraphs::width) / height : 0;
     std::vector<std::wstring> lines;
     for (const std::wstring& paragraph : paragraphs(contents(text, codePage)))
     {
         std::ranges::move(wrapped(paragraph, width), std::back_inserter(lines));
     }
-    const int attachment = std::clamp(text.integer(71, 1), 1, 9) - 1;
-    const double spacing = 5.0 / 3.0 * text.real(44, 1);  // in heights, from line to line
+    const int attachment = std::clamp(text.integer(schema::paragraphs::attachment, 1), 1, 9) - 1;
+    const double spacing =
+        5.0 / 3.0 * text.real(schema::paragraphs::lineSpacing, 1);  // in heights, from line to line
     const double all = spacing * double(lines.size() - 1) + 1;
     TextLine line;
     line.along = directionOf(text) * height;
@@ -185,7 +195,7 @@ void drawParagraphs(const EntityTags& text, const dxf::CodePage& codePage, const
     for (const std::wstring& words : lines)
     {
         line.text = words;
-        line.origin = text.point(10) - line.up * down;
+        line.origin = text.point(schema::paragraphs::position) - line.up * down;
         down += spacing;
         pen.text(line);
     }

@@ -149,7 +149,7 @@ TEST(BinaryForm, aTextWithLineFeedsIsReadPlottedAndWrittenBack)
     ASSERT_EQ(file.records("ENTITIES").size(), 1u);
     for (const Tag& tag : file.tags(file.records("ENTITIES")[0]))
     {
-        if (tag.code == 1)
+        if (tag.code.number() == 1)
         {
             EXPECT_EQ(CodePage(file.release(), "").decode(tag.value),
                       std::wstring(several.begin(), several.end()));

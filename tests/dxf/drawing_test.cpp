@@ -114,7 +114,7 @@ TEST_F(Drawing, aNewLineGetsAHandleAboveAllOthersAndTheSeedFollows)
     std::vector<double> reals;
     for (const host::dxf::Tag& tag : file.tags(line))
     {
-        if (tag.code >= 10 && tag.code < 40)
+        if (tag.code.number() >= 10 && tag.code.number() < 40)
         {
             reals.push_back(file.real(tag));
         }

@@ -23,7 +23,7 @@ Tag tagOf(const TagFile& file, std::size_t record, int code)
 {
     for (const Tag& tag : file.tags(file.records()[record]))
     {
-        if (tag.code == code)
+        if (tag.code == Code(code))
         {
             return tag;
         }
@@ -76,7 +76,7 @@ TEST(Edits, tagsAreAddedAndRemovedInTheFilesOwnStyle)
     const TagFile file = TagFile::fromText(text, "FILE");
     Edits edits(file);
     edits.remove(tagOf(file, 0, 62));
-    edits.insertAfter(tagOf(file, 0, 8), [](TagWriter& w) { w.integer(62, 5); });
+    edits.insertAfter(tagOf(file, 0, 8), [](TagWriter& w) { w.integer(Code(62), 5); });
     EXPECT_EQ(written(edits), replaced(replaced(text, " 62\r\n     3\r\n", ""), "Walls\r\n",
                                        "Walls\r\n 62\r\n5\r\n"));
 }
@@ -103,9 +103,9 @@ TEST(Edits, aHeaderVariableIsChangedOrAdded)
 {
     const TagFile file = TagFile::fromText(original, "FILE");
     Edits edits(file);
-    edits.setHeader("$INSUNITS", [](TagWriter& w) { w.integer(70, 6); });
-    edits.setHeader("$UCSORG", [](TagWriter& w) { w.point(10, 1, 2, 3); });
-    edits.setHeader("$LTSCALE", [](TagWriter& w) { w.real(40, 2); });
+    edits.setHeader("$INSUNITS", [](TagWriter& w) { w.integer(Code(70), 6); });
+    edits.setHeader("$UCSORG", [](TagWriter& w) { w.point(Code(10), 1, 2, 3); });
+    edits.setHeader("$LTSCALE", [](TagWriter& w) { w.real(Code(40), 2); });
     EXPECT_EQ(written(edits),
               replaced(original, "70\n4\n",
                        "70\n6\n9\n$UCSORG\n10\n1.0\n20\n2.0\n30\n3.0\n9\n$LTSCALE\n40\n2.0\n"));
@@ -115,7 +115,7 @@ TEST(Edits, aHeaderVariableThatIsTheSameIsNoChange)
 {
     const TagFile file = TagFile::fromText(original, "FILE");
     Edits edits(file);
-    edits.setHeader("$INSUNITS", [](TagWriter& w) { w.integer(70, 4); });
+    edits.setHeader("$INSUNITS", [](TagWriter& w) { w.integer(Code(70), 4); });
     EXPECT_TRUE(edits.empty());
 }
 
@@ -147,7 +147,7 @@ TEST(Edits, newRecordsAreMadeOnlyWhileTheFileIsWritten)
                  {
                      for (; made < 100000; ++made)
                      {
-                         w.handle(5, made + 0x100);
+                         w.handle(Code(5), made + 0x100);
                      }
                  });
     EXPECT_EQ(made, 0);

@@ -88,7 +88,8 @@ TEST(EmptyDrawing, everyReferenceNamesARecord)
     {
         for (const Tag& tag : file.tags(record))
         {
-            const bool refers = (tag.code >= 320 && tag.code < 370) || tag.code == 390;
+            const bool refers =
+                (tag.code.number() >= 320 && tag.code.number() < 370) || tag.code.number() == 390;
             if (!refers || file.handle(tag) == 0)
             {
                 continue;
@@ -119,7 +120,7 @@ TEST(EmptyDrawing, everyTableCountsItsEntries)
         {
             for (const Tag& tag : file.tags(record))
             {
-                if (counted = 0; tag.code == 70)
+                if (counted = 0; tag.code.number() == 70)
                 {
                     stated = file.integer(tag);
                 }

@@ -2,8 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 #include <limits>
+#include <map>
 #include <random>
+#include <regex>
 
 #include "host/database/drawing.h"
 #include "host/dxf/binaryform.h"
@@ -17,6 +21,7 @@
 #include "tests/dxf/smalldrawing.h"
 
 using namespace host::dxf;
+namespace fs = std::filesystem;
 
 namespace
 {
@@ -247,6 +252,55 @@ void expectVariablesReadBack(const Rows& rows, Values& values, const std::string
     schema::forEachRow(
         rows, [&](const auto& row)
         { EXPECT_TRUE(same(read.*row.member, written.*row.member)) << prefix << row.name; });
+}
+
+// The text of every source in a folder of the host, by its path.
+std::map<std::string, std::string> sourcesIn(const std::string& folder)
+{
+    std::map<std::string, std::string> sources;
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(TESTS_DIR) / ".." / folder))
+    {
+        if (entry.path().extension() == ".cpp" || entry.path().extension() == ".h")
+        {
+            std::ifstream file(entry.path(), std::ios::binary);
+            sources[entry.path().lexically_normal().generic_string()] =
+                std::string(std::istreambuf_iterator<char>(file), {});
+        }
+    }
+    return sources;
+}
+
+int matchesIn(const std::string& text, const std::string& pattern)
+{
+    const std::regex expression(pattern);
+    return int(std::distance(std::sregex_iterator(text.begin(), text.end(), expression), {}));
+}
+
+// No function takes a bare number for a code, so this is the one way left to write one down.
+TEST(Schema, isTheOnlyPlaceThatNamesCodesByTheirNumbers)
+{
+    for (const auto& [path, text] : sourcesIn("host"))
+    {
+        if (path.find("/dxf/schema/") == path.npos)
+        {
+            EXPECT_EQ(
+                matchesIn(text, "\\bCode( \\w+)?[({]\\s*\\d|code\\.number\\(\\) [=!<>]=? ?\\d"), 0)
+                << path;
+        }
+    }
+}
+
+TEST(Schema, hasNoTableThatIsNotReadBackHere)
+{
+    int tables = 0;
+    int variables = 0;
+    for (const auto& [path, text] : sourcesIn("host/dxf/schema"))
+    {
+        tables += matchesIn(text, "\ninline constexpr auto \\w+ =\\s+tableOf<");
+        variables += matchesIn(text, "\ninline constexpr auto \\w+ =\\s+rowsOf\\(\\s*variable\\(");
+    }
+    EXPECT_EQ(tables, 14);
+    EXPECT_EQ(variables, 5);
 }
 
 TEST(Schema, readsBackWhatEveryTableOfHeaderVariablesWrites)

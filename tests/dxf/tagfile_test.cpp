@@ -211,7 +211,7 @@ TEST(TagFile, aTagTellsItsPlaceAndKeepsTheBlanksOfItsValue)
     EXPECT_EQ(tags[1].value, " two words ");
     EXPECT_EQ(text.substr(tags[1].begin, tags[1].end - tags[1].begin), "  1\n two words \n");
     EXPECT_EQ(tags[1].line, 21u);
-    EXPECT_EQ(tags[2].code, 40);
+    EXPECT_EQ(tags[2].code, Code(40));
     EXPECT_EQ(file.real(tags[2]), 2.5);
     EXPECT_EQ(tags[3].value, "");
     EXPECT_EQ(tags[4].value, "a\rb");

@@ -75,25 +75,26 @@ TEST(TagWriter, whatNoTagCanHoldIsRefused)
 {
     EXPECT_THROW(realText(std::nan("")), std::domain_error);
     EXPECT_THROW(realText(HUGE_VAL), std::domain_error);
-    EXPECT_THROW(written({}, [](TagWriter& w) { w.text(1, "two\nlines"); }), std::domain_error);
-    EXPECT_THROW(written({}, [](TagWriter& w) { w.integer(1072, 1); }), std::out_of_range);
-    EXPECT_THROW(written({}, [](TagWriter& w) { w.integer(-1, 1); }), std::out_of_range);
+    EXPECT_THROW(written({}, [](TagWriter& w) { w.text(Code(1), "two\nlines"); }),
+                 std::domain_error);
+    EXPECT_THROW(written({}, [](TagWriter& w) { w.integer(Code(1072), 1); }), std::out_of_range);
+    EXPECT_THROW(written({}, [](TagWriter& w) { w.integer(Code(-1), 1); }), std::out_of_range);
 }
 
 TEST(TagWriter, tagsLookLikeTheirNeighboursInTheFile)
 {
     const auto tags = [](TagWriter& w)
     {
-        w.text(0, "LINE");
-        w.handle(5, 0xABCDEF0123456789);
-        w.text(8, "");
-        w.integer(62, -3);
-        w.integer(90, 1234567890123);
-        w.integer(440, 7);
-        w.point(10, 1, 2.5, -3);
-        w.point(11, 1e20, 2);
-        w.real(1040, 0.25);
-        w.handle(330, 0);
+        w.text(Code(0), "LINE");
+        w.handle(Code(5), 0xABCDEF0123456789);
+        w.text(Code(8), "");
+        w.integer(Code(62), -3);
+        w.integer(Code(90), 1234567890123);
+        w.integer(Code(440), 7);
+        w.point(Code(10), 1, 2.5, -3);
+        w.point(Code(11), 1e20, 2);
+        w.real(Code(1040), 0.25);
+        w.handle(Code(330), 0);
     };
     EXPECT_EQ(written({.newline = "\n", .codeWidth = 1, .padIntegers = false}, tags),
               "0\nLINE\n5\nABCDEF0123456789\n8\n\n62\n-3\n90\n1234567890123\n440\n7\n"
@@ -104,7 +105,7 @@ TEST(TagWriter, tagsLookLikeTheirNeighboursInTheFile)
               " 10\r\n1.0\r\n 20\r\n2.5\r\n 30\r\n-3.0\r\n 11\r\n1e+20\r\n 21\r\n2.0\r\n"
               "1040\r\n0.25\r\n330\r\n0\r\n");
     EXPECT_EQ(written({.newline = "\r\n", .codeWidth = 6, .padIntegers = true},
-                      [](TagWriter& w) { w.integer(1071, INT64_MIN); }),
+                      [](TagWriter& w) { w.integer(Code(1071), INT64_MIN); }),
               "  1071\r\n-9223372036854775808\r\n");
 }
 
@@ -114,11 +115,11 @@ TEST(TagWriter, theWidestTagsFitWhereverTheBufferIsFull)
     const std::string longText(150, 't');
     const auto tags = [&](TagWriter& w)
     {
-        w.real(1040, -2.2250738585072014e-308);
-        w.real(1040, -2.2250738585072014e-308);
-        w.text(1, longText);
+        w.real(Code(1040), -2.2250738585072014e-308);
+        w.real(Code(1040), -2.2250738585072014e-308);
+        w.text(Code(1), longText);
         w.raw("|");
-        w.integer(1071, INT64_MIN);
+        w.integer(Code(1071), INT64_MIN);
     };
     const std::string expected = written(wide, tags);
     const std::string before(TagWriter::bufferSize + 3, 'x');
@@ -143,7 +144,7 @@ TEST(TagWriter, handlesOfAnyLengthAreHexadecimalCapitals)
         char expected[40];
         std::snprintf(expected, sizeof expected, "  5\n%llX\n",
                       static_cast<unsigned long long>(handle));
-        EXPECT_EQ(written({}, [=](TagWriter& w) { w.handle(5, handle); }), expected);
+        EXPECT_EQ(written({}, [=](TagWriter& w) { w.handle(Code(5), handle); }), expected);
     }
 }
 
@@ -156,21 +157,22 @@ RecordForm formOf(const TagStyle& style, bool hasHandle, const std::string& laye
     const auto piece = [&](const auto& write) { return written(style, write); };
     RecordForm form;
     form.hasHandle = hasHandle;
-    form.head = hasHandle ? piece([](TagWriter& w) { w.text(0, "LINE"), w.codeLine(5); }) : "";
+    form.head =
+        hasHandle ? piece([](TagWriter& w) { w.text(Code(0), "LINE"), w.codeLine(Code(5)); }) : "";
     form.common = piece(
         [&](TagWriter& w)
         {
-            hasHandle ? w.lineEnd() : w.text(0, "LINE");
-            w.text(8, layer);
-            w.codeLine(10);
+            hasHandle ? w.lineEnd() : w.text(Code(0), "LINE");
+            w.text(Code(8), layer);
+            w.codeLine(Code(10));
         });
     const int codes[] = {20, 30, 11, 21, 31};
     for (int i = 0; i < 5; ++i)
     {
         form.gaps[i] =
-            RecordForm::Gap(piece([&](TagWriter& w) { w.lineEnd(), w.codeLine(codes[i]); }));
+            RecordForm::Gap(piece([&](TagWriter& w) { w.lineEnd(), w.codeLine(Code(codes[i])); }));
     }
-    form.tail = piece([](TagWriter& w) { w.lineEnd(), w.text(210, "tail"); });
+    form.tail = piece([](TagWriter& w) { w.lineEnd(), w.text(Code(210), "tail"); });
     return form;
 }
 
@@ -180,15 +182,15 @@ std::string tagsOneByOne(const TagStyle& style, bool hasHandle, const std::strin
     return written(style,
                    [&](TagWriter& w)
                    {
-                       w.text(0, "LINE");
+                       w.text(Code(0), "LINE");
                        if (hasHandle)
                        {
-                           w.handle(5, handle);
+                           w.handle(Code(5), handle);
                        }
-                       w.text(8, layer);
-                       w.point(10, numbers[0], numbers[1], numbers[2]);
-                       w.point(11, numbers[3], numbers[4], numbers[5]);
-                       w.text(210, "tail");
+                       w.text(Code(8), layer);
+                       w.point(Code(10), numbers[0], numbers[1], numbers[2]);
+                       w.point(Code(11), numbers[3], numbers[4], numbers[5]);
+                       w.text(Code(210), "tail");
                    });
 }
 }  // namespace
@@ -235,10 +237,10 @@ TEST(TagWriter, manyTagsAndLongTextsArriveInOrder)
                                      {
                                          for (int i = 0; i < 100000; ++i)
                                          {
-                                             w.integer(90, i);
-                                             w.text(1, "text");
+                                             w.integer(Code(90), i);
+                                             w.text(Code(1), "text");
                                          }
-                                         w.text(1, longText);
+                                         w.text(Code(1), longText);
                                          w.raw(longText);
                                      });
     EXPECT_TRUE(text == expected);
@@ -250,7 +252,7 @@ TEST(TagWriter, theBytesLeaveInPiecesOfTheBuffersSize)
     TagWriter writer([&](std::string_view) { ++pieces; }, {});
     for (std::size_t i = 0; i < TagWriter::bufferSize; ++i)
     {
-        writer.text(1, "12345");  // ten bytes a tag
+        writer.text(Code(1), "12345");  // ten bytes a tag
     }
     writer.flush();
     EXPECT_NEAR(double(pieces), 10, 1);

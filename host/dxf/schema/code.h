@@ -18,7 +18,6 @@ public:
     explicit constexpr Code(int number) : m_number(number) {}
 
     constexpr int number() const { return m_number; }
-    constexpr operator int() const { return m_number; }
     friend constexpr auto operator<=>(Code, Code) = default;
 
     // Where the file has the Y and Z of the point whose X has this code.

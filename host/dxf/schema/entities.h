@@ -10,7 +10,9 @@ namespace entity
 {
 inline constexpr Code layer{8};
 inline constexpr Code linetype{6};
-inline constexpr Code color{62};  // 256 that of the layer, 0 that of the block
+inline constexpr Code color{62};
+inline constexpr int colorByLayer = 256;
+inline constexpr int colorByBlock = 0;
 inline constexpr Code trueColor{420};
 inline constexpr Code linetypeScale{48};
 inline constexpr Code invisible{60};
@@ -26,7 +28,7 @@ struct Entity
     Handle owner = 0;
     std::wstring layer;
     std::wstring linetype = L"ByLayer";
-    int color = 256;
+    int color = colorByLayer;
     double linetypeScale = 1;
     int invisible = 0;
     int lineWeight = -1;

@@ -62,13 +62,14 @@ enum Flag
 };
 
 inline constexpr Code color{62};  // with a minus while the layer is off
+inline constexpr int usualColor = 7;
 inline constexpr Code linetype{6};
 inline constexpr Code plots{290};
 inline constexpr Code trueColor{420};
 
 struct Layer : SymbolRecord
 {
-    int color = 7;
+    int color = usualColor;
     std::wstring linetype = L"CONTINUOUS";
 };
 

@@ -224,7 +224,7 @@ TEST_F(SaveAtomically, whenAPartCannotBeMadeTheOldFileIsWhole)
         throw std::logic_error("stopped");
     };
     EXPECT_THROW(save(m_drawing, stops), std::logic_error);
-    EXPECT_EQ(save(m_drawing, [](TagWriter& w) { w.real(10, std::nan("")); }),
+    EXPECT_EQ(save(m_drawing, [](TagWriter& w) { w.real(Code(10), std::nan("")); }),
               "a number is not finite");
     EXPECT_EQ(bytesOf(m_drawing), m_old);
     EXPECT_EQ(filesInFolder(), 1u);
