@@ -9,7 +9,8 @@ namespace host
 {
 namespace
 {
-// Nothing for Enter and for Esc. Quotes, as names with blanks have them, do not count.
+// Asks for the name of a file; returns no value for Enter and for Esc. Removes the quotes that a
+// name with blanks may have.
 std::optional<std::filesystem::path> askFile(Editor& editor, OwnText prompt)
 {
     auto name = askLine(editor, Question::Kind::file, own(prompt));
@@ -44,7 +45,7 @@ void unloadFile(Editor& editor)
     }
 }
 
-// The commands of modules; the host's own are not among them.
+// Lists the commands of modules, without the host's own commands.
 void listCommands(Editor& editor)
 {
     bool any = false;

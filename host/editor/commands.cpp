@@ -18,7 +18,7 @@ namespace host
 {
 namespace
 {
-// A name as it was typed, without what may stand before it.
+// A name that was typed, without the characters that may precede it.
 struct TypedName
 {
     std::wstring_view name;
@@ -48,7 +48,7 @@ std::wstring shownName(const Command& command)
     return upperCase(command.globalName());
 }
 
-// Whether the command may run in this document.
+// Checks that the command may run in this document.
 Result<> checkAllowed(const Command& command, Document& document)
 {
     const bool paper = stateOf(*document.database()).paperSpace;
@@ -67,7 +67,8 @@ Result<> checkAllowed(const Command& command, Document& document)
     return Done{};
 }
 
-// What the host lends to a command for as long as it runs, with the rules for giving it back.
+// Lends a command the document's lock, its resources and its place among the running commands.
+// Checks at the end of the command that it has returned everything.
 class Borrowed
 {
 public:
@@ -121,7 +122,7 @@ Borrowed::~Borrowed()
     {
         m_document.resources.pop();
     }
-    // Objects that an outer command holds open while it asks are no business of the inner one.
+    // An outer command may hold objects open while it asks, so only the outermost is checked.
     if (!outer)
     {
         requireNothingOpen(*m_document.database(), toUtf8(shownName(*m_command)));
@@ -150,7 +151,7 @@ void Borrowed::checkMeter() const
 void run(Editor& editor, Document& document, const CommandPtr& command)
 {
     const Borrowed borrowed(editor, document, command);
-    // Options of a prompt that never came belong neither to this command nor to the one around it.
+    // Options that a command has set but not used must not reach a prompt of another command.
     editor.setOptions({});
     command->functionAddr()();
     editor.setOptions({});
@@ -179,7 +180,8 @@ void start(Editor& editor, Document& document, const CommandPtr& command)
     run(editor, document, command);
 }
 
-// No key of a terminal opens the help.
+// Returns the complaint about an unknown name. A terminal has no key that opens the help, so a
+// person there is pointed to HELP.
 std::wstring unknownCommand(const Editor& editor, std::wstring_view name)
 {
     const OwnText text = editor.interactive()

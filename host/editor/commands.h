@@ -1,4 +1,4 @@
-// Starting commands, at the command prompt and inside another command.
+// Starts commands, at the command prompt and inside another command.
 #pragma once
 
 #include <string_view>
@@ -10,13 +10,15 @@ namespace host
 // Asks for commands and runs them until QUIT or the end of the input.
 void runCommands(Editor& editor);
 
-// What was typed at the command prompt: a command, "C:" function or variable. Returns false when
-// the host knows no such name.
+// Executes a line typed at the command prompt: a command, a "C:" function or a variable. Returns
+// false, and says so [prints], when the host does not know the name.
 bool executeLine(Editor& editor, std::wstring_view line);
 
-// A line with an apostrophe before it, typed while a command asks. The caller asks again.
+// Executes a line that begins with an apostrophe, typed while a command asks. Says [prints] why a
+// command may not run. The caller asks its question again afterwards.
 void startTransparent(Editor& editor, std::wstring_view line);
 
-// Names of the running commands with an apostrophe between them, as CMDNAMES has them.
+// Returns the names of the running commands, outermost first, with an apostrophe between them. The
+// variable CMDNAMES has this text.
 std::wstring runningNames(const Editor& editor);
 }  // namespace host

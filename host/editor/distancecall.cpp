@@ -15,7 +15,7 @@ double distanceBetween(const AcGePoint3d& from, AcGePoint3d to, int bits)
     return from.distanceTo(to);
 }
 
-// Nothing when the options allow the number.
+// Returns the complaint about the number; no value when the options allow it.
 std::optional<OwnText> complaintAbout(double value, int bits)
 {
     const bool zero = (bits & RSG_NOZERO) && value == 0;
@@ -36,7 +36,8 @@ Reading checked(double value, int bits)
     return complaint ? refused(*complaint) : taken;
 }
 
-// A number, or a point: the first of two, or the only one when there is a base.
+// Reads a number or a point. The point is the second end of the distance if there is a base, and
+// otherwise the first end.
 struct DistanceReader
 {
     const AcGePoint3d* base;
@@ -85,7 +86,7 @@ int askSecondPoint(Editor& editor, const AcGePoint3d& first, int bits, double& d
         distance = distanceBetween(first, second, bits);
         return checked(distance, bits);
     };
-    // A first point without a second is no answer.
+    // The first point alone gives no distance, so Enter is not allowed here.
     return promptUntilTaken(editor, question, {.bits = RSG_NONULL}, read);
 }
 

@@ -12,7 +12,7 @@ namespace
 {
 Editor* theEditor = nullptr;
 
-// No command asks this often after Esc unless it never looks at the answer.
+// Only a command that ignores the answer asks this often after Esc.
 const int patience = 1000;
 
 const char* callOf(Question::Kind kind)
@@ -32,7 +32,8 @@ const char* callOf(Question::Kind kind)
     }
 }
 
-// The end at the command prompt is no answer: nobody pressed Esc.
+// Returns the text to echo. The end of the input at the command prompt echoes nothing, because
+// nobody pressed Esc.
 std::wstring_view echoOf(const Question& question, const Answer& answer)
 {
     const bool normalEnd =
@@ -122,7 +123,7 @@ Answer Editor::askSilently(const Question& question)
 
 void Editor::echo(const Answer& answer, std::wstring_view text)
 {
-    // At a terminal the typing of a line has ended the line as well.
+    // At a terminal the Enter that ended the typed line has also ended the line of the prompt.
     if (answer.visible)
     {
         m_atLineStart = true;

@@ -1,4 +1,4 @@
-// The editor: one command line and what stands between it and the commands.
+// The editor: one command line, and the state that commands share through it.
 #pragma once
 
 #include <functional>
@@ -15,64 +15,74 @@
 
 namespace host
 {
-// What acedInitGet has set for the next prompt.
+// The options that acedInitGet has set for the next prompt.
 struct PromptOptions
 {
     int bits = 0;
     KeywordList keywords{};
 };
 
-// What the last prompt took that was no value of its own kind.
+// The text or keyword that the last prompt took instead of a value of its own kind.
 struct PromptInput
 {
     std::wstring text;
     bool isKeyword = false;
 };
 
-// While one exists it serves the module's calls, from one thread at a time.
+// Serves the module's calls for as long as the object exists, from one thread at a time.
 class Editor
 {
 public:
+    // The front end [borrowed] outlives the editor. `trace` makes traceLine print.
     Editor(FrontEnd& frontEnd, bool trace);
     ~Editor();
     Editor(const Editor&) = delete;
     Editor& operator=(const Editor&) = delete;
 
-    // Null when nobody sits at a command line.
+    // Returns the editor that exists [borrowed]; null when there is no command line.
     static Editor* current();
 
-    void print(std::wstring_view text);      // exactly
-    void printLine(std::wstring_view line);  // on a line of its own
-    void traceLine(std::wstring_view line);  // likewise, if events are to be told
+    // Prints the text as it stands, without a line end of its own [prints].
+    void print(std::wstring_view text);
+    // Prints the text on a line of its own [prints].
+    void printLine(std::wstring_view line);
+    // Prints the text on a line of its own if events are traced [prints].
+    void traceLine(std::wstring_view line);
+    // Reports a line about the run itself, apart from what the user reads.
     void report(std::wstring_view line) const;
-    void fail(std::wstring_view line);  // likewise, and the session ends with a failure
+    // Reports the line and makes the session end with a failure.
+    void fail(std::wstring_view line);
 
-    // Shows the prompt, waits for the answer, echoes it and ends the line.
+    // Shows the prompt, waits for the answer, echoes it and ends the line [prints]. A prompt of the
+    // command line under a shown dialog is a breach.
     Answer ask(const Question& question);
-    // The same in two steps, for a question whose answer has to be seen before it is echoed.
+    // Asks as `ask` does, in two steps, for a caller that decides by the answer what to echo.
     Answer askSilently(const Question& question);
     void echo(const Answer& answer, std::wstring_view text);
-    // The answer was meant for the next question: it is given again there.
+    // Keeps an answer that was meant for the next question and gives it there.
     void putBack(Answer answer) { m_putBack = std::move(answer); }
 
+    // Returns the options for this prompt and clears them, as they hold for one prompt only.
     PromptOptions takeOptions() { return std::exchange(m_options, {}); }
     void setOptions(PromptOptions options) { m_options = std::move(options); }
 
-    // The input has ended, and it did so while a command was asking.
+    // Tells whether the input has ended.
     bool inputEnded() const { return m_inputEnded; }
+    // Tells whether the input ended while a command was asking.
     bool endedInsideCommand() const { return m_unansweredQuestions > 0; }
+    // Tells whether `fail` was called.
     bool failed() const { return m_failed; }
 
-    // Commands begin and end in pairs, the innermost first.
+    // Notes that a command begins or ends. Calls come in pairs; the innermost command ends first.
     void beginCommand(CommandPtr command) { m_running.push_back(std::move(command)); }
     void endCommand() { m_running.pop_back(); }
     const std::vector<CommandPtr>& running() const { return m_running; }  // outermost first
 
-    // What Enter at the command prompt starts again; empty before the first line.
+    // The line that Enter at the command prompt starts again; empty before the first line.
     const std::wstring& lastLine() const { return m_lastLine; }
     void rememberLine(std::wstring line) { m_lastLine = std::move(line); }
 
-    // For acedGetInput; it stays until a prompt takes another.
+    // The input that acedGetInput returns; it stays until a prompt takes other input.
     const PromptInput& lastInput() const { return m_lastInput; }
     void noteInput(PromptInput input) { m_lastInput = std::move(input); }
 
@@ -80,18 +90,21 @@ public:
     int errorNumber() const { return m_errorNumber; }
     void setErrorNumber(int number) { m_errorNumber = number; }
 
-    // The progress meter, which is shown at once; nothing takes it away.
+    // The progress meter; no value when none is shown.
     const std::optional<Meter>& meter() const { return m_meter; }
+    // Shows the meter at once; no value removes it.
     void setMeter(std::optional<Meter> meter);
 
-    // Ends the session after this command, unless who was told to be asked says no.
+    // Ends the session after this command, unless `mayQuit` was given and returns false.
     void quit() { m_quit = !m_mayQuit || m_mayQuit(); }
+    // Sets the function that decides whether the session may end.
     void askBeforeQuitting(std::function<bool()> mayQuit) { m_mayQuit = std::move(mayQuit); }
     bool hasQuit() const { return m_quit; }
 
-    // No prompt may be asked while one is shown.
+    // The dialogs that are shown. While one is shown, a prompt of the command line is a breach.
     ShownDialogs& dialogs() { return m_dialogs; }
 
+    // Tells whether a person reads along and types.
     bool interactive() const { return m_frontEnd.interactive(); }
 
 private:
@@ -116,7 +129,7 @@ private:
     ShownDialogs m_dialogs;
 };
 
-// Esc, or the end of the input, which counts as one.
+// Tells whether the answer is Esc, or the end of the input, which counts as Esc.
 inline bool cancelled(const Answer& answer)
 {
     return answer.kind == Answer::Kind::cancel || answer.kind == Answer::Kind::endOfInput;

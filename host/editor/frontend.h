@@ -15,6 +15,7 @@
 
 namespace host
 {
+// What is asked.
 struct Question
 {
     enum class Kind
@@ -25,22 +26,24 @@ struct Question
         distance,
         keyword,
         name,  // one word, or several between double quotes
-        file,  // likewise, the name of a file
+        file,  // the same for the name of a file
         text,
         messageBox,
         dialog
     };
 
     Kind kind = Kind::text;
-    std::wstring prompt{};                 // as it stands on the command line
-    std::vector<std::wstring> keywords{};  // what may be answered by name; the buttons of a box
+    std::wstring prompt{};                 // the text on the command line
+    std::vector<std::wstring> keywords{};  // answers by name; for a message box, its buttons
     std::optional<AcGePoint3d> base{};     // [ucs]; where a rubber band starts
-    std::wstring caption{};                // of a box or dialog
-    std::wstring text{};                   // of a box
-    // Whether it was answered otherwise, by a click on a window; asked on the command's thread.
+    std::wstring caption{};                // the caption of a message box or dialog
+    std::wstring text{};                   // the text of a message box
+    // Tells whether a click on a window has answered the question already. May be empty. It is
+    // called on the command's thread.
     std::function<bool()> isWithdrawn{};
 };
 
+// What was answered.
 struct Answer
 {
     enum class Kind
@@ -53,9 +56,10 @@ struct Answer
     };
 
     Kind kind = Kind::endOfInput;
-    std::wstring text{};   // of a line, as typed
-    bool visible = false;  // the user sees what was typed: it is not echoed; of a withdrawn
-                           // question, the line has been ended
+    std::wstring text{};  // the line as typed
+    // The user sees what was typed, so that it is not echoed. For a withdrawn question: the line of
+    // the prompt has been ended.
+    bool visible = false;
 };
 
 // The progress meter of the status bar.
@@ -64,23 +68,26 @@ struct Meter
     std::wstring label;
     int least;
     int most;
-    int position;  // may lie outside the two
+    int position;  // may lie outside `least` to `most`
 };
 
+// What a person or a script sits at.
 class FrontEnd
 {
 public:
     virtual ~FrontEnd() = default;
 
-    // Shows the text at once, with no line end added. UTF-8; any thread may call.
+    // Shows the text, in UTF-8, at once and adds no line end. Any thread may call it.
     virtual void print(std::string_view text) = 0;
-    // Reports on the run itself, apart from what the user reads: one line without its end.
+    // Shows a line about the run itself, in UTF-8 without its end, apart from what the user reads.
     virtual void report(std::string_view line) = 0;
-    // The prompt has been printed already. Once it has given endOfInput it gives nothing else.
+    // Waits for the answer to a question whose prompt has been printed already. After the first
+    // endOfInput, every answer is endOfInput.
     virtual Answer ask(const Question& question) = 0;
-    // The meter as it stands now; nothing when it has gone.
+    // Shows the meter as it stands now; no value removes it.
     virtual void showMeter(const std::optional<Meter>&) {}
-    // A person reads along and types: help is welcome that a script has no use for.
+    // Tells whether a person reads along and types. A person gets help that would only disturb a
+    // script.
     virtual bool interactive() const { return false; }
 };
 }  // namespace host

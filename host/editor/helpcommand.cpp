@@ -11,7 +11,7 @@ namespace
 {
 const wchar_t* const hostGroup = L"ACAD";
 
-// By name: the order in which they are listed.
+// Returns the help lines by command name, in the order in which HELP lists them.
 std::map<std::wstring, OwnText>& helpLines()
 {
     static std::map<std::wstring, OwnText> lines;

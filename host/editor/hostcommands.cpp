@@ -17,7 +17,7 @@ struct Row
     OwnText help;
 };
 
-// Those without an undo marker change nothing that U could take back.
+// Commands without an undo marker change nothing that U could undo.
 const int helpFlags = ACRX_CMD_TRANSPARENT | ACRX_CMD_NO_UNDO_MARKER;
 const Row rows[] = {
     {L"?", helpFlags, helpCommand, L"the same as HELP"},

@@ -1,5 +1,5 @@
-// The host's own commands. Each is a function as a module's command is, and asks through the same
-// calls where those fit.
+// The host's own commands. Each one is a function, as a module's command is, and asks through the
+// same calls where they fit.
 #pragma once
 
 #include <string>
@@ -10,18 +10,21 @@
 
 namespace host
 {
-// Puts the host's commands on the command stack; doing so again changes nothing.
+// Puts the host's commands on the command stack. A second call changes nothing.
 void registerHostCommands();
 
-// One more of them, and what HELP says about it. Again changes nothing.
+// Adds one host command together with the line that HELP prints for it. A second call with the same
+// name changes nothing.
 void registerHostCommand(const wchar_t* name, int flags, AcRxFunctionPtr function, OwnText help);
 
-// As the user types them, with commas between them; empty when no module has registered any.
+// Returns the commands of modules as the user types them, with commas between them; an empty text
+// when no module has registered a command.
 std::wstring moduleCommandNames();
 
-// SETVAR, started next, is about this variable and does not ask for a name.
+// Tells the next SETVAR which variable to set, so that it does not ask for a name.
 void nameForSetvar(std::wstring_view name);
 
+// The functions of the commands. Each one needs an editor [prints].
 void ucsCommand();
 void vpointCommand();
 void dviewCommand();

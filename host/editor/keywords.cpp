@@ -34,7 +34,8 @@ bool startsWithNoCase(std::wstring_view text, std::wstring_view start)
     return text.size() >= start.size() && equalNoCase(text.substr(0, start.size()), start);
 }
 
-// First stretch without small letters that holds a capital: "LT" of LType, "3D" of 3Dpoly.
+// Returns the first run without small letters that holds a capital: "LT" of LType, "3D" of 3Dpoly.
+// Returns the whole name when it has no capital.
 std::wstring_view capitals(std::wstring_view name)
 {
     std::size_t start = 0;

@@ -1,4 +1,4 @@
-// Keyword lists, as acedInitGet takes them.
+// Keyword lists in the form that acedInitGet takes.
 #pragma once
 
 #include <optional>
@@ -8,9 +8,11 @@
 
 namespace host
 {
-// Keywords with blanks between them. In each the first run of capitals is the least that has to be
-// typed, or, after a comma, an abbreviation stands ("LTYPE,LT"). After a lone "_" follow the global
-// forms of the same keywords, which a user types with a leading underscore.
+// Holds the keywords of a list, which blanks separate. The first run of capitals in a keyword is
+// the shortest text that selects it; a comma may give another abbreviation ("LTYPE,LT"). After a
+// lone
+// "_" the list repeats the keywords in their global forms, which a user types with a leading
+// underscore.
 class KeywordList
 {
 public:
@@ -18,9 +20,11 @@ public:
     explicit KeywordList(std::wstring_view list);
 
     bool empty() const { return m_keywords.empty(); }
-    // The keyword as the list spells it, in its global form if there is one. Letter case of what
-    // was typed does not count; a keyword typed in full goes before an abbreviation of another.
+    // Returns the keyword that was typed, as the list spells it, in its global form if there is
+    // one; no value when no keyword matches. Letter case does not count. A keyword typed in full
+    // goes before an abbreviation of another keyword.
     std::optional<std::wstring> match(std::wstring_view typed) const;
+    // Returns the keywords in the order of the list, in their local forms.
     std::vector<std::wstring> names() const;
 
 private:
@@ -28,8 +32,8 @@ private:
     {
         std::wstring name;
         std::wstring shortest;
-        std::size_t shortestAt = 0;  // where the shortest form stands in the name
-        std::wstring global;         // what is given back
+        std::size_t shortestAt = 0;  // the position of the shortest form in the name
+        std::wstring global;         // the form that `match` returns
     };
 
     static Keyword parse(std::wstring_view token);

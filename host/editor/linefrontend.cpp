@@ -29,7 +29,8 @@ LineReader::LineReader(std::istream& input, bool visible, std::string name)
     m_input->exceptions(std::ios::badbit);
 }
 
-// A mark tells of UTF-16 by its first byte, which no UTF-8 has.
+// Switches to UTF-16 if the input begins with its mark. The first byte of the mark suffices,
+// because that byte never occurs in UTF-8.
 void LineReader::begin()
 {
     const int first = m_input->peek();
@@ -46,7 +47,8 @@ void LineReader::begin()
     }
 }
 
-// A line without an end, as of a device, is not waited for.
+// Reads the bytes of a line without its end; returns false at the end of the input. A line without
+// an end, as a device may send it, is given up at a limit.
 bool LineReader::readBytes(std::string& line)
 {
     const std::size_t longest = 1 << 20;

@@ -1,4 +1,4 @@
-// A front end of lines: a script, a pipe or a terminal.
+// A front end that reads lines: a script, a pipe or a terminal.
 #pragma once
 
 #include <functional>
@@ -15,38 +15,41 @@
 
 namespace host
 {
-// Where the answers come from.
+// Reads answers from a source.
 class AnswerReader
 {
 public:
     virtual ~AnswerReader() = default;
 
-    // After the end of the input it gives nothing else.
+    // Waits for the next answer. After the first endOfInput, every answer is endOfInput.
     virtual Answer next(const Question& question) = 0;
-    // Makes a `next` that waits on another thread give an answer that does not count. False where
-    // that cannot be done.
+    // Makes a `next` that waits on another thread return an answer that does not count. Returns
+    // false when the reader cannot do that.
     virtual bool endWait() { return false; }
-    // Whoever types sees the line already, as at a terminal.
+    // Tells whether the person who types sees the line already, as at a terminal.
     virtual bool visible() const { return false; }
 };
 
-// Thrown by a reader that cannot go on; what() is the failure's line. It ends the program, as
-// nobody waits for a result: see LineFrontEnd::serve.
+// Is thrown by a reader that cannot go on; what() returns the failure's line. It ends the program,
+// because nobody waits for a result: see LineFrontEnd::serve.
 struct UnreadableInput : std::runtime_error
 {
     explicit UnreadableInput(const Failure& failure) : std::runtime_error(failure.line) {}
 };
 
-// What a line says, UTF-8 without its end: an empty one is Enter, "^C" is Esc.
+// Converts a line, in UTF-8 without its end, to an answer: an empty line is Enter, "^C" is Esc.
 Answer answerOf(std::string_view line, bool visible);
 
-// Reads one answer a line. A byte-order mark and carriage returns are dropped; a line that begins
-// with ";" is a comment. UTF-8, or UTF-16 behind its mark, which is read to its end at once. Other
-// bytes throw an UnreadableInput, but are replaced where a person types: that is no reason to end.
+// Reads one answer a line and drops a byte-order mark and carriage returns. A line that begins with
+// ";" is a comment. The input is UTF-8, or UTF-16 behind its mark; UTF-16 is read to its end at
+// once. Other bytes throw an UnreadableInput. Where a person types they are replaced instead,
+// because a mistyped line should not end a session.
 class LineReader : public AnswerReader
 {
 public:
-    // From here on the stream throws what goes wrong with it: it would take that for its end.
+    // The stream [borrowed] outlives the reader. From here on it throws its failures, because it
+    // would otherwise report a failure as the end of the input. `name` is the stream's name in
+    // messages.
     LineReader(std::istream& input, bool visible, std::string name = "standard input");
 
     Answer next(const Question& question) override;
@@ -61,21 +64,23 @@ private:
     std::istringstream m_converted;
     bool m_visible;
     std::string m_name;
-    int m_number = 0;  // of the line
+    int m_number = 0;  // the line's number, from 1
 };
 
-// How a front end of lines shows things. It calls one function at a time.
+// The functions through which a LineFrontEnd shows text. It calls one function at a time.
 struct LineOutput
 {
     std::function<void(std::string_view)> print;
     std::function<void(std::string_view)> report;
-    // Left out: the meter is not shown.
+    // May be empty: the meter is not shown then.
     std::function<void(const std::optional<Meter>&)> showMeter{};
 };
 
+// Passes the editor's questions to an AnswerReader on the thread that calls `serve`.
 class LineFrontEnd : public FrontEnd
 {
 public:
+    // The reader [borrowed] outlives the front end.
     LineFrontEnd(AnswerReader& reader, LineOutput output);
 
     void print(std::string_view text) override;
@@ -84,8 +89,9 @@ public:
     Answer ask(const Question& question) override { return m_rendezvous.ask(question); }
     bool interactive() const override { return m_reader.visible(); }
 
-    // Runs the job on a thread of its own and answers its questions on the calling one. What the
-    // reader throws ends the program: the job waits for an answer and cannot be told.
+    // Runs the job on a thread of its own and answers its questions on the calling thread. Returns
+    // after the job has ended. An exception of the reader ends the program, because the job waits
+    // for an answer and cannot be told.
     void serve(const std::function<void()>& job);
 
 private:

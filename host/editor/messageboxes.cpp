@@ -53,16 +53,16 @@ const Button& defaultButton(const Box& box, unsigned type)
     return box.buttons[second ? 1 : 0];
 }
 
-// The English word will do in every language.
+// Tells whether the text names the button. The English word works in every language.
 bool names(std::wstring_view typed, const Button& button)
 {
     return equalNoCase(typed, own(button.label)) || equalNoCase(typed, button.label.english());
 }
 
-// Null for an answer that presses no button.
+// Returns the button that the answer presses; null when it presses no button.
 const Button* pressed(const Box& box, const Answer& answer, unsigned type)
 {
-    // With the input at its end something has to be pressed, and the last button does the least.
+    // At the end of the input the box still needs an answer, and the last button does the least.
     if (answer.kind == Answer::Kind::endOfInput ||
         (answer.kind == Answer::Kind::cancel && box.escapes))
     {

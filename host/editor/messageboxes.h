@@ -5,6 +5,6 @@ namespace host
 {
 class Editor;
 
-// The editor answers from now on; null takes that away.
+// Makes the editor [borrowed] answer message boxes from now on; null removes it.
 void answerMessageBoxes(Editor* editor);
 }  // namespace host

@@ -23,7 +23,7 @@ int acutPrintf(const ACHAR* format, ...)
         editor->print(text);
         return RTNORM;
     }
-    // A module may print while no command line stands yet, or none any more.
+    // A module may print before the command line exists and after it has gone.
     const std::string bytes = host::toUtf8(text);
     return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() ? RTNORM : RTERROR;
 }
@@ -35,7 +35,7 @@ int acedAlert(const ACHAR* str)
     {
         return RTERROR;
     }
-    // Whoever works a dialog on the screen looks there and not at the console.
+    // A person who works a dialog on the screen looks at the dialog and not at the console.
     const bool looksElsewhere = editor->interactive() && editor->dialogs().count() > 0;
     if (!looksElsewhere || !host::alertOverDialog(str))
     {

@@ -1,5 +1,5 @@
-// The rows of the host's own texts. In the lists of keywords the Russian ones stand before the
-// English ones, so that both are understood, and after the underscore what they mean.
+// The rows of the host's own texts. A list of keywords has the Russian keywords before the English
+// ones, so that the host understands both; their global forms follow the underscore.
 #pragma once
 
 namespace host

@@ -1,4 +1,4 @@
-// What the host itself says to a person: every text once, in two languages.
+// The texts that the host itself says to a person, each once, in two languages.
 #pragma once
 
 #include <initializer_list>
@@ -10,7 +10,7 @@
 
 namespace host
 {
-// One of the host's own texts, named by its English words. A text without a row does not compile.
+// Names one of the host's own texts by its English words. A text without a row does not compile.
 class OwnText
 {
 public:
@@ -35,12 +35,13 @@ private:
     const OwnTextRow* m_row;
 };
 
-// Whether a person reads along who works in Russian. Scripts get the same words in every language.
+// Tells whether a person reads along who works in Russian. A script gets English in every locale,
+// so that its output does not depend on the locale.
 bool readsRussian();
 
-// The text as the reader has to see it, with the values in the places of %1, %2 and so on.
+// Returns the text in the reader's language, with the values in place of %1, %2 and so on.
 std::wstring own(OwnText text, std::initializer_list<std::wstring_view> values = {});
 
-// A failure whose line is that text.
+// Returns a failure whose line is that text.
 Failure ownFailure(OwnText text, std::initializer_list<std::wstring_view> values = {});
 }  // namespace host

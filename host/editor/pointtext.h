@@ -1,4 +1,4 @@
-// Points as they are typed.
+// Reads points as they are typed.
 #pragma once
 
 #include <optional>
@@ -8,23 +8,25 @@
 
 namespace host
 {
-// A typed point before it is known where it is measured from.
+// A typed point before it is known from where it is measured. Drawing units.
 struct TypedPoint
 {
     AcGePoint3d coordinates;
     bool hasZ = false;
-    bool relative = false;  // "@": from the last point
-    bool world = false;     // "*": [wcs], else [ucs]
+    bool relative = false;  // typed with "@": measured from the base or the last point
+    bool world = false;     // typed with "*": [wcs]; otherwise [ucs]
 };
 
-// "x,y", "x,y,z", "dist<angle" with the angle in degrees, each with "@" or "*" before it; "@" alone
-// is the last point. Blanks around coordinates do not count.
+// Parses "x,y", "x,y,z" or "dist<angle" with the angle in degrees. Each may begin with "@" or "*";
+// "@" alone is the last point. Blanks around coordinates do not count. Returns no value for any
+// other text.
 std::optional<TypedPoint> parsePoint(std::wstring_view text);
 
-// The cosine and sine of an angle in degrees; exact for quarter turns.
+// A unit vector in the plane.
 struct Direction
 {
     double x, y;
 };
+// Returns the cosine and sine of an angle in degrees. The result is exact for quarter turns.
 Direction directionOf(double degrees);
 }  // namespace host

@@ -20,7 +20,7 @@ int askPoint(Editor& editor, Question question, const PromptOptions& options, Ac
     return result;
 }
 
-// What a caller's buffer holds: 132 characters and the end.
+// Copies as much of the text as a caller's buffer holds: 132 characters and a zero.
 void copyInput(const std::wstring& text, ACHAR* buffer)
 {
     const std::size_t count = std::min<std::size_t>(text.size(), 132);
@@ -89,7 +89,7 @@ int acedGetKword(const ACHAR* prompt, ACHAR* result)
     const PromptOptions options = editor->takeOptions();
     if (options.keywords.empty() && !(options.bits & RSG_OTHER))
     {
-        return RTERROR;  // no answer could ever be right
+        return RTERROR;  // without keywords every answer would be refused
     }
     const auto none = [](std::wstring_view) { return foreign(L"Invalid option keyword."); };
     const Question question = questionOf(Question::Kind::keyword, prompt, nullptr);

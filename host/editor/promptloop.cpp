@@ -10,7 +10,7 @@ namespace host
 {
 namespace
 {
-// The answer comes out as text: acedGetInput tells it.
+// Ends a prompt with a text or keyword, which the module then gets from acedGetInput.
 int giveText(Editor& editor, std::wstring_view text, bool keyword)
 {
     editor.noteInput({std::wstring(text), keyword});
@@ -34,7 +34,7 @@ int promptUntilTaken(Editor& editor, Question question, const PromptOptions& opt
         const bool other = (options.bits & RSG_OTHER) != 0;
         if (typed.empty() && (other || !(options.bits & RSG_NONULL)))
         {
-            // An empty text for a prompt that takes any text but not none.
+            // RSG_OTHER accepts any text, so that RSG_NONULL turns Enter into an empty text.
             return options.bits & RSG_NONULL ? giveText(editor, typed, false) : int(RTNONE);
         }
         if (const auto keyword = options.keywords.match(typed))
@@ -58,7 +58,7 @@ Reader pointReader(const AcGePoint3d* base, AcGePoint3d& point)
 {
     return [base, &point](std::wstring_view text)
     {
-        // A number alone would be a distance towards the cursor; there is no cursor to aim with.
+        // A number alone would be a distance towards the cursor, but the host has no cursor.
         const std::optional<TypedPoint> typed = parsePoint(text);
         if (!typed)
         {

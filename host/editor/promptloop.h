@@ -1,4 +1,4 @@
-// What the prompts of the module's interface have in common.
+// The loop that all prompts of the module's interface share.
 #pragma once
 
 #include <functional>
@@ -11,17 +11,17 @@
 
 namespace host
 {
-// What a text is to a prompt that understands some of them.
+// The result of reading a text that was typed at a prompt.
 struct Reading
 {
     enum class State
     {
         taken,
-        refused,  // understood, but against an option
-        foreign
+        refused,  // the text is a value that an option forbids
+        foreign   // the text is not a value of the prompt's kind
     };
     State state;
-    std::optional<OwnText> complaint{};  // of a text that is not taken
+    std::optional<OwnText> complaint{};  // what to print for a text that is not taken
 };
 
 const Reading taken{Reading::State::taken};
@@ -35,25 +35,25 @@ inline Reading foreign(OwnText complaint)
     return {Reading::State::foreign, complaint};
 }
 
-// Takes the value out of a text that is no keyword. Of an empty text it says what is wrong with
-// none.
+// Parses text that matched no keyword; for empty text, returns the complaint to print.
 using Reader = std::function<Reading(std::wstring_view)>;
 
-// Reads typed points [ucs], measured from the base if there is one. Base and point [borrowed]
-// outlive the reader.
+// Returns a reader of points [ucs]. "@" is measured from the base, or from the last point when the
+// base is null. Base and point [borrowed] outlive the reader, which stores each result in `point`.
 Reader pointReader(const AcGePoint3d* base, AcGePoint3d& point);
 
-// Asks until the answer is one that the options allow. Gives RTNORM for a value, else what the
-// module gets; a keyword or other text is in the editor's input then.
+// Asks until the answer is one that the options allow [prints]. Returns RTNORM for a value, which
+// `read` has stored; RTNONE for Enter; RTCAN for Esc; RTKWORD for a keyword or other text, which
+// the editor then has as its last input.
 int promptUntilTaken(Editor& editor, Question question, const PromptOptions& options,
                      const Reader& read);
 
-// prompt and base may be null.
+// Builds a question. The prompt and the base [ucs] may be null.
 Question questionOf(Question::Kind kind, const ACHAR* prompt, const ads_real* base);
 
-// Null when there is nobody to ask or nothing to draw in.
+// Returns the editor [borrowed]; null when there is no command line or no document.
 Editor* askingEditor();
 
-// Sets the point [ucs] that "@" is measured from next.
+// Sets the point [ucs] from which the next "@" is measured. A document must be open.
 void setLastPoint(const AcGePoint3d& point);
 }  // namespace host

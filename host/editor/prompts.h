@@ -1,4 +1,4 @@
-// Questions that commands ask; those of the module's interface are built on the same parts.
+// Questions that commands ask. The prompts of the module's interface build on the same functions.
 #pragma once
 
 #include <optional>
@@ -10,18 +10,19 @@
 
 namespace host
 {
-// One answer, whatever it is. A line with an apostrophe before it starts a transparent command,
-// and the question is asked again.
+// Asks once and returns any answer. A line that begins with an apostrophe starts a transparent
+// command, and the question is asked again.
 Answer askUser(Editor& editor, const Question& question);
 
-// The line, trimmed; empty for Enter, nothing for Esc.
+// Asks for a line and returns it trimmed: an empty text for Enter, no value for Esc.
 std::optional<std::wstring> askLine(Editor& editor, Question::Kind kind,
                                     const std::wstring& prompt);
 
-// The number of degrees; `initial` for Enter, nothing for Esc. Asks until it is one.
+// Asks for an angle in degrees until the answer is a number. Returns `initial` for Enter and no
+// value for Esc.
 std::optional<double> askDegrees(Editor& editor, const std::wstring& prompt, double initial);
 
-// Returns the typed point [ucs]. "@" is measured from `base`, or from the last point when it is
-// null.
+// Returns the typed point [ucs]. "@" is measured from `base` [ucs], or from the last point when
+// `base` is null. A document must be open.
 AcGePoint3d resolvePoint(const TypedPoint& typed, const AcGePoint3d* base);
 }  // namespace host

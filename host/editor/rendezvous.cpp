@@ -9,7 +9,7 @@ namespace host
 {
 namespace
 {
-// Ending a wait takes no time unless the console is gone.
+// The longest time that the end of a wait may take. It takes this long only if the console is gone.
 const std::chrono::seconds patience(2);
 }  // namespace
 
@@ -21,7 +21,7 @@ Rendezvous::Rendezvous(std::function<void()> onQuestion, std::function<bool()> e
 Answer Rendezvous::ask(const Question& question)
 {
     std::unique_lock lock(m_mutex);
-    // The owner may be at a question that was withdrawn: what it brings is the answer to this one.
+    // The owner may still wait for the answer to a withdrawn question; that answer counts here.
     if (!std::exchange(m_isOwed, false))
     {
         post(question, lock);
@@ -43,14 +43,14 @@ void Rendezvous::post(const Question& question, std::unique_lock<std::mutex>& lo
     m_changed.notify_all();
     if (m_onQuestion)
     {
-        // Not under the lock: the owner may come for the question from inside the call.
+        // The lock is released, because the owner may take the question from inside the call.
         lock.unlock();
         m_onQuestion();
         lock.lock();
     }
 }
 
-// Windows of the command's thread live on meanwhile.
+// Waits for the answer and meanwhile dispatches the messages of the command thread's windows.
 void Rendezvous::waitALittle(std::unique_lock<std::mutex>& lock)
 {
     const auto isAnswered = [this] { return m_answer.has_value(); };
@@ -67,7 +67,8 @@ void Rendezvous::waitALittle(std::unique_lock<std::mutex>& lock)
     }
 }
 
-// Windows rest meanwhile: what they ask would get the answer that is to be dropped.
+// Withdraws the question. No messages of windows are dispatched meanwhile, because a question that
+// they ask would get the answer that is to be dropped.
 Answer Rendezvous::withdraw(std::unique_lock<std::mutex>& lock)
 {
     Answer dropped{.kind = Answer::Kind::withdrawn};

@@ -1,4 +1,4 @@
-// Where a command that asks meets the thread that owns the input.
+// Lets a command that asks meet the thread that owns the input.
 #pragma once
 
 #include <condition_variable>
@@ -10,26 +10,27 @@
 
 namespace host
 {
-// One command's thread and one owner. Either side may come first.
+// Joins the thread of one command and one owner of the input. Either side may come first.
 class Rendezvous
 {
 public:
-    // onQuestion, if given, wakes an owner that has an event loop of its own; it is called on the
-    // command's thread, and the owner then takes the question with waitForQuestion.
-    // endWait, if given, makes an owner answer at once who waits for a line that is not needed any
-    // more; it is called on the command's thread too, and gives false when it cannot.
+    // `onQuestion`, if given, wakes an owner that has an event loop of its own; the owner then
+    // takes the question with waitForQuestion. `endWait`, if given, makes an owner that waits for a
+    // line answer at once, because the line is not needed any more; it returns false when it cannot
+    // do that. Both functions are called on the command's thread.
     explicit Rendezvous(std::function<void()> onQuestion = {}, std::function<bool()> endWait = {});
 
-    // The command's side: blocks until the owner has answered, or the question is withdrawn. What
-    // the owner brings when his wait is ended is dropped. Where it cannot be ended, the answer to
-    // the withdrawn question is, when it comes, that of the next one.
+    // The command's side: blocks until the owner has answered or the question is withdrawn. If
+    // `endWait` ends the owner's wait, the answer that the owner then gives is dropped. Otherwise
+    // the answer to the withdrawn question, when it comes, answers the next question.
     Answer ask(const Question& question);
-    // The command's side: nothing more will be asked.
+    // The command's side: says that no more questions come.
     void finish();
 
-    // The owner's side: blocks until something is asked; nothing once the command has finished.
+    // The owner's side: blocks until a question is asked; returns no value once the command has
+    // finished.
     std::optional<Question> waitForQuestion();
-    // The owner's side: one answer to each question that was taken.
+    // The owner's side: gives the answer. Each question that was taken gets exactly one.
     void answer(Answer answer);
 
 private:
@@ -43,7 +44,7 @@ private:
     std::condition_variable m_changed;
     std::optional<Question> m_question;
     std::optional<Answer> m_answer;
-    bool m_isOwed = false;  // an answer to a question that was withdrawn
+    bool m_isOwed = false;  // the owner still owes the answer to a withdrawn question
     bool m_finished = false;
 };
 }  // namespace host

@@ -25,7 +25,7 @@ ScriptReader::ScriptReader(std::string text) : m_text(std::move(text))
 Answer ScriptReader::next(const Question& question)
 {
     skipComments();
-    // What ended the answer before has been taken with it: nothing stands here that could be Enter.
+    // The separator after the previous answer has been consumed, so the rest cannot be an Enter.
     if (m_at == m_text.size())
     {
         return {.kind = Answer::Kind::endOfInput};
@@ -41,7 +41,8 @@ void ScriptReader::skipComments()
     }
 }
 
-// Takes what ends it as well. A quote that is left open ends with the line.
+// Takes one answer together with the separator that ends it. The end of the line closes a quote
+// that was left open.
 std::string ScriptReader::takeToken()
 {
     std::string token;

@@ -1,4 +1,4 @@
-// Script files by the CAD program's own rules.
+// Reads script files by the CAD program's own rules.
 #pragma once
 
 #include <filesystem>
@@ -8,14 +8,14 @@
 
 namespace host
 {
-// A blank ends an answer as the line end does, and a further blank or an empty line is Enter.
-// Between double quotes blanks belong to the answer, and the quotes are dropped. "^C" is Esc. A
-// line that begins with ";" is a comment. Texts, message boxes and dialogs take the rest of the
-// line as it stands. Carriage returns are dropped.
+// Takes answers from a script. A blank ends an answer as a line end does; another blank or an empty
+// line is Enter. Blanks between double quotes belong to the answer, and the quotes are dropped.
+// "^C" is Esc. A line that begins with ";" is a comment. Texts, message boxes and dialogs take the
+// rest of the line as it stands. Carriage returns are dropped.
 class ScriptReader : public AnswerReader
 {
 public:
-    // The whole script, in UTF-8 as scriptText gives it.
+    // `text` is the whole script in UTF-8, as scriptText returns it.
     explicit ScriptReader(std::string text);
 
     Answer next(const Question& question) override;
@@ -29,6 +29,7 @@ private:
     std::size_t m_at = 0;
 };
 
-// By the file's name: it ends in ".scr", in any letter case.
+// Tells by the file's name whether the CAD program's rules hold: the name ends in ".scr", in any
+// letter case.
 bool isHostScript(const std::filesystem::path& file);
 }  // namespace host

@@ -29,7 +29,7 @@ std::wstring unitsOf(std::string_view bytes, bool bigFirst)
     return units;
 }
 
-// Whole characters come back as they went.
+// Converts UTF-16 to UTF-8. Converts the text back as well: a half character does not survive this.
 Result<std::string> fromUtf16(std::string_view bytes, bool bigFirst, const std::string& name)
 {
     const std::wstring units = unitsOf(bytes, bigFirst);
@@ -75,8 +75,8 @@ Result<std::string> scriptText(std::string_view bytes, const std::string& name)
     return fromUtf8Text(bytes.substr(bytes.starts_with(utf8Mark) ? utf8Mark.size() : 0), name);
 }
 
-// What does not come back as it went has lost a byte that means nothing. No text holds a zero, but
-// UTF-16 without its mark does.
+// A line that changes when it is converted and converted back holds bytes that are not UTF-8. A
+// zero is refused because UTF-16 without its mark holds zeros and a text does not.
 Result<> checkUtf8(std::string_view line, const std::string& name, int number)
 {
     if (line.find('\0') != line.npos || toUtf8(fromUtf8(line)) != line)

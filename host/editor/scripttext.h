@@ -1,4 +1,4 @@
-// The text of a script: UTF-8, or UTF-16 behind its byte-order mark.
+// Decodes the text of a script: UTF-8, or UTF-16 behind its byte-order mark.
 #pragma once
 
 #include <string>
@@ -8,13 +8,13 @@
 
 namespace host
 {
-// Whether the text begins with a mark of UTF-16.
+// Tells whether the text begins with a byte-order mark of UTF-16.
 bool beginsAsUtf16(std::string_view bytes);
 
-// The text in UTF-8 without the mark. Anything else is a failure with the line where it stands, so
-// that no letter is taken for another.
+// Returns the text in UTF-8 without the mark. Bytes in another encoding are a failure, because one
+// letter would be taken for another; its text gives `name` and the number of the line.
 Result<std::string> scriptText(std::string_view bytes, const std::string& name);
 
-// The same for one line of a script that comes line by line; it has to be UTF-8.
+// Checks one line of a script that comes line by line. The line must be UTF-8.
 Result<> checkUtf8(std::string_view line, const std::string& name, int number);
 }  // namespace host

@@ -15,7 +15,7 @@ namespace
 {
 std::wstring theName;
 
-// Nothing for Enter and for Esc.
+// Asks for the name of a variable; returns no value for Enter and for Esc.
 std::optional<std::wstring> askName(Editor& editor)
 {
     while (const auto name = askLine(editor, Question::Kind::name, own(L"Enter variable name: ")))
@@ -84,7 +84,7 @@ std::wstring requirement(const VariableInfo& info)
     }
 }
 
-// Whether the question is answered.
+// Sets the variable to the typed value. Returns true when the question need not be asked again.
 bool takeValue(Editor& editor, const VariableInfo& info, const std::wstring& text)
 {
     if (text.empty())
@@ -100,7 +100,7 @@ bool takeValue(Editor& editor, const VariableInfo& info, const std::wstring& tex
     return false;
 }
 
-// Esc leaves the variable as it is, and says no more about it.
+// Asks for the value until it is valid. Returns false for Esc, which leaves the variable unchanged.
 bool askValue(Editor& editor, const VariableInfo& info)
 {
     const auto kind = info.type == VariableType::text ? Question::Kind::text : Question::Kind::name;
@@ -134,7 +134,7 @@ void setvarCommand()
     {
         return;
     }
-    // There is nothing to ask about one that cannot be changed: the next line is a command's.
+    // A read-only variable is shown without a question, so the next line belongs to a command.
     const VariableInfo info = *variableInfo(*name);
     if (info.readOnly || askValue(editor, info))
     {

@@ -1,14 +1,14 @@
-// Dialogs that hold the user's input.
+// Counts the dialogs that hold the user's input.
 #pragma once
 
 namespace host
 {
-// A dialog that steps aside for a pick is not shown until it comes back. The count never falls
-// below zero; picks only grow in number.
+// A dialog that steps aside for a pick is not shown until it comes back. Calls come in pairs, so
+// that the count never falls below zero.
 class ShownDialogs
 {
 public:
-    // How many are shown with the new one.
+    // Adds a dialog and returns how many are shown with it.
     int show() { return ++m_count; }
     void hide() { --m_count; }
     void stepAside()
@@ -19,7 +19,7 @@ public:
     void comeBack() { ++m_count; }
 
     int count() const { return m_count; }
-    // Times that a dialog has stepped aside.
+    // How many times a dialog has stepped aside so far.
     int picks() const { return m_picks; }
 
 private:

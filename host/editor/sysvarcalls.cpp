@@ -44,7 +44,7 @@ struct Fill
     }
 };
 
-// Nothing for a value of a type that no variable has.
+// Returns the value in the buffer; no value when no variable has values of its type.
 std::optional<VariableValue> valueOf(const resbuf& buffer)
 {
     switch (buffer.restype)

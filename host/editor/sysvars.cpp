@@ -42,7 +42,7 @@ VariableContext context()
     return {document, Editor::current(), stateOf(*document.database())};
 }
 
-// What the drawing's file held under that name; null when it held nothing.
+// Returns the value kept in the drawing under that name; null when the drawing keeps no such value.
 const VariableValue* keptValue(std::wstring_view name)
 {
     const auto& kept = context().state.variables;
@@ -124,7 +124,7 @@ VariableValue variableValue(std::wstring_view name)
     }
     const VariableValue* kept = keptValue(name);
     const HeaderRow* row = findHeaderRow(name);
-    // A file may hold a variable in a form that is not its own; it counts as missing then.
+    // A file may hold a variable with a value of the wrong type; such a variable counts as missing.
     const bool usable = kept && (!row || kept->index() == alternativeOf(row->type));
     return usable ? *kept : row ? row->initial : VariableValue();
 }

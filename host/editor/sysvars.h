@@ -1,4 +1,4 @@
-// System variables: values of the drawing and of the editor by name.
+// System variables: values of the drawing and of the editor, by name.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace host
 {
-// How a variable's value is typed and shown.
+// Says how a variable's value is typed and shown.
 enum class VariableType
 {
     integer,  // 16 bits
@@ -20,7 +20,7 @@ enum class VariableType
     text
 };
 
-// Numbers that the variable ERRNO tells.
+// The results of setting a variable; the numbers are those that the variable ERRNO takes.
 enum class VariableError
 {
     none = 0,
@@ -34,7 +34,7 @@ enum class VariableError
     badTextStyle = 28
 };
 
-// Of an integer; both ends belong to it.
+// The range of an integer variable, both ends included.
 struct Range
 {
     int least;
@@ -43,19 +43,23 @@ struct Range
 
 struct VariableInfo
 {
-    std::wstring name;  // in capitals
+    std::wstring name;  // in capital letters
     VariableType type;
     bool readOnly;
     Range range;
 };
 
-// Letter case of names does not count. Without a document there are no variables.
+// Tells whether a variable of that name exists. Letter case of names does not count. There are no
+// variables without a document.
 bool isVariable(std::wstring_view name);
+// Describes a variable; returns no value when it does not exist.
 std::optional<VariableInfo> variableInfo(std::wstring_view name);
-// The variable has to exist.
+// Returns the value of a variable, which must exist.
 VariableValue variableValue(std::wstring_view name);
+// Sets a variable. Returns VariableError::none, or the reason why the variable is unchanged.
 VariableError setVariable(std::wstring_view name, const VariableValue& value);
 
-// As SETVAR shows it: points x,y,z, angles in degrees.
+// Returns the value as SETVAR shows it: a point as x,y,z, an angle in degrees. The variable must
+// exist.
 std::wstring variableText(std::wstring_view name);
 }  // namespace host

@@ -201,8 +201,8 @@ VariableError setLastPoint(Context at, Value value)
     return done;
 }
 
-// Of the current space, in WCS: of model space all that is in it now, of a layout what its file
-// says.
+// Returns the extents of the current space [wcs]: for model space those of its entities as they are
+// now, for a layout those that its file states.
 WorldExtents extents(Context at)
 {
     if (!at.state.paperSpace)
@@ -244,7 +244,7 @@ VariableError setSpace(Context at, Value value)
     return done;
 }
 
-// 1 is the layout itself, 2 the only viewport of model space.
+// Returns the number of the viewport: 1 is the layout itself, 2 the only viewport of model space.
 VariableValue viewport(Context at)
 {
     return at.state.paperSpace ? 1 : 2;
@@ -314,7 +314,7 @@ VariableValue viewHeight(Context at)
 
 VariableValue viewTwist(Context at)
 {
-    return inFullTurn(at.state.view.twist);  // a drawing may hold any
+    return inFullTurn(at.state.view.twist);  // a drawing may hold any angle
 }
 
 const VariableRow rows[] = {
@@ -352,7 +352,8 @@ const VariableRow rows[] = {
     {L"WORLDUCS", integer, anyShort, worldUcs, nullptr},
 };
 
-// Those that steer how numbers are shown are only kept: the command line shows numbers in full.
+// The variables that control how numbers are shown are only kept, because the command line shows
+// numbers in full.
 const HeaderRow header[] = {
     {L"AUNITS", integer, {0, 4}, 0},       {L"AUPREC", integer, {0, 8}, 0},
     {L"ELEVATION", real, anyShort, 0.0},   {L"INSUNITS", integer, {0, 24}, 4},

@@ -1,4 +1,4 @@
-// The system variables that are more than a value kept in the drawing.
+// The tables of the system variables.
 #pragma once
 
 #include <climits>
@@ -10,7 +10,7 @@
 
 namespace host
 {
-// Where a variable looks. The editor is null when nobody sits at a command line.
+// The objects that a variable reads and writes. The editor is null when there is no command line.
 struct VariableContext
 {
     Document& document;
@@ -20,17 +20,19 @@ struct VariableContext
 
 const Range anyShort{SHRT_MIN, SHRT_MAX};
 
+// A variable that the host computes or that lies in the state of the drawing or the editor.
 struct VariableRow
 {
     const wchar_t* name;
     VariableType type;
     Range range;
     VariableValue (*get)(const VariableContext&);
-    // Null for a read-only variable. The value has the right type and range.
+    // Sets a value whose type and range have been checked. Null for a read-only variable.
     VariableError (*set)(const VariableContext&, const VariableValue&);
 };
 
-// Kept in the drawing under its own name, or not there yet: then it has its initial value.
+// A variable that is only kept in the drawing under its own name. A drawing that lacks the variable
+// has its initial value.
 struct HeaderRow
 {
     const wchar_t* name;

@@ -56,7 +56,8 @@ bool isWorld(const AcGeMatrix3d& frame)
 
 namespace
 {
-// How far the axes are from unit length, from square and from right-handed.
+// Returns the largest error of a coordinate system whose axes should be unit vectors, perpendicular
+// and right-handed.
 double deviation(const AcGeMatrix3d& frame)
 {
     const AcGeVector3d x = axisOf(frame, 0), y = axisOf(frame, 1), z = axisOf(frame, 2);
@@ -100,8 +101,8 @@ bool setUcs(Document& document, const AcGeMatrix3d& frame)
     }
     DrawingState& state = stateOf(*document.database());
     document.ucsHistory.push(state);
-    // Points go to the UCS by the axes' dot products: at survey coordinates a slight skew would
-    // move them by millimetres on the way there and back.
+    // worldToUcs uses dot products with the axes. At survey coordinates a slight skew would move a
+    // point by millimetres on the way to the UCS and back.
     state.ucs() = {error > 1e-14 ? squared(frame) : frame, L""};
     followUcs(state);
     return true;

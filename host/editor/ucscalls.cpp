@@ -11,7 +11,7 @@
 
 namespace
 {
-// Null without a drawing.
+// Returns the current UCS [borrowed]; null without a drawing.
 const AcGeMatrix3d* currentUcs()
 {
     const host::Document* document = host::documents().document();
@@ -87,7 +87,7 @@ ads_real acutAngle(const ads_point pt1, const ads_point pt2)
 
 namespace
 {
-// The frame that acedTrans names by a number; false for a name that is none.
+// Finds the coordinate system that acedTrans names by a number; returns false for another name.
 bool frameByCode(const resbuf* code, AcGeMatrix3d& frame)
 {
     host::Document* document = host::documents().document();

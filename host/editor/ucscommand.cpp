@@ -37,8 +37,8 @@ void moveOrigin(const AcGePoint3d& originUcs)
     setUcs(document(), frame);
 }
 
-// Turns about one of the UCS's own axes. The other two are worked out from the angle in degrees,
-// so that quarter turns leave no dust in them.
+// Turns the UCS about one of its own axes. The two other axes are computed from the angle in
+// degrees, so that quarter turns are exact.
 void turnAbout(int axis, double degrees)
 {
     const AcGeMatrix3d& frame = current().toWorld;
@@ -61,8 +61,9 @@ void askTurn(Editor& editor, wchar_t axis)
     }
 }
 
-// UCS points of the answer to a question that Enter passes over. What is no point is not meant for
-// this question: scripts name the origin and go on with the next command.
+// Asks for a point [ucs] that Enter skips; returns no value then. Keeps an answer that is not a
+// point for the next question, because scripts give only the origin and go on with the next
+// command.
 std::optional<AcGePoint3d> askPointOrPass(Editor& editor, OwnText prompt)
 {
     const AcGePoint3d origin;
@@ -79,8 +80,8 @@ std::optional<AcGePoint3d> askPointOrPass(Editor& editor, OwnText prompt)
     return typed ? std::optional(resolvePoint(*typed, &origin)) : std::nullopt;
 }
 
-// Turns the UCS so that its X axis runs through the point, and its XY plane through the other one.
-// False when the points leave no such plane.
+// Turns the UCS so that its X axis has the direction `xUcs` and its XY plane holds `inPlaneUcs`.
+// Returns false when the two vectors do not span a plane.
 bool turnTowards(const AcGeVector3d& xUcs, const AcGeVector3d& inPlaneUcs)
 {
     const AcGeVector3d normal = xUcs.crossProduct(inPlaneUcs);
@@ -103,7 +104,7 @@ void askAxes(Editor& editor)
     }
     const auto inPlane = askPointOrPass(editor, L"Specify point on the XY plane or <Accept>: ");
     const AcGeVector3d x = onX->asVector();
-    // Without a point the Z axis leans as little as it can: Y is square to X and to the old Z.
+    // Without a point the Z axis leans as little as it can: Y is perpendicular to X and the old Z.
     const AcGeVector3d y = inPlane ? inPlane->asVector() : AcGeVector3d(0, 0, 1).crossProduct(x);
     if (!turnTowards(x, y))
     {

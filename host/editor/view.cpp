@@ -12,7 +12,7 @@ double inFullTurn(double radians)
     const double turn = 2 * std::numbers::pi;
     const double rest = std::fmod(radians, turn);
     const double positive = rest < 0 ? rest + turn : rest;
-    // A tiny negative angle rounds to the full turn, which is not in the range any more.
+    // A tiny negative angle plus a full turn rounds to the full turn, which is out of the range.
     return positive < turn ? positive + 0.0 : 0;
 }
 
@@ -32,6 +32,6 @@ void planView(View& view, const AcGeMatrix3d& frame)
     const AcGeVector3d normal = axisOf(frame, 2);
     const AcGeVector3d x = worldToUcs(AcGeMatrix3d::planeToWorld(normal), axisOf(frame, 0));
     const double angle = std::atan2(x.y, x.x);
-    turnView(view, normal, -angle);  // the screen's X axis lies at minus the twist in the plane
+    turnView(view, normal, -angle);  // in the plane, the screen's X axis lies at minus the twist
 }
 }  // namespace host

@@ -1,4 +1,4 @@
-// The view of model space.
+// Changes the view of model space.
 #pragma once
 
 #include "gemat3d.h"
@@ -6,13 +6,13 @@
 
 namespace host
 {
-// The same angle in [0, 2 pi); 0 for what is no number.
+// Returns the same angle [rad] in [0, 2 pi); 0 for an infinity and for a NaN.
 double inFullTurn(double radians);
 
-// Looks from another side; any twist is taken and kept in [0, 2 pi). What stood in the middle of
-// the screen stays there.
+// Changes the direction of view [wcs] and the twist [rad]. Any twist is accepted and kept in
+// [0, 2 pi). The point in the middle of the screen stays there.
 void turnView(View& view, const AcGeVector3d& direction, double twist);
 
-// Looks straight at the XY plane of a frame, its X axis to the right.
+// Looks straight at the XY plane of a coordinate system, with its X axis to the right.
 void planView(View& view, const AcGeMatrix3d& frame);
 }  // namespace host

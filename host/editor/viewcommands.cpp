@@ -24,7 +24,8 @@ std::wstring pointText(const AcGeVector3d& vector)
     return realText(vector.x) + L"," + realText(vector.y) + L"," + realText(vector.z);
 }
 
-// A direction has neither an origin nor an elevation, so "@" and "*" have no meaning before it.
+// Parses a direction. A direction has neither an origin nor an elevation, so "@" and "*" before it
+// have no meaning and are refused.
 std::optional<AcGeVector3d> parseDirection(std::wstring_view text)
 {
     const std::optional<TypedPoint> typed = parsePoint(text);
@@ -54,7 +55,8 @@ void usePlanOf(const AcGeMatrix3d& frame)
     planView(state().view, frame);
 }
 
-// Coordinate systems get no names here, so there is none to be found.
+// Answers PLAN's option for a named UCS. The host does not name coordinate systems, so that it
+// never finds one.
 void planOfNamedUcs(Editor& editor)
 {
     const auto name = askLine(editor, Question::Kind::name, own(L"Enter name of UCS: "));
@@ -127,8 +129,8 @@ void planCommand()
     {
         return;
     }
-    // Scripts give PLAN without an answer and go on with the next command: what is no option is
-    // that command, and the plan is that of the current UCS.
+    // Scripts give PLAN without an answer and go on with the next command. An answer that is not an
+    // option is therefore kept as that command, and the plan is that of the current UCS.
     if (foreign)
     {
         editor.putBack(answer);
