@@ -5,6 +5,8 @@
 #include "host/dxf/emptydrawing.h"
 #include "host/dxf/error.h"
 #include "host/dxf/filesource.h"
+#include "host/dxf/load.h"
+#include "host/dxf/save.h"
 
 namespace host
 {

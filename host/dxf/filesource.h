@@ -71,22 +71,4 @@ inline FileSource& sourceOf(const DatabaseCore& core)
 {
     return static_cast<FileSource&>(*core.source());
 }
-
-// What the tables of TABLES are called.
-std::string_view tableName(const TagFile& file, const Record& table);
-
-// Fills an empty database. Throws an Error for a file whose records do not make a drawing.
-void load(DatabaseCore& core, TagFile file);
-
-// Calls `take` with everything that has changed since `load`: good for the length of the call.
-void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take);
-
-// Stands for everything that has changed since `load`: another number for other changes.
-std::uint64_t digestOfChanges(DatabaseCore& core);
-
-// Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
-void save(DatabaseCore& core, const std::string& path, const Progress& progress);
-
-// What the file's release cannot hold, a line for each.
-std::vector<std::string> lossesOnSaving(const DatabaseCore& core);
 }  // namespace host::dxf

@@ -1,3 +1,5 @@
+#include "host/dxf/load.h"
+
 #include <algorithm>
 #include <cmath>
 

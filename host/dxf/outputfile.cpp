@@ -1,7 +1,7 @@
 #include "host/dxf/outputfile.h"
 
 #include "host/dxf/replacement.h"
-#include "host/dxf/save_atomic.h"
+#include "host/dxf/atomicsave.h"
 
 namespace host
 {

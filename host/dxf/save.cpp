@@ -1,3 +1,5 @@
+#include "host/dxf/save.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <map>
@@ -13,7 +15,7 @@
 #include "host/dxf/livestubs.h"
 #include "host/dxf/recordedits.h"
 #include "host/dxf/recordreader.h"
-#include "host/dxf/save_atomic.h"
+#include "host/dxf/atomicsave.h"
 #include "host/dxf/savestate.h"
 #include "host/dxf/savetables.h"
 #include "host/dxf/schema/entities.h"

@@ -6,6 +6,7 @@
 #include "dbents.h"
 #include "host/database/drawing.h"
 #include "host/database/entitystyle.h"
+#include "host/dxf/load.h"
 #include "host/dxf/recordwriter.h"
 #include "host/dxf/schema/tablerecords.h"
 #include "host/text/foldcase.h"

@@ -6,6 +6,7 @@
 #include "host/database/drawing.h"
 #include "host/database/viewframe.h"
 #include "host/dxf/filesource.h"
+#include "host/dxf/save.h"
 #include "host/dxf/outputfile.h"
 #include "host/plot/paper.h"
 #include "host/plot/scene.h"

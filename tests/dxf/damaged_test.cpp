@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "host/dxf/filesource.h"
+#include "host/dxf/load.h"
 #include "tests/dxf/smalldrawing.h"
 #include "tests/fuzz/dxfproperties.h"
 

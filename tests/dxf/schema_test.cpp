@@ -13,6 +13,7 @@
 #include "host/dxf/binaryform.h"
 #include "host/dxf/emptydrawing.h"
 #include "host/dxf/filesource.h"
+#include "host/dxf/load.h"
 #include "host/dxf/headervariables.h"
 #include "host/dxf/lineform.h"
 #include "host/dxf/recordreader.h"

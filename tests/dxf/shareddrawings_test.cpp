@@ -8,7 +8,7 @@
 #include <iterator>
 
 #include "host/dxf/binaryform.h"
-#include "host/dxf/save_atomic.h"
+#include "host/dxf/atomicsave.h"
 #include "tests/dxf/smalldrawing.h"
 #include "tests/support/sanitized.h"
 

@@ -4,6 +4,7 @@
 #include "host/dxf/binaryform.h"
 #include "host/dxf/emptydrawing.h"
 #include "host/dxf/filesource.h"
+#include "host/dxf/load.h"
 #include "host/dxf/schema/code.h"
 #include "host/dxf/tagwriter.h"
 #include "tests/dxf/smalldrawing.h"

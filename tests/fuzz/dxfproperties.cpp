@@ -9,7 +9,9 @@
 #include "host/database/packing.h"
 #include "host/database/drawing.h"
 #include "host/dxf/filesource.h"
-#include "host/dxf/save_atomic.h"
+#include "host/dxf/load.h"
+#include "host/dxf/save.h"
+#include "host/dxf/atomicsave.h"
 #include "host/plot/paper.h"
 #include "host/plot/scene.h"
 

@@ -1,4 +1,4 @@
-#include "host/dxf/save_atomic.h"
+#include "host/dxf/atomicsave.h"
 
 #include <algorithm>
 #include <stdexcept>
