@@ -13,7 +13,7 @@ Color grey(double level)
     return {level, level, level};
 }
 
-// A pure colour by its place on a circle of 24: red at 0, green at 8, blue at 16.
+// Returns the pure colour at a place on a circle of 24 places: red at 0, green at 8, blue at 16.
 Color hue(int place)
 {
     const auto part = [place](int centre)
@@ -25,8 +25,8 @@ Color hue(int place)
     return {part(0), part(8), part(16)};
 }
 
-// 10 to 249 go by tens around the circle; in each ten, pairs of a full and a pale colour get
-// darker.
+// Returns a colour from 10 to 249. Each ten has one hue of the circle, in pairs of a full and a
+// pale colour that get darker.
 Color wheelColor(int index)
 {
     const std::array<double, 5> brightness{1, 0.65, 0.5, 0.3, 0.15};

@@ -5,7 +5,7 @@
 
 namespace host
 {
-// The colour of an index from 1 to 255. Index 7 is black, as on white paper; any other number is
-// black as well.
+// Returns the colour of an index from 1 to 255. Index 7 is black, because the paper is white. Any
+// number outside the palette gives black as well.
 Color indexColor(int index);
 }  // namespace host

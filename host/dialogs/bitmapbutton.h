@@ -8,7 +8,7 @@
 
 namespace host
 {
-// The bitmap's bytes as the module's resources hold them [borrowed], good while the module is
-// loaded. Empty for a button without a bitmap.
+// Returns the bitmap's bytes as the module's resources hold them [borrowed], good while the module
+// is loaded. Empty for a button without a bitmap.
 std::span<const std::byte> bitmapOfButton(HWND button);
 }  // namespace host

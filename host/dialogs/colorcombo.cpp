@@ -51,7 +51,7 @@ int CAcUiMRUComboBox::GetCurrentItemCargo() const
     return selected != CB_ERR ? int(GetItemData(selected)) : CB_ERR;
 }
 
-// A new window has an empty list.
+// Forgets the recent items, because the list of a new window is empty.
 void CAcUiMRUComboBox::PreSubclassWindow()
 {
     m_recentCount = 0;

@@ -51,7 +51,7 @@ std::vector<HWND> controlsOf(HWND dialog, ControlKind kind)
     return found;
 }
 
-// The frame around the control; null for none.
+// Returns the frame around the control; null when no frame surrounds it.
 HWND groupOf(HWND control)
 {
     const std::vector<HWND> groups = controlsOf(GetParent(control), ControlKind::group);
@@ -61,7 +61,7 @@ HWND groupOf(HWND control)
     return found != groups.end() ? *found : nullptr;
 }
 
-// What the lines in the control's own frame take up together.
+// Returns the rectangle around all lines in the control's own frame; no value without lines.
 std::optional<RECT> figureBeside(HWND control)
 {
     std::optional<RECT> figure;

@@ -1,4 +1,4 @@
-// Names of controls by where they stand in their dialog.
+// Names controls by their place in the dialog.
 #pragma once
 
 #include <string>

@@ -54,7 +54,8 @@ std::wstring stateOf(HWND control, ControlKind kind)
     }
 }
 
-// An empty edit tells with its banner what belongs in it.
+// Returns an edit's text in brackets. The banner follows if the edit is empty, because the banner
+// says what to type.
 std::wstring editValue(HWND edit, const std::wstring& text)
 {
     wchar_t banner[64] = L"";
@@ -71,7 +72,7 @@ std::wstring itemText(HWND list, LRESULT index)
     return text;
 }
 
-// What may be selected; of many items the first ones.
+// Returns the list's text and its items. A long list names its first items only.
 std::wstring comboValue(HWND list, const std::wstring& text)
 {
     const LRESULT most = 16;
@@ -111,7 +112,7 @@ std::wstring valueOf(HWND control, ControlKind kind)
     }
 }
 
-// Puts the readable view together, line by line. A label says what the field after it holds.
+// Builds the readable view line by line. A label shares the line of the field that follows it.
 class ReadableView
 {
 public:
@@ -123,7 +124,7 @@ private:
     void putLabel();
 
     std::wstring m_text;
-    HWND m_label = nullptr;  // waits for its field
+    HWND m_label = nullptr;  // a label whose field may follow
 };
 
 void ReadableView::add(HWND control)
@@ -153,7 +154,7 @@ std::wstring ReadableView::text()
     return m_text;
 }
 
-// "-" marks what is disabled.
+// Adds a line; "-" marks a disabled control.
 void ReadableView::putLine(HWND control, const std::wstring& contents)
 {
     const std::wstring id = std::to_wstring(GetDlgCtrlID(control));

@@ -1,4 +1,4 @@
-// A dialog as text.
+// Describes a dialog in text.
 #pragma once
 
 #include <string>
@@ -23,13 +23,13 @@ enum class ControlKind
 };
 
 ControlKind kindOf(HWND control);
-// The word for it in lines and messages.
+// Returns the word for a kind in lines and messages.
 OwnText nameOf(ControlKind kind);
 
-// The control as a script reads it: `[control] ID KIND enabled|disabled STATE "TEXT"`.
+// Returns the control as a script reads it: `[control] ID KIND enabled|disabled STATE "TEXT"`.
 std::wstring controlLine(HWND control);
 
-// The whole dialog for a person at a terminal: the controls with their labels and values, marks on
-// those that are disabled, and a line of help. The last line has no end.
+// Returns the dialog for a person at a terminal: the visible controls with their labels and values,
+// marks on disabled controls, and a line of help. The last line has no line end.
 std::wstring readableView(HWND dialog);
 }  // namespace host

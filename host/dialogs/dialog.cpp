@@ -7,7 +7,7 @@
 #include "host/dialogs/wnd.h"
 #include "host/editor/editor.h"
 
-// What the window of a dialog calls.
+// Holds the function that the system calls for the window of a dialog.
 struct DialogProcedure
 {
     static INT_PTR CALLBACK call(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

@@ -14,7 +14,7 @@ namespace host
 {
 namespace
 {
-// Takes the first word off the line, and one blank after it.
+// Removes the first word and one blank after it from the line, and returns the word.
 std::wstring takeWord(std::wstring_view& line)
 {
     const std::size_t first = std::min(line.find_first_not_of(L" \t"), line.size());
@@ -87,7 +87,7 @@ Result<> select(HWND list, std::wstring_view text)
     return choose(list, index, L"\"" + wanted + L"\"");
 }
 
-// As the host's own colour dialog does it: the colour joins the recent ones.
+// Selects a colour as the host's own colour dialog does: the colour joins the recent colours.
 Result<> color(HWND list, std::wstring_view text)
 {
     auto* const colors = dynamic_cast<CAcUiColorComboBox*>(objectOf(list));

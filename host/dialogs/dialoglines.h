@@ -1,4 +1,4 @@
-// The lines with which a script or a person works a dialog.
+// Executes the lines with which a script or a person operates a dialog.
 #pragma once
 
 #include <string_view>
@@ -11,8 +11,8 @@ namespace host
 {
 class Editor;
 
-// Does what the line says, by the functions of windows alone: `set ID TEXT`, `check ID on|off`,
-// `click ID`, `select ID TEXT` or `#N`, `color ID N`, `show`, `close`. A line that does nothing is
-// a failure.
+// Executes a line by calling functions of windows only: `set ID TEXT`, `check ID on|off`,
+// `click ID`, `select ID TEXT` or `#N`, `color ID N`, `show`, `close`. A line that cannot be
+// executed is a failure that says why.
 Result<> takeDialogLine(Editor& editor, HWND dialog, std::wstring_view line);
 }  // namespace host

@@ -1,4 +1,5 @@
-// The host's own dialogs: they find their resources and step aside for the editor.
+// The base classes of the host's own dialogs, which find their resources and step aside for the
+// editor.
 #include <utility>
 
 #include "acui.h"
@@ -27,7 +28,7 @@ CAdUiBaseDialog::CAdUiBaseDialog(UINT templateId, CWnd* parent, HINSTANCE resour
 
 namespace
 {
-// Makes a module's resources current for the length of a scope; null leaves them as they are.
+// Makes a module's resources current for the length of a scope; null keeps the current resources.
 class CurrentResources
 {
 public:

@@ -22,7 +22,8 @@ std::function<void(HWND)>& observer()
     return installed;
 }
 
-// A button that is not there is pressed all the same.
+// Presses a button unless it is disabled. A dialog without the button gets its command all the
+// same.
 void press(HWND dialog, int id)
 {
     const HWND button = GetDlgItem(dialog, id);
@@ -33,7 +34,7 @@ void press(HWND dialog, int id)
     }
 }
 
-// Enter presses the default button, or OK where there is none.
+// Presses the default button, or OK in a dialog without a default button.
 void pressDefault(HWND dialog)
 {
     const LRESULT answer = SendMessageW(dialog, DM_GETDEFID, 0, 0);
@@ -64,7 +65,8 @@ void take(Editor& editor, HWND dialog, const Answer& answer)
     }
 }
 
-// What a handler may not leave behind, whether it has ended the dialog or not.
+// Stops a module whose handler has destroyed the dialog or has not brought it back, whether the
+// handler has ended the dialog or not.
 void requireBack(HWND dialog, bool shown)
 {
     if (!IsWindow(dialog))
@@ -85,7 +87,8 @@ void requireVisible(HWND dialog)
     }
 }
 
-// A script needs no prompt; a person does, and sees the dialog again after each pick.
+// Makes the questions of a dialog. A person gets a prompt and sees the dialog again after each
+// pick; a script needs neither.
 class Viewer
 {
 public:
@@ -108,7 +111,7 @@ public:
         return question;
     }
 
-    // Since the last question: after a click on a pick button.
+    // Tells whether a click on a pick button has hidden the dialog since the last question.
     bool hasStoodAside() const { return m_pickCount != m_editor.dialogs().picks(); }
 
 private:
@@ -144,7 +147,7 @@ void runModalLoop(HWND dialog, const bool& ended)
             continue;
         }
         take(*editor, dialog, answer);
-        dispatchPendingMessages();  // some of what a message leads to is posted
+        dispatchPendingMessages();  // handlers may have posted messages of their own
         requireBack(dialog, editor->dialogs().count() == shown);
     }
     editor->dialogs().hide();

@@ -14,12 +14,13 @@ void runModalLoop(HWND dialog, const bool& ended);
 // Tells the user that the dialog is closed, by OK or not [prints].
 void tellDialogClosed(bool ok);
 
-// Prompts are allowed between these two calls; while a dialog is shown a prompt ends the run.
+// Let a dialog step aside and come back. Prompts are allowed between the two calls; while a dialog
+// is shown, a prompt ends the run.
 void dialogStepsAside();
 void dialogComesBack();
 
-// Looks at every dialog as it stands when it is about to close, for the length of a scope. One at a
-// time.
+// Calls a function with every dialog that is about to close, for the length of a scope. Only one
+// observer may exist at a time.
 class DialogObserver
 {
 public:

@@ -1,4 +1,4 @@
-// Controls that the system leaves to their owner to draw.
+// Draws the controls that the system leaves to their owner.
 #pragma once
 
 #include "windows.h"
@@ -6,10 +6,10 @@
 
 namespace host
 {
-// Answers a message to a dialog that asks for drawing; TRUE when something was drawn. Without a
+// Answers a message that asks a dialog to draw; returns TRUE when something was drawn. Without a
 // screen no such message comes.
 INT_PTR answerDrawing(UINT message, LPARAM lParam);
 
-// Shows the text when the pointer rests on the control.
+// Sets the text to show while the pointer rests on the control.
 void setTooltip(HWND control, const wchar_t* text);
 }  // namespace host

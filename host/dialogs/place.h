@@ -1,4 +1,4 @@
-// Where a dialog appears.
+// Places dialogs on the screen.
 #pragma once
 
 #include "windows.h"

@@ -10,7 +10,7 @@
 
 namespace
 {
-// Never destroyed, as the next: a module's objects may outlive them.
+// The two maps are never destroyed, because a module's objects may live longer than static objects.
 std::map<HWND, CWnd*>& objects()
 {
     static std::map<HWND, CWnd*>& all = *new std::map<HWND, CWnd*>;
@@ -40,7 +40,8 @@ CWnd* host::objectOf(HWND window)
     return found != objects().end() ? found->second : nullptr;
 }
 
-// The main window stays although nothing may stand behind its handle: dialogs keep it as parent.
+// Keeps the object of the main window even if no window has its handle, because it is the parent of
+// dialogs.
 void host::dropGoneWindows()
 {
     const auto isGone = [](const auto& entry)
@@ -63,7 +64,7 @@ std::wstring host::windowText(HWND window)
     return text;
 }
 
-// The root of all maps.
+// Returns the message map at which every chain of maps ends.
 const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
 {
     static const AFX_MSGMAP_ENTRY none[] = {{0, 0, nullptr}};

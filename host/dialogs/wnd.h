@@ -1,4 +1,4 @@
-// The objects that stand for windows.
+// The objects that represent windows.
 #pragma once
 
 #include <string>
@@ -7,17 +7,17 @@
 
 namespace host
 {
-// The object that was made to stand for the window [borrowed]; null when there is none or only a
-// temporary one.
+// Returns the module's object that represents the window [borrowed]; null when the module has no
+// such object. Temporary objects do not count.
 CWnd* objectOf(HWND window);
 
-// The window that the object stands for. When it stands for none, the run ends and the line names
-// the call.
+// Returns the window that the object represents. If the object has no window, the run ends with a
+// line that names the call.
 HWND windowOf(const CWnd& object, const char* call);
 
 // Deletes the temporary objects of windows that are gone and detaches the others from them.
 void dropGoneWindows();
 
-// The window's text, whole.
+// Returns the window's whole text.
 std::wstring windowText(HWND window);
 }  // namespace host

@@ -8,7 +8,7 @@ namespace host
 {
 namespace
 {
-// The fields of a BITMAPINFOHEADER that matter here.
+// The fields of a BITMAPINFOHEADER that the conversion needs.
 struct Header
 {
     std::uint32_t size;
@@ -79,7 +79,7 @@ std::size_t Bitmap::rowSize() const
 std::uint32_t Bitmap::rgbAt(std::size_t offset) const
 {
     std::uint32_t value = 0;
-    std::memcpy(&value, m_bytes.data() + offset, 3);  // blue, green, red
+    std::memcpy(&value, m_bytes.data() + offset, 3);  // in the order blue, green, red
     return value;
 }
 

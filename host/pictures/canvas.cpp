@@ -9,7 +9,7 @@ namespace host
 {
 namespace
 {
-// "MS Shell Dlg" 8 points; the face is the free one with the same widths as Windows' Arial.
+// Stands for "MS Shell Dlg" with 8 points: a free typeface with the same widths as Windows' Arial.
 const char fontName[] = "Liberation Sans";
 const double fontSize = 8 * 96 / 72.0;
 }  // namespace
@@ -89,7 +89,8 @@ void Canvas::text(const Box& box, double x, double middle, std::wstring_view tex
     cairo_move_to(m_cairo, x, middle + (font.ascent - font.descent) / 2);
     cairo_show_text(m_cairo, toUtf8(text).c_str());
     cairo_restore(m_cairo);
-    // The library's point is left where the text ends; a circle would begin with a line from there.
+    // The library's current point is at the end of the text. Without a new path, a circle would
+    // begin with a line from there.
     cairo_new_path(m_cairo);
 }
 

@@ -1,5 +1,5 @@
-// The surface that pictures of dialogs are drawn on. All measures are pixels of a screen of 96 dots
-// to the inch, from the upper left corner.
+// Draws the pictures of dialogs. All measures are pixels of a screen of 96 dots to the inch, from
+// the upper left corner.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ inline constexpr Color edge{0.478, 0.478, 0.478};
 inline constexpr Color dimmed{0.55, 0.55, 0.55};
 inline constexpr Color accent{0, 0.471, 0.843};
 
-// A rectangle by its upper left corner and its size.
+// A rectangle: its upper left corner, width and height. Y points down.
 struct Box
 {
     double x;
@@ -29,7 +29,8 @@ struct Box
     Box inset(double by) const { return {x + by, y + by, width - 2 * by, height - 2 * by}; }
 };
 
-// Draws; what comes later covers what is there.
+// A picture that is drawn. Later shapes cover earlier shapes. `scale` is the number of the
+// picture's dots to a pixel.
 class Canvas
 {
 public:
@@ -43,15 +44,15 @@ public:
     void line(double x1, double y1, double x2, double y2, Color color, double width = 1);
     void circle(double x, double y, double radius, Color color, bool filled);
     void triangleDown(double x, double y, double size, Color color);
-    // The text begins at x, stands centred on the height `middle` and is cut at the box.
+    // Draws a text from `x` on, vertically centred on `middle` and cut off at the box.
     void text(const Box& box, double x, double middle, std::wstring_view text, Color color);
-    void veil(const Box& box);  // fades what is there into the face
+    void veil(const Box& box);  // fades everything in the box into the face
     void image(const Box& box, cairo_surface_t* image);
 
     double textWidth(std::wstring_view text) const;
     double textHeight() const;
 
-    // The bytes of a PNG file. It fails when memory ran out.
+    // Returns the bytes of a PNG file; a failure when memory ran out.
     Result<std::string> png() const { return pngOf(m_surface); }
 
 private:

@@ -84,7 +84,7 @@ void drawGroupBox(Canvas& canvas, const Control& control)
     canvas.text(caption, caption.x, caption.middle(), control.text, control.ink());
 }
 
-const double markSize = 13;  // of a check box or radio button
+const double markSize = 13;  // the size of a check box or radio button
 
 void drawMarkText(Canvas& canvas, const Control& control)
 {
@@ -186,7 +186,8 @@ void drawEdit(Canvas& canvas, const Control& control)
                 empty ? bannerOf(control.window) : control.text, empty ? dimmed : control.ink());
 }
 
-// The list's box is that of the list when it drops down: closed it is as high as an edit.
+// Draws a closed combo box, which is as high as an edit. The control's own box includes the list
+// that drops down.
 void drawCombo(Canvas& canvas, Control control)
 {
     const double closedHeight = 20;
@@ -247,7 +248,7 @@ Result<std::string> drawDialog(HWND dialog)
     Canvas canvas(width, height, scale);
     canvas.fill({0, 0, double(width), double(height)}, face);
     drawCaption(canvas, frame.box.width, frame.text);
-    // The first control lies on top of the others, hence it comes last.
+    // The first control is drawn last, because it lies on top of the others.
     std::vector<Control> controls;
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
     {

@@ -1,4 +1,4 @@
-// Pictures of dialogs.
+// Draws pictures of dialogs.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace host
 {
-// Draws the dialog as it stands, with its frame and caption, twice the size it has on a screen of
-// 96 dots to the inch, and returns the bytes of a PNG file. It fails when memory runs out.
+// Draws the dialog as it stands, with its frame and caption, at twice the size that it has on a
+// screen of 96 dots to the inch. Returns the bytes of a PNG file; a failure when memory ran out.
 Result<std::string> drawDialog(HWND dialog);
 }  // namespace host

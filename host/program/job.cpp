@@ -24,7 +24,7 @@ namespace host
 {
 namespace
 {
-// Told before the work, not after it.
+// Checks the output files before the run, so that a wrong name does not cost the work of the run.
 bool canBeWritten(const Options& options, FrontEnd& frontEnd)
 {
     for (const std::string& path : {options.save, options.plot, options.dialogPicture})
@@ -81,7 +81,7 @@ bool loadModule(const Options& options, FrontEnd& frontEnd)
 {
     const std::filesystem::path module = pathOf(options.module);
     linker().searchFolder = module.parent_path();
-    // Made absolute first: the name alone would be looked for in other folders as well.
+    // The path is made absolute, because a name alone would be searched for in other folders too.
     const Result<> loaded = linker().load(std::filesystem::absolute(module));
     if (!loaded)
     {
@@ -90,7 +90,7 @@ bool loadModule(const Options& options, FrontEnd& frontEnd)
     return bool(loaded);
 }
 
-// Whether the input ended where it may and all was done that it asked for.
+// Runs the commands. Returns true when the input ended between commands and nothing failed.
 bool runInput(Editor& editor)
 {
     runCommands(editor);
@@ -119,7 +119,8 @@ bool save(const Options& options, Editor& editor, FrontEnd& frontEnd)
     return true;
 }
 
-// What a person has drawn goes only by that person's word, however the session ends.
+// Saves the drawing as the options ask. A person's unsaved work is kept in a file of its own
+// however the session ends, unless that person has given it up.
 bool saveOrKeep(const Options& options, Editor& editor, FrontEnd& frontEnd)
 {
     const bool isSaved = save(options, editor, frontEnd);
@@ -166,7 +167,7 @@ Result<> savePicture(const std::string& path, const Result<std::string>& picture
                    : Failure{path + ": " + picture.failure().line};
 }
 
-// Of the dialogs that are shown the last one is kept.
+// Runs the commands and saves a picture of the last dialog that they showed.
 bool runInputAndDraw(Editor& editor, const std::string& path)
 {
     Result<std::string> picture = Failure{"no dialog was shown that could be drawn"};
@@ -180,7 +181,7 @@ bool runInputAndDraw(Editor& editor, const std::string& path)
     return ended && saved;
 }
 
-// What whoever sits down at the terminal has to know, in one line of eighty letters.
+// Returns what a person at the terminal has to know, in one line of at most eighty letters.
 std::wstring welcome()
 {
     const std::wstring names = moduleCommandNames();
@@ -203,7 +204,7 @@ bool runDocument(const Options& options, FrontEnd& frontEnd)
         }
         done = options.dialogPicture.empty() ? runInput(editor)
                                              : runInputAndDraw(editor, options.dialogPicture);
-        // A run that was cut short has still drawn what it has drawn.
+        // A run that was cut short still leaves the entities that it has drawn.
         done = saveOrKeep(options, editor, frontEnd) && done;
         done = plot(options, frontEnd) && done;
     }

@@ -1,4 +1,4 @@
-// One run of arxhost, from the drawing that it opens to the drawing that it saves.
+// Executes a run of arxhost, from opening the drawing to saving it.
 #pragma once
 
 #include "host/editor/frontend.h"
@@ -6,7 +6,7 @@
 
 namespace host
 {
-// Runs the session and returns the status that the program ends with. Every failure is reported to
+// Executes the run and returns the status with which the program ends. Every failure is reported to
 // the front end in one line.
 int runJob(const Options& options, FrontEnd& frontEnd);
 }  // namespace host

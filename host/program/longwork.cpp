@@ -19,7 +19,7 @@ LongWork::LongWork(std::wstring label, Show show)
 {
 }
 
-// While a drawing is opened there is no editor yet that knows who reads.
+// Chooses the language without `own`, because no editor exists yet while a drawing is opened.
 LongWork::LongWork(OwnText label, FrontEnd& frontEnd)
     : LongWork(frontEnd.interactive() && acrxProductLCID() == russianLocale ? label.russian()
                                                                             : label.english(),

@@ -14,20 +14,24 @@ namespace host
 {
 class Editor;
 
-// Shows a meter for work that takes longer than a second. The meter goes with the object.
+// Shows a meter for work that takes longer than a second. The end of the object removes the meter.
 class LongWork
 {
 public:
     using Show = std::function<void(const std::optional<Meter>&)>;
 
+    // `show` gets the meter, or no value to remove it.
     LongWork(std::wstring label, Show show);
+    // Shows the meter of work outside commands. The front end is [borrowed].
     LongWork(OwnText label, FrontEnd& frontEnd);
-    LongWork(OwnText label, Editor& editor);  // of a command
+    // Shows the meter of a command's work. The editor is [borrowed].
+    LongWork(OwnText label, Editor& editor);
     ~LongWork();
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
-    Progress progress();  // good while the object lives
+    // Returns the function that takes the progress. It may be called while the object lives.
+    Progress progress();
 
 private:
     void reach(double part);

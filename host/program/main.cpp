@@ -19,7 +19,7 @@ namespace
 {
 int runStandardInput(const host::Options& options)
 {
-    // Nobody can answer questions that are not shown.
+    // A quiet run shows no questions, so a person at the terminal could not answer them.
     if (const auto status = options.quiet ? std::nullopt : host::runAtTerminal(options))
     {
         return *status;
@@ -28,7 +28,8 @@ int runStandardInput(const host::Options& options)
     return host::runSession(options, reader);
 }
 
-// A whole script is looked at before its first line is an answer.
+// Runs a script from a file. Checks the whole text before the first answer, so that a damaged
+// script does not run halfway.
 int runText(const host::Options& options, std::istream& script, bool byHostRules)
 {
     const std::string bytes(std::istreambuf_iterator<char>(script), {});
@@ -62,12 +63,12 @@ int runScript(const host::Options& options)
     {
         return runText(options, script, byHostRules);
     }
-    // A pipe may wait for what is said, so its lines are taken as they come.
+    // A program behind a pipe may wait for our output, so its lines are taken one by one.
     host::LineReader reader(script, false, options.script);
     return host::runSession(options, reader);
 }
 
-// What opens the settings dialog and leaves it again, for a picture that nobody wrote a script for.
+// Returns answers that open and close the settings dialog, for a picture without a script.
 std::string answersForPicture(const host::Options& options)
 {
     const char* const settings = options.locale == host::russianLocale ? "Н" : "S";

@@ -1,4 +1,4 @@
-// The progress meter as a line of text.
+// Draws the progress meter as a line of text.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace host
 {
-// Fits a terminal of so many columns. The last column stays free: text there would begin a new
-// line.
+// Returns the line, in UTF-8, for a terminal of that many columns. The last column stays free,
+// because text there would begin a new line.
 std::string meterBar(const Meter& meter, int columns);
 }  // namespace host

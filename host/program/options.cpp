@@ -23,7 +23,8 @@ namespace fs = std::filesystem;
 
 const int wrongUsage = 2;
 
-// An unset variable of a script must not pass for an option left out.
+// Refuses an empty name, which a script passes when its variable is not set. The host would take it
+// for an option that was left out.
 const CLI::Validator someName([](const std::string& name)
                               { return name.empty() ? "expected a file's name" : ""; },
                               "");
@@ -93,8 +94,8 @@ bool endsIn(const std::string& file, std::wstring_view ending)
     return equalNoCase(fromUtf8(pathOf(file).extension().string()), ending);
 }
 
-// A device, a pipe or a folder needs no ending, nor does an output of the run that leads to a file;
-// which of them can be written shows later.
+// Tells whether the name needs no ending, because it is that of a device, a pipe, a folder or an
+// open output of the program. A later check finds out whether it can be written.
 bool isNoFile(const std::string& name)
 {
     std::error_code ignored;
@@ -103,7 +104,7 @@ bool isNoFile(const std::string& name)
            (fs::exists(status) && !fs::is_regular_file(status));
 }
 
-// Whether the names can be what they are given for.
+// Checks that the script exists and that the names of the outputs have the right endings.
 Result<> checkNames(const Options& options)
 {
     if (scriptIsMissing(options))
@@ -130,7 +131,7 @@ std::optional<Options> parseOptions(std::vector<std::string> arguments, int& sta
     describe(app, options, locale);
     try
     {
-        // The last one first, and without the program.
+        // CLI11 takes the arguments in reverse order and without the program's name.
         arguments.erase(arguments.begin());
         std::ranges::reverse(arguments);
         app.parse(std::move(arguments));

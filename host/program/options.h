@@ -10,21 +10,22 @@
 
 namespace host
 {
-// What the command line asks for.
+// What the command line asks for. File names are in UTF-8.
 struct Options
 {
-    std::string drawing;  // empty: a new one
+    std::string drawing;  // empty: a new drawing
     std::string module;
-    std::string script;  // empty: the terminal or standard input as it is; "-" is standard input
+    std::string script;  // empty: the terminal or standard input; "-": standard input
     std::string save;    // empty: do not save
     std::string plot;    // empty: do not plot
     LCID locale;
-    std::string dialogPicture;  // empty: none
+    std::string dialogPicture;  // empty: no picture
     bool trace = false;
     bool quiet = false;
 };
 
-// Reads the arguments, the program's name first. No value when there is nothing to run: the text to
-// show has been printed then, and `status` is what the program ends with.
+// Parses the arguments, of which the first is the program's name. Returns no value when the program
+// has nothing to run; help or a complaint has been printed then, and `status` is the status with
+// which the program ends.
 std::optional<Options> parseOptions(std::vector<std::string> arguments, int& status);
 }  // namespace host

@@ -1,4 +1,4 @@
-// The services of the system that arxhost runs on.
+// The functions of arxhost that depend on the system.
 #pragma once
 
 #include <cstdio>
@@ -12,34 +12,34 @@
 
 namespace host
 {
-// Called first. Sets how output is written and how signals of the system end the run.
+// Sets how output is written and how signals end the run. The program calls it first.
 void beginProcess();
 
-// The arguments in UTF-8, the program's name first.
+// Returns the arguments in UTF-8, with the program's name first.
 std::vector<std::string> givenArguments(int count, char** arguments);
 
-// Sends standard output nowhere. False when that cannot be done.
+// Discards what is written to `stdout` from now on. Returns false when that fails.
 bool silenceOutput();
 
-// The folder in which the user's programs keep what outlasts a session. It has been made if that
-// was possible. Empty when there is no such place.
+// Returns the folder for files that outlast a session and makes it if possible; an empty path when
+// the user has no such place.
 std::filesystem::path stateFolder();
 
-// Writes to standard output or standard error.
+// Writes UTF-8 to standard output or standard error.
 void write(std::FILE* stream, std::string_view text);
 
-// Called last. Where the window of the output closes with the program, waits so that the user can
-// read why the run failed.
+// Waits for Enter after a failure if the window would close before the user can read why the run
+// failed. The program calls it last.
 void beforeTheEnd(int status);
 
-// Makes an empty file. False when there is a file of that name or it cannot be made.
+// Makes an empty file. Returns false when a file of that name exists or the file cannot be made.
 bool makeNewFile(const std::filesystem::path& file);
 
-// Runs a session with what a person types at the terminal and returns the status of the program. No
+// Runs a session with a person at the terminal and returns the status of the program. Returns no
 // value when standard input and output are not a terminal.
 std::optional<int> runAtTerminal(const Options& options);
 
-// The width of the terminal that standard error is. 0 when it is not a terminal, or one that cannot
-// go back in a line.
+// Returns the columns of the terminal on standard error; 0 when standard error is not a terminal or
+// the terminal cannot move the cursor back in a line.
 int errorColumns();
 }  // namespace host

@@ -13,7 +13,8 @@ namespace host
 {
 namespace
 {
-// Nothing for Esc, and for Enter while the drawing has no file.
+// Asks for the file; Enter is the drawing's own file. Returns no value for Esc, and for Enter if
+// the drawing has no file.
 std::optional<std::filesystem::path> askPath(Editor& editor, const Document& document)
 {
     const std::wstring prompt = document.path().empty()
@@ -36,7 +37,7 @@ Result<> saveShown(AcDbDatabase& database, const std::string& path, Editor& edit
     return saveDrawing(database, path, work.progress());
 }
 
-// The drawing has the new name from then on.
+// Saves the drawing, which has the new name from then on.
 void saveAsCommand()
 {
     Editor& editor = *Editor::current();

@@ -3,5 +3,6 @@
 
 namespace host
 {
+// Adds the command to the host's commands.
 void registerSaveAs();
 }  // namespace host

@@ -24,14 +24,15 @@ void printOut(std::string_view text)
 {
     lineIsOpen = text.empty() ? lineIsOpen : !text.ends_with('\n');
     write(stdout, text);
-    // Whoever sits at the other end of a pipe has to see a prompt, which has no line end.
+    // A prompt has no line end, and the reader at the other end of a pipe has to see it.
     if (!text.ends_with('\n'))
     {
         std::fflush(stdout);
     }
 }
 
-// The last line of the terminal that standard error is. Nothing of it goes to standard output.
+// Shows the meter on the last line of the terminal on standard error, so that standard output stays
+// free of it.
 class ErrorMeter
 {
 public:
@@ -81,7 +82,7 @@ int runGuarded(const Options& options, FrontEnd& frontEnd)
 void printError(std::string_view line)
 {
     failureTold = true;
-    // In three parts, for which no memory is needed.
+    // Joining the three parts would need memory, which may have run out.
     write(stderr, "arxhost: ");
     write(stderr, line);
     write(stderr, "\n");
@@ -123,7 +124,7 @@ void endAtOnce()
     }
     catch (const std::bad_alloc&)
     {
-        // After a failure that was told this is but its last trace.
+        // The memory may have run out because of a failure that has been reported already.
         if (!failureTold)
         {
             printError(notEnoughMemory);

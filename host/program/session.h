@@ -9,15 +9,15 @@ namespace host
 // Writes one line to standard error.
 void printError(std::string_view line);
 
-// Prints to standard output and reports to standard error.
+// Returns an output that prints to standard output and reports to standard error.
 LineOutput standardOutput();
 
-// Runs a job and returns the status that the program ends with. The answers are read on the calling
-// thread.
+// Runs a job and returns the status with which the program ends. The answers are read on the
+// calling thread.
 int runSession(const Options& options, AnswerReader& reader, LineOutput output = standardOutput());
 
-// The handler of std::terminate. It ends the program with status 1 and one line on what no result
-// can tell: an input that breaks off, or memory that runs out while the input is read or while
-// objects are destroyed.
+// Handles std::terminate: ends the program with status 1 and one line. It serves the failures that
+// no result can carry: an input that breaks off, or memory that runs out while the input is read or
+// while objects are destroyed.
 [[noreturn]] void endAtOnce();
 }  // namespace host

@@ -14,7 +14,7 @@ namespace
 {
 namespace fs = std::filesystem;
 
-// Enter, Esc and the end of the input are No.
+// Asks a question; Enter, Esc and the end of the input mean No.
 bool isYes(Editor& editor, const std::wstring& prompt)
 {
     const KeywordList answers(own(L"Yes No"));
@@ -41,7 +41,7 @@ std::wstring shown(const fs::path& file)
     return fromUtf8(file.string());
 }
 
-// Best first.
+// Returns the folders to try for a kept drawing, the best folder first.
 std::vector<fs::path> foldersForKept(const fs::path& drawing)
 {
     std::vector<fs::path> folders = {drawing.parent_path(), stateFolder()};
@@ -49,10 +49,10 @@ std::vector<fs::path> foldersForKept(const fs::path& drawing)
     return folders;
 }
 
-// The first has no number.
+// Returns the name of a kept drawing; the first name has no number.
 fs::path keptFile(const fs::path& folder, const fs::path& drawing, int number)
 {
-    const std::size_t longest = 200;  // so that there is room for the rest
+    const std::size_t longest = 200;  // leaves room for the rest of the name
     const std::string stem = drawing.stem().string();
     const std::string name = stem.empty() || stem.size() > longest ? "drawing" : stem;
     const std::string counted = number > 1 ? "-" + std::to_string(number) : "";
@@ -65,7 +65,7 @@ bool isThere(const fs::path& file)
     return fs::exists(file, ignored);
 }
 
-// Empty if the folder takes none.
+// Makes a new file in the folder; returns an empty path if the folder takes no file.
 fs::path newFileIn(const fs::path& folder, const fs::path& drawing)
 {
     for (int number = 1;; ++number)
@@ -106,7 +106,7 @@ Result<> keepIn(const fs::path& folder, Editor& editor)
 
 void noteSaved(Editor& editor)
 {
-    // It is for questions that a script is not asked, and takes time in a large drawing.
+    // Only a person's questions need the digest, which takes time in a large drawing.
     if (editor.interactive())
     {
         Document& document = *documents().document();

@@ -7,7 +7,8 @@ namespace host
 {
 namespace
 {
-// Empty for a text that holds anything which numbers are not made of.
+// Returns the text without blanks around it and without a leading plus; an empty text if a
+// character in it cannot belong to a number.
 std::string numberCharacters(std::wstring_view text)
 {
     text = trimmed(text);
@@ -20,7 +21,7 @@ std::string numberCharacters(std::wstring_view text)
         }
         characters += char(unit);
     }
-    // Only one sign may lead, and readNumber takes no plus.
+    // A number has at most one sign, and readNumber refuses a plus.
     const bool plus = characters.starts_with('+') && !characters.starts_with("+-");
     return plus ? characters.substr(1) : characters;
 }
@@ -47,7 +48,7 @@ std::wstring realText(double value)
     const double size = std::fabs(value);
     const bool plain = size == 0 || (size >= 1e-6 && size < 1e16);
     const auto format = plain ? std::chars_format::fixed : std::chars_format::scientific;
-    // Adding zero turns a negative zero into a plain one.
+    // Adding zero turns a negative zero into a positive zero.
     const auto written = std::to_chars(buffer, buffer + sizeof buffer, value + 0.0, format);
     return widen(buffer, written.ptr);
 }

@@ -1,4 +1,4 @@
-// Numbers as files hold them and as they are typed and shown at the command line.
+// Reads numbers from files and from the command line, and writes numbers for the command line.
 #pragma once
 
 #include <charconv>
@@ -10,9 +10,9 @@
 
 namespace host
 {
-// Reads a number that is the whole text, apart from blanks around it; an integer in the given base.
-// Nothing for any other text and for a number that the type cannot hold. A plus in front is no part
-// of a number.
+// Reads a number that is the whole text, apart from blanks around it. `base`, if given, is the base
+// of an integer. Returns no value for any other text, including a number after a plus sign, and for
+// a number that the type cannot hold.
 template <class Number, class... Base>
 std::optional<Number> readNumber(std::string_view text, Base... base)
 {
@@ -24,12 +24,14 @@ std::optional<Number> readNumber(std::string_view text, Base... base)
 }
 
 // Reads a number that a person has typed: sign, digits, decimal point, exponent, with blanks around
-// them. Nothing for anything else, for an infinity and for a number that the type cannot hold.
+// them. Returns no value for any other text, for an infinity and for a number that the type cannot
+// hold.
 std::optional<double> parseReal(std::wstring_view text);
 std::optional<int> parseInteger(std::wstring_view text);
 
-// The shortest text that reads back as the same number.
+// Returns the shortest text that reads back as the same number.
 std::wstring realText(double value);
-// Degrees, to the twelve digits that conversions between units leave sound.
+// Returns an angle [rad] in degrees with twelve digits, because the conversion leaves no more
+// digits sound.
 std::wstring degreesText(double radians);
 }  // namespace host

@@ -1,11 +1,11 @@
-// Texts without the blanks around them.
+// Removes the blanks around texts.
 #pragma once
 
 #include <string_view>
 
 namespace host
 {
-// Without blanks and tabs at both ends; a view of the text that is given.
+// Returns a view of the text [borrowed] without the blanks and tabs at both ends.
 inline std::string_view trimmed(std::string_view text)
 {
     const std::size_t first = text.find_first_not_of(" \t");

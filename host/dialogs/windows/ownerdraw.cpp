@@ -43,7 +43,7 @@ bool isIndex(ULONG_PTR cargo)
     return cargo >= 1 && cargo <= 255;
 }
 
-// An item of the colour list: its colour where it is one, and its name.
+// Draws an item of the colour list: its name, and the colour if the item stands for one.
 void drawColor(const DRAWITEMSTRUCT& item)
 {
     const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
@@ -75,7 +75,7 @@ const void* pixelsOf(const BITMAPINFOHEADER& header)
     return reinterpret_cast<const BYTE*>(&header) + header.biSize + colors * sizeof(RGBQUAD);
 }
 
-// The light grey of the picture is the face of the button.
+// Draws a picture; its light grey becomes the face of the button.
 void drawPicture(HDC device, const RECT& box, const BITMAPINFOHEADER& header)
 {
     const SIZE size = {header.biWidth, header.biHeight};
@@ -93,7 +93,7 @@ void drawPicture(HDC device, const RECT& box, const BITMAPINFOHEADER& header)
     DeleteDC(memory);
 }
 
-// What lies below fades into the face of the button.
+// Fades everything in the box into the face of the button.
 void veil(HDC device, const RECT& box)
 {
     const HDC memory = CreateCompatibleDC(device);

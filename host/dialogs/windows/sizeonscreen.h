@@ -1,4 +1,4 @@
-// How large a picture is drawn.
+// Scales pictures to the screen.
 #pragma once
 
 #include "windows.h"

@@ -9,7 +9,7 @@ namespace host
 {
 namespace
 {
-// What waits to be drawn is drawn before.
+// Makes the system draw everything that waits to be drawn.
 void paintAll(HWND dialog)
 {
     RedrawWindow(dialog, nullptr, nullptr,
@@ -20,7 +20,7 @@ void paintAll(HWND dialog)
     }
 }
 
-// What the system draws with, given back on every way out.
+// Deletes an object with which the system draws, on every way out.
 struct Deleting
 {
     void operator()(HDC context) const { DeleteDC(context); }
@@ -40,7 +40,7 @@ struct Screen
     HDC context;
 };
 
-// With its frame, as it stands on the screen.
+// Returns the dialog with its frame, as it stands on the screen.
 Bitmap photograph(HWND dialog)
 {
     RECT frame;
@@ -52,7 +52,7 @@ Bitmap photograph(HWND dialog)
     Bitmap bitmap(CreateCompatibleBitmap(screen.context, width, height));
     const HGDIOBJ before = SelectObject(memory.get(), bitmap.get());
     BitBlt(memory.get(), 0, 0, width, height, screen.context, 0, 0, SRCCOPY);
-    SelectObject(memory.get(), before);  // a bitmap that is selected cannot be deleted
+    SelectObject(memory.get(), before);  // a selected bitmap cannot be deleted
     return bitmap;
 }
 }  // namespace

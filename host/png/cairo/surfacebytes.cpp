@@ -4,7 +4,7 @@
 
 namespace host
 {
-// Nothing may be thrown through the library.
+// Catches every exception, because none may pass through the library.
 cairo_status_t appendTo(void* bytes, const unsigned char* data, unsigned length)
 try
 {

@@ -1,4 +1,4 @@
-// The bytes of the files that the drawing library makes.
+// Collects the bytes of the files that the drawing library writes.
 #pragma once
 
 #include <cairo.h>
@@ -12,6 +12,6 @@ namespace host
 // Appends the data to `bytes`, which is a std::string [borrowed]. The library's streams call it.
 cairo_status_t appendTo(void* bytes, const unsigned char* data, unsigned length);
 
-// The picture as the bytes of a PNG file. It fails when memory runs out.
+// Returns the picture as the bytes of a PNG file; a failure when memory ran out.
 Result<std::string> pngOf(cairo_surface_t* surface);
 }  // namespace host

@@ -29,6 +29,6 @@ private:
     ULONG_PTR m_token = 0;
 };
 
-// The picture as the bytes of a PNG file. It fails when memory runs out.
+// Returns the picture as the bytes of a PNG file; a failure when memory ran out.
 Result<std::string> pngOf(Gdiplus::Bitmap& bitmap);
 }  // namespace host

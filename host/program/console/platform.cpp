@@ -45,19 +45,19 @@ void pressEnter()
     WriteConsoleInputW(GetStdHandle(STD_INPUT_HANDLE), &enter, 1, &count);
 }
 
-// The read that waits for the user, and who ends it before the user does.
+// The read that waits for the user. Another thread may end it before the user does.
 class PendingRead
 {
 public:
-    // The number of the read; 0 when none waits.
+    // Returns the number of the read that waits; 0 when no read waits.
     unsigned number()
     {
         const std::lock_guard lock(m_mutex);
         return m_waits ? m_number : 0;
     }
 
-    // Ends the read of that number, if it still waits, as if Enter had been pressed. Whoever reads
-    // is told `as`.
+    // Ends the read of that number, if it still waits, as if Enter had been pressed. The reader
+    // then gets `as`. Returns whether the read was ended by this call.
     bool end(unsigned number, Answer::Kind as)
     {
         const std::lock_guard lock(m_mutex);
@@ -70,7 +70,7 @@ public:
         return true;
     }
 
-    // Ends this read and every later one, as the end of the input does.
+    // Ends this read and every later read as the end of the input does.
     void endForGood()
     {
         const std::lock_guard lock(m_mutex);
@@ -82,7 +82,7 @@ public:
         }
     }
 
-    // False if there is nothing to wait for any more.
+    // Begins a read. Returns false if the input has been ended for good.
     bool begin()
     {
         const std::lock_guard lock(m_mutex);
@@ -91,8 +91,8 @@ public:
         return m_waits;
     }
 
-    // What the read was ended as. The Enter key of the user may have come first: then ours still
-    // waits to be read.
+    // Ends the wait and returns the kind with which another thread ended it, if one did. The user's
+    // own Enter may have come first; the Enter that we pressed then still waits and is flushed.
     std::optional<Answer::Kind> ended()
     {
         const std::lock_guard lock(m_mutex);
@@ -114,16 +114,16 @@ private:
 
 PendingRead pendingRead;
 
-// Windows ends the program as soon as the handler of such an event returns, and some seconds later
-// in any case: the handler waits while the session comes to its own end and keeps the work.
+// Lets the session end by itself and keep the work. Windows ends the program as soon as the handler
+// of such an event returns, and some seconds later in any case, so that the handler never returns.
 void leaveTimeForTheEnd()
 {
     pendingRead.endForGood();
     Sleep(INFINITE);
 }
 
-// Ctrl-C cancels the question; a command that computes is not stopped by it. Windows ends the read,
-// Wine reads on: there the line is ended and does not count.
+// Makes Ctrl-C cancel the question; it does not stop a command that computes. Windows ends the read
+// by itself. Wine reads on, so that the handler ends the line, which then does not count.
 BOOL WINAPI onControl(DWORD event)
 {
     if (event == CTRL_CLOSE_EVENT || event == CTRL_LOGOFF_EVENT || event == CTRL_SHUTDOWN_EVENT)
@@ -139,7 +139,8 @@ BOOL WINAPI onControl(DWORD event)
     return event == CTRL_C_EVENT;
 }
 
-// What has been typed; nothing once the input has ended, or at Ctrl-C, of which the error tells.
+// Returns what has been typed. Returns an empty text at the end of the input and at Ctrl-C, which
+// sets the last error.
 std::wstring_view readUnits(std::span<wchar_t> units)
 {
     DWORD count = 0;
@@ -150,8 +151,8 @@ std::wstring_view readUnits(std::span<wchar_t> units)
     return {units.data(), isEnd ? 0 : count};
 }
 
-// Lines that the console edits, as it does for every program. One that begins with ";" is a
-// comment.
+// Reads lines that the console edits, as it does for every program. A line that begins with ";" is
+// a comment.
 class ConsoleReader : public AnswerReader
 {
 public:
@@ -199,8 +200,8 @@ Answer ConsoleReader::read()
     return answerOf(toUtf8(line), true);
 }
 
-// Whether the console was opened for this program alone, as for a drawing that is dropped on it:
-// it closes at the end.
+// Tells whether the console was opened for this program alone, as for a drawing that is dropped on
+// the program. Such a console closes when the program ends.
 bool isConsoleOurs()
 {
     DWORD processes[2];
@@ -211,7 +212,7 @@ bool isConsoleOurs()
 
 void beginProcess()
 {
-    // Lines end the same way on every system, and the console is told that they are UTF-8.
+    // Lines end the same way on every system, and the console takes them as UTF-8.
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
     _setmode(_fileno(stdin), _O_BINARY);
@@ -238,8 +239,8 @@ bool silenceOutput()
     return std::freopen("NUL", "w", stdout) != nullptr;
 }
 
-// Whole texts, and not as bytes: a letter of several bytes would come apart where a stream that is
-// not buffered hands them on one by one.
+// Gives the console whole texts instead of bytes. A stream without a buffer passes bytes on one by
+// one, which would tear a letter of several bytes apart.
 void write(std::FILE* stream, std::string_view text)
 {
     const HANDLE handle = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));

@@ -68,7 +68,7 @@ Names namesFor(const Question& question, std::wstring_view marks)
     return names;
 }
 
-// The longest start that all of them have; there is at least one.
+// Returns the longest start that all names share. `names` must not be empty.
 std::wstring commonStart(const Names& names, BeginsWith begins)
 {
     std::wstring common = names.front();
@@ -96,7 +96,7 @@ Completion among(Names names, std::wstring_view typed, BeginsWith begins)
     return {typed.size(), common, further ? Names() : names};
 }
 
-// A folder's name ends in what goes before the next one.
+// Returns the names in a folder. A folder's name ends in "/", so that the next name can follow.
 Names namesIn(const std::filesystem::path& folder)
 {
     Names names;
@@ -111,7 +111,8 @@ Names namesIn(const std::filesystem::path& folder)
     return names;
 }
 
-// The blanks are the name's own. Hidden files are offered to whoever types their dot.
+// Completes the name of a file, in which blanks belong to the name. Hidden files are offered once
+// their dot has been typed.
 Completion completeFile(std::wstring_view line)
 {
     line.remove_prefix(line.starts_with(L'"'));

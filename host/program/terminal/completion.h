@@ -1,4 +1,4 @@
-// Completion of what is typed at a terminal.
+// Completes what is typed at a terminal.
 #pragma once
 
 #include <string>
@@ -9,15 +9,17 @@
 
 namespace host
 {
+// What to do with the typed text.
 struct Completion
 {
-    std::size_t replaced = 0;             // letters before the cursor that go
-    std::wstring text{};                  // what comes in their place
-    std::vector<std::wstring> choices{};  // between which more has to be typed; sorted
+    std::size_t replaced = 0;             // the number of letters before the cursor to replace
+    std::wstring text{};                  // the text that replaces them
+    std::vector<std::wstring> choices{};  // the names that still fit if there are several; sorted
 };
 
-// Command names and system variables at the command prompt and after an apostrophe, the question's
-// keywords elsewhere; letter case does not count. Where a file is asked for, what the folders hold.
-// No text and no choices: nothing fits.
+// Completes command names and system variables at the command prompt, command names after an
+// apostrophe, the words of dialog lines in a dialog, file names where a file is asked for, and the
+// question's keywords elsewhere. Letter case counts in file names only. Returns neither text nor
+// choices when nothing fits.
 Completion complete(const Question& question, std::wstring_view beforeCursor);
 }  // namespace host

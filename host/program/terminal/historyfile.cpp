@@ -20,7 +20,7 @@ fs::path pathFrom(const char* variable)
 fs::path stateOfPrograms()
 {
     const fs::path state = pathFrom("XDG_STATE_HOME");
-    if (state.is_absolute())  // others do not count, by the convention behind the variable
+    if (state.is_absolute())  // XDG's rules say to ignore a relative path
     {
         return state;
     }

@@ -1,10 +1,11 @@
-// Where the lines typed at a terminal are kept from one session to the next.
+// The file that keeps the lines typed at a terminal from one session to the next.
 #pragma once
 
 #include <string>
 
 namespace host
 {
-// Its folder has been made if that was possible; empty when the user has no place for it.
+// Returns the file's name and makes its folder if possible; an empty name when the user has no
+// place for it.
 std::string historyFile();
 }  // namespace host

@@ -13,7 +13,7 @@ namespace
 const char escape = '\x1b';
 const wchar_t controlC = 3;
 
-// A key's sequence comes in one go, over a slow line nearly so.
+// The bytes of a key's sequence arrive together, or within this time over a slow line.
 const int sequenceMilliseconds = 50;
 
 bool moreComes()
@@ -53,7 +53,7 @@ int readKey(EditLine* editLine, wchar_t* key)
         length = std::mbrtowc(key, &byte, 1, &state);
         if (length == invalid)
         {
-            // No UTF-8: the byte is dropped.
+            // The byte does not belong to UTF-8 and is dropped.
             state = {};
             length = incomplete;
         }

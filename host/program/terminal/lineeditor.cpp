@@ -19,11 +19,11 @@ namespace host
 namespace
 {
 const int rememberedLines = 500;
-const char unseen = '\1';  // around what takes no room on the line
+const char unseen = '\1';  // encloses sequences that take no room on the line
 
 EditLine* openTerminal()
 {
-    // For this thread only: a command's own has no business with the terminal's letters.
+    // The locale changes for this thread only, because a command must keep its own locale.
     uselocale(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr));
     return el_init("arxhost", stdin, stdout, stderr);
 }
@@ -34,7 +34,7 @@ bool colored()
     return refused == nullptr || *refused == '\0';
 }
 
-// Only lets the wait for a key be interrupted, where the new size is looked at.
+// Makes a change of the window's size interrupt the wait for a key, which then reads the new size.
 void noticeResizing()
 {
     struct sigaction action = {};
@@ -42,7 +42,8 @@ void noticeResizing()
     sigaction(SIGWINCH, &action, nullptr);
 }
 
-// Dim but for the last letter, mostly a blank: the library shows no sequence that nothing follows.
+// Dims the prompt except for its last letter, usually a blank, because the library does not show an
+// escape sequence at the end of a prompt.
 std::string dimmed(const std::string& prompt)
 {
     const std::size_t last = prompt.size() - 1;
@@ -55,7 +56,7 @@ std::string dimmed(const std::string& prompt)
            unseen + prompt.substr(last);
 }
 
-// Of the word, or of the file's name, in which the cursor stands.
+// Returns the text from the cursor to the end of its word, or to the end of a file's name.
 std::wstring restOfWord(const LineInfo& line, Question::Kind kind)
 {
     const std::wstring behind = fromUtf8(std::string_view(line.cursor, line.lastchar));
@@ -87,7 +88,7 @@ LineEditor::LineEditor(Screen& screen)
     noticeResizing();
 }
 
-// The lines are a convenience: nothing is said when they cannot be kept.
+// Saves the history. A failure is not reported, because the history is only a convenience.
 LineEditor::~LineEditor()
 {
     HistEvent event;
@@ -102,7 +103,7 @@ void LineEditor::bindKeys()
     el_set(editLine, EL_HIST, history, m_history.get());
     el_set(editLine, EL_GETCFN, readKey);
     el_set(editLine, EL_EDITOR, "emacs");
-    // Ctrl-C and Ctrl-Z come as keys while a line is edited.
+    // While a line is edited, Ctrl-C and Ctrl-Z arrive as keys and send no signals.
     el_set(editLine, EL_SETTY, "-d", "-isig", nullptr);
     el_set(editLine, EL_ADDFN, "cancel", "Cancel the question", onCancel);
     el_set(editLine, EL_ADDFN, "complete", "Complete a name", onComplete);
@@ -129,7 +130,7 @@ char* LineEditor::promptOf(EditLine* editLine)
 unsigned char LineEditor::onCancel(EditLine* editLine, wint_t)
 {
     const LineInfo* const line = el_line(editLine);
-    // What stands behind the cursor is shown once more, which brings the cursor to the end.
+    // Showing the text behind the cursor once more moves the cursor to the end.
     of(editLine).m_cancelled = std::string(line->cursor, line->lastchar) + "^C\n";
     return CC_EOF;
 }
@@ -159,7 +160,7 @@ unsigned char LineEditor::onComplete(EditLine* editLine, wint_t)
 unsigned char LineEditor::onSuspend(EditLine* editLine, wint_t)
 {
     el_set(editLine, EL_PREP_TERM, 0);
-    kill(0, SIGTSTP);  // the shell's whole job; goes on from here later
+    kill(0, SIGTSTP);  // stops the shell's whole job, which continues from here later
     el_set(editLine, EL_PREP_TERM, 1);
     return CC_REDISPLAY;
 }
@@ -181,7 +182,7 @@ Answer LineEditor::read()
     do
     {
         m_cancelled.reset();
-        // Before the prompt shows, so that a key pressed at once is a key already.
+        // Set before the prompt shows, so that a key pressed at once already arrives as a key.
         el_set(m_editLine.get(), EL_PREP_TERM, 1);
         int length = 0;
         const char* const typed = el_gets(m_editLine.get(), &length);

@@ -1,4 +1,4 @@
-// Answers typed at a terminal, with editing, history and completion.
+// Reads answers typed at a terminal, with editing, history and completion.
 #pragma once
 
 #include <histedit.h>
@@ -12,15 +12,15 @@
 
 namespace host
 {
-// Standard input and output are a terminal. All calls come from one thread, which reads and shows
-// UTF-8 from then on whatever the program's locale is.
+// Standard input and output must be a terminal. All calls must come from one thread, which uses
+// UTF-8 from then on, whatever the program's locale is.
 //
-// Esc and Ctrl-C cancel the question, Ctrl-D on an empty line ends the input. A line that begins
+// Esc and Ctrl-C cancel the question; Ctrl-D on an empty line ends the input. A line that begins
 // with ";" is a comment.
 class LineEditor : public AnswerReader
 {
 public:
-    // The screen has to outlive it.
+    // The screen [borrowed] outlives the editor.
     explicit LineEditor(Screen& screen);
     ~LineEditor() override;
     LineEditor(const LineEditor&) = delete;
@@ -47,7 +47,7 @@ private:
     std::string m_historyFile;
     std::string m_prompt;
     const Question* m_question = nullptr;
-    std::optional<std::string> m_cancelled;  // what then has to be shown
+    std::optional<std::string> m_cancelled;  // the text to show after the question was cancelled
     bool m_ended = false;
 };
 }  // namespace host

@@ -32,7 +32,7 @@ int runInEditor(const Options& options)
     return status;
 }
 
-// A terminal that edits its lines itself.
+// Runs a session at a terminal that edits its lines itself.
 int runPlain(const Options& options)
 {
     LineReader reader(std::cin, true);
@@ -48,7 +48,7 @@ bool canEdit()
 
 void beginProcess()
 {
-    // A reader that goes away early must not keep the drawing from being saved.
+    // The drawing must be saved even if the program that reads the output has ended.
     std::signal(SIGPIPE, SIG_IGN);
     endTidilyAtSignals();
 }
@@ -60,7 +60,7 @@ std::vector<std::string> givenArguments(int count, char** arguments)
 
 bool silenceOutput()
 {
-    // The descriptor stays: the drawing may be saved to it.
+    // The descriptor stays open, because the drawing may be saved to it.
     std::FILE* const nothing = std::fopen("/dev/null", "w");
     stdout = nothing != nullptr ? nothing : stdout;
     return nothing != nullptr;
@@ -96,8 +96,7 @@ std::optional<int> runAtTerminal(const Options& options)
     const bool edits = canEdit();
     if (edits)
     {
-        // While a line is edited Ctrl-C comes as a key; a command that computes is not stopped by
-        // it.
+        // Ctrl-C arrives as a key while a line is edited. It does not stop a command that computes.
         std::signal(SIGINT, SIG_IGN);
     }
     endInputAtSignals();

@@ -64,7 +64,7 @@ void Screen::finish()
     }
 }
 
-// Whole lines.
+// Writes whole lines and draws the bar below them again.
 void Screen::show(std::string_view text)
 {
     const std::string bar = m_bar;

@@ -1,4 +1,4 @@
-// What a terminal shows: finished lines, the line that waits for an answer, the progress bar.
+// The text on a terminal: finished lines, the line that waits for an answer, the progress bar.
 #pragma once
 
 #include <optional>
@@ -9,23 +9,24 @@
 
 namespace host
 {
-// The terminal has to understand the usual escape sequences. Not for several threads at once.
+// Needs a terminal that understands the usual escape sequences. Calls must not overlap. Texts are
+// in UTF-8.
 class Screen
 {
 public:
-    // A line without its end waits: it may be the prompt of a question, and whoever edits the
-    // answer draws that together with what is typed.
+    // Shows the finished lines. Keeps a line without its end, because it may be the prompt of a
+    // question, which the line editor draws together with the typed answer.
     void print(std::string_view text);
-    // On standard error, on a line of its own.
+    // Writes to standard error, on a line of its own.
     void report(std::string_view line);
-    // One line at the bottom; it is erased when the meter has gone.
+    // Shows the meter in one line at the bottom; no value erases it.
     void showMeter(const std::optional<Meter>& meter);
 
-    // The line that waits; the caller shows it.
+    // Returns the line that waits and forgets it. The caller shows it.
     std::string takePrompt();
-    // Whether the caller has ended the line of the prompt.
+    // Says whether the caller has ended the line of the prompt.
     void promptEnded(bool lineEnded) { m_promptOpen = !lineEnded; }
-    // Shows a line that waits in vain.
+    // Shows a line that still waits, as no question follows it.
     void finish();
 
 private:
@@ -33,7 +34,7 @@ private:
     void showBar(const std::string& bar);
 
     std::string m_waiting;
-    std::string m_bar;  // empty: none is shown
+    std::string m_bar;  // empty when no bar is shown
     bool m_promptOpen = false;
 };
 }  // namespace host

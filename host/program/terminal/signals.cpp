@@ -17,10 +17,10 @@ namespace
 {
 termios modesBefore;
 bool modesAreKnown = false;
-int nothing = -1;  // a file without a byte
+int nothing = -1;  // the descriptor of an empty file
 volatile std::sig_atomic_t signalOfInput = 0;
 
-// By way of standard output: the input may be another file by now.
+// Restores the modes through standard output, because the input may be another file by now.
 void leaveTheTerminalAsItWas()
 {
     if (modesAreKnown)
@@ -29,7 +29,7 @@ void leaveTheTerminalAsItWas()
     }
 }
 
-// As it would end without a handler.
+// Tidies up and ends the program as the signal would end it without a handler.
 void endBy(int number)
 {
     leaveTheTerminalAsItWas();
@@ -50,7 +50,8 @@ void handle(int number, void (*handler)(int))
     }
 }
 
-// Whoever waits for a key or a line is woken, and finds the end.
+// Replaces the input by an empty file. The signal also wakes a read that waits, which then finds
+// the end.
 void endInput(int number)
 {
     const int error = errno;

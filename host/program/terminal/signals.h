@@ -1,17 +1,17 @@
-// Signals that end the program.
+// Handles the signals that end the program.
 #pragma once
 
 namespace host
 {
-// From here on they take a file that is not finished with them. What the user has told the program
-// to ignore it goes on ignoring.
+// Makes these signals delete an unfinished file before they end the program. A signal that the
+// program was started to ignore stays ignored.
 void endTidilyAtSignals();
 
-// For a person at the terminal. SIGINT, SIGTERM and SIGHUP end the input only, so that the session
-// comes to its own end and keeps the work. More of them change nothing: a terminal that is closed
-// sends several. The terminal is left in the modes that it has now.
+// Makes SIGINT, SIGTERM and SIGHUP end only the input, so that a session at the terminal ends by
+// itself and keeps the work. Further signals change nothing, because a terminal that is closed
+// sends several. Remembers the modes of the terminal, which the end of the program restores.
 void endInputAtSignals();
 
-// Ends the program by the signal that has ended its input, if one has.
+// Ends the program by the signal that has ended its input; returns when no signal has.
 void endBySignalOfInput();
 }  // namespace host
