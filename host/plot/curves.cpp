@@ -16,7 +16,7 @@ int chordsFor(double angle)
     return std::clamp(int(std::ceil(std::abs(angle) / fullTurn * chordsInTurn)), 2, chordsInTurn);
 }
 
-// The angle from start to end, counter-clockwise, a full turn when they are one.
+// Returns the angle from start to end, counter-clockwise; a full turn when they are equal.
 double sweep(double start, double end)
 {
     const double turn = std::fmod(end - start, fullTurn);
@@ -51,7 +51,7 @@ Points segment(const Vertex& a, const AcGePoint3d& b)
     {
         return points;
     }
-    // The centre lies to the left of the chord by this part of its half.
+    // The distance of the centre to the left of the chord, as a part of half the chord.
     const double offset = (1 / a.bulge - a.bulge) / 2;
     const AcGePoint3d centre = a.point + half + AcGeVector3d(-half.y, half.x, 0) * offset;
     const double angle = 4 * std::atan(a.bulge);
@@ -89,7 +89,7 @@ struct Weighted
     double weight;
 };
 
-// De Boor's scheme within the span that begins at knot `k`.
+// Evaluates De Boor's scheme within the span that begins at knot `k`.
 Weighted pointOnSpan(int degree, std::span<const double> knots, std::vector<Weighted> poles,
                      std::size_t k, double t)
 {

@@ -1,4 +1,5 @@
-// Curves as chains of chords, fine enough for paper.
+// Converts curves to chains of chords that are fine enough for paper. All points share one
+// coordinate system of the caller's choice; drawing units.
 #pragma once
 
 #include <span>
@@ -17,20 +18,24 @@ struct Vertex
     double endWidth = 0;
 };
 
-// Counter-clockwise in the XY plane from one angle to the other [rad].
+// Returns an arc in the XY plane, counter-clockwise from one angle to the other [rad]. Equal angles
+// make a full circle.
 Points arc(const AcGePoint3d& centre, double radius, double start, double end);
 
-// The same for an ellipse and the parameters of its ends: 0 is where the major axis ends.
+// Returns an arc of an ellipse between two parameters [rad], counter-clockwise from `major` to
+// `minor`. Parameter 0 is the end of the major axis.
 Points ellipse(const AcGePoint3d& centre, const AcGeVector3d& major, const AcGeVector3d& minor,
                double start, double end);
 
-// The segment from `a` to `b` without `b`.
+// Returns the segment from `a` to `b` without `b`.
 Points segment(const Vertex& a, const AcGePoint3d& b);
 
-// With one more segment, back to the first vertex, when closed.
+// Returns the segments of a polyline. A closed polyline has one more segment, back to the first
+// vertex.
 Points chain(std::span<const Vertex> vertices, bool closed);
 
-// A B-spline of that degree; empty when the numbers make none. Weights may be left out.
+// Returns a B-spline of that degree; no points when the numbers do not make a spline. The weights
+// may be empty.
 Points bspline(int degree, std::span<const double> knots, std::span<const AcGePoint3d> poles,
                std::span<const double> weights);
 }  // namespace host::plot

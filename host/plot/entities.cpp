@@ -34,7 +34,8 @@ void drawArc(const EntityTags& curve, const Pen& pen)
                   curve.radians(schema::circle::endAngle)));
 }
 
-// Stored in the coordinates around it, unlike circles and arcs.
+// Draws an ellipse. Its points are stored in the coordinates of its space or block, unlike those of
+// circles and arcs, which are stored in the coordinates of their plane.
 void drawEllipse(const EntityTags& curve, const Pen& pen)
 {
     const AcGeVector3d major = curve.point(schema::ellipse::majorAxis).asVector();
@@ -50,7 +51,7 @@ void drawPoint(const EntityTags& point, const Pen& pen)
     pen.dot(point.point(schema::point::position));
 }
 
-// The last two corners stand in the order of a zigzag.
+// Draws a SOLID, whose corners are stored in zigzag order, so that the last two are swapped here.
 void drawSolid(const EntityTags& solid, const Pen& pen)
 {
     Points corners{solid.point(schema::solid::corners[0]), solid.point(schema::solid::corners[1]),
@@ -115,7 +116,7 @@ void drawLeader(const EntityTags& leader, const Pen& pen)
     pen.path(leader.points(schema::leader::vertex));
 }
 
-// Each vertex tells how far along its miter each element lies.
+// Draws an MLINE. Each vertex states the distance along its miter to each element.
 void drawMultiline(const EntityTags& multiline, const Pen& pen)
 {
     const Points vertices = multiline.points(schema::multiline::vertex);

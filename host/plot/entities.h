@@ -1,4 +1,4 @@
-// Each kind of entity as shapes. What its tags do not make is drawn as nothing.
+// Draws each kind of entity as shapes. A shape whose tags are incomplete is not drawn.
 #pragma once
 
 #include <span>
@@ -10,11 +10,12 @@
 
 namespace host::plot
 {
-// Whether the kind of entity is one that is drawn. Not for what is made of several records or of
-// a block. The pen draws in the coordinates of the space or block that holds the entity.
+// Draws an entity; returns false when its kind cannot be drawn. Entities of several records or with
+// a block of their own are not drawn here. The pen draws in the coordinates of the space or block
+// that holds the entity.
 bool drawEntity(const EntityTags& entity, const dxf::CodePage& codePage, const Pen& pen);
 
-// A POLYLINE with the vertices that follow it.
+// Draws a POLYLINE with the vertices that follow it.
 void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertices, const Pen& pen);
 
 void drawLightPolyline(const EntityTags& polyline, const Pen& pen);

@@ -1,4 +1,4 @@
-// The tags of one entity, by their group codes.
+// Reads the tags of one entity by their group codes.
 #pragma once
 
 #include <span>
@@ -14,30 +14,31 @@ namespace host::plot
 namespace schema = dxf::schema;
 using dxf::Code;
 
-// What the entity says of itself: neither reactors nor extension dictionaries nor what
-// applications hang on it. Values that are no numbers are refused by a dxf::Error.
+// The entity's own tags, without reactors, extension dictionaries and the data of applications. A
+// value that should be a number and is not throws a dxf::Error.
 class EntityTags
 {
 public:
-    // Both [borrowed].
+    // Both are [borrowed] and outlive this object.
     EntityTags(const dxf::TagFile& file, const dxf::Record& record);
 
     std::string_view type() const;
     std::span<const dxf::Tag> all() const { return m_tags; }
     bool has(Code code) const { return find(code) != nullptr; }
 
-    // The value of the first tag with the code.
+    // Returns the value of the first tag with the code; the fallback when no tag has the code.
     double real(Code code, double fallback = 0) const;
     int integer(Code code, int fallback = 0) const;
-    std::string_view text(Code code) const;                // blanks around it left out
-    AcGePoint3d point(Code code) const;                    // of which X has that code
-    AcGeVector3d normal() const;                           // of the plane that it lies in
-    double radians(Code code, double fallback = 0) const;  // of an angle in degrees
+    std::string_view text(Code code) const;                // without blanks around it
+    AcGePoint3d point(Code code) const;                    // the point whose X has the code
+    AcGeVector3d normal() const;                           // the normal of its plane
+    double radians(Code code, double fallback = 0) const;  // [rad], stored in degrees
 
     double real(const dxf::Tag& tag) const { return m_file.real(tag); }
     int integer(const dxf::Tag& tag) const;
 
-    // The points whose X has that code, in order; those of a plane have the Z given.
+    // Returns all points whose X has that code, in order. `z` is the Z of points that have only X
+    // and Y.
     Points points(Code code, double z = 0) const;
 
 private:

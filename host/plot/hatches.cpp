@@ -10,7 +10,7 @@ namespace host::plot
 {
 namespace
 {
-// Walks the tags of a hatch, where codes mean something else in each place.
+// Walks through the tags of a hatch, in which the place of a code decides what it means.
 class Cursor
 {
 public:
@@ -20,7 +20,8 @@ public:
     bool at(Code code) const { return !atEnd() && m_tags[m_at].code == code; }
     void skip() { ++m_at; }
 
-    // Goes on to the first tag with the code; false, and stays, when there is none.
+    // Moves forward to the first tag with the code. Returns false and stays when no such tag
+    // follows.
     bool seek(Code code)
     {
         const auto found = std::ranges::find(m_tags.subspan(m_at), code, &dxf::Tag::code);
@@ -32,7 +33,7 @@ public:
         return true;
     }
 
-    // Takes the tag if it has the code.
+    // Takes the value of the current tag if the tag has the code, otherwise the fallback.
     double real(Code code, double fallback = 0)
     {
         return at(code) ? m_hatch.real(m_tags[m_at++]) : fallback;
@@ -57,7 +58,7 @@ private:
 Points polylineLoop(Cursor& cursor)
 {
     const bool bulges = cursor.integer(schema::hatch::hasBulges) != 0;
-    cursor.integer(schema::hatch::isClosed);  // closed: a hatch has no others
+    cursor.integer(schema::hatch::isClosed);  // not needed: every loop of a hatch is closed
     const int count = cursor.integer(schema::hatch::partCount);
     std::vector<Vertex> vertices;
     for (int i = 0; i < count && cursor.at(schema::hatch::vertex); ++i)
@@ -68,7 +69,7 @@ Points polylineLoop(Cursor& cursor)
     return chain(vertices, true);
 }
 
-// An edge that turns clockwise has its angles measured that way as well.
+// Returns an arc of an edge. The angles of a clockwise edge are measured clockwise.
 Points turned(bool counterClockwise, double start, double end, const AcGePoint3d& center,
               const AcGeVector3d& major, const AcGeVector3d& minor)
 {
@@ -174,7 +175,7 @@ std::vector<Points> readLoops(Cursor& cursor)
     return loops;
 }
 
-// A family of parallel lines.
+// A family of parallel lines in a pattern.
 struct PatternLine
 {
     double angle;
@@ -193,7 +194,8 @@ PatternLine readPatternLine(Cursor& cursor)
     return line;
 }
 
-// Where the line through `base` crosses the loops, as distances along it, in order.
+// Returns the places where the line through `base` crosses the loops, as sorted distances along the
+// line.
 std::vector<double> crossings(const std::vector<Points>& loops, const AcGePoint3d& base,
                               const AcGeVector3d& along)
 {
@@ -216,7 +218,8 @@ std::vector<double> crossings(const std::vector<Points>& loops, const AcGePoint3
     return places;
 }
 
-// Solid strokes: the gaps of dashed patterns are too fine for a plot of the whole drawing.
+// Draws the lines of a family as solid strokes, because the gaps of dashed patterns are too fine
+// for a plot of the whole drawing.
 void drawFamily(const std::vector<Points>& loops, const PatternLine& line, const Pen& pen)
 {
     const int mostLines = 2000;
@@ -235,7 +238,7 @@ void drawFamily(const std::vector<Points>& loops, const PatternLine& line, const
     }
     if (!(high - low <= mostLines))
     {
-        pen.area(loops);  // too fine to be told from it
+        pen.area(loops);  // lines this dense look like a filled area
         return;
     }
     for (int i = 0; i <= int(high - low); ++i)

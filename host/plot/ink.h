@@ -1,4 +1,4 @@
-// What a sheet is drawn on with: the drawing library of the system.
+// Draws on a sheet with the drawing library of the system.
 #pragma once
 
 #include <memory>
@@ -23,35 +23,39 @@ struct Sheet
     double height;
 };
 
-// Everything is in millimetres from the upper left corner of the sheet, Y downwards.
+// Draws shapes on a sheet. All measures are in millimetres from the upper left corner of the sheet;
+// Y points down.
 class Ink
 {
 public:
     virtual ~Ink() = default;
 
-    // A round pen draws through the points.
+    // Draws a line through the points with a round pen.
     virtual void stroke(const Points& points, bool closed, double width, Color color) = 0;
-    // What lies within an even number of the loops is a hole.
+    // Fills the area within the loops. A region that lies within an even number of loops is a hole.
     virtual void fill(const std::vector<Points>& loops, Color color) = 0;
     virtual void disc(const AcGePoint3d& centre, double diameter, Color color) = 0;
-    // Begins at `start`; the vectors are one capital's height along the line and up.
+    // Draws a text that begins at `start`. Each vector is as long as a capital letter is high: one
+    // runs along the line, the other one up.
     virtual void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
                       std::wstring_view text, Color color) = 0;
 
-    // The bytes of the file; nothing can be drawn after that. It fails when memory ran out.
+    // Returns the bytes of the file; a failure when memory ran out. No shape may be drawn
+    // afterwards.
     virtual Result<std::string> finish() = 0;
 };
 
-// Whether the library writes files of that kind.
+// Tells whether the library writes files of that kind.
 bool canWrite(FileKind kind);
 
-// White; of a kind that can be written.
+// Opens a white sheet, whose kind must be one that can be written.
 std::unique_ptr<Ink> openInk(const Sheet& sheet);
 
-// In heights of a capital.
+// Returns the width of a text in heights of a capital letter.
 double textWidth(std::wstring_view text);
 
-// Of a picture, to the millimetre: its longer side has as many dots on every sheet.
+// Returns the dots of a picture to the millimetre. The longer side has the same number of dots on
+// every sheet.
 inline double dotsOf(const Sheet& sheet)
 {
     const double longerSide = 2400;

@@ -8,7 +8,7 @@ namespace host::plot
 {
 namespace
 {
-// Millimetres.
+// All sizes are in millimetres.
 const double longSide = 420;
 const double shortestSide = 60;
 const double margin = 10;
@@ -80,7 +80,7 @@ void Paper::dot(const AcGePoint3d& point, Color color)
     m_ink->disc(onSheet(point), dotDiameter, color);
 }
 
-// To beyond the farthest corner of the sheet, whichever way it goes.
+// Draws the ray to beyond the farthest corner of the sheet, whatever its direction is.
 void Paper::ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both, Color color)
 {
     const AcGePoint3d start = onSheet(from);
@@ -97,8 +97,8 @@ void Paper::ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both, C
     const double reach = m_sheet.width + m_sheet.height;
     const AcGePoint3d end = foot + unit * reach;
     const AcGePoint3d begin = both || nearest > reach ? foot - unit * reach : start;
-    // One that lies off the sheet, or turns away from it, shows nothing; far numbers stay away
-    // from the library.
+    // A ray that misses the sheet is not drawn, so that the library does not get numbers that are
+    // too large for it.
     if ((foot - middle).length() < reach && (both || nearest > -reach))
     {
         m_ink->stroke({begin, end}, false, lineWidth, color);
@@ -110,7 +110,7 @@ void Paper::text(const TextLine& line, Color color)
     const AcGePoint3d origin = onSheet(line.origin);
     const AcGeVector3d along = onSheet(line.along);
     const AcGeVector3d up = onSheet(line.up);
-    // Seen from its edge, or of no size, a text is not to be seen.
+    // A text of no size and a text in a plane seen from its edge are invisible.
     if (std::abs(along.x * up.y - along.y * up.x) < 1e-9)
     {
         return;

@@ -1,4 +1,4 @@
-// A sheet of white paper and what is drawn on it.
+// Draws shapes on a sheet of white paper.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 
 namespace host::plot
 {
-// A rectangle of the view: X to the right, Y upwards, drawing units.
+// A rectangle of the view: X points right, Y points up, drawing units.
 struct Window
 {
     double left = 0;
@@ -34,22 +34,24 @@ public:
     void ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both, Color color) override;
     void text(const TextLine& line, Color color) override;
 
-    // The bytes of the file; nothing can be drawn after that. It fails when memory ran out.
+    // Returns the bytes of the file; a failure when memory ran out. No shape may be drawn
+    // afterwards.
     Result<std::string> finish() { return m_ink->finish(); }
 
 private:
-    AcGePoint3d onSheet(const AcGePoint3d& world) const;  // millimetres, Y downwards
+    // Returns the place on the sheet in millimetres; Y points down.
+    AcGePoint3d onSheet(const AcGePoint3d& world) const;
     Points onSheet(const Points& points) const;
     AcGeVector3d onSheet(const AcGeVector3d& world) const;
 
     AcGeMatrix3d m_toView;
     Window m_window;
-    double m_scale;  // millimetres a unit
+    double m_scale;  // millimetres to a drawing unit
     Sheet m_sheet;
     std::unique_ptr<Ink> m_ink;
 };
 
-// How much of a view the shapes take.
+// Measures the window of a view that the shapes take.
 class Extents : public Sink
 {
 public:
@@ -61,7 +63,7 @@ public:
     void path(const Points& points, bool closed, Color color) override;
     void area(const std::vector<Points>& loops, Color color) override;
     void dot(const AcGePoint3d& point, Color color) override;
-    // Ends nowhere: counts where it begins.
+    // Counts only the point where the ray begins, because a ray has no end.
     void ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both, Color color) override;
     void text(const TextLine& line, Color color) override;
 

@@ -10,7 +10,7 @@ namespace
 {
 bool isFinite(double x, double y, double z)
 {
-    // Squares of what is drawn stay finite as well.
+    // Below this limit the squares of coordinates are finite as well.
     const double limit = 1e100;
     return std::abs(x) < limit && std::abs(y) < limit && std::abs(z) < limit;
 }

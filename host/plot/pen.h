@@ -6,17 +6,19 @@
 
 namespace host::plot
 {
-// What is not finite in the world is left out.
+// Passes shapes to a sink [wcs]. A shape with a coordinate that is not finite there is left out.
 class Pen
 {
 public:
-    Pen(Sink& sink, const AcGeMatrix3d& toWorld, Color color)  // sink [borrowed]
+    // The sink [borrowed] outlives the pen. `toWorld` maps the entity's coordinates to [wcs].
+    Pen(Sink& sink, const AcGeMatrix3d& toWorld, Color color)
         : m_sink(&sink), m_toWorld(toWorld), m_color(color)
     {
     }
 
-    // A pen for coordinates within those of this one.
+    // Returns a pen for coordinates that `local` maps to the coordinates of this pen.
     Pen within(const AcGeMatrix3d& local) const { return {*m_sink, m_toWorld * local, m_color}; }
+    // Returns a pen for the object coordinate system of a plane.
     Pen withinPlane(const AcGeVector3d& normal) const;
 
     void path(const Points& points, bool closed = false) const;

@@ -18,7 +18,7 @@ bool startsWithThreeDigits(std::wstring_view text)
     return text.size() >= 3 && isDigit(text[0]) && isDigit(text[1]) && isDigit(text[2]);
 }
 
-// What follows "%%" is taken off the front of `rest`.
+// Removes the code that follows "%%" from the front of `rest` and returns its text.
 std::wstring percentCode(std::wstring_view& rest)
 {
     if (startsWithThreeDigits(rest))
@@ -52,13 +52,14 @@ std::wstring percentCode(std::wstring_view& rest)
     }
 }
 
-// The codes that go on up to a semicolon: colours, fonts, heights, paragraphs.
+// Tells whether an argument up to a semicolon follows the code, as for colours, fonts, heights and
+// paragraphs.
 bool hasArgument(wchar_t code)
 {
     return std::wstring_view(L"ACcFfHpQTW").find(code) != std::wstring_view::npos;
 }
 
-// Takes what stands before the next semicolon, and the semicolon.
+// Removes the text up to the next semicolon from `rest`, with the semicolon, and returns the text.
 std::wstring argument(std::wstring_view& rest)
 {
     const std::size_t end = rest.find(L';');

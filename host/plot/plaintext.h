@@ -1,4 +1,4 @@
-// The characters of a text without the codes that format them.
+// Removes the codes that format a text.
 #pragma once
 
 #include <string>
@@ -7,10 +7,11 @@
 
 namespace host::plot
 {
-// "%%d", "%%p", "%%c" and "%%nnn" are the characters they stand for; "%%u", "%%o" and "%%k" draw
-// lines along the text and are left out. A control character, as a tab, is a blank.
+// Replaces "%%d", "%%p", "%%c" and "%%nnn" by the characters that they stand for, and a control
+// character such as a tab by a blank. Removes "%%u", "%%o" and "%%k", which draw lines along the
+// text.
 std::wstring withoutPercentCodes(std::wstring_view text);
 
-// The lines of a text of many lines, its codes left out; a fraction is written "1/2".
+// Returns the paragraphs of a multiline text without its codes. A fraction is written as "1/2".
 std::vector<std::wstring> paragraphs(std::wstring_view text);
 }  // namespace host::plot

@@ -37,7 +37,7 @@ std::optional<FileKind> kindOf(const std::string& path)
     return std::nullopt;
 }
 
-// What the drawing's file would be by now.
+// Returns the drawing's file as saving would write it now.
 dxf::TagFile asSaved(AcDbDatabase& database, const Progress& progress)
 {
     std::string text;

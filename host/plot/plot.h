@@ -1,4 +1,4 @@
-// Drawings on paper.
+// Plots drawings.
 #pragma once
 
 #include <string>
@@ -9,16 +9,17 @@
 
 namespace host
 {
+// The result of a plot.
 struct Plotted
 {
-    std::string leftOut;  // "1 IMAGE, 2 MESH": what could not be drawn
+    std::string leftOut;  // the entities that could not be drawn, as "1 IMAGE, 2 MESH"
 };
 
-// Whether the name ends in ".png", ".pdf" or ".svg", in either case.
+// Tells whether the name ends in ".png", ".pdf" or ".svg", in any letter case.
 bool isPlotFile(const std::string& path);
 
-// Model space as it would be saved, looked at as in the drawing's view, all of it, on white paper.
-// Writes the whole file or nothing.
+// Plots the whole model space as it would be saved, in the direction of the drawing's view, on
+// white paper. Writes the whole file or nothing. A failure has a line for the user.
 Result<Plotted> plotDrawing(AcDbDatabase& database, const std::string& path,
                             const Progress& progress = {});
 }  // namespace host

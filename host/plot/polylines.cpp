@@ -16,7 +16,7 @@ AcGeVector3d unitLeft(const AcGePoint3d& from, const AcGePoint3d& to)
     return length > 0 ? AcGeVector3d(from.y - to.y, to.x - from.x, 0) / length : AcGeVector3d();
 }
 
-// A ribbon along the chords of one segment, its width going evenly from one to the other.
+// Draws a ribbon along the chords of one segment; its width changes evenly from start to end.
 void drawWide(const Points& points, double startWidth, double endWidth, const Pen& pen)
 {
     const std::size_t last = points.size() - 1;
@@ -51,7 +51,7 @@ void drawFlat(const std::vector<Vertex>& vertices, bool closed, const Pen& pen)
     }
 }
 
-// `count` points across, in rows one after the other.
+// Draws a mesh, whose points are stored row by row.
 void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
 {
     const int flags = mesh.integer(schema::entity::flags);
@@ -77,7 +77,8 @@ void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
     }
 }
 
-// A face names up to four vertices from 1, with a minus where the edge that begins there is hidden.
+// Draws a face of a mesh. A face names up to four vertices by numbers from 1. A number is negative
+// if the edge that begins at its vertex is hidden.
 void drawFaceOf(const EntityTags& face, const Points& points, const Pen& pen)
 {
     std::vector<int> corners;

@@ -21,13 +21,13 @@ enum AttributeFlag
     constantFlag = 2
 };
 
-// What shows nothing of its own in model space.
+// Tells whether entities of that kind show nothing in model space.
 bool isSilent(std::string_view type)
 {
     return type == "SEQEND" || type == "VERTEX" || type == "VIEWPORT";
 }
 
-// These are drawn by the block that the CAD program has made for them.
+// Tells whether the CAD program stores the look of such an entity in a block of its own.
 bool hasOwnBlock(std::string_view type)
 {
     return type.ends_with("DIMENSION");
@@ -143,7 +143,8 @@ Color Scene::colorOf(const EntityTags& entity, const Place& place) const
     return own.byLayer ? layerOf(entity, place).color : own.byBlock ? place.color : own.color;
 }
 
-// A layer that is off hides what is on it; only a frozen one hides all of a block's contents.
+// Draws an entity unless its layer hides it. A layer that is off hides its entities, but only a
+// frozen layer hides the whole contents of a block.
 bool Scene::drawSeen(const EntityTags& entity, Records followers, const Place& place, Sink& sink)
 {
     const Layer& layer = layerOf(entity, place);

@@ -1,4 +1,4 @@
-// The model space of a drawing as shapes.
+// Draws the model space of a drawing as shapes.
 #pragma once
 
 #include <map>
@@ -15,32 +15,33 @@ namespace host::plot
 class Scene
 {
 public:
-    // The file is [borrowed]. Blocks that hold each other, and inserts of thousands of rows, end
-    // after so many entities more than the file has itself.
+    // The file [borrowed] outlives the scene. `mostFromBlocks` limits the entities that blocks add
+    // to those of the file, because blocks may hold each other and an insert may have thousands of
+    // rows.
     explicit Scene(const dxf::TagFile& file, long mostFromBlocks = 3'000'000);
 
-    // Everything that is to be seen, in the drawing's order; on every call the same.
+    // Draws everything that is visible [wcs], in the drawing's order. Each call draws the same.
     void draw(Sink& sink, const Progress& progress = {});
 
-    // After `draw`: what of it was not drawn, by kind and number, "1 IMAGE, 2 MESH"; empty when
-    // nothing is left out.
+    // Returns the entities that the last `draw` left out, as "1 IMAGE, 2 MESH"; an empty text when
+    // nothing was left out.
     std::string leftOut() const;
 
 private:
-    // Where and how the entities of a space or block are drawn.
+    // Says where and how the entities of a space or block are drawn.
     struct Place
     {
         AcGeMatrix3d toWorld;
-        const Layer* layer;  // of what is on layer 0 in a block; null in model space
-        Color color;         // of what has its block's
+        const Layer* layer;  // the layer of a block's entities on layer 0; null in model space
+        Color color;         // the colour of entities that take their block's colour
         int depth;
     };
 
     using Records = std::span<const dxf::Record>;
 
-    bool spend();  // whether one more may be drawn
+    bool spend();  // counts an entity; false when no more may be drawn
     void drawAll(Records records, const Place& place, Sink& sink);
-    // How many records it took.
+    // Draws one entity and returns the number of its records.
     std::size_t drawOne(Records records, const Place& place, Sink& sink);
     bool drawSeen(const EntityTags& entity, Records followers, const Place& place, Sink& sink);
     bool drawReference(const EntityTags& entity, const Place& place, Sink& sink);

@@ -1,4 +1,4 @@
-// What takes the shapes of a drawing, one after the other.
+// The interface that takes the shapes of a drawing one by one.
 #pragma once
 
 #include <string>
@@ -19,8 +19,8 @@ struct TextLine
     AcGePoint3d origin;
     AcGeVector3d along;
     AcGeVector3d up;
-    double across = 0;  // what of the text's width lies before the origin: 0 left, 1 right
-    double above = 0;   // what of a capital's height lies below it: 0 on the line, 1 hanging
+    double across = 0;  // the part of the text's width before the origin: 0 left, 1 right
+    double above = 0;   // the part of a capital's height below the origin: 0 on the line, 1 hanging
     std::wstring text;
 };
 
@@ -30,10 +30,10 @@ class Sink
 public:
     virtual ~Sink() = default;
     virtual void path(const Points& points, bool closed, Color color) = 0;
-    // Filled between its loops: what lies within an even number of them is a hole.
+    // Takes a filled area. A region that lies within an even number of loops is a hole.
     virtual void area(const std::vector<Points>& loops, Color color) = 0;
     virtual void dot(const AcGePoint3d& point, Color color) = 0;
-    // Without end; to both sides when `both`.
+    // Takes a line without an end; `both` makes it endless to both sides.
     virtual void ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both,
                      Color color) = 0;
     virtual void text(const TextLine& line, Color color) = 0;

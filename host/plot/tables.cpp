@@ -12,13 +12,14 @@ namespace host::plot
 {
 namespace
 {
-// The CAD program never plots it: dimensions keep their points there.
+// Tells whether the layer is the one on which dimensions keep their points. The CAD program never
+// plots that layer.
 bool isDefpoints(std::string_view name)
 {
     return equalNoCase(std::wstring(name.begin(), name.end()), L"Defpoints");
 }
 
-// A record whose numbers are none is as good as missing.
+// Reads a record. A record with a value that should be a number and is not counts as missing.
 template <class Read>
 void readable(const Read& read)
 {

@@ -1,4 +1,4 @@
-// What the tables of a drawing say to its entities: layers and blocks by their names.
+// Finds the layers and blocks of a drawing by their names.
 #pragma once
 
 #include <map>
@@ -14,27 +14,31 @@
 
 namespace host::plot
 {
+// The properties of a layer that a plot needs.
 struct Layer
 {
     Color color = black;
     bool frozen = false;
-    bool shown = true;  // neither off nor kept from plotting
+    bool shown = true;  // false when the layer is off or must not be plotted
 };
 
+// A block definition.
 struct Block
 {
     AcGePoint3d base;
-    std::span<const dxf::Record> records;  // of its entities
+    std::span<const dxf::Record> records;  // the records of its entities [borrowed]
 };
 
-// All [borrowed] from the file. Names are as the file has them; letter case does not count.
+// The layers and blocks of a file [borrowed], which outlives the tables, as does the code page.
+// Names are given in the file's encoding; letter case does not count.
 class Tables
 {
 public:
     Tables(const dxf::TagFile& file, const dxf::CodePage& codePage);
 
-    // A usual one for a name that the file lacks.
+    // Returns the layer [borrowed]; a visible black layer for a name that the file lacks.
     const Layer& layer(std::string_view name) const;
+    // Returns the block [borrowed]; null when the file lacks it.
     const Block* block(std::string_view name) const;
 
 private:
@@ -45,11 +49,13 @@ private:
     const dxf::CodePage& m_codePage;
     std::map<std::wstring, Layer> m_layers;
     std::map<std::wstring, Block> m_blocks;
-    // Names as they stand, so that a million entities decode theirs once.
+    // The layers by their names in the file's encoding. A million entities then decode each name
+    // only once.
     mutable std::unordered_map<std::string_view, const Layer*> m_layersAsWritten;
 };
 
-// An entity's own colour: nothing when it is that of its layer; 0 is that of its block.
+// An entity's own colour. `color` counts only when neither the layer nor the block gives the
+// colour.
 struct OwnColor
 {
     bool byLayer;
@@ -57,6 +63,7 @@ struct OwnColor
     Color color;
 };
 
-// From the colour index and the true colour, where there are any.
+// Returns the colour for a colour index and, if the entity has one, a true colour, which goes
+// before the index.
 OwnColor ownColor(int index, std::optional<int> rgb);
 }  // namespace host::plot

@@ -37,9 +37,9 @@ enum TextFlag
     upsideDown = 4
 };
 
-const double descent = 0.3;  // how far letters reach below the line
+const double descent = 0.3;  // the depth of letters below the line, in heights of a capital
 
-// Of the height of a capital, 0 on the line.
+// Returns the height of the text's point above the line, in heights of a capital.
 double aboveLine(int horizontal, int vertical)
 {
     if (horizontal == middleMode || vertical == middleVertically)
@@ -49,7 +49,7 @@ double aboveLine(int horizontal, int vertical)
     return vertical == bottomMode ? -descent : vertical == topMode ? 1 : 0;
 }
 
-// Between two points: stretched to lie from the one to the other.
+// Stretches a text so that it fills the vector between its two points.
 void stretch(TextLine& line, const AcGeVector3d& between, bool heightToo)
 {
     const double width = textWidth(line.text);
@@ -104,7 +104,8 @@ void drawWords(const EntityTags& text, std::wstring words, const Pen& pen)
     pen.withinPlane(text.normal()).text(line);
 }
 
-// Broken at blanks so that no line is wider, in heights of a capital; one word may be.
+// Breaks a text at blanks so that no line is wider than `width`, in heights of a capital. Only a
+// single word may be wider.
 std::vector<std::wstring> wrapped(const std::wstring& text, double width)
 {
     std::vector<std::wstring> lines(1);
@@ -128,7 +129,7 @@ std::vector<std::wstring> wrapped(const std::wstring& text, double width)
 
 std::wstring contents(const EntityTags& text, const dxf::CodePage& codePage)
 {
-    std::string bytes;  // a long text comes in pieces, which may part a character
+    std::string bytes;  // a long text comes in pieces, whose ends may cut a character
     for (const dxf::Tag& tag : text.all())
     {
         bytes += tag.code == schema::paragraphs::part ? tag.value : std::string_view();
@@ -140,7 +141,7 @@ std::wstring contents(const EntityTags& text, const dxf::CodePage& codePage)
     return codePage.decode(bytes);
 }
 
-// In WCS; the angle counts only without a direction.
+// Returns the direction of a text [wcs]. Its angle counts only if it has no direction vector.
 AcGeVector3d directionOf(const EntityTags& text)
 {
     const AcGeVector3d direction = text.point(schema::paragraphs::direction).asVector();
@@ -167,7 +168,7 @@ void drawText(const EntityTags& text, const dxf::CodePage& codePage, const Pen& 
     }
 }
 
-// Outside of blocks its tag is what is seen.
+// Draws an attribute definition outside of blocks, where it shows its tag.
 void drawAttributeDefinition(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
 {
     drawWords(text, codePage.decode(text.text(schema::attribute::tag)), pen);
@@ -184,14 +185,14 @@ void drawParagraphs(const EntityTags& text, const dxf::CodePage& codePage, const
     }
     const int attachment = std::clamp(text.integer(schema::paragraphs::attachment, 1), 1, 9) - 1;
     const double spacing =
-        5.0 / 3.0 * text.real(schema::paragraphs::lineSpacing, 1);  // in heights, from line to line
+        5.0 / 3.0 * text.real(schema::paragraphs::lineSpacing, 1);  // from line to line, in heights
     const double all = spacing * double(lines.size() - 1) + 1;
     TextLine line;
     line.along = directionOf(text) * height;
     line.up = Ocs(text.normal()).normal().crossProduct(line.along);
     line.across = attachment % 3 / 2.0;
     const int row = attachment / 3;
-    double down = 1 - all * row / 2.0;  // from the given point to the first line
+    double down = 1 - all * row / 2.0;  // from the given point down to the first line
     for (const std::wstring& words : lines)
     {
         line.text = words;

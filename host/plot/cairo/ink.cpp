@@ -150,7 +150,8 @@ void CairoInk::text(const AcGePoint3d& start, const AcGeVector3d& along, const A
     use(color);
     showText(m_cairo, text);
     cairo_restore(m_cairo);
-    // The library's point is left where the text ends; an arc would begin with a line from there.
+    // The library's current point is at the end of the text. Without a new path, an arc would begin
+    // with a line from there.
     cairo_new_path(m_cairo);
 }
 }  // namespace

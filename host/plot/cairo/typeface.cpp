@@ -10,7 +10,8 @@ namespace host::plot
 {
 namespace
 {
-// Without hints a text is as wide in every size and on every kind of paper.
+// Selects the typeface without hinting, so that the width of a text is proportional to its size and
+// the same in every kind of file.
 void chooseFont(cairo_t* cairo)
 {
     cairo_font_options_t* options = cairo_font_options_create();
@@ -22,7 +23,7 @@ void chooseFont(cairo_t* cairo)
                            CAIRO_FONT_WEIGHT_NORMAL);
 }
 
-// A context of its own, to measure with.
+// Measures texts with a drawing context of its own.
 class Ruler
 {
 public:

@@ -1,4 +1,4 @@
-// The typeface of plots. Sizes are in heights of a capital.
+// The typeface of plots. All sizes are in heights of a capital letter.
 #pragma once
 
 #include <cairo.h>
@@ -7,6 +7,6 @@
 
 namespace host::plot
 {
-// At the origin of the context's coordinates, whose Y points upwards.
+// Draws the text at the origin of the context's coordinates, whose Y points up.
 void showText(cairo_t* cairo, std::wstring_view text);
 }  // namespace host::plot

@@ -37,7 +37,8 @@ public:
     {
         m_page.Clear(colorOf(white));
         m_page.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-        m_page.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);  // a point lies between pixels
+        // A whole coordinate lies between two pixels.
+        m_page.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
         m_page.ScaleTransform(Gdiplus::REAL(dotsOf(sheet)), Gdiplus::REAL(dotsOf(sheet)));
     }
 
@@ -61,7 +62,7 @@ void PictureInk::stroke(const Points& points, bool closed, double width, Color c
     const std::vector<Gdiplus::PointF> line = pointsOf(points);
     if (std::ranges::all_of(line, [&](const auto& point) { return point.Equals(line[0]); }))
     {
-        // The pen of the library leaves no dot where it does not move.
+        // The library's pen draws nothing if it does not move, so a disc draws the dot.
         return points.empty() ? void() : disc(points[0], width, color);
     }
     Gdiplus::Pen pen(colorOf(color), Gdiplus::REAL(width));

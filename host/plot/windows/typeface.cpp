@@ -28,7 +28,7 @@ public:
         m_capital = letter.Height;
     }
 
-    // In thousandths of the em, Y downwards from the upper edge of the line.
+    // Returns the outlines in thousandths of the em. Y points down from the upper edge of the line.
     std::unique_ptr<Gdiplus::GraphicsPath> path(std::wstring_view text) const
     {
         auto path = std::make_unique<Gdiplus::GraphicsPath>(Gdiplus::FillModeWinding);

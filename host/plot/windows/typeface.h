@@ -1,4 +1,5 @@
-// The typeface of plots: that of Linux where it is installed, else the one of the same widths.
+// The typeface of plots: the typeface of Linux if it is installed, otherwise one of the same
+// widths.
 #pragma once
 
 #include <string_view>
@@ -7,6 +8,7 @@
 
 namespace host::plot
 {
-// The outlines of a text that begins at the origin, Y upwards, in heights of a capital.
+// Returns the outlines of a text that begins at the origin, in heights of a capital letter. Y
+// points up.
 std::unique_ptr<Gdiplus::GraphicsPath> outlines(std::wstring_view text);
 }  // namespace host::plot
