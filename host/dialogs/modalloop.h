@@ -14,7 +14,7 @@ void runModalLoop(HWND dialog, const bool& ended);
 // Tells the user that the dialog is closed, by OK or not [prints].
 void tellDialogClosed(bool ok);
 
-// Let a dialog step aside and come back. Prompts are allowed between the two calls; while a dialog
+// Lets a dialog step aside and come back. Prompts are allowed between the two calls; while a dialog
 // is shown, a prompt ends the run.
 void dialogStepsAside();
 void dialogComesBack();

@@ -27,6 +27,6 @@ bool isWorld(const AcGeMatrix3d& frame);
 // Makes a coordinate system current and keeps the former one for restorePreviousUcs. Returns false
 // and changes nothing for a matrix that is not right-handed and orthonormal within 1e-6.
 bool setUcs(Document& document, const AcGeMatrix3d& frame);
-// Makes the previous coordinate system current. Returns false when there is none to return to.
+// Makes the previous coordinate system current. Returns false without a previous system.
 bool restorePreviousUcs(Document& document);
 }  // namespace host

@@ -7,7 +7,8 @@ namespace host
 {
 namespace
 {
-// The controls from the one with WS_GROUP at or before the button up to the next one with it.
+// Returns the controls of the button's group. A group begins at a control with WS_GROUP and ends
+// before the next such control.
 std::vector<HWND> groupOf(const Window& button)
 {
     const std::vector<HWND> controls = controlsOf(button.parent);
@@ -21,7 +22,7 @@ std::vector<HWND> groupOf(const Window& button)
     return {first, std::find_if(at + 1, controls.end(), startsGroup)};
 }
 
-// The Tab key stops at that radio button of a group which is checked.
+// Checks or unchecks a button. The Tab key stops at the checked radio button of a group only.
 void setCheck(Window& button, bool checked)
 {
     if (isButton(button, BS_AUTORADIOBUTTON))

@@ -7,13 +7,13 @@ namespace host
 {
 namespace
 {
-// A position that no list has, -1 among them, is none.
+// Returns the item at a position; null for a position outside the list, such as -1.
 const ListItem* itemAt(const Window& list, WPARAM index)
 {
     return index < list.items.size() ? &list.items[index] : nullptr;
 }
 
-// The selection stays with its item.
+// Inserts an item. The selection stays at the item that was selected.
 LRESULT insert(Window& list, std::size_t index, const std::wstring& text)
 {
     list.items.insert(list.items.begin() + std::ptrdiff_t(index), {text, 0});
@@ -89,7 +89,7 @@ LRESULT textLength(const Window& list, WPARAM index)
     return item != nullptr ? LRESULT(item->text.size()) : CB_ERR;
 }
 
-// The caller has asked for the length and made room.
+// Copies the item's text. The buffer has no size here: the caller must have asked for the length.
 LRESULT copyText(const Window& list, WPARAM index, LPARAM buffer)
 {
     const ListItem* const item = itemAt(list, index);
@@ -114,7 +114,7 @@ LRESULT setData(Window& list, WPARAM index, LPARAM data)
     return 0;
 }
 
-// Its text is that of the selected item and cannot be set.
+// Answers messages about the list's text, which is the text of the selected item and cannot be set.
 LRESULT textMessage(const Window& list, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const ListItem* const item = itemAt(list, WPARAM(list.selected));

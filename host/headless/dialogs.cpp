@@ -13,7 +13,7 @@ INT_PTR ask(const Window& dialog, UINT message, WPARAM wParam, LPARAM lParam)
                                        : FALSE;
 }
 
-// A dialog whose Cancel is disabled does not close.
+// Presses Cancel, unless that button is disabled: such a dialog does not close.
 void pressCancel(HWND dialog)
 {
     const HWND cancel = GetDlgItem(dialog, IDCANCEL);
@@ -50,7 +50,8 @@ HWND firstToFocus(HWND dialog)
     return nullptr;
 }
 
-// Hidden until it is initialised, so that nobody sees it half filled.
+// Makes the windows of a dialog. The dialog stays hidden until it is initialised, so that nobody
+// sees it half filled.
 HWND makeWindows(DialogTemplate made, HWND owner, DLGPROC procedure)
 {
     made.dialog.put(WS_VISIBLE, false);
@@ -65,7 +66,8 @@ HWND makeWindows(DialogTemplate made, HWND owner, DLGPROC procedure)
     return dialog;
 }
 
-// The first control is looked for again: the procedure may have disabled the one it was told.
+// Initialises a dialog and sets the focus. The first control is searched for twice, because the
+// procedure may have disabled the control that it was told.
 void initialise(HWND dialog, LPARAM parameter)
 {
     const auto first = reinterpret_cast<WPARAM>(firstToFocus(dialog));
@@ -77,7 +79,8 @@ void initialise(HWND dialog, LPARAM parameter)
     }
 }
 
-// Only to a control that is named: nobody asks for the next or the one before.
+// Sets the focus to a control that the message names. A move to the next or the previous control is
+// not needed and does nothing.
 void goTo(WPARAM control, LPARAM isControl)
 {
     if (isControl != FALSE)

@@ -14,8 +14,9 @@ LONG scaled(int units, int measure, int divisor)
     return (product + (product < 0 ? -divisor : divisor) / 2) / divisor;
 }
 
-// A character of the font is 6 pixels wide on average and 13 high; a dialog unit is a quarter of
-// the one and an eighth of the other.
+// Reads a place in dialog units and returns it in pixels. A character of the font is 6 pixels wide
+// on average and 13 pixels high. A dialog unit is a quarter of that width or an eighth of that
+// height.
 RECT readPlace(ResourceReader& reader)
 {
     const LONG left = scaled(reader.number<std::int16_t>(), 6, 4);
@@ -36,7 +37,7 @@ Window readControl(ResourceReader& reader)
     const ResourceReader::NameOrNumber className = reader.nameOrNumber();
     control.kind = controlClass(className.name, className.number);
     control.text = reader.nameOrNumber().name;
-    reader.skip(reader.number<WORD>());  // data for the control, which none of these classes wants
+    reader.skip(reader.number<WORD>());  // data for the control, which our classes do not use
     return control;
 }
 
@@ -57,14 +58,15 @@ RECT clientArea(const RECT& place)
     return {0, 0, place.right - place.left, place.bottom - place.top};
 }
 
-// Null for a class of the guest's own, as nobody can register one.
+// Reads the class of a dialog. Returns null for a class of the module's own, because the host does
+// not let a module register one.
 const WindowClass* readDialogClass(ResourceReader& reader)
 {
     const ResourceReader::NameOrNumber named = reader.nameOrNumber();
     return named.name.empty() && named.number == 0 ? &dialogClass : nullptr;
 }
 
-// Returns the number of controls.
+// Reads the dialog itself and returns the number of its controls.
 int readDialog(ResourceReader& reader, Window& dialog)
 {
     reader.skip(8);  // help id, extended style

@@ -7,7 +7,8 @@ namespace host
 {
 namespace
 {
-// Where nothing is drawn it does not matter whether the banner stays while the edit has the focus.
+// Sets the banner. The wParam of the message says whether the banner stays while the edit has the
+// focus; it does not matter here, because nothing is drawn.
 LRESULT setBanner(Window& edit, LPARAM text)
 {
     if (text == 0)

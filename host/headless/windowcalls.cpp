@@ -1,4 +1,4 @@
-// Windows' functions for windows, over windows without a screen.
+// Windows' functions for windows, implemented for windows without a screen.
 #include <algorithm>
 
 #include "host/headless/messages.h"
@@ -151,7 +151,8 @@ BOOL ShowWindow(HWND window, int command)
     return wasVisible;
 }
 
-// A control in a hidden dialog cannot be seen; a dialog can, whatever its owner does.
+// A control is invisible in a hidden dialog. The visibility of a dialog does not depend on its
+// owner.
 BOOL IsWindowVisible(HWND window)
 {
     const Window* found = findWindow(window);

@@ -10,7 +10,7 @@ namespace host
 {
 namespace
 {
-// Nobody talks to list boxes and scroll bars yet: they lie in their dialog as a text does.
+// List boxes and scroll bars answer as a text does, because no dialog uses their messages yet.
 const WindowClass controlClasses[] = {
     {0x80, L"Button", buttonMessage}, {0x81, L"Edit", editMessage},
     {0x82, L"Static", anyMessage},    {0x83, L"ListBox", anyMessage},

@@ -9,7 +9,8 @@ namespace host
 {
 extern const WindowClass dialogClass;
 
-// The class of that name, in any case, or of that number [borrowed]; null when there is none.
+// Returns the class of that name, in any letter case, or of that number [borrowed]; null for an
+// unknown class.
 const WindowClass* controlClass(std::wstring_view name, WORD ordinal);
 
 // Whether the window is a button of that type (BS_...). Other controls use the same bits for other

@@ -7,8 +7,8 @@ namespace host
 {
 namespace
 {
-// In the order of making, as handles only grow. Never destroyed: modules leave while the process
-// ends.
+// Returns the windows in the order in which they were made, because handles only grow. The map is
+// never destroyed, because modules are unloaded while the process ends.
 std::map<HWND, Window>& windows()
 {
     static std::map<HWND, Window>& all = *new std::map<HWND, Window>;

@@ -54,14 +54,14 @@ struct Window
 HWND addWindow(const Window& window);
 // Removes the window and the windows whose parent it is.
 void removeWindow(HWND window);
-// The window [borrowed]; null when there is none. It is good until the window is removed, which any
-// dialog procedure may do.
+// Returns the window [borrowed]; null for an unknown handle. The pointer is good until the window
+// is removed, which any dialog procedure may do.
 Window* findWindow(HWND window);
-// The controls of a dialog in the order in which they were made.
+// Returns the controls of a dialog in the order in which they were made.
 std::vector<HWND> controlsOf(HWND dialog);
-// How many dialogs and controls there are; 0 when no dialog was left behind.
+// Returns the number of dialogs and controls; 0 when no dialog was left behind.
 std::size_t openWindows();
 
-// The window that has the keyboard; null when none has.
+// Returns the window that has the keyboard; null without such a window.
 HWND& focusedWindow();
 }  // namespace host

@@ -13,7 +13,8 @@ void noteSaved(Editor& editor);
 // Tells whether the drawing has changed since noteSaved.
 bool isUnsaved();
 
-// Asks whether QUIT may give up the changes; true without a question when there are none.
+// Asks whether QUIT may give up the changes. Returns true without a question for an unchanged
+// drawing.
 bool mayGiveUpChanges(Editor& editor);
 // Asks whether a file that exists may be replaced; true without a question when it does not exist.
 // Only a person is asked: a script names the files that it wants.
