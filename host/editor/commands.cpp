@@ -22,7 +22,7 @@ namespace
 struct TypedName
 {
     std::wstring_view name;
-    bool global = false;  // "_"
+    bool global = false;  // typed with "_"
 };
 
 TypedName parseName(std::wstring_view line)

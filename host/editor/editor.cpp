@@ -132,7 +132,8 @@ void Editor::echo(const Answer& answer, std::wstring_view text)
     print(std::wstring(text) + L"\n");
 }
 
-// A shown dialog holds the user's input; a prompt under it could never be answered.
+// Stops a module that asks at the command line while a dialog is shown. The dialog holds the user's
+// input, so that nobody could answer the prompt.
 void Editor::requireNoDialog(const Question& question) const
 {
     const bool ownWindow =

@@ -58,12 +58,14 @@ public:
     Answer ask(const Question& question);
     // Asks as `ask` does, in two steps, for a caller that decides by the answer what to echo.
     Answer askSilently(const Question& question);
+    // Prints the text as the answer and ends the line, unless the user sees the answer already.
     void echo(const Answer& answer, std::wstring_view text);
     // Keeps an answer that was meant for the next question and gives it there.
     void putBack(Answer answer) { m_putBack = std::move(answer); }
 
     // Returns the options for this prompt and clears them, as they hold for one prompt only.
     PromptOptions takeOptions() { return std::exchange(m_options, {}); }
+    // Sets the options for the next prompt.
     void setOptions(PromptOptions options) { m_options = std::move(options); }
 
     // Tells whether the input has ended.
@@ -76,7 +78,8 @@ public:
     // Notes that a command begins or ends. Calls come in pairs; the innermost command ends first.
     void beginCommand(CommandPtr command) { m_running.push_back(std::move(command)); }
     void endCommand() { m_running.pop_back(); }
-    const std::vector<CommandPtr>& running() const { return m_running; }  // outermost first
+    // The running commands, the outermost first.
+    const std::vector<CommandPtr>& running() const { return m_running; }
 
     // The line that Enter at the command prompt starts again; empty before the first line.
     const std::wstring& lastLine() const { return m_lastLine; }
@@ -99,6 +102,7 @@ public:
     void quit() { m_quit = !m_mayQuit || m_mayQuit(); }
     // Sets the function that decides whether the session may end.
     void askBeforeQuitting(std::function<bool()> mayQuit) { m_mayQuit = std::move(mayQuit); }
+    // Tells whether the session ends after this command.
     bool hasQuit() const { return m_quit; }
 
     // The dialogs that are shown. While one is shown, a prompt of the command line is a breach.

@@ -57,8 +57,8 @@ struct Answer
 
     Kind kind = Kind::endOfInput;
     std::wstring text{};  // the line as typed
-    // The user sees what was typed, so that it is not echoed. For a withdrawn question: the line of
-    // the prompt has been ended.
+    // The user sees the typed text, so that the editor does not echo it. For a withdrawn question
+    // it says that the line of the prompt has been ended.
     bool visible = false;
 };
 

@@ -72,7 +72,7 @@ struct LineOutput
 {
     std::function<void(std::string_view)> print;
     std::function<void(std::string_view)> report;
-    // May be empty: the meter is not shown then.
+    // Shows the meter. May be empty: the meter is not shown then.
     std::function<void(const std::optional<Meter>&)> showMeter{};
 };
 

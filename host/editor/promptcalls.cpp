@@ -89,7 +89,7 @@ int acedGetKword(const ACHAR* prompt, ACHAR* result)
     const PromptOptions options = editor->takeOptions();
     if (options.keywords.empty() && !(options.bits & RSG_OTHER))
     {
-        return RTERROR;  // without keywords every answer would be refused
+        return RTERROR;  // without keywords, every text would be refused
     }
     const auto none = [](std::wstring_view) { return foreign(L"Invalid option keyword."); };
     const Question question = questionOf(Question::Kind::keyword, prompt, nullptr);

@@ -10,14 +10,18 @@ class ShownDialogs
 public:
     // Adds a dialog and returns how many are shown with it.
     int show() { return ++m_count; }
+    // Removes a dialog that has ended.
     void hide() { --m_count; }
+    // Removes a dialog for the length of a pick.
     void stepAside()
     {
         --m_count;
         ++m_picks;
     }
+    // Adds the dialog again after the pick.
     void comeBack() { ++m_count; }
 
+    // How many dialogs are shown now.
     int count() const { return m_count; }
     // How many times a dialog has stepped aside so far.
     int picks() const { return m_picks; }

@@ -41,6 +41,7 @@ struct HeaderRow
     VariableValue initial;
 };
 
+// Returns all rows [borrowed], which live as long as the program.
 std::span<const VariableRow> variableRows();
 std::span<const HeaderRow> headerRows();
 }  // namespace host

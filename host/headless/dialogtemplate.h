@@ -13,7 +13,7 @@ namespace host
 // The windows that a template describes. They have no handles and parents yet.
 struct DialogTemplate
 {
-    Window dialog;  // its place is that of its client area
+    Window dialog;  // `place` is the place of the client area
     std::vector<Window> controls;
 };
 

@@ -20,7 +20,7 @@ LRESULT dialogMessage(Window& dialog, UINT message, WPARAM wParam, LPARAM lParam
 // Tells the control's dialog what happened (BN_CLICKED and the like).
 void notifyDialog(const Window& control, WORD code);
 
-// The text that a message brings; a null pointer is an empty text.
+// Returns the text that a message brings; an empty text for a null pointer.
 std::wstring textAt(LPARAM text);
 // Copies as much of the text as fits and ends it with a zero, for which `size` has to leave room.
 // Returns the length without the zero.

@@ -13,7 +13,7 @@ extern const WindowClass dialogClass;
 // unknown class.
 const WindowClass* controlClass(std::wstring_view name, WORD ordinal);
 
-// Whether the window is a button of that type (BS_...). Other controls use the same bits for other
-// styles.
+// Tells whether the window is a button of that type (BS_...). Other controls use the same bits for
+// other styles.
 bool isButton(const Window& window, DWORD type);
 }  // namespace host

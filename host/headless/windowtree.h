@@ -12,7 +12,7 @@ namespace host
 {
 struct Window;
 
-// What windows of one kind have in common.
+// The data that windows of one kind share.
 struct WindowClass
 {
     WORD ordinal;  // the number that templates use instead of the name

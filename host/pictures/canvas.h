@@ -34,13 +34,14 @@ struct Box
 class Canvas
 {
 public:
+    // Makes a picture of `width` by `height` pixels.
     Canvas(int width, int height, double scale);
     ~Canvas();
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
     void fill(const Box& box, Color color);
-    void frame(const Box& box, Color color);  // one pixel, within the box
+    void frame(const Box& box, Color color);  // draws a frame of one pixel within the box
     void line(double x1, double y1, double x2, double y2, Color color, double width = 1);
     void circle(double x, double y, double radius, Color color, bool filled);
     void triangleDown(double x, double y, double size, Color color);

@@ -21,7 +21,7 @@ const int border = 1;
 struct Control
 {
     HWND window;
-    Box box;  // on the canvas
+    Box box;  // the place on the canvas
     std::wstring className;
     std::wstring text;
     DWORD style;

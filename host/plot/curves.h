@@ -8,8 +8,8 @@
 
 namespace host::plot
 {
-// A vertex of a polyline. Widths and bulge are those of the segment that begins here; the bulge is
-// the tangent of a quarter of the arc's angle, positive when it turns counter-clockwise.
+// A vertex of a polyline. Widths and bulge belong to the segment that begins at the vertex. The
+// bulge is the tangent of a quarter of the arc's angle, and positive for a counter-clockwise arc.
 struct Vertex
 {
     AcGePoint3d point;

@@ -18,6 +18,8 @@ bool drawEntity(const EntityTags& entity, const dxf::CodePage& codePage, const P
 // Draws a POLYLINE with the vertices that follow it.
 void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertices, const Pen& pen);
 
+// Draws an entity of one kind: LWPOLYLINE, HATCH, TEXT or ATTRIB, ATTDEF, MTEXT. drawEntity calls
+// these functions.
 void drawLightPolyline(const EntityTags& polyline, const Pen& pen);
 void drawHatch(const EntityTags& hatch, const Pen& pen);
 void drawText(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen);

@@ -105,7 +105,7 @@ Points splineEdge(Cursor& cursor)
 {
     const int degree = cursor.integer(schema::hatch::degree);
     cursor.integer(
-        schema::hatch::isRational);  // rational: tells that weights stand beside the poles
+        schema::hatch::isRational);  // not needed: the weights beside the poles say the same
     cursor.integer(schema::hatch::isPeriodic);
     const int knotCount = cursor.integer(schema::hatch::knotCount);
     const int poleCount = cursor.integer(schema::hatch::poleCount);

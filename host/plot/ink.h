@@ -30,13 +30,13 @@ class Ink
 public:
     virtual ~Ink() = default;
 
-    // Draws a line through the points with a round pen.
+    // Draws a line through the points with a round pen; `width` is the width of the pen.
     virtual void stroke(const Points& points, bool closed, double width, Color color) = 0;
     // Fills the area within the loops. A region that lies within an even number of loops is a hole.
     virtual void fill(const std::vector<Points>& loops, Color color) = 0;
+    // Draws a filled circle.
     virtual void disc(const AcGePoint3d& centre, double diameter, Color color) = 0;
-    // Draws a text that begins at `start`. Each vector is as long as a capital letter is high: one
-    // runs along the line, the other one up.
+    // Draws a text that begins at `start`. The vectors are as those of a TextLine.
     virtual void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
                       std::wstring_view text, Color color) = 0;
 
