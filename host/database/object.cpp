@@ -3,7 +3,7 @@
 #include "dbents.h"
 #include "host/database/objectstate.h"
 #include "host/database/packing.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 
 ACRX_DEFINE_MEMBERS(AcDbObject, AcRxObject)
 

@@ -2,7 +2,7 @@
 
 #include "host/database/objectstate.h"
 #include "host/database/packing.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 
 namespace host
 {

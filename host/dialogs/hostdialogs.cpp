@@ -5,7 +5,7 @@
 #include "acui.h"
 #include "host/dialogs/modalloop.h"
 #include "host/dialogs/wnd.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/windows/resourcechain.h"
 
 BEGIN_MESSAGE_MAP(CAdUiBaseDialog, CDialog)

@@ -8,7 +8,7 @@
 #include "host/editor/editor.h"
 #include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/windows/pendingmessages.h"
 #include "host/windows/text.h"
 

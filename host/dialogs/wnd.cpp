@@ -6,7 +6,7 @@
 #include "acedads.h"
 #include "afxwin.h"
 #include "host/dialogs/wnd.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 
 namespace
 {

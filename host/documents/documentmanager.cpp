@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "dbapserv.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/runtime/linker.h"
 #include "host/windows/modules.h"
 

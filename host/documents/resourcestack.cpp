@@ -1,7 +1,7 @@
 #include "host/documents/resourcestack.h"
 
 #include "afxwin.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 
 namespace host
 {

@@ -9,7 +9,7 @@
 #include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 #include "host/editor/sysvars.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/text/foldcase.h"
 #include "host/runtime/lispfunctions.h"
 #include "host/windows/text.h"

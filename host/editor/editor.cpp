@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "host/editor/messageboxes.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/windows/text.h"
 
 namespace host

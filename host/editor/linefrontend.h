@@ -11,7 +11,7 @@
 #include <string_view>
 
 #include "host/editor/rendezvous.h"
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 
 namespace host
 {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "host/editor/owntextrows.h"
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 
 namespace host
 {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 
 namespace host
 {

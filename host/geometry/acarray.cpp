@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 
 void acArrayIndexBreach(const char* call, int index, int length)
 {

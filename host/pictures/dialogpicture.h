@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 #include "windows.h"
 #include "winuser.h"
 

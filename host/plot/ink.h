@@ -5,7 +5,7 @@
 #include <string>
 
 #include "host/plot/sink.h"
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 
 namespace host::plot
 {

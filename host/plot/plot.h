@@ -5,7 +5,7 @@
 
 #include "dbmain.h"
 #include "host/dxf/progress.h"
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 
 namespace host
 {

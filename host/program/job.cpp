@@ -17,7 +17,7 @@
 #include "host/program/unsaved.h"
 #include "host/runtime/linker.h"
 #include "host/runtime/locale.h"
-#include "host/runtime/scoped.h"
+#include "host/basics/scoped.h"
 #include "host/windows/text.h"
 
 namespace host

@@ -11,7 +11,7 @@
 #include "host/program/session.h"
 #include "host/text/foldcase.h"
 #include "host/runtime/locale.h"
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 #include "host/windows/modules.h"
 #include "host/windows/text.h"
 

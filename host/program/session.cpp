@@ -12,7 +12,7 @@
 #include "host/program/job.h"
 #include "host/program/meterbar.h"
 #include "host/program/platform.h"
-#include "host/runtime/outofmemory.h"
+#include "host/basics/outofmemory.h"
 
 namespace host
 {

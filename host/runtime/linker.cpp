@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/runtime/commandstack.h"
 #include "host/runtime/lispfunctions.h"
-#include "host/runtime/scoped.h"
+#include "host/basics/scoped.h"
 #include "host/windows/text.h"
 
 ACRX_DEFINE_MEMBERS(AcRxDynamicLinker, AcRxObject)

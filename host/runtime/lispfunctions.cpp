@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "acedads.h"
-#include "host/runtime/scoped.h"
+#include "host/basics/scoped.h"
 #include "host/text/foldcase.h"
 
 namespace host

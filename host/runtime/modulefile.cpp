@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "host/runtime/outofmemory.h"
+#include "host/basics/outofmemory.h"
 #include "host/windows/modules.h"
 
 namespace host

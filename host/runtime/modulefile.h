@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 #include "rxdefs.h"
 
 namespace host

@@ -2,7 +2,7 @@
 
 #include "acui.h"
 #include "afxwin.h"
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/windows/modules.h"
 #include "host/windows/resourcechain.h"
 

@@ -8,7 +8,7 @@
 
 #include <gdiplus.h>
 
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 
 namespace host
 {

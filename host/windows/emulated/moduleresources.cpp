@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/windows/modules.h"
 #include "host/windows/emulated/resfile.h"
 #include "windows.h"

@@ -8,7 +8,7 @@
 #include <optional>
 #include <utility>
 
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 #include "host/windows/emulated/moduleresources.h"
 #include "host/windows/emulated/registration.h"
 #include "host/windows/resourcechain.h"

@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "crt.h"
-#include "host/runtime/outofmemory.h"
+#include "host/basics/outofmemory.h"
 #include "host/windows/format.h"
 #include "host/windows/text.h"
 #include "host/windows/emulated/rewrite.h"

@@ -1,4 +1,4 @@
-#include "host/runtime/result.h"
+#include "host/basics/result.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/runtime/breach.h"
+#include "host/basics/breach.h"
 
 #include <cstdio>
 #include <cstdlib>

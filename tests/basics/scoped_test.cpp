@@ -1,4 +1,4 @@
-#include "host/runtime/scoped.h"
+#include "host/basics/scoped.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/runtime/outofmemory.h"
+#include "host/basics/outofmemory.h"
 
 #include <cstdio>
 #include <cstdlib>
