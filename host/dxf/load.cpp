@@ -1,6 +1,7 @@
 #include "host/dxf/load.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "host/database/dictionaryentries.h"
@@ -23,12 +24,15 @@ TagSource tagsOf(const FileSource& source)
 template <class Table>
 std::wstring nameOf(const Table& table, const FileSource& source, const Record& record)
 {
-    return readRecord(table, tagsOf(source), record).name;
+    return readRecord(table, tagsOf(source), record, std::array{schema::name, schema::symbolFlags})
+        .name;
 }
 
 void loadLayer(DatabaseCore& core, FileSource& source, const Record& record)
 {
-    const schema::layer::Layer read = readRecord(schema::layer::table, tagsOf(source), record);
+    const std::array wanted{schema::name, schema::symbolFlags, schema::layer::color};
+    const schema::layer::Layer read =
+        readRecord(schema::layer::table, tagsOf(source), record, wanted);
     auto* layer = core.addLoadedRecord<AcDbLayerTableRecord>(core.roots()[Root::layerTable],
                                                              read.name, record.handle);
     const bool frozen = read.flags & schema::layer::frozenFlag;
@@ -40,8 +44,10 @@ void loadLayer(DatabaseCore& core, FileSource& source, const Record& record)
 
 void loadTextStyle(DatabaseCore& core, const FileSource& source, const Record& record)
 {
+    const std::array wanted{schema::name, schema::symbolFlags, schema::textstyle::height,
+                            schema::textstyle::widthFactor, schema::textstyle::oblique};
     const schema::textstyle::TextStyle read =
-        readRecord(schema::textstyle::table, tagsOf(source), record);
+        readRecord(schema::textstyle::table, tagsOf(source), record, wanted);
     auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.roots()[Root::textStyleTable],
                                                                  read.name, record.handle);
     setTextStyle(*style, read.oblique * M_PI / 180, read.widthFactor, read.height);

@@ -63,8 +63,9 @@ void loadView(const FileSource& source, DrawingState& state)
     {
         return;
     }
-    const schema::viewport::Viewport read = readRecord(
-        schema::viewport::table, TagSource{source.file, source.codePage}, *source.viewport);
+    const schema::viewport::Viewport read =
+        readRecord(schema::viewport::table, TagSource{source.file, source.codePage},
+                   *source.viewport, schema::viewport::view);
     View& view = state.view;
     view.centreX = read.centre.x;
     view.centreY = read.centre.y;

@@ -1,6 +1,9 @@
 // Records from tags, by their tables.
 #pragma once
 
+#include <algorithm>
+#include <span>
+
 #include "host/dxf/owntags.h"
 #include "host/dxf/values.h"
 
@@ -10,7 +13,10 @@ template <class Record>
 class RowReader
 {
 public:
-    RowReader(const TagSource& source, Record& record) : m_source(source), m_record(record) {}
+    RowReader(const TagSource& source, Record& record, std::span<const Code> wanted)
+        : m_source(source), m_record(record), m_wanted(wanted)
+    {
+    }
 
     void take(const Tag& tag, bool inList)
     {
@@ -21,7 +27,7 @@ public:
     template <class Owner, class Value>
     void operator()(const schema::Row<Owner, Value>& row) const
     {
-        if (!m_inList)
+        if (!m_inList && isWanted(row.code))
         {
             takeValue(m_source, *m_tag, row.code, m_record.*row.member);
         }
@@ -30,7 +36,7 @@ public:
     template <class Owner>
     void operator()(const schema::ListRow<Owner>& row) const
     {
-        if (m_inList)
+        if (m_inList && isWanted(row.code))
         {
             takeValue(m_source, *m_tag, row.code, m_record.*row.member);
         }
@@ -39,19 +45,26 @@ public:
     void operator()(const schema::SubclassRow&) const {}
 
 private:
+    bool isWanted(Code code) const
+    {
+        return m_wanted.empty() || std::ranges::find(m_wanted, code) != m_wanted.end();
+    }
+
     const TagSource& m_source;
     Record& m_record;
+    const std::span<const Code> m_wanted;
     const Tag* m_tag = nullptr;
     bool m_inList = false;
 };
 
-// What the record does not state stays as it is in `into`. Throws an Error for a value that its
-// attribute cannot have.
+// Reads a record. What the record does not state stays as it is in `into`. Throws an Error for a
+// value that its attribute cannot have. Where `wanted` names attributes, only these are read: a
+// damaged value that nobody asks for is no reason to refuse a drawing.
 template <class Table>
 void readInto(typename Table::RecordType& into, const Table& table, const TagSource& source,
-              const Record& record)
+              const Record& record, std::span<const Code> wanted = {})
 {
-    RowReader reader(source, into);
+    RowReader reader(source, into, wanted);
     BraceLists lists;
     for (const Tag& tag : ownTags(source.file, record))
     {
@@ -62,10 +75,10 @@ void readInto(typename Table::RecordType& into, const Table& table, const TagSou
 
 template <class Table>
 typename Table::RecordType readRecord(const Table& table, const TagSource& source,
-                                      const Record& record)
+                                      const Record& record, std::span<const Code> wanted = {})
 {
     typename Table::RecordType read;
-    readInto(read, table, source, record);
+    readInto(read, table, source, record, wanted);
     return read;
 }
 }  // namespace host::dxf

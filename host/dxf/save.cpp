@@ -1,6 +1,7 @@
 #include "host/dxf/save.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <map>
 #include <optional>
@@ -33,7 +34,8 @@ void saveLayer(Edits& edits, const FileSource& source, const LoadedLayer& loaded
 {
     const AcDbLayerTableRecord& layer = *loaded.layer;
     const auto& table = schema::layer::table;
-    const auto before = readRecord(table, TagSource{source.file, source.codePage}, *loaded.record);
+    const auto before = readRecord(table, TagSource{source.file, source.codePage}, *loaded.record,
+                                   std::array{schema::symbolFlags, schema::layer::color});
     auto now = before;
     if (layer.isFrozen() != loaded.frozen || layer.isLocked() != loaded.locked)
     {

@@ -79,8 +79,8 @@ void saveViewport(Edits& edits, const FileSource& source, const DrawingState& st
     }
     const FileForm form{source.file.release(), source.codePage};
     const auto& table = schema::viewport::table;
-    const auto record =
-        readRecord(table, TagSource{source.file, source.codePage}, *source.viewport);
+    const auto record = readRecord(table, TagSource{source.file, source.codePage}, *source.viewport,
+                                   schema::viewport::view);
     saveChanges(edits, *source.viewport,
                 RecordNumbers(table, viewportOf(source.state, record), form),
                 RecordNumbers(table, viewportOf(state, record), form));

@@ -85,6 +85,21 @@ std::string binary(const std::string& tags)
 {
     return "AutoCAD Binary DXF\r\n\x1a\0\0\0SECTION\0"s + tags;
 }
+TEST(DamagedDrawings, areReadWhereAValueIsDamagedThatNobodyAsksFor)
+{
+    for (const std::string& bytes : {
+             withLayer("2\nA\n330\nx\n"),
+             withStyle("2\nA\n71\nx\n"),
+             withStyle("2\nA\n42\nx\n"),
+             withView("110\nx\n"),
+             withView("121\nx\n"),
+             withTables(table("LTYPE", "0\nLTYPE\n2\nA\n72\nx\n")),
+             withTables(table("LTYPE", "0\nLTYPE\n2\nA\n73\nx\n")),
+         })
+    {
+        EXPECT_EQ(opening(bytes), "read") << bytes;
+    }
+}
 }  // namespace
 
 TEST(DamagedDrawings, otherFilesUnderTheNameOfADrawingAreRefusedAsWhatTheyAre)

@@ -80,6 +80,10 @@ inline constexpr auto table =
 
 namespace textstyle
 {
+inline constexpr Code height{40};
+inline constexpr Code widthFactor{41};
+inline constexpr Code oblique{50};
+
 struct TextStyle : SymbolRecord
 {
     double height = 0;
@@ -93,8 +97,8 @@ struct TextStyle : SymbolRecord
 
 inline constexpr auto table =
     tableOf<TextStyle>("STYLE", symbolRows, subclassRow("AcDbTextStyleTableRecord"),
-                       nameAndFlagRows, row(Code(40), &TextStyle::height),
-                       row(Code(41), &TextStyle::widthFactor), row(Code(50), &TextStyle::oblique),
+                       nameAndFlagRows, row(height, &TextStyle::height),
+                       row(widthFactor, &TextStyle::widthFactor), row(oblique, &TextStyle::oblique),
                        row(Code(71), &TextStyle::generation), row(Code(42), &TextStyle::lastHeight),
                        row(Code(3), &TextStyle::font), row(Code(4), &TextStyle::bigFont));
 }  // namespace textstyle
@@ -116,6 +120,18 @@ enum Mode
     ucsFollowMode = 8
 };
 
+inline constexpr Code centre{12};
+inline constexpr Code direction{16};
+inline constexpr Code target{17};
+inline constexpr Code height{40};
+inline constexpr Code aspect{41};
+inline constexpr Code twist{51};
+inline constexpr Code mode{71};
+inline constexpr Code ucsIcon{74};
+
+// What tells how the drawing is seen.
+inline constexpr Code view[] = {centre, direction, target, height, aspect, twist, mode, ucsIcon};
+
 struct Viewport : SymbolRecord
 {
     PlanePoint centre;  // in display coordinates
@@ -133,13 +149,12 @@ struct Viewport : SymbolRecord
 
 // Even R12 is given the coordinate system when it has changed: what does not know its codes
 // passes over them.
-inline constexpr auto table =
-    tableOf<Viewport>("VPORT", symbolRows, subclassRow("AcDbViewportTableRecord"), nameAndFlagRows,
-                      row(Code(12), &Viewport::centre), row(Code(16), &Viewport::direction),
-                      row(Code(17), &Viewport::target), row(Code(40), &Viewport::height),
-                      row(Code(41), &Viewport::aspect), row(Code(51), &Viewport::twist),
-                      row(Code(71), &Viewport::mode), row(Code(74), &Viewport::ucsIcon),
-                      row(Code(110), &Viewport::ucsOrigin), row(Code(111), &Viewport::ucsX),
-                      row(Code(112), &Viewport::ucsY));
+inline constexpr auto table = tableOf<Viewport>(
+    "VPORT", symbolRows, subclassRow("AcDbViewportTableRecord"), nameAndFlagRows,
+    row(centre, &Viewport::centre), row(direction, &Viewport::direction),
+    row(target, &Viewport::target), row(height, &Viewport::height), row(aspect, &Viewport::aspect),
+    row(twist, &Viewport::twist), row(mode, &Viewport::mode), row(ucsIcon, &Viewport::ucsIcon),
+    row(Code(110), &Viewport::ucsOrigin), row(Code(111), &Viewport::ucsX),
+    row(Code(112), &Viewport::ucsY));
 }  // namespace viewport
 }  // namespace host::dxf::schema
