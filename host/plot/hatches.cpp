@@ -70,34 +70,34 @@ Points polylineLoop(Cursor& cursor)
 }
 
 // Returns an arc of an edge. The angles of a clockwise edge are measured clockwise.
-Points turned(bool counterClockwise, double start, double end, const AcGePoint3d& center,
+Points turned(bool counterClockwise, double start, double end, const AcGePoint3d& centre,
               const AcGeVector3d& major, const AcGeVector3d& minor)
 {
     if (counterClockwise)
     {
-        return ellipse(center, major, minor, start, end);
+        return ellipse(centre, major, minor, start, end);
     }
-    return ellipse(center, major, -minor, start, end);
+    return ellipse(centre, major, -minor, start, end);
 }
 
 Points arcEdge(Cursor& cursor)
 {
-    const AcGePoint3d center = cursor.point(schema::hatch::centre);
+    const AcGePoint3d centre = cursor.point(schema::hatch::centre);
     const double radius = cursor.real(schema::hatch::radius);
     const double start = cursor.radians(schema::hatch::startAngle);
     const double end = cursor.radians(schema::hatch::endAngle);
-    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, center,
+    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, centre,
                   {radius, 0, 0}, {0, radius, 0});
 }
 
 Points ellipseEdge(Cursor& cursor)
 {
-    const AcGePoint3d center = cursor.point(schema::hatch::centre);
+    const AcGePoint3d centre = cursor.point(schema::hatch::centre);
     const AcGeVector3d major = cursor.point(schema::hatch::majorAxis).asVector();
     const double ratio = cursor.real(schema::hatch::ratio, 1);
     const double start = cursor.radians(schema::hatch::startAngle);
     const double end = cursor.radians(schema::hatch::endAngle);
-    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, center,
+    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, centre,
                   major, AcGeVector3d(-major.y, major.x, 0) * ratio);
 }
 

@@ -15,7 +15,7 @@ namespace
 enum HorizontalMode
 {
     leftMode,
-    centerMode,
+    centreMode,
     rightMode,
     alignedMode,
     middleMode,
@@ -81,7 +81,7 @@ void place(TextLine& line, const EntityTags& text)
                                                         : text.point(schema::text::position);
     }
     line.across = horizontal == rightMode                                ? 1
-                  : horizontal == centerMode || horizontal == middleMode ? 0.5
+                  : horizontal == centreMode || horizontal == middleMode ? 0.5
                                                                          : 0;
     line.above = aboveLine(horizontal, vertical);
 }
