@@ -1,4 +1,4 @@
-// Saves a file wholly or not at all.
+// Saves a drawing file completely or not at all.
 #pragma once
 
 #include <string>
@@ -9,17 +9,19 @@
 
 namespace host::dxf
 {
-// Writes beside the file and then takes its place, so that at no moment a part of a drawing bears
-// the name. A symbolic link is followed; an old file's mode is kept, and the old file itself until
-// the disk has all of the new one. Any failure throws an Error, leaves no other file behind and
-// the old one whole.
+// Writes a new file beside `path` and then renames it to `path`, so that an incomplete drawing
+// never has that name. A symbolic link is followed. The new file gets the mode of the old one. The
+// old file stays until the disk holds the whole of the new one.
 //
-// Errors and exceptions of `produce` pass through with the same promise.
+// Throws an Error if the file cannot be saved. Errors and exceptions of `produce` pass through. In
+// either case the old file stays whole and no other file is left behind.
 void saveAtomically(const std::string& path, const TagStyle& style, const Producer& produce);
-// `size` is about how many bytes the file will have.
+// Saves the edited file. `size` is the approximate length of the result in bytes; it serves only to
+// compute `progress`.
 void saveAtomically(const std::string& path, const Edits& edits, const Progress& progress = {},
                     std::size_t size = 1);
 
-// The bytes that these write, text or binary. Throws std::domain_error for what no tag can hold.
+// Hands the bytes that saveAtomically would write, text or binary, to `drain`. Throws
+// std::domain_error for a value that no tag can hold.
 void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::Drain& drain);
 }  // namespace host::dxf

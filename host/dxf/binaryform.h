@@ -1,8 +1,8 @@
-// Binary DXF as the tags of an ASCII one, and back, with nothing lost on either way.
+// Converts binary DXF to the tags of ASCII DXF and back without loss.
 //
-// Strings stay in the bytes they have, whatever the code page; numbers are written in the shortest
-// decimals that read back as the same; binary chunks become hexadecimal digits. Where a text has a
-// line feed, the tags of the ASCII form, which end with one, have `lineFeedInText`.
+// A string keeps its bytes, whatever the code page is. A number is written as the shortest decimal
+// that reads back as the same number. A binary chunk becomes hexadecimal digits. A line feed would
+// end a tag of the ASCII form, so `lineFeedInText` stands for a line feed within a text.
 #pragma once
 
 #include <cstdint>
@@ -13,19 +13,22 @@
 
 namespace host::dxf
 {
+// Returns true if the bytes begin with the mark of binary DXF.
 bool isBinary(std::string_view bytes);
 
 struct AsciiForm
 {
-    std::string text;                  // a tag has two lines; what follows EOF is as it was
-    std::vector<std::size_t> offsets;  // of each tag in the binary file, and after the last
-    int codeSize;                      // bytes of a group code: 1 up to R12, 2 later
+    std::string text;  // The tags, two lines each. What follows EOF is unchanged.
+    // Of each tag in the binary file, and of the end of the last one.
+    std::vector<std::size_t> offsets;
+    int codeSize;  // bytes of a group code: 1 up to R12, 2 in later releases
 };
 
-// Throws an Error, "NAME: offset N: expected X, found Y", for anything but whole tags.
+// Converts a binary file to its ASCII form. Throws an Error, "NAME: offset N: expected X, found Y",
+// if the file does not consist of whole tags.
 AsciiForm asciiForm(std::string_view binary, const std::string& name);
 
-// Turns tags that come in pieces of any length into their binary form.
+// Converts ASCII tags, which may arrive in pieces of any length, to their binary form.
 class BinaryEncoder
 {
 public:
@@ -33,9 +36,9 @@ public:
 
     BinaryEncoder(Drain drain, int codeSize);
 
-    // Throws std::domain_error for a value that its group code cannot hold.
+    // Encodes the next piece. Throws std::domain_error for a value that its group code cannot hold.
     void take(std::string_view ascii);
-    void finish();  // drains what is left
+    void finish();  // drains the remaining bytes
 
 private:
     void encodeTag(std::string_view code, std::string_view value);
@@ -46,8 +49,8 @@ private:
 
     Drain m_drain;
     int m_codeSize;
-    std::string m_pending;  // the ASCII tag that is not whole yet
+    std::string m_pending;  // the ASCII tag that is still incomplete
     std::string m_binary;
-    bool m_ended = false;  // after EOF, behind which there are no tags
+    bool m_ended = false;  // set after EOF, because no tags follow it
 };
 }  // namespace host::dxf

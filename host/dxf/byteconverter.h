@@ -1,4 +1,5 @@
-// Bytes of a code page as characters, and back, by what the platform knows of code pages.
+// Converts bytes of a code page to characters and back, with the code pages that the platform
+// knows.
 #pragma once
 
 #include <memory>
@@ -8,17 +9,19 @@
 
 namespace host::dxf
 {
-// Not for two threads at once.
+// An object must not be used by two threads at once.
 class ByteConverter
 {
 public:
-    // "UTF-8", "CP" and a number, "ISO8859-" and a number, "JOHAB"; null for one that is not known.
+    // Opens a code page: "UTF-8", "CP" and a number, "ISO8859-" and a number, or "JOHAB". Returns
+    // nullptr if the platform does not know the code page.
     static std::unique_ptr<ByteConverter> open(const std::string& codePage);
     virtual ~ByteConverter() = default;
 
-    // Appends the characters of the bytes up to the first that means nothing; how many were taken.
+    // Appends the characters of the bytes up to the first byte that has no meaning. Returns the
+    // number of bytes that were converted.
     virtual std::size_t decode(std::string_view bytes, std::u32string& text) = 0;
-    // Nothing for a character that the code page lacks.
+    // Returns the bytes of a character, or nothing if the code page lacks the character.
     virtual std::optional<std::string> encode(char32_t character) = 0;
 };
 }  // namespace host::dxf

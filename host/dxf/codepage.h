@@ -1,4 +1,4 @@
-// Texts of a DXF file as wide text, and back.
+// Converts texts of a DXF file to wide text and back.
 #pragma once
 
 #include <memory>
@@ -10,27 +10,31 @@
 
 namespace host::dxf
 {
-// From R2007 (AC1021) on the bytes are UTF-8 whatever the header says; before that they are in the
-// header's code page, and a file that states none is read as ANSI_1252.
+// From R2007 (AC1021) on the bytes are UTF-8, whatever the header says. Before R2007 they are in
+// the header's code page. A file that states no code page is read as ANSI_1252.
 //
-// Not for two threads at once.
+// An object must not be used by two threads at once.
 class CodePage
 {
 public:
-    // Of the header: $ACADVER and $DWGCODEPAGE. A TagFile has none that are not known; for such the
-    // constructor throws an Error.
+    // Returns true if the code page is known. The arguments are the header's $ACADVER and
+    // $DWGCODEPAGE.
     static bool isKnown(const Release& release, std::string_view codePageName);
+    // Throws an Error for an unknown code page. Every TagFile has a known one.
     CodePage(const Release& release, std::string_view codePageName);
 
-    // One wchar_t a character, two where it does not fit into one. "\U+XXXX", "\M+nXXXX" and "^J"
-    // are taken for the characters they stand for, `lineFeedInText` for a line feed.
+    // Decodes the bytes. A character takes one wchar_t, or two where it does not fit into one.
+    // "\U+XXXX", "\M+nXXXX" and "^J" become the characters that they stand for, and
+    // `lineFeedInText` becomes a line feed.
     //
-    // A byte that means nothing in the code page becomes U+DC00 plus the byte, which stands for
-    // nothing else and which `encode` turns back: a name with such a byte can be written again.
+    // A byte without a meaning in the code page becomes U+DC00 plus the byte. No other input gives
+    // such a character, and `encode` turns it back into the byte, so a name that contains the byte
+    // can be written again.
     std::wstring decode(std::string_view bytes) const;
 
-    // A surrogate pair counts as the character it makes. What the code page lacks is written
-    // "\U+XXXX", a control character with a caret, so the result is always one line.
+    // Encodes the text. A surrogate pair counts as one character. A character that the code page
+    // lacks is written as "\U+XXXX" and a control character with a caret, so the result is always
+    // one line.
     std::string encode(std::wstring_view text) const;
 
 private:

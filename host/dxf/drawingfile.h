@@ -1,4 +1,4 @@
-// Drawings as files: opens, makes and saves databases.
+// Opens, creates and saves drawings as files.
 #pragma once
 
 #include <cstdint>
@@ -15,23 +15,25 @@ namespace host
 struct OpenedDrawing
 {
     std::unique_ptr<AcDbDatabase> database;
-    std::string warning{};  // one line on what was repaired, if anything
+    std::string warning{};  // one line about what was repaired; empty if nothing was
 };
 
-// A failure tells the line of the file and what was expected there.
+// Opens a drawing. A failure names the line of the file and what was expected there.
 Result<OpenedDrawing> openDrawing(const std::string& path, const Progress& progress = {});
 
-// A new, empty, metric drawing (R2013).
+// Creates a new, empty, metric drawing (R2013).
 std::unique_ptr<AcDbDatabase> newDrawing();
 
-// Writes what the drawing was opened from with the changes made since; whatever was not changed
-// stays as it was, tag for tag. All or nothing: after a failure the old file is whole.
+// Saves the drawing: the file from which it was opened, with the changes made since. Everything
+// unchanged stays as it was, tag for tag. After a failure the old file is whole.
 Result<> saveDrawing(AcDbDatabase& database, const std::string& path,
                      const Progress& progress = {});
 
-// Whether this has the value of another moment tells whether saving would write the same as then.
+// Returns a number that stands for the unsaved changes. Two calls return the same number when
+// saving would write the same at both moments.
 std::uint64_t digestOfChanges(AcDbDatabase& database);
 
-// What the release of the drawing's file cannot hold and saving leaves out, a line for each.
+// Returns one line for each thing that saving leaves out because the release of the drawing's file
+// cannot hold it.
 std::vector<std::string> lossesOnSaving(const AcDbDatabase& database);
 }  // namespace host

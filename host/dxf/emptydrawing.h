@@ -1,11 +1,11 @@
-// The drawing that is there when none was opened.
+// The drawing of a run that opens no file.
 #pragma once
 
 #include <string>
 
 namespace host::dxf
 {
-// The text of a new, empty, metric drawing of R2013: millimetres, plan view, world coordinates,
-// layer 0, text style Standard. The same bytes at every call.
+// Returns the text of a new, empty, metric R2013 drawing: millimetres, plan view, world
+// coordinates, layer 0, text style Standard. Every call returns the same bytes.
 std::string emptyDrawing();
 }  // namespace host::dxf

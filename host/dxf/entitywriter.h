@@ -1,4 +1,4 @@
-// Entities as tags.
+// Writes entities as tags.
 #pragma once
 
 #include <string>
@@ -11,19 +11,21 @@
 
 namespace host::dxf
 {
-// Writes the entities of one database in the form of the file's release. Everything that lines of
-// one style have in common is put together once.
+// Writes the entities of one database in the form of the file's release. The tags that lines of one
+// style have in common are composed only once.
 class EntityWriter
 {
 public:
     EntityWriter(DatabaseCore& core, const FileSource& source);
 
-    // All entities made since the drawing was opened that belong to `owner` and are not erased.
-    // Throws std::domain_error, which names the entity, for what no tag can hold.
+    // Writes all entities that were made since the drawing was opened, belong to `owner` and are
+    // not erased. Throws std::domain_error, which names the entity, for a value that no tag can
+    // hold.
     void writeEntitiesOf(const AcDbStub* owner, TagWriter& writer);
 
 private:
-    // `last` is the one that is being written.
+    // Writes the entities and keeps the one being written in `last`, so that the caller can name it
+    // in an error.
     void writeAll(const AcDbStub* owner, TagWriter& writer, const AcDbStub*& last);
     void writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, TagWriter& writer);
     void writeLine(const AcDbLine& line, TagWriter& writer);

@@ -1,4 +1,4 @@
-// Why a drawing cannot be read or saved.
+// The reason why a drawing cannot be read or saved.
 #pragma once
 
 #include <stdexcept>
@@ -6,13 +6,14 @@
 
 namespace host::dxf
 {
-// Thrown; what() is one line for the user, without a line ending, that begins with the file's name.
+// The exception of this folder. what() is one line for the user, without a line ending, and begins
+// with the file's name.
 struct Error : std::runtime_error
 {
     using std::runtime_error::runtime_error;
 };
 
-// `what` is wrong with the file of that path.
+// Throws an Error that says what is wrong with the file at `path`.
 [[noreturn]] inline void fail(const std::string& path, const std::string& what)
 {
     throw Error(path + ": " + what);

@@ -1,4 +1,4 @@
-// What a database remembers of the file it was read from.
+// What a database keeps of the file from which it was read.
 #pragma once
 
 #include <functional>
@@ -18,14 +18,15 @@ struct LoadedLayer
     bool frozen, locked, off;
 };
 
-// A record that every drawing has and the file lacks.
+// A record that every drawing has but this file lacks.
 struct AddedRecord
 {
-    std::string_view type;  // of its table: "LAYER"
+    std::string_view type;  // the type of its table: "LAYER"
     AcDbStub* stub;
 };
 
-// The state as read, to tell what has changed since. Pointers into `file` stay good with it.
+// The state as it was read, against which saving finds the changes. The pointers to records stay
+// valid as long as `file`.
 struct FileSource : DrawingSource
 {
     explicit FileSource(TagFile read)
@@ -33,13 +34,13 @@ struct FileSource : DrawingSource
     {
     }
 
-    // The extents of model space, WCS. They are measured when they are first asked for, because a
-    // header may state the box of an earlier drawing. That box counts as well where there are
-    // entities that cannot be measured.
+    // Returns the extents of model space [wcs]. They are measured on the first call, because a
+    // header may state the box of an earlier state of the drawing. If some entities cannot be
+    // measured, the box of the header is included.
     const WorldExtents& modelExtents() override;
-    // The extents that the header states. A header without a box, or with a single point, as some
-    // programs write it, is replaced by `modelExtents`. Saving does without the measuring, which
-    // takes longer than reading the file.
+    // Returns the extents that the header states [wcs]. Returns `modelExtents` if the header states
+    // no box or, as some programs write it, a single point. Saving uses this function because
+    // measuring takes longer than reading the file.
     WorldExtents statedExtents();
 
     TagFile file;
@@ -48,8 +49,8 @@ struct FileSource : DrawingSource
     CurrentProperties current;
     std::vector<LoadedLayer> layers;
     std::vector<AddedRecord> added;
-    const Record* viewport = nullptr;        // the first "*ACTIVE" one
-    const Record* rootDictionary = nullptr;  // of named objects
+    const Record* viewport = nullptr;        // the first "*ACTIVE" viewport
+    const Record* rootDictionary = nullptr;  // the dictionary of named objects
     const Record* groupDictionary = nullptr;
 
 private:
@@ -62,11 +63,13 @@ struct Measured
     bool isWhole;  // false if entities were left out
 };
 
-// Measures the entities of a file's model space; set by whoever knows all their kinds. Without it
-// the extents are those that the header states.
+// Measures the entities in the model space of a file. The part of the program that knows all kinds
+// of entities sets this function. Without the function, the extents are those that the header
+// states.
 using Measure = Measured (*)(const TagFile&);
 void setMeasure(Measure measure);
 
+// Returns the source of a database that was read from a file [borrowed].
 inline FileSource& sourceOf(const DatabaseCore& core)
 {
     return static_cast<FileSource&>(*core.source());

@@ -1,4 +1,4 @@
-// Header variables by their tables.
+// Reads and writes header variables by their tables.
 #pragma once
 
 #include <map>
@@ -10,9 +10,9 @@
 
 namespace host::dxf
 {
-using KeptVariables = std::map<std::wstring, VariableValue>;  // names without "$"
+using KeptVariables = std::map<std::wstring, VariableValue>;  // the names have no "$"
 
-// Each leaves `value` as it is when what is kept has another type.
+// Copy the kept value into `value`, or leave `value` unchanged if the kept value has another type.
 void takeKept(const VariableValue& kept, int& value);
 void takeKept(const VariableValue& kept, double& value);
 void takeKept(const VariableValue& kept, std::wstring& value);
@@ -20,8 +20,8 @@ void takeKept(const VariableValue& kept, schema::Handle& value);
 void takeKept(const VariableValue& kept, AcGePoint3d& value);
 void takeKept(const VariableValue& kept, AcGeVector3d& value);
 
-// Variables that are missing or of another type have their defaults. `prefix` stands before the
-// names of the table.
+// Reads the variables of a table. A variable that is missing or has another type gets its default.
+// `prefix` is put before each name of the table.
 template <class Variables, class Rows>
 Variables readVariables(const Rows& rows, const KeptVariables& kept, const std::string& prefix = {})
 {
@@ -39,7 +39,7 @@ Variables readVariables(const Rows& rows, const KeptVariables& kept, const std::
     return variables;
 }
 
-// How header variables are changed in a file.
+// Changes header variables in a file.
 struct HeaderEdits
 {
     Edits& edits;
@@ -72,7 +72,7 @@ struct HeaderEdits
     }
 };
 
-// Whether the file has all of them.
+// Returns true if the file has all the variables of the table.
 template <class Rows>
 bool states(const TagFile& file, const Rows& rows)
 {

@@ -1,4 +1,4 @@
-// The form in which a million lines are written.
+// The precomputed form in which lines are written; a drawing may have a million of them.
 #pragma once
 
 #include "host/dxf/recordwriter.h"
@@ -6,8 +6,8 @@
 
 namespace host::dxf
 {
-// What the table of lines writes for `line`, but for its handle and its two points, which the form
-// leaves open.
+// Returns what the table of lines writes for `line`, except the handle and the two points, which
+// the form leaves open.
 RecordForm lineFormOf(const schema::line::Line& line, const FileForm& form, const TagStyle& style,
                       bool hasHandle);
 }  // namespace host::dxf

@@ -6,8 +6,9 @@
 
 namespace host::dxf
 {
-// Every object that is not erased, in the order they were made; of lines in a row that share a
-// style only the first, which names the same layer, linetype and owner as the others.
+// The objects that are not erased, in the order in which they were made. Of consecutive packed
+// lines that share a style, only the first is included: it names the same layer, linetype and owner
+// as the others.
 using LiveStubs = std::vector<const AcDbStub*>;
 LiveStubs liveStubs(const DatabaseCore& core);
 }  // namespace host::dxf

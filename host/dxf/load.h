@@ -1,4 +1,4 @@
-// A database from a drawing file.
+// Loads a database from a drawing file.
 #pragma once
 
 #include <string_view>
@@ -10,6 +10,6 @@ namespace host::dxf
 // Fills an empty database. Throws an Error for a file whose records do not make a drawing.
 void load(DatabaseCore& core, TagFile file);
 
-// What the tables of TABLES are called.
+// Returns the name of a table in section TABLES.
 std::string_view tableName(const TagFile& file, const Record& table);
 }  // namespace host::dxf

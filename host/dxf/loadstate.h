@@ -4,9 +4,10 @@
 
 namespace host::dxf
 {
-// Above this no room is left for the new objects of a session.
+// Handles above this leave no room for the new objects of a session.
 inline constexpr std::uint64_t highestUsableHandle = UINT64_MAX >> 1;
 
-// Header variables, view and coordinate systems, current properties and the handle seed.
+// Loads the header variables, the view, the coordinate systems, the current properties and the
+// handle seed.
 void loadState(DatabaseCore& core, const FileSource& source);
 }  // namespace host::dxf

@@ -1,10 +1,11 @@
-// Files of other kinds that are taken for drawings.
+// Recognises files of other kinds that users mistake for drawings.
 #pragma once
 
 #include <string_view>
 
 namespace host::dxf
 {
-// What the file is, by how it begins: "a PDF document". Empty for what may be a DXF drawing.
+// Returns what the file is, judged by its first bytes: "a PDF document". Returns an empty string
+// for a file that may be a DXF drawing.
 std::string_view otherFormat(std::string_view bytes);
 }  // namespace host::dxf

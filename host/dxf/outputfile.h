@@ -1,4 +1,4 @@
-// Any file that a run leaves, a drawing or a picture: written wholly or not at all.
+// Writes any output file of a run, a drawing or a picture, completely or not at all.
 #pragma once
 
 #include <string>
@@ -8,11 +8,12 @@
 
 namespace host
 {
-// Whether a file could be written under that name; known before the work on it begins. A failure
-// tells that its folder is not there or takes no files, or that the file may not be written.
-// Nothing is changed.
+// Checks, before the work on a file begins, whether it could be written at `path`. A failure says
+// that the folder does not exist or takes no files, or that the file is not writable. Changes
+// nothing.
 Result<> checkOutputFile(const std::string& path);
 
-// Writes the bytes beside the file and then takes its place. After a failure the old file is whole.
+// Writes the bytes to a new file beside `path` and then renames it to `path`. After a failure the
+// old file is whole.
 Result<> writeOutputFile(const std::string& path, std::string_view bytes);
 }  // namespace host

@@ -1,4 +1,4 @@
-// The tags of a record without what applications hang on it.
+// The tags of a record without the data that applications attach to it.
 #pragma once
 
 #include "host/dxf/schema/structure.h"
@@ -6,7 +6,7 @@
 
 namespace host::dxf
 {
-// Ends before the data of applications and embedded objects.
+// A range of tags that ends before the data of applications and before embedded objects.
 class OwnTags
 {
 public:
@@ -33,7 +33,7 @@ inline OwnTags ownTags(const TagFile& file, const Record& record)
     return OwnTags(file.tags(record));
 }
 
-// Where what is added to a record goes.
+// Returns the offset at which new tags of a record are inserted.
 inline std::size_t endOfOwnTags(const TagFile& file, const Record& record)
 {
     std::size_t end = record.begin;
@@ -44,12 +44,12 @@ inline std::size_t endOfOwnTags(const TagFile& file, const Record& record)
     return end;
 }
 
-// Follows the lists of a record, whose tags have the codes of other things: "102 {ACAD_REACTORS"
-// to "102 }". To be given each tag.
+// Recognises the lists of a record, from "102 {ACAD_REACTORS" to "102 }". Tags in a list use group
+// codes that mean something else outside it. The object must be given every tag in order.
 class BraceLists
 {
 public:
-    // Whether the tag belongs to a list.
+    // Takes the next tag. Returns true if the tag belongs to a list or bounds one.
     bool take(const Tag& tag)
     {
         const bool bounds = tag.code == schema::list;

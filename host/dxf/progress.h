@@ -1,15 +1,16 @@
-// Long work tells how far it has come.
+// Reports how far long work has come.
 #pragma once
 
 #include <functional>
 
 namespace host
 {
-// From 0 to 1, some hundred times and never less than before. An empty one is not called; nothing
-// is thrown.
+// Receives the completed part, from 0 to 1, about a hundred times and never less than before. The
+// host does not call an empty function. The function must not throw.
 using Progress = std::function<void(double part)>;
 
-// A part of longer work, as its progress: from `from` to `to` of the whole.
+// Returns the progress function for one part of longer work, which takes the whole from `from` to
+// `to`.
 inline Progress partOf(const Progress& whole, double from, double to)
 {
     return whole ? [=](double part) { whole(from + (to - from) * part); } : Progress();

@@ -1,4 +1,4 @@
-// Changes of records that stand in the file.
+// Changes records that the file already has.
 #pragma once
 
 #include <map>
@@ -10,7 +10,8 @@
 
 namespace host::dxf
 {
-// The numbers of a record by their codes. Names and handles are never changed.
+// The numbers of a record by their group codes. Names and handles are left out, because they never
+// change.
 class RecordNumbers
 {
 public:
@@ -36,8 +37,8 @@ private:
     std::map<Code, Number> m_numbers;
 };
 
-// Sets what differs between the two in the record; what that lacks goes to the end of its own
-// tags, by the codes' order.
+// Sets the numbers of the record that differ between `before` and `now`. A number whose tag the
+// record lacks is added at the end of the record's own tags, in the order of the codes.
 void saveChanges(Edits& edits, const Record& record, const RecordNumbers& before,
                  const RecordNumbers& now);
 }  // namespace host::dxf

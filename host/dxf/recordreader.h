@@ -1,4 +1,4 @@
-// Records from tags, by their tables.
+// Reads records from tags by their tables.
 #pragma once
 
 #include <algorithm>
@@ -57,9 +57,9 @@ private:
     bool m_inList = false;
 };
 
-// Reads a record. What the record does not state stays as it is in `into`. Throws an Error for a
-// value that its attribute cannot have. Where `wanted` names attributes, only these are read: a
-// damaged value that nobody asks for is no reason to refuse a drawing.
+// Reads a record into `into`. An attribute that the record does not state keeps its value. Throws
+// an Error for a value that its attribute cannot have. If `wanted` names attributes, only these are
+// read, so that a damaged value that nobody needs does not prevent a drawing from opening.
 template <class Table>
 void readInto(typename Table::RecordType& into, const Table& table, const TagSource& source,
               const Record& record, std::span<const Code> wanted = {})

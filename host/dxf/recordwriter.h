@@ -1,4 +1,4 @@
-// Records as tags, by their tables.
+// Writes records as tags by their tables.
 #pragma once
 
 #include "host/dxf/schema/structure.h"
@@ -7,13 +7,14 @@
 
 namespace host::dxf
 {
-// What the file that is written can hold.
+// The release and the code page of the file that is written; they limit what it can hold.
 struct FileForm
 {
     const Release& release;
     const CodePage& codePage;
 };
 
+// Returns true if files of the release have an attribute that was introduced in `since`.
 inline bool has(const Release& release, schema::Since since)
 {
     return since == schema::Since::r12 || (since == schema::Since::r13 && release.objects) ||
@@ -79,7 +80,7 @@ private:
     const FileForm& m_form;
 };
 
-// `Out` has the functions of a TagWriter.
+// Writes a record. `Out` has the functions of a TagWriter.
 template <class Out, class Table>
 void writeRecord(Out& out, const Table& table, const typename Table::RecordType& record,
                  const FileForm& form)

@@ -1,4 +1,4 @@
-// What the releases of DXF can hold.
+// Describes what each release of DXF can hold.
 #pragma once
 
 #include <string_view>
@@ -7,16 +7,18 @@ namespace host::dxf
 {
 struct Release
 {
-    std::string_view version;  // of $ACADVER
+    std::string_view version;  // as in $ACADVER
     std::string_view name;
-    bool objects;    // classes of entities by name, dictionaries and groups; handles always
-    bool ownership;  // every object names its owner; line weights
-    bool utf8;       // texts, whatever the header says
+    bool objects;    // files have class names of entities, dictionaries, groups, and always handles
+    bool ownership;  // every object names its owner; entities have line weights
+    bool utf8;       // texts are UTF-8, whatever the header says
 };
 
-// R12 to R2018; null for any other version.
+// Returns the release of a version, R12 to R2018 [borrowed], never freed; nullptr for any other
+// version.
 const Release* findRelease(std::string_view version);
 
-// A file that does not say its version is the oldest: from R13 on every file must.
+// The version of a file that states none. From R13 on every file must state its version, so such a
+// file is R12.
 inline constexpr std::string_view unstatedVersion = "AC1009";
 }  // namespace host::dxf

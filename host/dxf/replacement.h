@@ -1,4 +1,4 @@
-// A new drawing beside the old one, until it takes the old one's place.
+// A new drawing that is written beside the old one until it takes the old one's place.
 #pragma once
 
 #include <memory>
@@ -9,26 +9,30 @@
 
 namespace host::dxf
 {
-// Throws the Error that a Replacement would throw in the end because of the name: its folder is not
-// there or takes no files, the file may not be written. Changes nothing.
+// Checks, before a Replacement is made, whether `path` can be written. Throws the Error that the
+// Replacement would throw: the folder does not exist or takes no files, or the file is not
+// writable. Changes nothing.
 void requireReplaceable(const std::string& path);
 
-// Gone on every way out before `takePlace`. Every failure throws an Error, and leaves the old file
-// whole. A device or pipe has nothing to lose: it takes the bytes as they come.
+// A new file that is deleted unless takePlace succeeds. Every failure throws an Error and leaves
+// the old file whole. A device or a pipe holds nothing that could be lost, so it receives the bytes
+// directly.
 class Replacement
 {
 public:
     class Files;
 
-    // A symbolic link is followed. The old file, if there is one, must be one that the user could
-    // write to; its owner and mode are taken over before there is anything to read.
+    // Creates the new file. A symbolic link is followed. If there is an old file, the user must be
+    // allowed to write to it. The new file gets the owner and the mode of the old one before it
+    // holds anything that could be read.
     explicit Replacement(const std::string& path);
     ~Replacement();
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
     void write(std::string_view bytes);
-    // Waits for the disk where an old drawing is given up; a new name puts nothing at risk.
+    // Gives the new file its name. If it replaces an old drawing, the function first waits until
+    // the disk holds the new one; a new name puts nothing at risk.
     void takePlace();
 
 private:

@@ -1,4 +1,4 @@
-// What has changed in a database since it was loaded, as a drawing file.
+// Saves what has changed in a database since it was loaded.
 #pragma once
 
 #include <cstdint>
@@ -11,15 +11,17 @@
 
 namespace host::dxf
 {
-// Calls `take` with everything that has changed since `load`: good for the length of the call.
+// Calls `take` with everything that has changed since `load`. The edits are valid only during the
+// call.
 void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take);
 
-// Stands for everything that has changed since `load`: another number for other changes.
+// Returns a number that stands for everything that has changed since `load`. Other changes give
+// another number.
 std::uint64_t digestOfChanges(DatabaseCore& core);
 
 // Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
 void save(DatabaseCore& core, const std::string& path, const Progress& progress);
 
-// What the file's release cannot hold, a line for each.
+// Returns one line for each thing that the file's release cannot hold.
 std::vector<std::string> lossesOnSaving(const DatabaseCore& core);
 }  // namespace host::dxf

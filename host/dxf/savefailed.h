@@ -1,4 +1,4 @@
-// How saving a drawing fails, on every system.
+// Reports that a drawing cannot be saved, with the same words on every system.
 #pragma once
 
 #include <cerrno>
@@ -9,12 +9,13 @@
 
 namespace host::dxf
 {
+// Throws an Error that gives the reason.
 [[noreturn]] inline void failSaving(const std::string& path, const std::string& why)
 {
     throw Error(path + ": cannot be saved: " + why);
 }
 
-// With the reason that the last call of the C library has left.
+// Throws an Error unless `done`. The reason is the errno of the last call of the C library.
 inline void requireSaved(bool done, const std::string& path)
 {
     if (!done)

@@ -5,7 +5,8 @@
 
 namespace host::dxf
 {
-// View, coordinate systems, current properties and variables that are not as they were read; the
-// extents of model space, if the file states them and something has been made there.
+// Saves the parts of the drawing's state that have changed since it was read: view, coordinate
+// systems, current properties and variables. Saves the extents of model space, too, if the file
+// states them and something has been made there.
 void saveState(Edits& edits, const DatabaseCore& core);
 }  // namespace host::dxf

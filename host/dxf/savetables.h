@@ -6,7 +6,7 @@
 
 namespace host::dxf
 {
-// Records that every drawing has but this file does not write down, as far as a new entity names
-// them; with them the tables, or the whole section, that they need.
+// Adds the records that every drawing has but this file does not contain, if a new entity names
+// them. Adds the tables, or the whole section, that these records need.
 void saveTables(Edits& edits, DatabaseCore& core, const LiveStubs& live);
 }  // namespace host::dxf

@@ -1,4 +1,4 @@
-// A tag of a DXF file: a group code and its value, a line each.
+// The tag of a DXF file: a group code and its value, one line each.
 #pragma once
 
 #include <cstddef>
@@ -13,30 +13,30 @@
 
 namespace host::dxf
 {
-// Stands for a line feed within a text of a binary drawing, where a zero ends the text and so is
-// never in it.
+// Stands for a line feed within a text of a binary drawing. A zero byte ends such a text, so the
+// text itself never contains one.
 inline constexpr char lineFeedInText = '\0';
 
 struct Tag
 {
     Code code;
-    std::string_view value;  // the file's bytes, blanks kept, without the line ending
+    std::string_view value;  // the file's bytes with their blanks, without the line ending
     std::size_t begin;       // offset of the group code's line
     std::size_t end;         // offset after the value's line
-    std::uint32_t line;      // of the group code, from 1; the value is on the next
+    std::uint32_t line;      // line of the group code, from 1; the value is on the next line
 };
 
-// How a file writes its tags, so that new ones look like their neighbours.
+// The layout of a file's tags, so that new tags look like their neighbours.
 struct TagStyle
 {
     std::string_view newline = "\n";
-    int codeWidth = 3;         // group codes are padded with blanks on the left to this, 1 to 6
-    bool padIntegers = false;  // so are integers, to the width of their kind
-    int binaryCodeSize = 0;    // of a binary file: bytes of a group code, 1 or 2
+    int codeWidth = 3;  // group codes are padded with blanks on the left to this width, 1 to 6
+    bool padIntegers = false;  // integers are padded, too, to the width of their type
+    int binaryCodeSize = 0;    // bytes of a group code in a binary file, 1 or 2; 0: an ASCII file
 };
 
-// The tags of a range of bytes that holds whole, well-formed tags and nothing else; a TagFile
-// gives no others.
+// The tags of a range of bytes [borrowed]. The range must consist of whole, well-formed tags; every
+// range from a TagFile does.
 class Tags
 {
 public:

@@ -1,4 +1,4 @@
-// Reads a file's tags one after the other and refuses what is none.
+// Reads a file's tags one after another and refuses anything that is not a tag.
 #pragma once
 
 #include "host/dxf/schema/structure.h"
@@ -9,24 +9,24 @@ namespace host::dxf
 class TagReader
 {
 public:
-    // Before the file's first tag. There must be a '\n' behind the file's last byte; the file is
-    // [borrowed].
+    // Starts before the file's first tag. The file is [borrowed], and a '\n' must follow its last
+    // byte.
     explicit TagReader(const TagFile& file);
 
-    // All throw an Error if there is no tag.
+    // Advance to the next tag. They throw an Error if the file has no further tag.
     void next();
     void nextButComments();
-    void skipTo(Code code);  // from the current tag on
+    void skipTo(Code code);  // starts with the current tag
 
     const Tag& tag() const { return m_tag; }
-    bool is(std::string_view word) const  // the tag has code 0 and this value
+    bool is(std::string_view word) const  // true if the tag has code 0 and this value
     {
         return m_tag.code == schema::recordType && trimmed(m_tag.value) == word;
     }
     std::uint32_t nextLine() const { return m_nextLine; }
-    std::string_view rest() const;  // of the file, after the tag
+    std::string_view rest() const;  // the rest of the file, after the tag
 
-    [[noreturn]] void refuse(std::string_view expected) const;  // the tag
+    [[noreturn]] void refuse(std::string_view expected) const;  // throws an Error about the tag
 
 private:
     Code readCode();

@@ -1,4 +1,4 @@
-// Fills a TagFile from its bytes in one pass, or refuses them.
+// Fills a TagFile from its bytes in one pass, or refuses the bytes.
 #pragma once
 
 #include <unordered_map>
@@ -11,9 +11,9 @@ namespace host::dxf
 class TagFileScanner
 {
 public:
-    TagFileScanner(TagFile& file, const Progress& progress);  // [borrowed]
+    TagFileScanner(TagFile& file, const Progress& progress);  // both are [borrowed]
 
-    void scan();  // throws Error
+    void scan();  // throws an Error if the bytes are refused
 
 private:
     void refuseOtherFormats() const;
@@ -42,7 +42,7 @@ private:
 
     std::unordered_set<std::string_view> m_sectionNames;
     std::unordered_map<std::string_view, std::uint32_t> m_typeIndexes;
-    std::string_view m_lastType;  // most records are of the type of the one before
+    std::string_view m_lastType;  // most records have the type of the record before
     std::uint32_t m_lastTypeIndex = 0;
 };
 }  // namespace host::dxf

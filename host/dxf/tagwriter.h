@@ -1,4 +1,4 @@
-// Writes tags, two million lines a drawing and no allocation a tag.
+// Writes tags without an allocation for each tag. A drawing may have two million lines.
 #pragma once
 
 #include <array>
@@ -14,26 +14,27 @@
 
 namespace host::dxf
 {
-// The shortest decimal that reads back as the same number, always with a point or an exponent:
-// "100.0", "-0.5", "1e+20". -0 is written as 0.0. Throws std::domain_error if it is not finite.
+// Returns the shortest decimal that reads back as the same number. It always has a point or an
+// exponent: "100.0", "-0.5", "1e+20". Minus zero is written as 0.0. Throws std::domain_error if the
+// number is not finite.
 std::string realText(double value);
 
-// A kind of record with six numbers that is written a million times: all of it but its handle and
-// its numbers, as bytes.
+// The bytes of a record with six numbers, such as a line, except its handle and its numbers. Such
+// records are written a million times, so their common bytes are composed only once.
 struct RecordForm
 {
     struct Gap
     {
         Gap() = default;
-        explicit Gap(std::string_view bytes);  // 15 at most
+        explicit Gap(std::string_view bytes);  // at most 15 bytes
 
         unsigned char length;
         char text[15];
     };
 
     std::string head;    // up to the handle
-    bool hasHandle;      // or none: all is in `common`
-    std::string common;  // from there to the first number
+    bool hasHandle;      // if false, all common bytes are in `common`
+    std::string common;  // from the handle to the first number
     Gap gaps[5];         // between the numbers
     std::string tail;
 };
@@ -41,8 +42,8 @@ struct RecordForm
 class TagWriter
 {
 public:
-    // Bytes leave about so many at a time. More of them would no longer be near the processor when
-    // the system takes them over.
+    // The writer passes on about this many bytes at a time. A larger buffer would no longer be in
+    // the processor's cache when the system copies it.
     static constexpr std::size_t bufferSize = 1 << 18;
     using Drain = std::function<void(std::string_view)>;  // may throw
 
@@ -50,22 +51,23 @@ public:
     TagWriter(const TagWriter&) = delete;
     TagWriter& operator=(const TagWriter&) = delete;
 
-    // Group codes are 0 to 1071.
+    // Each writes one tag. Group codes are 0 to 1071.
     void text(Code code, std::string_view encoded);  // one line in the file's code page
     void integer(Code code, std::int64_t value);
-    void handle(Code code, std::uint64_t value);          // hexadecimal capitals
-    void real(Code code, double value);                   // as realText
-    void point(Code code, double x, double y, double z);  // code, its Y and its Z
+    void handle(Code code, std::uint64_t value);          // in hexadecimal capitals
+    void real(Code code, double value);                   // written as by realText
+    void point(Code code, double x, double y, double z);  // the code, its Y and its Z
     void point(Code code, double x, double y);
 
-    void raw(std::string_view bytes);  // as they are
+    void raw(std::string_view bytes);  // written unchanged
     void record(const RecordForm& form, std::uint64_t handle, const double (&numbers)[6]);
 
-    // A tag in two halves, for the parts of a form.
+    // Write the two parts of a tag separately, for the parts of a form.
     void codeLine(Code code);
     void lineEnd();
 
-    // To be called at the end; a writer that goes out of scope before has lost its last bytes.
+    // Drains the remaining bytes. Call it at the end: the destructor discards bytes that were not
+    // flushed.
     void flush();
 
 private:
@@ -76,7 +78,8 @@ private:
         unsigned char integerWidth;
     };
 
-    // A number as it was written before; whole sheets of lines have a few thousand of them.
+    // A number and its text as written before. Whole sheets of lines have only a few thousand
+    // different numbers.
     struct RealText
     {
         std::uint64_t bits = 0;
@@ -98,7 +101,8 @@ private:
     std::array<CodeLine, highestCode + 1> m_codes;
     std::unique_ptr<char[]> m_buffer;
     char* m_at;
-    const char* m_full;  // further bytes are for the next filling, but for the rest of a tag
+    // Beyond this, only the rest of the current tag is added before the buffer is drained.
+    const char* m_full;
     std::vector<RealText> m_realTexts;
 };
 }  // namespace host::dxf

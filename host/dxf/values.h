@@ -1,4 +1,4 @@
-// How an attribute of each type is written as tags, read from them and compared.
+// Writes attributes as tags, reads them from tags and compares them, for each type.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace host::dxf
 {
-// `Out` has the functions of a TagWriter.
+// Each writes an attribute. `Out` has the functions of a TagWriter.
 template <class Out>
 void putValue(Out& out, Code code, const std::wstring& value, const CodePage& codePage)
 {
@@ -71,15 +71,15 @@ void putValue(Out& out, Code code, const std::optional<Value>& value, const Code
     }
 }
 
-// Where tags are read from.
+// The file and the code page from which tags are read.
 struct TagSource
 {
     const TagFile& file;
     const CodePage& codePage;
 };
 
-// Each takes a tag for the attribute that begins with `code`, if it is one of its tags. All throw
-// an Error for a value that is none of that type.
+// Each reads `tag` into `value` if the tag belongs to the attribute that begins with `code`. All
+// throw an Error if the value has another type.
 void takeValue(const TagSource& source, const Tag& tag, Code code, std::wstring& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, int& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, double& value);
@@ -101,7 +101,8 @@ void takeValue(const TagSource& source, const Tag& tag, Code code, std::optional
     }
 }
 
-// To the last bit, unlike the operators of points, which have tolerances.
+// Return true if the values are exactly equal. The operators of points, by contrast, have
+// tolerances.
 bool same(const AcGePoint3d& a, const AcGePoint3d& b);
 bool same(const AcGeVector3d& a, const AcGeVector3d& b);
 bool same(const schema::PlanePoint& a, const schema::PlanePoint& b);

@@ -1,4 +1,4 @@
-// A drawing's file as bytes.
+// Reads the bytes of a drawing's file.
 #pragma once
 
 #include <cstddef>
@@ -11,10 +11,11 @@ namespace host::dxf
 {
 struct WholeFile
 {
-    std::unique_ptr<char[]> bytes;  // with room for one more
+    std::unique_ptr<char[]> bytes;  // with room for one byte more
     std::size_t size;
 };
 
-// Never hangs at a pipe. Throws an Error for what is no file or cannot be read.
+// Reads a file. Never waits at a pipe. Throws an Error if `path` is not a regular file or cannot be
+// read.
 WholeFile readWholeFile(const std::string& path);
 }  // namespace host::dxf
