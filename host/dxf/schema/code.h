@@ -1,4 +1,4 @@
-// Group codes, and what values they have.
+// Group codes and the types of their values.
 #pragma once
 
 #include <array>
@@ -9,8 +9,8 @@ namespace host::dxf
 {
 inline constexpr int highestCode = 1071;
 
-// A group code from 0 to 1071. Only the tables in this folder name codes by their numbers; the
-// constructor is explicit so that no function takes a bare number for one.
+// A group code from 0 to 1071. Only the tables in this folder name codes by their numbers. The
+// constructor is explicit so that a function never takes a bare number for a code.
 class Code
 {
 public:
@@ -20,7 +20,7 @@ public:
     constexpr int number() const { return m_number; }
     friend constexpr auto operator<=>(Code, Code) = default;
 
-    // Where the file has the Y and Z of the point whose X has this code.
+    // Return the codes of Y and Z if this is the code of a point's X.
     constexpr Code y() const { return Code(m_number + 10); }
     constexpr Code z() const { return Code(m_number + 20); }
 
@@ -30,7 +30,7 @@ private:
 
 enum class ValueType : unsigned char
 {
-    none,  // DXF has no such code
+    none,  // DXF does not define such a code
     text,
     handle,  // hexadecimal digits
     real,
@@ -84,7 +84,8 @@ inline constexpr auto valueTypes = []
 }();
 }  // namespace schema
 
-// For any number: what stands in a file may be no group code.
+// Returns the type of a code's values. Accepts any number, because a file may contain numbers that
+// are not group codes.
 constexpr ValueType valueType(Code code)
 {
     const int number = code.number();

@@ -1,4 +1,4 @@
-// Entities that are only drawn: points, curves and faces.
+// Group codes of the points, curves and faces that the host draws but never creates.
 #pragma once
 
 #include "host/dxf/schema/code.h"
@@ -27,7 +27,7 @@ namespace point
 inline constexpr Code position{10};
 }  // namespace point
 
-namespace solid  // TRACE and 3DFACE, too
+namespace solid  // and TRACE and 3DFACE
 {
 inline constexpr Code corners[] = {Code(10), Code(11), Code(12), Code(13)};
 inline constexpr Code hiddenEdges{70};

@@ -1,4 +1,4 @@
-// The entities that are made here, and the names of the codes that others share with them.
+// The entities that the host creates, and the group codes that they share with others.
 #pragma once
 
 #include "host/dxf/schema/structure.h"
@@ -18,7 +18,7 @@ inline constexpr Code linetypeScale{48};
 inline constexpr Code invisible{60};
 inline constexpr Code lineWeight{370};
 inline constexpr Code inPaperSpace{67};
-inline constexpr Code normal{210};  // of the plane that it lies in
+inline constexpr Code normal{210};  // of the plane in which the entity lies
 inline constexpr Code flags{70};
 
 struct Entity
@@ -34,8 +34,8 @@ struct Entity
     int lineWeight = -1;
 };
 
-// R12 has no record for the linetype ByLayer. A space that the file does not name as an object is
-// nobody's owner.
+// R12 has no record for the linetype ByLayer, so R12 files leave it out. A space that the file does
+// not name as an object cannot be an owner, so its entities have no owner tag.
 inline constexpr auto rows =
     rowsOf(row(handle, &Entity::handle, When::unlessUsual),
            listRow("{ACAD_REACTORS", owner, &Entity::reactors),
@@ -93,14 +93,14 @@ struct Text : entity::Entity
     double rotation = 0;  // degrees
     double widthFactor = 1;
     double oblique = 0;  // degrees
-    std::wstring style;  // empty: the drawing's first
+    std::wstring style;  // Empty: the drawing's first style
     int horizontalMode = 0;
-    std::optional<AcGePoint3d> alignment;  // unless both modes are 0
+    std::optional<AcGePoint3d> alignment;  // absent if both modes are 0
     AcGeVector3d normal{0, 0, 1};
     int verticalMode = 0;
 };
 
-// The two halves of the record have one name.
+// Both halves of the record have the same subclass name.
 inline constexpr auto table = tableOf<Text>(
     "TEXT", entity::rows, subclassRow("AcDbText"), row(position, &Text::position),
     row(height, &Text::height), row(contents, &Text::contents),
@@ -126,7 +126,7 @@ enum Flag
 };
 
 inline constexpr Code verticesFollow{66};
-inline constexpr Code elevation{10};  // Z of this point
+inline constexpr Code elevation{10};  // the Z of this point
 inline constexpr Code startWidth{40};
 inline constexpr Code endWidth{41};
 inline constexpr Code meshRows{71};

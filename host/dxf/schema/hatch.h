@@ -1,15 +1,15 @@
-// Hatches, where a code means something else in each place.
+// Group codes of hatches. The meaning of a code depends on its place in the record.
 #pragma once
 
 #include "host/dxf/schema/code.h"
 
 namespace host::dxf::schema::hatch
 {
-inline constexpr Code elevation{10};  // Z of this point
+inline constexpr Code elevation{10};  // the Z of this point
 inline constexpr Code isSolid{70};
 inline constexpr Code loopCount{91};
 inline constexpr Code loopFlags{92};
-inline constexpr Code partCount{93};  // edges or vertices of a loop
+inline constexpr Code partCount{93};  // the edges or the vertices of a loop
 inline constexpr Code edgeKind{72};
 inline constexpr Code patternLineCount{78};
 

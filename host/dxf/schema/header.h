@@ -6,14 +6,14 @@
 
 namespace host::dxf::schema
 {
-// The codes of a variable that the tables below do not have, by what it holds.
+// The usual codes, by type of value, for a variable that the tables below do not contain.
 inline constexpr Code integerVariable{70};
 inline constexpr Code realVariable{40};
 inline constexpr Code pointVariable{10};
 inline constexpr Code textVariable{1};
 inline constexpr Code usualCodes[] = {integerVariable, realVariable, pointVariable, textVariable};
 
-// Which coordinate of a variable that holds a point: 0 to 2.
+// Returns which coordinate of a point variable the code holds, 0 to 2; nothing for any other code.
 constexpr std::optional<int> axisOfVariable(Code code)
 {
     const Code axes[] = {pointVariable, pointVariable.y(), pointVariable.z()};
@@ -27,7 +27,7 @@ constexpr std::optional<int> axisOfVariable(Code code)
     return std::nullopt;
 }
 
-// A variable has no first release: what does not know its name passes over it.
+// A variable needs no first release: a reader that does not know its name skips it.
 template <class Variables, class Value>
 struct VariableRow
 {
@@ -45,7 +45,7 @@ consteval VariableRow<Variables, Value> variable(std::string_view name, int code
                : throw "the member cannot have the code's type";
 }
 
-// What new entities get.
+// The properties of new entities.
 struct CurrentVariables
 {
     std::wstring layer = L"0";
@@ -64,7 +64,7 @@ inline constexpr auto currentVariables =
            variable("CELWEIGHT", 370, &CurrentVariables::lineWeight),
            variable("CELTSCALE", 40, &CurrentVariables::linetypeScale));
 
-// Of model space; those of paper space have a "P" before their names.
+// The variables of model space. The names of those of paper space begin with "P".
 struct UcsVariables
 {
     std::wstring name;

@@ -17,7 +17,7 @@ struct Dictionary
     Handle handle = 0;
     Handles reactors;
     Handle owner = 0;
-    int cloning = 1;  // of two records with one key the first stays
+    int cloning = 1;  // of two records with the same key, the first stays
 };
 
 inline constexpr auto table = tableOf<Dictionary>(

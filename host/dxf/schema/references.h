@@ -1,4 +1,4 @@
-// Entities that are only drawn: blocks, attributes and paragraphs.
+// Group codes of the blocks, attributes and paragraphs that the host draws but never creates.
 #pragma once
 
 #include "host/dxf/schema/code.h"
@@ -19,7 +19,7 @@ inline constexpr Code columnSpacing{44};
 inline constexpr Code rowSpacing{45};
 }  // namespace insert
 
-// ATTRIB and ATTDEF have the codes of texts and these.
+// ATTRIB and ATTDEF have the codes of texts and these codes.
 namespace attribute
 {
 inline constexpr Code flags{70};
@@ -32,7 +32,7 @@ namespace paragraphs
 inline constexpr Code position{10};
 inline constexpr Code height{40};
 inline constexpr Code width{41};
-inline constexpr Code part{3};  // a long text's, before the last
+inline constexpr Code part{3};  // a part of a long text before its last part
 inline constexpr Code lastPart{1};
 inline constexpr Code attachment{71};
 inline constexpr Code direction{11};

@@ -1,4 +1,4 @@
-// The group codes that hold a file together, whatever its records are.
+// The group codes of the file's structure, which every kind of record shares.
 #pragma once
 
 #include <string_view>
@@ -16,17 +16,19 @@ inline constexpr Code handle{5};
 inline constexpr Code dimStyleHandle{105};
 inline constexpr Code owner{330};
 inline constexpr Code subclass{100};
-inline constexpr Code list{102};  // begins with "{ACAD_REACTORS" and the like, ends with "}"
+// A list begins with a value such as "{ACAD_REACTORS" and ends with "}".
+inline constexpr Code list{102};
 inline constexpr Code embeddedObject{101};
 inline constexpr Code applicationData{1001};
 
-// The old dimension styles had used the handle's code for something else.
+// Returns the code of a record's handle. Dimension styles have another one, because the usual code
+// already meant something else in them.
 constexpr Code handleOf(std::string_view recordType)
 {
     return recordType == "DIMSTYLE" ? dimStyleHandle : handle;
 }
 
-// What follows is not the record's own: its codes mean something else.
+// Returns true if the record's own tags end at this code. Codes after it mean something else.
 constexpr bool endsOwnTags(Code code)
 {
     return code == applicationData || code == embeddedObject;

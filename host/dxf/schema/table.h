@@ -1,17 +1,19 @@
-// How a kind of record is described: a structure with a default for each attribute, and a table
-// with a row for each of them, in the order of a file.
+// Describes a kind of record by a structure and a table. The structure has a default for each
+// attribute. The table has a row for each attribute, in the order of a file.
 //
 //     struct Circle : Entity
 //     {
 //         AcGePoint3d centre;
 //         double radius = 1;
 //     };
-//     inline constexpr auto table = tableOf<Circle>("CIRCLE", entityRows,
-//     subclassRow("AcDbCircle"),
-//                                                   row(centre, &Circle::centre),
-//                                                   row(radius, &Circle::radius));
+//     inline constexpr auto table =
+//         tableOf<Circle>("CIRCLE",
+//                         entityRows,
+//                         subclassRow("AcDbCircle"),
+//                         row(centre, &Circle::centre),
+//                         row(radius, &Circle::radius));
 //
-// A row whose member cannot have the type of its code does not compile.
+// A row does not compile if its member cannot have the type of its code.
 #pragma once
 
 #include <concepts>
@@ -28,7 +30,7 @@
 
 namespace host::dxf::schema
 {
-using Handle = std::uint64_t;  // 0: has none
+using Handle = std::uint64_t;  // 0: no handle
 using Handles = std::vector<Handle>;
 
 struct PlanePoint
@@ -37,7 +39,7 @@ struct PlanePoint
     double y = 0;
 };
 
-// The first release that has it.
+// The first release that has an attribute.
 enum class Since : unsigned char
 {
     r12,
@@ -61,7 +63,7 @@ struct Row
     Since since;
 };
 
-// Handles between braces; without any there are no braces either.
+// A list of handles between braces. An empty list is written without its braces.
 template <class Record>
 struct ListRow
 {
@@ -86,7 +88,7 @@ template <class Record, class Rows>
 struct Table
 {
     using RecordType = Record;
-    std::string_view type;  // empty: part of a record
+    std::string_view type;  // Empty: part of a record
     Rows rows;
 };
 
@@ -156,7 +158,7 @@ consteval Table<Record, RowGroup<Rows...>> tableOf(std::string_view type, Rows..
     return {type, {{rows...}}};
 }
 
-// Calls visit(row) for every row, also those of groups, in order.
+// Calls visit(row) for every row in order, including the rows of groups.
 template <class... Rows, class Visit>
 constexpr void forEachRow(const RowGroup<Rows...>& group, const Visit& visit);
 

@@ -20,7 +20,7 @@ inline constexpr auto symbolTable =
 
 inline constexpr std::string_view endOfTable = "ENDTAB";
 
-// What all records have in common.
+// The attributes that all records of tables share.
 struct SymbolRecord
 {
     Handle handle = 0;
@@ -61,7 +61,7 @@ enum Flag
     lockedFlag = 4
 };
 
-inline constexpr Code color{62};  // with a minus while the layer is off
+inline constexpr Code color{62};  // negative while the layer is off
 inline constexpr int usualColor = 7;
 inline constexpr Code linetype{6};
 inline constexpr Code plots{290};
@@ -129,7 +129,7 @@ inline constexpr Code twist{51};
 inline constexpr Code mode{71};
 inline constexpr Code ucsIcon{74};
 
-// What tells how the drawing is seen.
+// The codes that describe how the drawing is seen.
 inline constexpr Code view[] = {centre, direction, target, height, aspect, twist, mode, ucsIcon};
 
 struct Viewport : SymbolRecord
@@ -139,16 +139,17 @@ struct Viewport : SymbolRecord
     AcGePoint3d target;
     double height = 297;
     double aspect = 1.4;
-    double twist = 0;         // degrees
-    std::optional<int> mode;  // a record that lacks it, or the icon, is given none
+    double twist = 0;  // degrees
+    // A record that lacks the mode or the icon does not get one.
+    std::optional<int> mode;
     std::optional<int> ucsIcon;
     AcGePoint3d ucsOrigin;
     AcGeVector3d ucsX{1, 0, 0};
     AcGeVector3d ucsY{0, 1, 0};
 };
 
-// Even R12 is given the coordinate system when it has changed: what does not know its codes
-// passes over them.
+// A changed coordinate system is written even to R12 files: readers that do not know its codes skip
+// them.
 inline constexpr auto table = tableOf<Viewport>(
     "VPORT", symbolRows, subclassRow("AcDbViewportTableRecord"), nameAndFlagRows,
     row(centre, &Viewport::centre), row(direction, &Viewport::direction),
