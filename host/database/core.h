@@ -1,4 +1,4 @@
-// What stands behind an AcDbDatabase.
+// The implementation of an AcDbDatabase.
 #pragma once
 
 #include <cstdint>
@@ -21,15 +21,15 @@
 
 namespace host
 {
-// Where the drawing was read from; known to the file service only.
+// The file from which the drawing was read. Only the file service knows its contents.
 struct DrawingSource
 {
     virtual ~DrawingSource() = default;
-    // Of what the file holds in model space.
+    // Returns the extents of what the file holds in model space [wcs].
     virtual const WorldExtents& modelExtents() = 0;
 };
 
-// Puts together the parts of a drawing, each of which keeps its own rules.
+// Combines the parts of a drawing. Each part keeps its own rules.
 class DatabaseCore
 {
 public:
@@ -37,11 +37,14 @@ public:
     DatabaseCore(const DatabaseCore&) = delete;
     DatabaseCore& operator=(const DatabaseCore&) = delete;
 
-    // Gives the object a stub, its next handle and an owner; it is open for write from then on.
+    // Adds a new object [adopted] to the drawing: it gets a stub, the next handle and an owner. The
+    // object is open for write afterwards. Returns the stub [borrowed].
     AcDbStub* makeResident(AcDbObject* object, AcDbStub* owner);
-    // The same for an object read from a file under its own handle: it is closed and unchanged.
+    // Adds an object [adopted] that was read from a file and keeps its handle. The object is closed
+    // and unchanged afterwards. Returns the stub [borrowed].
     AcDbStub* addLoaded(AcDbObject* object, AcDbStub* owner, std::uint64_t handle);
-    // The same for a record of a table; the table keeps the name.
+    // Adds a record that was read from a file to a table, under a name that the table keeps.
+    // Returns the record [borrowed].
     template <class Record>
     Record* addLoadedRecord(AcDbStub* table, const std::wstring& name, std::uint64_t handle);
 
@@ -60,7 +63,7 @@ public:
     CurrentProperties& current() { return m_current; }
     const CurrentProperties& current() const { return m_current; }
 
-    // Null for a drawing that was never read.
+    // Returns the source [borrowed], or nullptr for a drawing that was never read.
     DrawingSource* source() const { return m_source.get(); }
     void setSource(std::unique_ptr<DrawingSource> source) { m_source = std::move(source); }
 
@@ -71,7 +74,7 @@ private:
     AcDbDatabase& m_database;
     Handles m_handles;
     ObjectStore m_objects;
-    OpenObjects m_open;  // goes before the objects
+    OpenObjects m_open;  // destroyed before the objects
     RootObjects m_roots;
     UndoLog m_undoLog;
     DrawingState m_state;
@@ -89,6 +92,7 @@ Record* DatabaseCore::addLoadedRecord(AcDbStub* table, const std::wstring& name,
     return record;
 }
 
+// Each returns the core [borrowed] of a database, or of the database that holds a stub.
 DatabaseCore& coreOf(const AcDbDatabase& database);
 
 inline DatabaseCore& coreOf(const AcDbStub* stub)

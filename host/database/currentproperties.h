@@ -1,4 +1,4 @@
-// What new entities get when nothing else is said.
+// The properties that a new entity gets unless they were set on it.
 #pragma once
 
 #include <cstdint>

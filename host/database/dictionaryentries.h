@@ -1,4 +1,4 @@
-// What a dictionary holds.
+// The entries of a dictionary.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 #include "dbdict.h"
 #include "host/database/stub.h"
 
-// At most one entry with a name is not erased. Numbers of anonymous entries only go up: that of an
-// erased one is not given again.
+// At most one entry of each name is not erased. The numbers of anonymous entries only increase: the
+// number of an erased entry is not used again.
 struct AcDbDictionary::Internals
 {
 public:
@@ -16,18 +16,20 @@ public:
     {
         std::wstring key;
         AcDbStub* stub;
-        bool loaded;  // stood in the file
+        bool loaded;  // the file had the entry
     };
 
     static Internals& of(const AcDbDictionary& dictionary) { return *dictionary.m_internals; }
 
-    // An entry of the file; one that is anonymous takes its number with it.
+    // Adds an entry of the file. The number of an anonymous entry counts as used.
     void addLoaded(const std::wstring& key, AcDbStub* stub);
-    // The entry of that name, in any letter case; null when there is none but an erased one.
+    // Returns the entry of that name [borrowed], whatever its letter case; nullptr if there is no
+    // such entry or all are erased.
     AcDbStub* find(const std::wstring& key) const;
-    // The key that an entry is put under: for an anonymous one "*A" and the next number.
+    // Returns the key under which an entry is stored: `asked`, or for an anonymous entry "*A" and
+    // the next number.
     std::wstring keyFor(const std::wstring& asked);
-    // Erases the entry that had the key before.
+    // Stores an entry under the key. Erases the entry that had the key before.
     void put(const std::wstring& key, AcDbStub* stub);
 
     const std::vector<Entry>& inOrder() const { return m_entries; }

@@ -1,10 +1,11 @@
-// The state of a drawing beside its objects, for the services above the database.
+// Gives the services above the database the state of a drawing beside its objects.
 #pragma once
 
 #include "host/database/core.h"
 
 namespace host
 {
+// Each returns a part of the drawing [borrowed].
 inline DrawingState& stateOf(AcDbDatabase& database)
 {
     return coreOf(database).state();
@@ -14,8 +15,9 @@ inline CurrentProperties& currentOf(AcDbDatabase& database)
     return coreOf(database).current();
 }
 
-// Name of a table record; empty for a null id. No object is opened.
+// Returns the name of a table record; empty for a null id. Opens no object.
 std::wstring recordName(const AcDbObjectId& id);
-// Record of that name in a table, letter case ignored; null when missing or erased.
+// Returns the record of that name in a table, ignoring letter case; a null id if the record is
+// missing or erased.
 AcDbObjectId findRecord(const AcDbObjectId& table, const std::wstring& name);
 }  // namespace host

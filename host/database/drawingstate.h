@@ -1,4 +1,4 @@
-// What a drawing keeps beside its objects: view, coordinate systems, variables.
+// The state of a drawing beside its objects: view, coordinate systems and variables.
 #pragma once
 
 #include <map>
@@ -11,15 +11,15 @@
 
 namespace host
 {
-// Value of a drawing variable, in the unit of the drawing file's header (angles there are as
-// stored).
+// The value of a drawing variable, in the unit of the drawing file's header. An angle is kept as
+// the file stores it.
 using VariableValue = std::variant<int, double, AcGePoint3d, std::wstring>;
 
 // The model space viewport. Points and directions are [wcs].
 struct View
 {
-    AcGeVector3d direction{0, 0, 1};  // from the target to the camera, any length but 0
-    double twist = 0;                 // [rad], counter-clockwise; any value, as it was read
+    AcGeVector3d direction{0, 0, 1};  // from the target to the camera; any length but 0
+    double twist = 0;                 // [rad], counter-clockwise; any value, as read
     AcGePoint3d target;
     double centreX = 0;  // in display coordinates
     double centreY = 0;
@@ -29,8 +29,8 @@ struct View
 
 struct Ucs
 {
-    AcGeMatrix3d toWorld;  // [wcs]; its columns are the X, Y and Z axis and the origin
-    std::wstring name;     // empty for an unnamed one and for the world
+    AcGeMatrix3d toWorld;  // [ucs] to [wcs]; the columns are the axes X, Y, Z and the origin
+    std::wstring name;     // empty for an unnamed system and for the world
 };
 
 struct DrawingState
@@ -41,9 +41,9 @@ struct DrawingState
     int ucsIcon = 3;
     int ucsFollow = 0;
     bool paperSpace = false;  // a layout is current (TILEMODE 0)
-    // Header variables by their name in capitals, without "$"; every one that the file held and
-    // every one that was set. UCS, view and the current layer, style, colour and linetype are not
-    // read from here.
+    // The header variables by their names in capitals, without "$": every variable that the file
+    // held or that was set. UCS, view, current layer, style, colour and linetype are kept elsewhere
+    // and are not read from here.
     std::map<std::wstring, VariableValue> variables;
 
     Ucs& ucs() { return paperSpace ? paperUcs : modelUcs; }

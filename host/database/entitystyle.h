@@ -1,15 +1,15 @@
-// What entities have in common: layer, colour, linetype and the like.
+// The properties that all entities have: layer, colour, linetype and others.
 #pragma once
 
 #include "dbmain.h"
 #include "host/database/currentproperties.h"
 #include "host/database/linestyle.h"
 
-// What has been set before an entity joins a drawing stays; the rest is filled in once, at the
-// append or by setDatabaseDefaults.
+// A property that was set before the entity joins a drawing keeps its value. The others are filled
+// in once, at the append or by setDatabaseDefaults.
 struct AcDbEntity::Internals
 {
-    // Properties that are filled in unless they were set, a bit each.
+    // The properties that are filled in unless they were set, one bit each.
     enum Property : unsigned char
     {
         layer = 1,
@@ -21,12 +21,12 @@ struct AcDbEntity::Internals
     };
 
     static host::LineStyle styleOf(const AcDbEntity& entity);
-    // All of it counts as set afterwards.
+    // Sets all properties of a style. They all count as set afterwards.
     static void setStyle(AcDbEntity& entity, const host::LineStyle& style);
-    // What has not been set comes from the drawing's current properties.
+    // Fills in the properties that were not set from the drawing's current properties.
     static void fill(AcDbEntity& entity, const host::CurrentProperties& current);
 
-    // The number of the list of persistent reactors.
+    // Return and set the number of the entity's list of persistent reactors.
     static std::uint32_t reactors(const AcDbEntity& entity) { return entity.m_reactors; }
     static void setReactors(AcDbEntity& entity, std::uint32_t list) { entity.m_reactors = list; }
 };

@@ -1,4 +1,4 @@
-// The box that things take up in the world.
+// The box that objects occupy in the world.
 #pragma once
 
 #include "gepnt3d.h"
@@ -7,21 +7,23 @@ namespace host
 {
 class DatabaseCore;
 
-// An empty one has the corners that drawings state for it, low above high.
+// A box in [wcs]. An empty box has the corners that drawing files state for it, with low above
+// high.
 struct WorldExtents
 {
     AcGePoint3d low{1e20, 1e20, 1e20};
     AcGePoint3d high{-1e20, -1e20, -1e20};
 
     bool empty() const { return low.x > high.x; }
-    void add(const AcGePoint3d& point);  // left out if it is not finite
+    void add(const AcGePoint3d& point);  // ignores a point that is not finite
     void add(const WorldExtents& other);
 };
 
-// Of what has been made in model space since the drawing was opened and is there now. Texts have
-// the width that is estimated for them: there are no fonts here.
+// Returns the extents of the entities that were made in model space since the drawing was opened
+// and are still there. The widths of texts are estimated, because the host has no fonts.
 WorldExtents madeExtents(const DatabaseCore& core);
 
-// Of all of model space: that, and what the drawing's file holds there. Worked out on every call.
+// Returns the extents of all of model space, including what the drawing's file holds there.
+// Computes them on every call.
 WorldExtents modelExtents(const DatabaseCore& core);
 }  // namespace host

@@ -1,4 +1,4 @@
-// What a group holds.
+// The members of a group.
 #pragma once
 
 #include <cstdint>
@@ -7,8 +7,8 @@
 
 #include "dbgroup.h"
 
-// Every member has the group among its persistent reactors, which tells at once what a search
-// through a million members would; so no member is in it twice.
+// Every member has the group among its persistent reactors. This tells at once whether an entity is
+// a member, without a search through a million members, so an entity never joins twice.
 struct AcDbGroup::Internals
 {
 public:
@@ -18,17 +18,18 @@ public:
     bool selectable = true;
     bool anonymous = false;
 
-    // False, and nothing done, when the stub is a member already. It is an entity's.
+    // Adds an entity. Returns false and does nothing if it is a member already.
     bool add(AcDbStub* member, AcDbStub* group);
-    // As they joined, erased ones as well.
+    // Returns the members in the order in which they joined, including erased ones.
     const std::vector<AcDbStub*>& inOrder() const { return m_members; }
 
 private:
     bool addLikeTheLast(AcDbStub* member);
 
     std::vector<AcDbStub*> m_members;
-    // Of the line that joined last. The next is mostly like it: a line of that style is not in the
-    // group yet, as members have the group among their reactors.
+    // The styles of the line that joined last, before and after it joined. The next line mostly has
+    // the same style as that line had before. A line with that style cannot be a member yet,
+    // because members have the group among their reactors.
     std::uint32_t m_styleBefore = UINT32_MAX;
     std::uint32_t m_styleWithin = 0;
 };

@@ -1,4 +1,4 @@
-// What packed lines have in common, kept once.
+// The properties that packed lines have in common. Each combination is kept once.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace host
 {
-// Every property of a line but its two points.
+// Every property of a line except its two points.
 struct LineStyle
 {
     AcDbStub* owner = nullptr;
@@ -38,7 +38,8 @@ struct LineStyleHash
     std::size_t operator()(const LineStyle& style) const;
 };
 
-// Numbers of styles. Neighbouring lines mostly share theirs, so the last answer is tried first.
+// Numbers the styles. Neighbouring lines mostly have the same style, so the last answer is tried
+// first.
 class LineStyles
 {
 public:
@@ -56,12 +57,13 @@ private:
     std::uint32_t m_last = UINT32_MAX;
 };
 
-// Numbers of lists of persistent reactors; 0 is the empty list.
+// Numbers the lists of persistent reactors; 0 is the empty list.
 class ReactorLists
 {
 public:
     ReactorLists() : m_lists(1) {}
-    // The number of list `number` with one more reactor at its end.
+    // Returns the number of the list that results from adding a reactor at the end of list
+    // `number`.
     std::uint32_t with(std::uint32_t number, AcDbStub* reactor);
     const std::vector<AcDbStub*>& operator[](std::uint32_t number) const { return m_lists[number]; }
     bool contains(std::uint32_t number, const AcDbStub* reactor) const;
@@ -70,7 +72,7 @@ private:
     std::uint32_t find(std::uint32_t number, AcDbStub* reactor);
 
     std::deque<std::vector<AcDbStub*>> m_lists;
-    // The members of a group come one after the other.
+    // The last answer. The members of a group are added one after another, so it is tried first.
     struct
     {
         std::uint32_t from = 0;

@@ -1,29 +1,33 @@
-// How an object stands: whose it is, who has it open, whether it has changed.
+// The state of an object: its drawing and owner, who has it open, and whether it has changed.
 #pragma once
 
 #include "dbmain.h"
 
-// An object is open for write by one caller, open for read by at most 256, or closed. A new object
-// is open for write and in no drawing; it joins one drawing once and never leaves it.
+// An object is open for write by one caller, open for read by at most 256 callers, or closed. A new
+// object is open for write and belongs to no drawing. It joins one drawing once and never leaves
+// it.
 struct AcDbObject::Internals
 {
-    // The object is in a drawing from now on, and open for write.
+    // Makes the object a part of a drawing. It is open for write.
     static void joinOpen(AcDbObject& object, AcDbStub* stub, AcDbStub* owner);
-    // The same for an object that the drawing has read: it is closed.
+    // Makes an object that was read from a file a part of the drawing. It is closed.
     static void joinClosed(AcDbObject& object, AcDbStub* stub, AcDbStub* owner);
-    // Deletes an object of a drawing, which nobody else may do.
+    // Deletes an object of a drawing. No other code may do so.
     static void destroy(AcDbObject* object);
 
-    // eNotImplementedYet, eWasOpenForWrite, eWasOpenForRead, eAtMaxReaders. Layers are not asked.
+    // Returns eOk, eNotImplementedYet, eWasOpenForWrite, eWasOpenForRead or eAtMaxReaders. Does not
+    // check whether the layer is locked.
     static Acad::ErrorStatus mayOpen(const AcDbObject& object, AcDb::OpenMode mode);
-    // Only after mayOpen. True when the object was closed before.
+    // Opens the object. mayOpen must have returned eOk. Returns true if the object was closed
+    // before.
     static bool open(AcDbObject& object, AcDb::OpenMode mode);
     // Closes the object for all its readers.
     static void closeForAll(AcDbObject& object);
 
-    // The close that follows the next one is answered with a status instead of a breach.
+    // Makes the close after the next one return a status instead of ending the run.
     static void forgiveClose(AcDbObject& object) { object.m_forgiveClose = true; }
-    // The host has refused an upgrade or an erase: the object may be left open.
+    // Notes that the host has refused an upgrade or an erase, so the module may leave the object
+    // open.
     static void noteRefusal(AcDbObject& object) { object.m_refused = true; }
     static bool wasRefused(const AcDbObject& object) { return object.m_refused; }
 

@@ -1,4 +1,4 @@
-// Every object of a drawing behind its stub, in the order they were made.
+// The objects of a drawing, each reached by its stub, in the order in which they were made.
 #pragma once
 
 #include <vector>
@@ -10,8 +10,8 @@
 
 namespace host
 {
-// A stub is never taken away, and its object lives as long as the store. A closed line is packed:
-// its points stand in the stub, all else in a style that it shares with its like.
+// A stub is never removed, and its object lives as long as the store. A closed line is packed: the
+// stub holds its points, and a style shared with other lines holds everything else.
 class ObjectStore
 {
 public:
@@ -20,28 +20,28 @@ public:
     ObjectStore(const ObjectStore&) = delete;
     ObjectStore& operator=(const ObjectStore&) = delete;
 
-    // The object is the store's from now on [adopted].
+    // Adds an object [adopted]. Returns its stub [borrowed].
     AcDbStub* add(AcDbObject* object, std::uint64_t handle);
-    // A stub for an object of the file that is only referred to.
+    // Adds a stub for an object of the file to which others only refer.
     AcDbStub* addForeign(std::uint64_t handle) { return m_stubs.add(handle); }
 
     std::size_t size() const { return m_stubs.size(); }
     AcDbStub& operator[](std::size_t index) const { return m_stubs[index]; }
 
-    // Of a packed line: gives its object, which is closed and unchanged.
+    // Unpacks a packed line. Returns its object [borrowed], which is closed and unchanged.
     AcDbLine* unpack(AcDbStub* stub);
-    // Puts a closed line back into its stub.
+    // Packs a closed line into its stub.
     void pack(AcDbLine* line);
-    // By the number that stands in the stub of a packed line.
+    // Returns the style of a packed line by the number in its stub.
     const LineStyle& style(std::uint32_t number) const { return m_styles[number]; }
 
-    // A list of persistent reactors by its number.
+    // Returns a list of persistent reactors by its number.
     const std::vector<AcDbStub*>& reactors(std::uint32_t list) const { return m_reactors[list]; }
     bool hasReactor(std::uint32_t list, const AcDbStub* reactor) const
     {
         return m_reactors.contains(list, reactor);
     }
-    // One more reactor of an entity, packed or not.
+    // Adds a reactor to an entity, packed or not.
     void addReactor(AcDbStub* entity, AcDbStub* reactor);
 
 private:
@@ -49,6 +49,7 @@ private:
     LineStyles m_styles;
     ReactorLists m_reactors;
     RetiredLines m_retired;
-    std::vector<AcDbObject*> m_objects;  // all but lines, which have one only while they are open
+    // all objects but lines; a line has an object only while it is open
+    std::vector<AcDbObject*> m_objects;
 };
 }  // namespace host

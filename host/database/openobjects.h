@@ -1,4 +1,4 @@
-// The objects of a drawing that are open.
+// The open objects of a drawing.
 #pragma once
 
 #include <vector>
@@ -7,18 +7,18 @@
 
 namespace host
 {
-// An object stands here once from its opening to its last close, in the order of the openings.
+// Contains an object once, from its opening to its last close, in the order of the openings.
 class OpenObjects
 {
 public:
     OpenObjects() = default;
-    // Deletes the lines that are still open: an open line is nobody else's.
+    // Deletes the lines that are still open, because an open line has no other owner.
     ~OpenObjects();
     OpenObjects(const OpenObjects&) = delete;
     OpenObjects& operator=(const OpenObjects&) = delete;
 
     void add(AcDbObject& object) { m_objects.push_back(&object); }
-    // Only of an object that was added.
+    // Removes an object, which must have been added.
     void remove(const AcDbObject& object);
 
     bool empty() const { return m_objects.empty(); }

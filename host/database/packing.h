@@ -1,4 +1,4 @@
-// What a stub tells of its object, packed or not.
+// Reads the properties of an object by its stub, packed or not.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 #include "dbents.h"
 #include "host/database/core.h"
 
-// The points of a line that is put back where it was packed, whether it is open or not.
+// Sets the points of a line, whether it is open or not, when it is unpacked.
 struct AcDbLine::Internals
 {
     static void place(AcDbLine& line, const AcGePoint3d& start, const AcGePoint3d& end)
@@ -18,15 +18,17 @@ struct AcDbLine::Internals
 
 namespace host
 {
-// The object on the heap; a packed line is unpacked, a foreign object has none.
+// Returns the object on the heap [borrowed]. Unpacks a packed line. Returns nullptr for a foreign
+// object, because such an object exists only in the file.
 AcDbObject* resolve(AcDbStub* stub);
-// Run-time type without unpacking; null for a foreign object.
+// Each reads a property without unpacking. typeOf and ownerOf return nullptr for a foreign object;
+// layerOf returns nullptr for anything except an entity made in this run.
 AcRxClass* typeOf(const AcDbStub* stub);
 AcDbStub* layerOf(const AcDbStub* stub);
 AcDbStub* ownerOf(const AcDbStub* stub);
-// The number of the entity's list of persistent reactors; 0 for anything else.
+// Returns the number of the entity's list of persistent reactors; 0 for any other object.
 std::uint32_t reactorsOf(const AcDbStub* stub);
-// Class and handle, for the line that stops a run.
+// Returns class and handle, for the line that ends a run.
 std::string describe(const AcDbObject& object);
-std::string describe(const AcDbStub& stub);  // not of a foreign object
+std::string describe(const AcDbStub& stub);  // the object must not be foreign
 }  // namespace host

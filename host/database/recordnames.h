@@ -1,4 +1,4 @@
-// The records of one table by their names.
+// Finds the records of one table by their names.
 #pragma once
 
 #include <deque>
@@ -8,25 +8,27 @@
 
 #include "dbsymtb.h"
 
-// Letter case does not count. Of two records with one name the first is found; a record that was
-// added stays, erased or not, so that order and names never lose one.
+// Ignores letter case. Of two records with the same name, `find` returns the first. A record stays
+// after it was added, erased or not, so that the order and the names never lose a record.
 struct AcDbSymbolTable::Internals
 {
 public:
     static Internals& of(const AcDbSymbolTable& table) { return *table.m_internals; }
 
-    // The name as the table keeps it, for as long as the table lives.
+    // Adds a record. Returns the name as the table keeps it [borrowed], valid as long as the table
+    // lives.
     const std::wstring& add(const std::wstring& name, AcDbStub* record);
-    // Null when the table never had such a record.
+    // Returns the record, or nullptr if the table never had one of that name.
     AcDbStub* find(const wchar_t* name);
-    // As they were added.
+    // Returns the records in the order in which they were added.
     const std::vector<AcDbStub*>& inOrder() const { return m_order; }
 
 private:
     std::vector<AcDbStub*> m_order;
     std::deque<std::wstring> m_names;
     std::unordered_map<std::wstring, AcDbStub*> m_byFoldedName;
-    // One record is looked up a million times in a row: for every entity of a grid.
+    // The last answer. Every entity of a grid looks up its layer, so the same record is looked up a
+    // million times in a row.
     std::wstring m_lastName;
     AcDbStub* m_last = nullptr;
 };

@@ -1,4 +1,4 @@
-// Lines that were closed a moment ago.
+// Keeps lines that were closed a moment ago.
 #pragma once
 
 #include <array>
@@ -8,8 +8,8 @@ class AcDbLine;
 
 namespace host
 {
-// Makers of entities still ask a closed line for its id, draw it and close it a second time, so its
-// heap object outlives the close for a while: until seven more lines are closed or it is taken.
+// Modules still ask a closed line for its id, draw it and close it a second time. So the heap
+// object of a line outlives its close until seven more lines are closed or it is taken.
 class RetiredLines
 {
 public:
@@ -18,10 +18,10 @@ public:
     RetiredLines(const RetiredLines&) = delete;
     RetiredLines& operator=(const RetiredLines&) = delete;
 
-    // [adopted]
+    // Adds a closed line [adopted] and deletes the line whose place it takes.
     void add(AcDbLine* line);
-    // The one that would go next, for another line to be opened in its place; null when there is
-    // none. It is the caller's.
+    // Returns the line that would be deleted next, so that another line can be opened in its place;
+    // nullptr if there is no line. The caller owns it.
     AcDbLine* take();
 
 private:

@@ -1,4 +1,4 @@
-// The objects that every drawing has one of.
+// The objects of which every drawing has exactly one.
 #pragma once
 
 #include <array>
@@ -18,7 +18,7 @@ enum class Root
     modelSpace
 };
 
-// Null until the drawing is loaded; afterwards nothing changes them.
+// The pointers are null until the drawing is loaded. Nothing changes them afterwards.
 class RootObjects
 {
 public:

@@ -1,4 +1,4 @@
-// The rule that a command leaves nothing open behind it.
+// Checks the rule that a command leaves no object open.
 #pragma once
 
 #include <string_view>
@@ -7,7 +7,8 @@
 
 namespace host
 {
-// Ends the run with status 1, naming `call`, if an object is still open. Objects whose upgrade or
-// erase the host itself refused are closed here instead: what opened them may leave them so.
+// Ends the run with status 1 if an object is still open; the message names `call`. Objects whose
+// upgrade or erase the host itself refused are closed here instead, because the module may leave
+// these open.
 void requireNothingOpen(AcDbDatabase& database, std::string_view call);
 }  // namespace host

@@ -1,4 +1,4 @@
-// The database's own record of an object, and where such records live.
+// The database's own record of an object, and the memory for such records.
 #pragma once
 
 #include <cstddef>
@@ -7,22 +7,22 @@
 
 #include "dbmain.h"
 
-// A closed line is kept in its stub alone: a sheet has a million of them. Every other object, and a
-// line while it is open, lives on the heap and is found through `object`.
+// The stub alone holds a closed line, because a sheet may have a million lines. Every other object,
+// and a line while it is open, lives on the heap; `object` points to it.
 class AcDbStub
 {
 public:
     enum Flag : std::uint32_t
     {
         isLine = 1,
-        isPacked = 2,  // the line is in `line`, with no object on the heap
+        isPacked = 2,  // `line` holds the line; there is no object on the heap
         isErasedFlag = 4,
-        isDrawn = 8,   // the module has asked for it to be shown
-        isEntity = 16  // made here; those of the file have no objects
+        isDrawn = 8,   // the module has asked to show the object
+        isEntity = 16  // made in this run; objects of the file have no AcDbObject
     };
 
     std::uint64_t handle;
-    std::uint32_t style;  // number of the interned properties of a line
+    std::uint32_t style;  // number of the shared properties of a line
     std::uint32_t flags;
     union
     {
@@ -41,7 +41,7 @@ namespace host
 {
 class DatabaseCore;
 
-// Stubs in the order they were made, at addresses that never change.
+// Holds stubs in the order in which they were made. The address of a stub never changes.
 class StubArena
 {
 public:
@@ -63,8 +63,8 @@ private:
     static constexpr std::size_t blockBytes = std::size_t(2) << 20;  // one large page
     static constexpr std::size_t perBlock = blockBytes / sizeof(AcDbStub) - 1;
 
-    // Aligned to its own size, so that a stub finds its block, and with it the database, by
-    // address.
+    // A block is aligned to its own size, so that the address of a stub leads to its block, and so
+    // to the database.
     struct Block
     {
         alignas(64) DatabaseCore* core;

@@ -1,13 +1,13 @@
-// What the host alone sets in the records of its tables.
+// Sets the members of table records that only the host sets.
 #pragma once
 
 #include "dbsymtb.h"
 
-// A record has one name for as long as its table holds it.
+// A record keeps its name as long as its table holds it.
 struct AcDbSymbolTableRecord::Internals
 {
     static const wchar_t* name(const AcDbSymbolTableRecord& record) { return record.m_name; }
-    // `name` outlives the record [borrowed].
+    // Sets the name [borrowed], which must outlive the record.
     static void setName(AcDbSymbolTableRecord& record, const wchar_t* name)
     {
         record.m_name = name;
@@ -24,7 +24,7 @@ struct LayerFlags
 };
 }  // namespace host
 
-// Changes a layer whether it is open or not, and unknown to the undo log.
+// Changes a layer whether it is open or not, without a note in the undo log.
 struct AcDbLayerTableRecord::Internals
 {
     static void set(AcDbLayerTableRecord& layer, const host::LayerFlags& flags)
@@ -35,10 +35,11 @@ struct AcDbLayerTableRecord::Internals
     }
 };
 
-// Nothing but the loader sets a text style.
+// Only the loader sets a text style.
 struct AcDbTextStyleTableRecord::Internals
 {
-    // oblique is [rad]; textSize is in drawing units, 0 when the style does not fix it.
+    // `oblique` is in [rad]. `textSize` is in drawing units; 0 means that the style does not fix
+    // the size.
     static void set(AcDbTextStyleTableRecord& style, double oblique, double xScale, double textSize)
     {
         style.m_oblique = oblique;
@@ -49,6 +50,7 @@ struct AcDbTextStyleTableRecord::Internals
 
 namespace host
 {
+// Reads or sets layers and text styles as the classes above describe.
 inline LayerFlags flagsOf(const AcDbLayerTableRecord& layer)
 {
     return {layer.isFrozen(), layer.isLocked(), layer.isOff()};

@@ -1,4 +1,4 @@
-// Taking back what was done to the objects of a drawing since a moment.
+// Undoes and redoes changes to the objects of a drawing.
 #pragma once
 
 #include "host/database/core.h"
@@ -12,20 +12,22 @@ struct UndoMark
     CurrentProperties current;
 };
 
+// Returns a mark for the current state of the drawing.
 UndoMark undoMark(const AcDbDatabase& database);
 
-// What was taken back, to do it again.
+// The changes that an undo took back, for redo.
 struct UndoneChanges
 {
     UndoMark mark;
-    std::vector<bool> erased;  // of the objects made since the mark, as they were
+    std::vector<bool> erased;  // of each object made since the mark, before the undo
     UndoLog::Undone log;
     CurrentProperties current;
 };
 
-// Objects made since the mark are erased, those erased since are back, layers and current
-// properties are as they were. Marks made later are void.
+// Undoes everything since the mark. Objects made since are erased, objects erased since are
+// restored, and the layers and current properties have their values of that time. Later marks
+// become invalid.
 UndoneChanges undoTo(AcDbDatabase& database, const UndoMark& mark);
-// Nothing may have been changed in between.
+// Redoes the changes. Nothing may have changed since they were undone.
 void redo(AcDbDatabase& database, const UndoneChanges& changes);
 }  // namespace host

@@ -1,4 +1,4 @@
-// What was done to objects and layers, so that it can be taken back.
+// Records what was done to objects and layers, so that it can be undone.
 #pragma once
 
 #include <cstddef>
@@ -15,8 +15,8 @@ struct ChangedLayer
     LayerFlags flags;
 };
 
-// Nothing is erased and no layer changed without a note here, and a layer's note is made before the
-// change. Notes go only by being taken back, the newest first.
+// Every erase and every change of a layer has a note here. The note of a layer is made before the
+// change. A note disappears only when it is undone, the newest first.
 class UndoLog
 {
 public:
@@ -25,7 +25,7 @@ public:
         std::size_t erased;
         std::size_t layers;
     };
-    // What was taken back, to do it again.
+    // The changes that an undo took back, for redo.
     struct Undone
     {
         std::vector<AcDbStub*> erased;
@@ -33,21 +33,21 @@ public:
         std::vector<ChangedLayer> after;
     };
 
-    // Marks the object as erased or not. An object that comes back needs no note.
+    // Marks the object as erased or not. Restoring an object needs no note.
     void erase(AcDbStub* stub, bool erasing);
     void noteLayer(AcDbLayerTableRecord& layer) { m_layers.push_back({&layer, flagsOf(layer)}); }
 
     Mark mark() const { return {m_erased.size(), m_layers.size()}; }
-    // Marks made later are void.
+    // Undoes everything since the mark. Later marks become invalid.
     Undone undoTo(const Mark& mark);
-    // Only on what undoTo has left.
+    // Redoes the changes. Nothing may have changed since undoTo returned them.
     void redo(const Undone& undone);
 
-    // In order, whether they have come back since or not.
+    // Returns the erased objects in the order of their erasing, including those restored since.
     const std::vector<AcDbStub*>& erased() const { return m_erased; }
 
 private:
     std::vector<AcDbStub*> m_erased;
-    std::vector<ChangedLayer> m_layers;  // as they were before each change
+    std::vector<ChangedLayer> m_layers;  // the layers before each change
 };
 }  // namespace host

@@ -1,11 +1,11 @@
-// The system of coordinates that a view shows.
+// The coordinate system of a view.
 #pragma once
 
 #include "host/database/drawingstate.h"
 
 namespace host
 {
-// Display coordinates to [wcs]: X to the right and Y upwards on the screen, Z to the viewer, the
-// origin at the target.
+// Returns the matrix from display coordinates to [wcs]. On the screen X points to the right, Y
+// upwards and Z to the viewer. The origin is at the target.
 AcGeMatrix3d viewFrame(const View& view);
 }  // namespace host
