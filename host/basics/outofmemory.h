@@ -1,4 +1,4 @@
-// The end of a run whose memory ran out where no failure can be returned.
+// Ends a run that is out of memory at a place where it cannot return a failure.
 #pragma once
 
 #include <string_view>
@@ -10,8 +10,9 @@ inline constexpr std::string_view notEnoughMemory = "not enough memory";
 // Writes that line to standard error and ends the run with status 1.
 [[noreturn]] void endWithoutMemory();
 
-// As long as an object of this class lives, a request for memory that fails ends the run instead of
-// throwing. Nothing may be thrown through the system's loader: it would keep its lock for good.
+// While an object of this class exists, a failed request for memory ends the run instead of
+// throwing. An exception must not pass through the system's loader, which would never release its
+// lock.
 class NoThrowing
 {
 public:

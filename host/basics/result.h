@@ -1,4 +1,4 @@
-// What an operation gives that can fail with one line for the user.
+// The result of an operation that can fail with one line for the user.
 #pragma once
 
 #include <string>
@@ -7,19 +7,19 @@
 
 namespace host
 {
-// Why an operation failed: one line in UTF-8 without its end. A line about a file begins with the
-// file's name.
+// Why an operation failed: one line in UTF-8, without a line ending. A line about a file begins
+// with the file's name.
 struct Failure
 {
     std::string line;
 };
 
-// What an operation gives that has nothing but its success to tell.
+// The value of an operation that reports only its success.
 struct Done
 {
 };
 
-// Either a value or a failure, and never both. Whoever calls the operation has to look at it.
+// Holds either a value or a failure. The caller must look at the result.
 template <class T = Done>
 class [[nodiscard]] Result
 {
@@ -27,16 +27,18 @@ public:
     Result(T value) : m_content(std::in_place_index<0>, std::move(value)) {}
     Result(Failure failure) : m_content(std::in_place_index<1>, std::move(failure)) {}
 
-    // True when there is a value.
+    // Returns true if there is a value.
     explicit operator bool() const { return m_content.index() == 0; }
 
-    // The value. Only a success has one.
+    // Return the value [borrowed], which is good as long as the result. The result must be a
+    // success.
     T& operator*() { return *std::get_if<0>(&m_content); }
     const T& operator*() const { return *std::get_if<0>(&m_content); }
     T* operator->() { return std::get_if<0>(&m_content); }
     const T* operator->() const { return std::get_if<0>(&m_content); }
 
-    // The failure, to show its line or to hand it on. Only a failure has one.
+    // Returns the failure [borrowed], to show its line or to pass it on. The result must be a
+    // failure.
     const Failure& failure() const { return *std::get_if<1>(&m_content); }
 
 private:

@@ -1,16 +1,17 @@
-// A value for the length of a scope.
+// Changes a variable for the length of a scope.
 #pragma once
 
 #include <utility>
 
 namespace host
 {
-// Gives a variable another value and gives the former one back on every way out.
+// Gives a variable another value and restores the former one at the end of the scope, however the
+// scope ends.
 template <class T>
 class Scoped
 {
 public:
-    Scoped(T& variable, T value)  // variable [borrowed], outlives the scope
+    Scoped(T& variable, T value)  // `variable` is [borrowed] and outlives the scope
         : m_variable(variable), m_former(std::exchange(variable, std::move(value)))
     {
     }
