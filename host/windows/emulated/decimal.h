@@ -1,11 +1,12 @@
-// Decimal digits of doubles as the module's C runtime writes them.
+// Writes the decimal digits of doubles as the module's C runtime does.
 #pragma once
 
 #include <string>
 
 namespace host
 {
-// A finite number, not below zero, with a fixed count of decimals (not below zero either), no point
-// without decimals. An exact tie goes up; digits after the seventeenth significant one are zeros.
+// Returns a number with a fixed count of decimals, and without a point if `decimals` is 0. `size`
+// must be finite; neither argument may be negative. An exact tie is rounded up. Digits after the
+// seventeenth significant digit are zeros.
 std::string fixedDigits(double size, int decimals);
 }  // namespace host

@@ -1,4 +1,4 @@
-// The resources of modules: what is found in them without Windows.
+// Finds the resources of modules without Windows.
 #pragma once
 
 #include <cstddef>
@@ -8,10 +8,11 @@
 
 namespace host
 {
-// Gives a module its resources: the bytes of a compiled resource file, which must outlive the
-// module; empty takes them away. Bytes that are no whole resource file end the run.
+// Sets the resources of a module: the bytes of a compiled resource file [borrowed], which must
+// outlive the module. Empty bytes remove the resources. Bytes that are not a whole resource file
+// end the run.
 void setModuleResources(HINSTANCE module, std::span<const std::byte> bytes);
 
-// The resource that begins at this address; empty for any other address.
+// Returns the resource that begins at this address [borrowed]; empty for any other address.
 std::span<const std::byte> resourceAt(const void* first);
 }  // namespace host

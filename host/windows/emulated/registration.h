@@ -1,11 +1,11 @@
-// How a module comes into the process and leaves it.
+// Registers a module when it enters the process and removes it when it leaves.
 //
 // The loader works in three steps:
 //     nameLoadingModule(path);
 //     void* library = dlopen(path.c_str(), RTLD_NOW);
-//     HINSTANCE module = attachLoadedModule();   // also when dlopen failed
-// and closes it with dlclose, which runs DllMain with DLL_PROCESS_DETACH first, then the
-// destructors of the module's static objects.
+//     HINSTANCE module = attachLoadedModule();   // even if dlopen failed
+// The loader closes the module with dlclose, which first runs DllMain with DLL_PROCESS_DETACH and
+// then the destructors of the module's static objects.
 #pragma once
 
 #include <filesystem>
@@ -14,25 +14,27 @@
 
 namespace host
 {
-// Tells under which name the next module comes. It must be known before dlopen, since static
-// objects of the module may ask for it. A relative path is made absolute, a symbolic link is kept.
+// Sets the name of the next module. The name must be known before dlopen, because static objects of
+// the module may ask for it. A relative path is made absolute. A symbolic link stays as it is.
 void nameLoadingModule(const std::filesystem::path& path);
 
-// Runs DllMain of the module that came in since nameLoadingModule; its static objects are made by
-// now. Null when DllMain refused or no module came (a file without start-up code, or one that was
-// open already); the library then is to be closed.
+// Runs DllMain of the module that entered the process since nameLoadingModule. The constructors of
+// its static objects have run already. Returns nullptr if DllMain refused or no module entered,
+// because the file has no start-up code or was open already. The caller must then close the
+// library.
 HINSTANCE attachLoadedModule();
 
-// The rest is for the start-up code that every module holds.
+// The start-up code that every module contains uses the remaining declarations.
 
-// Calls the module's DllMain; false when that refuses.
+// Calls the module's DllMain. Returns false if DllMain refuses.
 using AttachModule = bool (*)(HINSTANCE module);
 
-// Puts the module that holds `address` on record. One that no loader has named (it is linked into
-// the program, or opened by hand) attaches at once, maybe before the last of its static objects is
-// made, and its refusal ends the process.
+// Registers the module that contains `address`. If no loader has named the module, because it is
+// linked into the program or was opened directly, it attaches at once. Some of its static objects
+// may not be constructed by then, and a refusal ends the process.
 HINSTANCE registerModule(const void* address, AttachModule attach);
 
-// After detach. A module that is still in the resource chain then breaks the rules.
+// Removes a module after it has detached. Ends the run if the module is still in the resource
+// chain.
 void forgetModule(HINSTANCE module);
 }  // namespace host

@@ -1,4 +1,4 @@
-// A compiled resource file (.res), as every resource compiler writes it.
+// Reads a compiled resource file (.res), as every resource compiler writes it.
 #pragma once
 
 #include <cstddef>
@@ -11,11 +11,11 @@
 
 namespace host
 {
-// A number or a name; names are kept in capitals.
+// A number or a name. Names are kept in capitals.
 struct ResourceKey
 {
     WORD number = 0;
-    std::wstring name{};  // empty: the number counts
+    std::wstring name{};  // empty: the number is the key
 
     bool operator==(const ResourceKey&) const = default;
 };
@@ -27,9 +27,9 @@ struct Resource
     std::span<const std::byte> bytes;  // [borrowed] from the file's bytes
 };
 
-// The key that MAKEINTRESOURCEW or a text stands for.
+// Returns the key for which a MAKEINTRESOURCEW value or a text stands.
 ResourceKey resourceKey(LPCWSTR text);
 
-// Nothing for bytes that are no whole resource file.
+// Returns the resources, or nothing if the bytes are not a whole resource file.
 std::optional<std::vector<Resource>> readResFile(std::span<const std::byte> bytes);
 }  // namespace host

@@ -10,11 +10,11 @@
 
 namespace host
 {
-// After the first step beyond the end everything reads as zero or empty.
+// After the first read beyond the end, every read returns zero or an empty value.
 class ResourceReader
 {
 public:
-    // A number where a name might stand.
+    // A number in a place where a name is possible.
     struct NameOrNumber
     {
         std::wstring name;

@@ -1,4 +1,4 @@
-// What a file holds, exchanged for something else.
+// Replaces the contents of a file.
 #pragma once
 
 #include <string>
@@ -6,12 +6,13 @@
 
 namespace host
 {
-// Writes all of the bytes where the file stands. False with errno when the disk does not take them.
+// Writes all the bytes at the file's current position. Returns false with errno if the disk does
+// not take them.
 bool writeFully(int file, std::string_view bytes);
 
-// Gives the file, which is open for writing under that path, these bytes instead of its own. False
-// with errno: then it holds what it held, wherever a second file may stand beside it for a moment.
-// A symbolic link is followed; mode and owner stay. A device, a file of several names and one in a
-// folder that takes no more files are emptied first and then written.
+// Replaces the contents of a file that is open for writing at `path`. Returns false with errno on
+// failure. The file then keeps its contents wherever a second file can stand beside it for a
+// moment. A symbolic link is followed; mode and owner stay. A device, a file with several names and
+// a file in a folder that takes no new files are emptied first and then written.
 bool rewrite(int file, const std::string& path, std::string_view bytes);
 }  // namespace host

@@ -1,4 +1,4 @@
-// What a text stream of the module's C runtime holds for the bytes of a file.
+// Converts the bytes of a file as a text stream of the module's C runtime does.
 #pragma once
 
 #include <optional>
@@ -13,11 +13,11 @@ enum class Encoding
     utf16  // little-endian
 };
 
-// CR LF as LF, and nothing from the first Ctrl-Z on.
+// Returns the bytes with LF for each CR LF, and without everything from the first Ctrl-Z on.
 std::string asText(std::string_view bytes);
 
-// The units of a file, two bytes each, low byte first, under the same rules. A byte-order mark at
-// the front decides the encoding and is left out, `unmarked` holds without one. Nothing for a file
-// in big-endian UTF-16.
+// Returns the units of a file, two bytes each with the low byte first, under the same rules. A
+// byte-order mark at the front decides the encoding and is left out. A file without a mark has the
+// encoding `unmarked`. Returns nothing for a file in big-endian UTF-16.
 std::optional<std::string> decodedUnits(std::string_view bytes, Encoding unmarked);
 }  // namespace host

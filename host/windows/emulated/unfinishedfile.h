@@ -1,4 +1,4 @@
-// A file that is written beside another one until it takes that one's place.
+// A file that is written beside another file until it takes that file's place.
 #pragma once
 
 #include <sys/types.h>
@@ -8,15 +8,17 @@
 
 namespace host
 {
-// Makes a new file and opens it for writing; -1 with errno if that cannot be done. Until it is
-// settled `deleteUnfinishedFile` knows it. There is one at a time.
+// Creates a new file and opens it for writing. Returns -1 with errno on failure.
+// `deleteUnfinishedFile` can delete the file until it is settled. Only one such file exists at a
+// time.
 int createUnfinishedFile(const std::string& path, mode_t mode);
-// It has got its own name, or is no more.
+// Notes that the file has got its final name or was deleted.
 void settleUnfinishedFile();
 
-// For handlers of signals that end the program: the unfinished file goes, and no other comes.
+// Deletes the unfinished file and prevents new ones. Handlers of signals that end the program may
+// call it.
 void deleteUnfinishedFile();
 
-// The signals with which a user, a terminal or the system ends a program.
+// Returns the signals with which a user, a terminal or the system ends a program [borrowed].
 std::span<const int> endingSignals();
 }  // namespace host
