@@ -9,7 +9,7 @@ struct Release
 {
     std::string_view version;  // as in $ACADVER
     std::string_view name;
-    bool objects;    // files have class names of entities, dictionaries, groups, and always handles
+    bool objects;    // records name classes; there are dictionaries, groups and handles
     bool ownership;  // every object names its owner; entities have line weights
     bool utf8;       // texts are UTF-8, whatever the header says
 };

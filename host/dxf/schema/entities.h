@@ -93,7 +93,7 @@ struct Text : entity::Entity
     double rotation = 0;  // degrees
     double widthFactor = 1;
     double oblique = 0;  // degrees
-    std::wstring style;  // Empty: the drawing's first style
+    std::wstring style;  // empty: the drawing's first style
     int horizontalMode = 0;
     std::optional<AcGePoint3d> alignment;  // absent if both modes are 0
     AcGeVector3d normal{0, 0, 1};

@@ -88,7 +88,7 @@ template <class Record, class Rows>
 struct Table
 {
     using RecordType = Record;
-    std::string_view type;  // Empty: part of a record
+    std::string_view type;  // empty: part of a record
     Rows rows;
 };
 
