@@ -34,7 +34,7 @@ void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::
 
 namespace
 {
-// Hands bytes on, as much at a time as a person need not wait for.
+// Passes bytes on in portions small enough for the progress to move while a person waits.
 class TellingDrain
 {
 public:

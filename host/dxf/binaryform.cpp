@@ -19,8 +19,8 @@ namespace host::dxf
 namespace
 {
 constexpr std::string_view sentinel("AutoCAD Binary DXF\r\n\x1a\0", 22);
-constexpr int longCode = 255;              // of one byte: the code follows in two
-constexpr std::size_t longestChunk = 255;  // its length is one byte
+constexpr int longCode = 255;              // a first byte of 255: the code follows in two bytes
+constexpr std::size_t longestChunk = 255;  // one byte holds the length of a chunk
 
 class Reader
 {
@@ -51,7 +51,8 @@ private:
 
 AsciiForm Reader::read()
 {
-    // The first tag is 0 SECTION: the second byte belongs to the code or to the word.
+    // The first tag is 0 SECTION. Its second byte shows the size of a code: it belongs to a
+    // two-byte code or to the word.
     const std::size_t second = sentinel.size() + 1;
     m_form.codeSize = second < m_bytes.size() && m_bytes[second] != 0 ? 1 : 2;
     m_form.text.reserve(m_bytes.size() * 2);
@@ -63,7 +64,7 @@ AsciiForm Reader::read()
     return std::move(m_form);
 }
 
-// False after the end mark; what may stand behind it is no tag.
+// Reads the next tag. Returns false after the end mark, because bytes behind it are not tags.
 bool Reader::readTag()
 {
     m_form.offsets.push_back(m_at);
@@ -95,7 +96,8 @@ int Reader::readCode()
         return code;
     }
     const int inTwoBytes = take<std::int16_t>();
-    if (0 <= inTwoBytes && inTwoBytes < longCode)  // it would be saved as another one
+    // Saving would write such a code in one byte.
+    if (0 <= inTwoBytes && inTwoBytes < longCode)
     {
         m_at -= 3;
         refuse("a group code of DXF in one byte", std::to_string(inTwoBytes) + " in three");

@@ -11,7 +11,8 @@ namespace host::dxf
 {
 namespace
 {
-constexpr char32_t rawBytes = 0xDC00;  // plus a byte: one that means nothing in the code page
+// U+DC00 plus a byte stands for a byte that has no meaning in the code page.
+constexpr char32_t rawBytes = 0xDC00;
 
 bool isHigh(char32_t c)
 {
@@ -66,7 +67,7 @@ bool parseHex(std::u32string_view digits, unsigned& value)
     return true;
 }
 
-// The character that "\U+XXXX" stands for, 0 if that is not what is at `at`.
+// Returns the character for which "\U+XXXX" at `at` stands, or 0 for any other text.
 char32_t escaped(std::u32string_view text, std::size_t at)
 {
     unsigned value = 0;
@@ -78,7 +79,8 @@ char32_t escaped(std::u32string_view text, std::size_t at)
     return value;
 }
 
-// As `escaped`, and two escapes may make one character; a half of such a pair is none.
+// Returns the same as `escaped`, but joins two escapes that are a surrogate pair into one
+// character. Returns 0 for half a pair.
 char32_t escapedCharacter(std::u32string_view text, std::size_t at, std::size_t& length)
 {
     const char32_t first = escaped(text, at);
@@ -110,8 +112,8 @@ char32_t convertedFrom(const char* codePage, const std::string& bytes)
     return done && character.size() == 1 ? character[0] : 0;
 }
 
-// The character of an East Asian code page that "\M+nXXXX" stands for, 0 if that is not what is at
-// `at`.
+// Returns the character of an East Asian code page for which "\M+nXXXX" at `at` stands, or 0 for
+// any other text.
 char32_t multibyteCharacter(std::u32string_view text, std::size_t at)
 {
     if (text.substr(at, 3) != U"\\M+" || text.size() - at < 8)
@@ -132,7 +134,8 @@ char32_t multibyteCharacter(std::u32string_view text, std::size_t at)
     return convertedFrom(page->name, bytes);
 }
 
-// The character that "^J" stands for, 0 if that is not what is at `at`.
+// Returns the character for which a caret and a letter at `at` stand, such as "^J", or 0 for any
+// other text.
 char32_t caretCharacter(std::u32string_view text, std::size_t at)
 {
     if (text[at] != '^' || at + 1 == text.size())
@@ -168,7 +171,8 @@ std::u32string unescaped(std::u32string_view text)
     return result;
 }
 
-// Where a wchar_t holds no more than sixteen bits, a character may take two.
+// Converts the text to wide text. A character may take two units where a wchar_t has only sixteen
+// bits.
 std::wstring wide(std::u32string_view text)
 {
     if (sizeof(wchar_t) == sizeof(char32_t))

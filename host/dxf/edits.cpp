@@ -75,7 +75,7 @@ void Edits::write(TagWriter& writer) const
     {
         inOrder.push_back(&edit);
     }
-    // An insertion goes before a replacement that begins at the same place.
+    // An insertion comes before a replacement that begins at the same place.
     std::ranges::stable_sort(inOrder, {},
                              [](const Edit* e) { return std::pair(e->begin, e->end); });
 

@@ -8,9 +8,10 @@ namespace host::dxf
 {
 namespace
 {
-// A tag is its code, a blank and its value; tags are parted by "|" or a line's end.
+// A tag is written here as its code, a blank and its value. "|" or the end of a line separates two
+// tags.
 //
-// There are no time stamps and no drawing ids: equal runs are to give equal files.
+// The drawing has no time stamps and no drawing ids, because equal runs must write equal files.
 constexpr std::string_view header = R"(
 0 SECTION|2 HEADER
 9 $ACADVER|1 AC1027|9 $ACADMAINTVER|70 8|9 $DWGCODEPAGE|3 ANSI_1252

@@ -13,7 +13,7 @@
 
 namespace host::dxf
 {
-// An R12 drawing may do without handles; then the new entities have none either.
+// An R12 drawing may lack handles. Its new entities must then have no handles either.
 EntityWriter::EntityWriter(DatabaseCore& core, const FileSource& source)
     : m_core(core),
       m_form{source.file.release(), source.codePage},
@@ -37,7 +37,7 @@ void EntityWriter::writeEntitiesOf(const AcDbStub* owner, TagWriter& writer)
 
 void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDbStub*& last)
 {
-    // Many lines in a row share one style; those of another owner have no form here.
+    // Many consecutive lines share one style. A style of another owner has no form here.
     std::uint32_t style = UINT32_MAX;
     const RecordForm* form = nullptr;
     for (std::size_t i = 0; i < m_core.objects().size(); ++i)
@@ -134,7 +134,7 @@ void EntityWriter::fillCommon(schema::entity::Entity& entity, const AcDbEntity& 
 
 namespace
 {
-// Angles are kept in radians and written in degrees from 0 up to 360.
+// The database keeps angles in radians; files state them in degrees from 0 up to 360.
 double degrees(double radians)
 {
     const double angle = std::fmod(radians * 180 / M_PI, 360);

@@ -13,14 +13,14 @@ const AcGePoint3d* statedPoint(const FileSource& source, const wchar_t* name)
                                                  : nullptr;
 }
 
-// More than a point.
+// Returns true if the box is more than a point.
 bool isBox(const AcGePoint3d& low, const AcGePoint3d& high)
 {
     return low.x <= high.x && low.y <= high.y && low.z <= high.z &&
            (low.x < high.x || low.y < high.y);
 }
 
-// Empty if the header states no box.
+// Returns the box that the header states; empty if it states no box.
 WorldExtents statedBox(const FileSource& source)
 {
     const AcGePoint3d* low = statedPoint(source, L"EXTMIN");

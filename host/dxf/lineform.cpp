@@ -6,8 +6,7 @@ namespace host::dxf
 {
 namespace
 {
-// Takes a record's tags as a TagWriter does and cuts their bytes where a handle or a coordinate
-// stands.
+// Takes a record's tags as a TagWriter does, and splits their bytes at each handle and coordinate.
 class FormWriter
 {
 public:
@@ -56,7 +55,8 @@ void FormWriter::handle(Code code, schema::Handle value)
     m_form.hasHandle = true;
 }
 
-// The first stands behind what lines have in common, each of the others behind a gap.
+// Closes the part of the form before a coordinate. The first coordinate follows the common part;
+// each of the others follows a gap.
 void FormWriter::coordinate(Code code)
 {
     const std::string bytes = cutBefore(code);

@@ -117,7 +117,7 @@ void loadTables(DatabaseCore& core, FileSource& source)
     }
 }
 
-// Every drawing has these, written down or not.
+// Adds a record that every drawing has if the file does not contain it.
 template <class Record>
 void ensure(DatabaseCore& core, FileSource& source, AcDbStub* table, std::string_view type,
             const std::wstring& name)
@@ -129,7 +129,8 @@ void ensure(DatabaseCore& core, FileSource& source, AcDbStub* table, std::string
     }
 }
 
-// The spaces of R12 are no objects, nor has a drawing without tables any.
+// Adds missing records. The spaces of R12 are not objects, and a drawing without tables has no
+// model space either.
 void completeTables(DatabaseCore& core, FileSource& source)
 {
     if (core.roots()[Root::modelSpace] == nullptr)
@@ -183,7 +184,7 @@ void loadGroupDictionary(DatabaseCore& core, FileSource& source)
     {
         if (source.rootDictionary == nullptr && source.file.typeName(record) == "DICTIONARY")
         {
-            source.rootDictionary = &record;  // the first one holds all others
+            source.rootDictionary = &record;  // the first dictionary contains all others
         }
     }
     if (source.rootDictionary != nullptr)

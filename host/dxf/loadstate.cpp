@@ -12,7 +12,8 @@ namespace host::dxf
 {
 namespace
 {
-// An integer of 64 bits stays in its digits: a variable's has 32.
+// Returns the value of a variable. A 64-bit integer stays text, because the integer of a variable
+// has 32 bits.
 VariableValue valueOf(const FileSource& source, const HeaderVariable& variable)
 {
     VariableValue value = std::wstring();
@@ -48,7 +49,7 @@ Ucs ucsOf(const schema::UcsVariables& variables)
     const AcGeVector3d& x = variables.x;
     const AcGeVector3d& y = variables.y;
     const AcGeVector3d z = x.crossProduct(y);
-    // Directions too long for a length make no coordinate system either.
+    // Directions so long that their length overflows do not make a coordinate system either.
     if (z.length() > 1e-6 && std::isfinite(x.length() + y.length() + z.length()))
     {
         ucs.toWorld.setCoordSystem(variables.origin, x.normal(), y.normal(), z.normal());
@@ -124,7 +125,7 @@ void loadState(DatabaseCore& core, const FileSource& source)
         0;
     loadCurrent(core);
 
-    // A seed below the highest handle is not to be trusted, nor one that leaves no room above it.
+    // A seed is ignored if it lies below the highest handle or leaves no room above it.
     const std::uint64_t seed =
         readVariables<schema::HandleVariables>(schema::handleVariables, state.variables).seed;
     if (seed <= highestUsableHandle)

@@ -14,7 +14,7 @@ struct Format
     std::string_view name;
 };
 
-// No DXF drawing begins like one of them: its first line is a number.
+// A DXF drawing never begins like one of these, because its first line is a number.
 const Format formats[] = {
     {"AC10"sv, "a DWG"},
     {"%PDF-"sv, "a PDF document"},
@@ -42,7 +42,7 @@ const Format formats[] = {
     {"\xFE\xFF"sv, "text in UTF-16"},
 };
 
-// Without its byte-order mark: of the first letters every other byte is zero.
+// Recognises UTF-16 without a byte-order mark: every other byte of the first letters is zero.
 bool looksLikeUtf16(std::string_view bytes)
 {
     if (bytes.size() < 4)

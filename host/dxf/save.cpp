@@ -29,7 +29,7 @@ namespace host::dxf
 {
 namespace
 {
-// Sets only what has changed: a layer's other flags and its colour stay as the file has them.
+// Sets only what has changed, so a layer's other flags and its colour stay as the file has them.
 void saveLayer(Edits& edits, const FileSource& source, const LoadedLayer& loaded)
 {
     const AcDbLayerTableRecord& layer = *loaded.layer;
@@ -52,7 +52,7 @@ void saveLayer(Edits& edits, const FileSource& source, const LoadedLayer& loaded
                 RecordNumbers(table, now, form));
 }
 
-// New entities of the spaces stand in ENTITIES, those of another block before its end.
+// Writes new entities. Those of the spaces go to ENTITIES, those of another block before its end.
 std::size_t placeFor(const FileSource& source, const AcDbStub* owner)
 {
     const std::wstring name = recordName(AcDbObjectId(const_cast<AcDbStub*>(owner)));
@@ -163,7 +163,7 @@ void writeEntry(const std::wstring& key, std::uint64_t handle, const FileSource&
     writeRecord(writer, schema::dictionary::entry, {key, handle}, formOf(source));
 }
 
-// `owner` is 0 for the root.
+// Writes a dictionary. `owner` is 0 for the root dictionary.
 void writeDictionary(const FileSource& source, std::uint64_t handle, std::uint64_t owner,
                      const Producer& entries, TagWriter& writer)
 {
@@ -178,7 +178,8 @@ void writeDictionary(const FileSource& source, std::uint64_t handle, std::uint64
     entries(writer);
 }
 
-// Groups need the group dictionary, and that the root dictionary; what the file lacks is made.
+// Writes new groups. Groups need the group dictionary, which needs the root dictionary; both are
+// created if the file lacks them.
 void saveGroups(Edits& edits, DatabaseCore& core)
 {
     FileSource& source = sourceOf(core);
@@ -244,7 +245,7 @@ void saveGroups(Edits& edits, DatabaseCore& core)
                  [all](TagWriter& writer) { writeSection(writer, "OBJECTS", all); });
 }
 
-// The seed goes up with the objects that are saved, so a drawing left as it was stays so.
+// Raises the seed with the objects that are saved, so an unchanged drawing keeps its seed.
 void saveHandleSeed(Edits& edits, const DatabaseCore& core, const LiveStubs& live)
 {
     const FileSource& source = sourceOf(core);
@@ -290,7 +291,7 @@ std::vector<std::string> lossesOnSaving(const DatabaseCore& core)
 
 namespace
 {
-// Bytes of the new file, as far as is known before it is written.
+// Returns the approximate size of the new file in bytes.
 std::size_t sizeAbout(const DatabaseCore& core, const Edits& edits)
 {
     const std::size_t bytesOfLine = 160;
@@ -322,7 +323,7 @@ void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& ta
     take(edits);
 }
 
-// Without the seed of handles: it also goes up with what was cancelled.
+// The seed of handles is left out, because cancelled work raises it, too.
 std::uint64_t digestOfChanges(DatabaseCore& core)
 {
     Edits edits(sourceOf(core).file);

@@ -45,7 +45,7 @@ schema::UcsVariables variablesOf(const Ucs& ucs)
     return variables;
 }
 
-// What the state does not hold is taken from the record.
+// Returns the viewport of the state. Takes from `record` what the state does not hold.
 schema::viewport::Viewport viewportOf(const DrawingState& state,
                                       const schema::viewport::Viewport& record)
 {
@@ -98,7 +98,8 @@ schema::CurrentVariables variablesOf(const CurrentProperties& current)
     return variables;
 }
 
-// The group code that the file has for a value of that type, else the usual one for it.
+// Returns the group code that the file uses for the variable if its value has the same type,
+// otherwise the usual code.
 Code codeOf(const FileSource& source, const std::string& name, const VariableValue& value,
             const VariableValue* before)
 {
@@ -135,8 +136,8 @@ void saveVariables(Edits& edits, const FileSource& source, const DrawingState& s
     }
 }
 
-// A file without the variables is given none. Shrunk they are never: what the file says of its own
-// entities is taken as it is.
+// Saves the extents if the file has the variables. Never shrinks them, because the file's statement
+// about its own entities is trusted.
 void saveExtents(const HeaderEdits& header, const DatabaseCore& core)
 {
     FileSource& source = sourceOf(core);

@@ -68,7 +68,7 @@ constexpr Kind kindOf()
     return {table.type, writeNew<table>};
 }
 
-// In the order of a file.
+// The kinds, in the order of a file.
 constexpr Kind kinds[] = {
     kindOf<schema::linetype::table>(),
     kindOf<schema::layer::table>(),
@@ -108,7 +108,7 @@ std::uint64_t tableHandle(const TagFile& file, std::string_view type)
     return 0;
 }
 
-// Where the table's records end; nothing when the file has no such table.
+// Returns the record that ends the table, or nullptr if the file lacks the table.
 const Record* endOfTable(const TagFile& file, std::string_view type)
 {
     bool inside = false;
@@ -127,7 +127,7 @@ const Record* endOfTable(const TagFile& file, std::string_view type)
     return nullptr;
 }
 
-// A section of tables stands after HEADER and CLASSES.
+// Returns the offset for a new section of tables, which follows HEADER and CLASSES.
 std::size_t placeForTables(const TagFile& file)
 {
     std::size_t place = file.firstTag();
@@ -141,7 +141,7 @@ std::size_t placeForTables(const TagFile& file)
     return place;
 }
 
-// R12 has no records for the two linetypes that stand for others.
+// R12 has no records for the linetypes ByLayer and ByBlock.
 bool isRecordOf(const Release& release, const std::wstring& name)
 {
     return release.objects || (!equalNoCase(name, L"ByLayer") && !equalNoCase(name, L"ByBlock"));

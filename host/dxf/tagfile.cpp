@@ -13,7 +13,7 @@ namespace host::dxf
 {
 namespace
 {
-// One line, whatever the file holds there.
+// Quotes a value so that the message stays one line, whatever the file contains.
 std::string quoted(std::string_view value)
 {
     constexpr std::size_t longest = 40;
@@ -24,8 +24,8 @@ std::string quoted(std::string_view value)
 }
 }  // namespace
 
-// The file is copied, not mapped: another program that writes it meanwhile must not change the
-// drawing under our feet.
+// Reads the file. The bytes are copied, not mapped: a program that writes the file meanwhile must
+// not change the drawing in memory.
 TagFile TagFile::read(const std::string& path, const Progress& progress)
 {
     WholeFile file = readWholeFile(path);

@@ -43,7 +43,7 @@ void TagReader::next()
     m_nextLine += 2;
 }
 
-// Leaves m_next at the value, which is there.
+// Reads the code and leaves m_next at the value, which is known to exist.
 inline Code TagReader::readCode()
 {
     const char* at = m_next;

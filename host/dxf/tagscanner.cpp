@@ -24,7 +24,7 @@ bool holdsRecords(std::string_view section)
 TagFileScanner::TagFileScanner(TagFile& file, const Progress& progress)
     : m_file(file), m_progress(progress), m_reader(file)
 {
-    file.m_records.reserve(file.m_size / 100);  // costs nothing until it is used
+    file.m_records.reserve(file.m_size / 100);  // costs no memory until it is used
 }
 
 void TagFileScanner::scan()
@@ -163,7 +163,8 @@ void TagFileScanner::tellProgress() const
     }
 }
 
-// From its first tag to the next record's, which is the current one afterwards.
+// Reads a record, from its first tag to that of the next record, which is the current tag
+// afterwards.
 void TagFileScanner::readRecord()
 {
     if (m_reader.is("SECTION") || m_reader.is("EOF"))
@@ -183,9 +184,10 @@ void TagFileScanner::readRecord()
     m_file.m_highestHandle = std::max(m_file.m_highestHandle, record.handle);
 }
 
-// The handle stands before the record's own data. What has its code there is something else: the
-// sort handles of a SORTENTSTABLE, or anything in an XRECORD or between the braces of a group 102.
-// Returns 0 if there is none; one that is empty or zero is to be repaired.
+// Returns the record's handle. The handle comes before the record's own data. There, its code means
+// something else: the sort handles of a SORTENTSTABLE, or anything in an XRECORD or between the
+// braces of a group 102. Returns 0 if the record has no handle. Notes an empty or zero handle for
+// repair.
 std::uint64_t TagFileScanner::readHandle(Code handleCode)
 {
     bool inBraces = false;
@@ -208,7 +210,7 @@ std::uint64_t TagFileScanner::readHandle(Code handleCode)
     const std::uint64_t handle = trimmed(m_tag.value).empty() ? 0 : m_file.handle(m_tag);
     if (handle == 0)
     {
-        m_file.m_repaired.push_back(m_file.m_records.size());  // where the record will be
+        m_file.m_repaired.push_back(m_file.m_records.size());  // the future index of the record
     }
     return handle;
 }
@@ -225,7 +227,7 @@ void TagFileScanner::skipContents()
     }
 }
 
-// From the first tag of the first section, whose code has one digit.
+// Takes the style from the first tag of the first section, whose code has one digit.
 void TagFileScanner::takeStyle()
 {
     const std::string_view bytes = m_file.bytes();
@@ -255,8 +257,8 @@ void TagFileScanner::requireKnownCodePage() const
     m_file.refuseValue(tag, "a known code page");
 }
 
-// A drawing is often followed by an empty line, by the old end mark Ctrl-Z or by the zeros that
-// fill a block, never by more.
+// Allows only what programs write after a drawing: an empty line, the old end mark Ctrl-Z, or the
+// zeros that fill a block.
 void TagFileScanner::requireNothingAfterEof() const
 {
     constexpr std::string_view blanks(" \t\r\n\x1a\0", 6);
@@ -266,7 +268,7 @@ void TagFileScanner::requireNothingAfterEof() const
     }
 }
 
-// Of records with one handle the first keeps it.
+// Finds records that share a handle. The first of them keeps it.
 void TagFileScanner::findSharedHandles()
 {
     std::vector<std::uint64_t> handles;

@@ -12,12 +12,12 @@ namespace host::dxf
 {
 namespace
 {
-// Room for any tag but a text: the code's line, a number and a line ending.
+// Room for any tag except a text: the code's line, a number and a line ending.
 constexpr std::size_t slack = 64;
-// Room for the six numbers of a record and what is between them.
+// Room for the six numbers of a record and the bytes between them.
 constexpr std::size_t numbersSlack = 6 * slack;
 
-// Columns of a padded integer; the blanks show how many bytes a reader needs for it.
+// Returns the width of a padded integer. The width shows how many bytes a reader needs for it.
 unsigned char integerWidth(Code code)
 {
     switch (valueType(code))
@@ -45,15 +45,15 @@ char* appendReal(char* at, double value)
         at = std::to_chars(at, at + slack, static_cast<std::int64_t>(value)).ptr;
         return std::copy_n(".0", 2, at);
     }
-    // Within these bounds the digits are easier to read than an exponent and hardly longer.
+    // Within these bounds plain digits are easier to read than an exponent, and hardly longer.
     if (1e-5 <= magnitude && magnitude < 1e15)
     {
         return std::to_chars(at, at + slack, value, std::chars_format::fixed).ptr;
     }
     return std::to_chars(at, at + slack, value, std::chars_format::scientific).ptr;
 }
-// Eight digits at once, a byte of `digits` each: the upper half of the number goes to the upper
-// half of the word, then the same with quarters and eighths.
+// Computes eight digits at once, one in each byte of `digits`: the upper half of the number goes to
+// the upper half of the word, then the quarters and the eighths are treated in the same way.
 std::uint64_t eightDigits(std::uint32_t value)
 {
     std::uint64_t digits = value;
@@ -64,7 +64,7 @@ std::uint64_t eightDigits(std::uint32_t value)
     return digits + 0x3030303030303030 + letters * ('A' - '9' - 1);
 }
 
-// Eight bytes are written, whatever the length.
+// Appends digits. Always writes eight bytes, whatever the count.
 char* appendDigits(char* at, std::uint32_t value, int count)
 {
     std::uint64_t digits = eightDigits(value) << (64 - 8 * count);
@@ -76,7 +76,7 @@ char* appendDigits(char* at, std::uint32_t value, int count)
     return at + count;
 }
 
-// In hexadecimal capitals.
+// Appends the value in hexadecimal capitals.
 char* appendHandle(char* at, std::uint64_t value)
 {
     const int count = (std::bit_width(value | 1) + 3) / 4;
@@ -95,7 +95,7 @@ std::string realText(double value)
     return {text, appendReal(text, value)};
 }
 
-// Leaves room for a number and a line ending.
+// Appends bytes and leaves room for a number and a line ending.
 inline void TagWriter::copy(std::string_view bytes)
 {
     if (m_full - m_at < static_cast<std::ptrdiff_t>(bytes.size()))
@@ -131,7 +131,8 @@ TagWriter::TagWriter(Drain drain, const TagStyle& style)
       m_full(m_at + bufferSize),
       m_realTexts(std::size_t(1) << realTextBits)
 {
-    // Bits of 0 belong to the first place; in any other they find nothing.
+    // The bits of 0 belong to the first place. An empty entry in any other place therefore never
+    // matches.
     appendNewReal(m_at, 0, m_realTexts[0]);
     for (std::size_t code = 0; code < m_codes.size(); ++code)
     {
@@ -248,7 +249,7 @@ void TagWriter::flush()
     }
 }
 
-// Where the value goes, with room for a number and the line ending.
+// Returns where the value goes, with room for a number and the line ending.
 char* TagWriter::begin(Code code)
 {
     if (m_full - m_at < static_cast<std::ptrdiff_t>(slack))

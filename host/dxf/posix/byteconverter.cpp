@@ -49,7 +49,7 @@ std::size_t IconvConverter::decode(std::string_view bytes, std::u32string& text)
     char* out = reinterpret_cast<char*>(text.data() + before);
     std::size_t outLeft = bytes.size() * sizeof(char32_t);
     ::iconv(m_decoder, &in, &inLeft, &out, &outLeft);
-    // Some code pages keep a letter back until they know whether an accent follows.
+    // Converters of some code pages hold a letter back until they know whether an accent follows.
     ::iconv(m_decoder, nullptr, nullptr, &out, &outLeft);
     text.resize(text.size() - outLeft / sizeof(char32_t));
     return bytes.size() - inLeft;

@@ -21,7 +21,7 @@ namespace host::dxf
 {
 namespace fs = std::filesystem;
 
-// Beyond the process's limit for file sizes a write is to fail instead of ending the run.
+// Makes a write beyond the process's limit for file sizes fail instead of ending the run.
 class SizeLimitAsFailure
 {
 public:
@@ -34,8 +34,8 @@ private:
     void (*m_before)(int);
 };
 
-// The new drawing until it takes the old one's place; gone on every way out before that, also when
-// a signal ends the program.
+// The new drawing until it takes the old one's place. It is deleted on every way out before that,
+// even when a signal ends the program.
 class TemporaryFile
 {
 public:
@@ -46,7 +46,7 @@ public:
 
     void takeOwnerAndMode(const struct stat& old);
     void write(std::string_view bytes);
-    void onDisk();  // waits until a power cut cannot take it
+    void onDisk();  // waits until a power cut cannot destroy the file
     void takePlaceOf(const fs::path& target);
 
 private:
@@ -59,7 +59,7 @@ private:
 TemporaryFile::TemporaryFile(const fs::path& folder, const std::string& nameInMessages)
     : m_nameInMessages(nameInMessages)
 {
-    // Another run may be saving here, or may have ended in the middle of it.
+    // Another run may be saving here or may have been interrupted while saving.
     for (int attempt = 0; attempt < 100 && m_file < 0; ++attempt)
     {
         m_path = folder / (".arxhost-" + std::to_string(::getpid()) + "-" +
@@ -89,7 +89,8 @@ TemporaryFile::~TemporaryFile()
 
 void TemporaryFile::takeOwnerAndMode(const struct stat& old)
 {
-    // Only the administrator may give files away; for anyone else the new owner is who saves.
+    // Only the administrator may give files away. For anyone else, the user who saves becomes the
+    // owner.
     std::ignore = ::fchown(m_file, old.st_uid, old.st_gid);
     requireSaved(::fchmod(m_file, old.st_mode & 07777) == 0, m_nameInMessages);
 }
@@ -101,7 +102,7 @@ void TemporaryFile::write(std::string_view bytes)
 
 void TemporaryFile::onDisk()
 {
-    // Some disks only tell when they are asked to have it all.
+    // Some disks report an error only when they are asked to store everything.
     requireSaved(::fsync(m_file) == 0, m_nameInMessages);
 }
 
@@ -115,8 +116,8 @@ void TemporaryFile::takePlaceOf(const fs::path& target)
 
 namespace
 {
-// So that the new name outlives a power cut. A folder that cannot do this is no reason to report a
-// failure: the drawing is saved.
+// Stores the folder on the disk, so that the new name survives a power cut. A folder that cannot do
+// this is not a failure: the drawing is saved.
 void syncFolder(const fs::path& folder)
 {
     const int file = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -128,7 +129,7 @@ void syncFolder(const fs::path& folder)
     ::close(file);
 }
 
-// The file that `path` names in the end; it need not exist.
+// Returns the path without symbolic links. The file need not exist.
 fs::path followed(const std::string& path)
 {
     fs::path target = path;
@@ -146,7 +147,8 @@ fs::path followed(const std::string& path)
     failSaving(path, std::strerror(errno));
 }
 
-// The old file, if there is one; it must be one that the user could write to.
+// Returns the state of the old file, or nothing if there is none yet. Throws an Error if the user
+// could not write to it.
 std::optional<struct stat> oldFile(const fs::path& target, const std::string& path)
 {
     struct stat old;
@@ -228,8 +230,8 @@ bool isDeviceOrPipe(const std::string& path)
                                       !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode));
 }
 
-// Standard output goes on where it stands, wherever it leads. A pipe that nobody reads is a failure
-// and not waited for.
+// Opens a device or a pipe. Standard output continues at its current position, wherever it leads. A
+// pipe without a reader is a failure; the call does not wait for one.
 int openDeviceOrPipe(const std::string& path)
 {
     if (isStandardOutput(path))

@@ -8,7 +8,8 @@ namespace host::dxf
 {
 namespace
 {
-// A flag that the system refuses for some code pages: such map every byte to something.
+// Returns the flag, or 0 if the system refuses it for the code page. Such a code page maps every
+// byte to a character.
 DWORD strictFlag(UINT codePage, DWORD flag)
 {
     char probe = 'a';
@@ -34,7 +35,7 @@ private:
     DWORD m_flag;
 };
 
-// Of the character that begins there, whole or not.
+// Returns the length of the character that begins there, complete or not.
 std::size_t SystemConverter::lengthAt(std::string_view bytes) const
 {
     const unsigned char lead = bytes[0];
@@ -72,7 +73,7 @@ std::size_t SystemConverter::decode(std::string_view bytes, std::u32string& text
     return at;
 }
 
-// A letter that only looks alike does not count.
+// A letter that only looks similar does not count as the character.
 std::optional<std::string> SystemConverter::encode(char32_t character)
 {
     const bool isPair = character > 0xFFFF;
@@ -101,7 +102,7 @@ UINT numberOf(const std::string& codePage)
     {
         return 1361;
     }
-    const UINT isoPages = 28590;  // and the part's number
+    const UINT isoPages = 28590;  // plus the number of the part
     if (codePage.starts_with("ISO8859-"))
     {
         return isoPages + std::atoi(codePage.c_str() + 8);

@@ -22,7 +22,7 @@ namespace
 {
 namespace fs = std::filesystem;
 
-// The file that `path` names in the end; it need not exist.
+// Returns the path without symbolic links. The file need not exist.
 fs::path followed(const fs::path& path)
 {
     std::error_code isNoLink;
@@ -30,7 +30,7 @@ fs::path followed(const fs::path& path)
     return isNoLink ? path : end;
 }
 
-// Whether there is an old file; it must be one that the user could write to.
+// Returns true if there is an old file. Throws an Error if the user could not write to it.
 bool hasOldFile(const fs::path& target, const std::string& path)
 {
     std::error_code ignored;
@@ -69,8 +69,8 @@ namespace
     failSaving(path, std::error_code(int(GetLastError()), std::system_category()).message());
 }
 
-// Says whether the system takes the file away when its handle is closed, in whatever way the
-// program ends: Ctrl-C, the closing of the console and Task Manager leave it no time to do so.
+// Sets whether the system deletes the file when its handle is closed. This covers every end of the
+// program: Ctrl-C, the closing of the console and Task Manager leave it no time to delete the file.
 bool deleteOnClose(int file, bool isDeleted)
 {
     FILE_DISPOSITION_INFO disposition = {.DeleteFile = BOOLEAN(isDeleted)};
@@ -78,8 +78,7 @@ bool deleteOnClose(int file, bool isDeleted)
                                       FileDispositionInfo, &disposition, sizeof disposition) != 0;
 }
 
-// Makes a new file and opens it for writing; -1 with errno if there is one of
-// that name.
+// Creates a new file and opens it for writing. Returns -1 with errno if a file of that name exists.
 int createUnfinishedFile(const fs::path& path, const std::string& pathInMessages)
 {
     const HANDLE made = CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
@@ -120,7 +119,7 @@ private:
 Replacement::Files::Files(const std::string& path)
     : m_path(path), m_target(followed(pathOf(path))), m_hasOld(hasOldFile(m_target, path))
 {
-    // Another run may be saving here, or may have ended in the middle of it.
+    // Another run may be saving here or may have been interrupted while saving.
     for (int attempt = 0; attempt < 100 && m_file < 0; ++attempt)
     {
         m_temporary = m_target.parent_path() / (".arxhost-" + std::to_string(::_getpid()) + "-" +
@@ -154,7 +153,7 @@ void Replacement::Files::write(std::string_view bytes)
     }
 }
 
-// The system keeps the old file's owner, rights and date of birth.
+// Replaces the old file. The system keeps its owner, rights and creation date.
 void Replacement::Files::takePlace()
 {
     requireSaved(!m_hasOld || ::_commit(m_file) == 0, m_path);

@@ -22,7 +22,7 @@ struct Descriptor
     int number;
 };
 
-// Reads up to `size` bytes; fewer if the file ends before.
+// Reads up to `size` bytes; fewer if the file ends earlier.
 std::size_t readFully(const Descriptor& file, char* bytes, std::size_t size,
                       const std::string& path)
 {
