@@ -43,7 +43,7 @@ void TagReader::next()
     m_nextLine += 2;
 }
 
-// Reads the code and leaves m_next at the value, which is known to exist.
+// Reads the code and leaves m_next at the value. Throws an Error if the value is missing.
 inline Code TagReader::readCode()
 {
     const char* at = m_next;
