@@ -8,8 +8,8 @@ ACRX_DEFINE_MEMBERS(AcDbBlockTableRecord, AcDbSymbolTableRecord)
 
 namespace
 {
-// The parts of a polyline enter the database with it, each under a handle of its own; the end mark
-// of the sequence needs one, too.
+// Adds the parts of a polyline to the database together with it. Each part gets its own handle, and
+// so does the end mark of the sequence.
 void appendVertices(host::DatabaseCore& core, AcDb2dPolyline& polyline)
 {
     AcDbStub* owner = polyline.objectId().stub();
@@ -22,7 +22,7 @@ void appendVertices(host::DatabaseCore& core, AcDb2dPolyline& polyline)
     vertices.sequenceEnd = core.objects().addForeign(core.handles().take());
 }
 
-// What texts and polylines need beyond a line.
+// Does what texts and polylines need beyond a line.
 void completeMembers(host::DatabaseCore& core, AcDbEntity& entity)
 {
     AcDbText* text = AcDbText::cast(&entity);

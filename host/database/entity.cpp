@@ -88,7 +88,7 @@ AcDbDatabase* databaseFor(const AcDbEntity& entity)
     return own != nullptr ? own : acdbHostApplicationServices()->workingDatabase();
 }
 
-// The id of a named record, with the statuses that the property setters give.
+// Finds the id of a named record. Returns the status that the property setters return.
 Acad::ErrorStatus lookUp(AcDbStub* table, const ACHAR* name, AcDbObjectId& id)
 {
     if (name == nullptr || table == nullptr)
@@ -98,7 +98,7 @@ Acad::ErrorStatus lookUp(AcDbStub* table, const ACHAR* name, AcDbObjectId& id)
     return static_cast<AcDbSymbolTable*>(table->object)->getAt(name, id);
 }
 
-// Closed records answer here: a name is looked up in the host, not through an open table.
+// Finds a name without opening the table, so closed records are found, too.
 bool isRecord(const AcDbObjectId& id, const AcRxClass* type)
 {
     return !id.isNull() && host::typeOf(id.stub()) == type;

@@ -42,7 +42,7 @@ Acad::ErrorStatus AcDbLine::transformBy(const AcGeMatrix3d& matrix)
     assertWriteEnabled("AcDbLine::transformBy");
     if (isIdentity(matrix) && host::isFinite(m_start) && host::isFinite(m_end))
     {
-        // What the product would give: no negative zero.
+        // The product would never give a negative zero, so the sum removes one, too.
         m_start += AcGeVector3d();
         m_end += AcGeVector3d();
         return Acad::eOk;

@@ -44,7 +44,7 @@ std::uint32_t ReactorLists::find(std::uint32_t number, AcDbStub* reactor)
 {
     std::vector<AcDbStub*> list = m_lists[number];
     list.push_back(reactor);
-    // Groups are few, and the list looked for is nearly always the newest.
+    // Groups are few, and the list is nearly always the newest one.
     const auto found = std::find(m_lists.rbegin(), m_lists.rend(), list);
     if (found != m_lists.rend())
     {

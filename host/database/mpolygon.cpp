@@ -13,7 +13,7 @@ namespace
 typedef std::vector<AcGePoint3d> Loop;
 }  // namespace
 
-// WCS, each loop with three corners or more.
+// The loops [wcs]. Each has at least three corners.
 struct AcDbMPolygon::Internals
 {
     std::vector<Loop> loops;
@@ -29,7 +29,7 @@ AcDbMPolygon::~AcDbMPolygon()
 namespace
 {
 
-// Newell's normal: right for any planar loop, its length twice the area.
+// Returns Newell's normal. It is correct for any planar loop, and its length is twice the area.
 AcGeVector3d areaVector(const Loop& loop)
 {
     AcGeVector3d sum(0, 0, 0);
@@ -72,7 +72,8 @@ bool onLoop(const Loop& loop, const AcGePoint3d& point, double tol)
     return false;
 }
 
-// Counts crossings of a ray along the plane's axis `across`, upwards sides open.
+// Returns true if a ray along the plane's axis `across` crosses the loop an odd number of times. A
+// side includes its lower end but not its upper end.
 bool insideLoop(const Loop& loop, const AcGePoint3d& point, double tol)
 {
     const AcGeVector3d area = areaVector(loop);

@@ -175,7 +175,7 @@ Acad::ErrorStatus AcDbObject::erase(Adesk::Boolean erasing)
     }
     const bool changed = m_changed;
     assertWriteEnabled("AcDbObject::erase");
-    m_changed = changed;  // that it is erased stands in the stub alone
+    m_changed = changed;  // only the stub knows that the object is erased
     if (m_stub->erased() == (erasing != Adesk::kFalse))
     {
         m_refused = true;

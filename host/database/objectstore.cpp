@@ -16,7 +16,8 @@ ObjectStore::~ObjectStore()
 
 namespace
 {
-// So that nobody has to ask the object again.
+// Returns the flags for an object's kind. The stub keeps them so that the object need not be asked
+// again.
 std::uint32_t kindOf(const AcDbObject& object)
 {
     const AcRxClass* type = object.isA();
@@ -60,7 +61,7 @@ void ObjectStore::pack(AcDbLine* line)
 {
     AcDbStub* stub = line->objectId().stub();
     stub->flags |= AcDbStub::isPacked;
-    stub->line[0] = line->startPoint().x;  // where its address has stood
+    stub->line[0] = line->startPoint().x;  // overwrites the object's address
     if (ObjectState::hasChanged(*line))
     {
         const AcGePoint3d start = line->startPoint();

@@ -20,7 +20,7 @@ OpenObjects::~OpenObjects()
 
 void OpenObjects::remove(const AcDbObject& object)
 {
-    // What was opened last is mostly closed first.
+    // The object opened last is mostly closed first.
     if (m_objects.back() == &object)
     {
         m_objects.pop_back();

@@ -14,7 +14,7 @@ ACRX_DEFINE_MEMBERS(AcDb2dPolyline, AcDbCurve)
 
 Acad::ErrorStatus AcDb2dVertex::transformBy(const AcGeMatrix3d&)
 {
-    // A vertex lies in the plane of its polyline and moves with that.
+    // A vertex lies in the plane of its polyline and moves with the polyline.
     return Acad::eNotApplicable;
 }
 
@@ -41,7 +41,7 @@ AcDb2dPolyline::AcDb2dPolyline(AcDb::Poly2dType type, AcGePoint3dArray& vertices
 
 AcDb2dPolyline::~AcDb2dPolyline()
 {
-    // In a database the vertices are objects of their own.
+    // In a database the vertices are separate objects.
     if (objectId().isNull())
     {
         m_internals->deleteVertices();
@@ -103,7 +103,7 @@ AcDbObjectIterator* AcDb2dPolyline::vertexIterator() const
 
 namespace
 {
-// Hands a property that has just been set on to the vertices.
+// Passes a property that has just been set on to the vertices.
 template <class Setter>
 Acad::ErrorStatus withSubents(Acad::ErrorStatus status, Adesk::Boolean doSubents, Setter setter)
 {
@@ -171,8 +171,8 @@ Acad::ErrorStatus AcDb2dPolyline::transformBy(const AcGeMatrix3d& matrix)
     {
         return Acad::eCannotScaleNonUniformly;
     }
-    // The points are moved as they are in the world, so that far from the origin no vertex picks up
-    // the rounding of a trip through the plane's system.
+    // The points are moved in world coordinates. A trip through the plane's coordinate system would
+    // add rounding errors far from the origin.
     std::vector<AcGePoint3d> moved = m_internals->points();
     for (AcGePoint3d& point : moved)
     {

@@ -9,11 +9,12 @@ namespace host
 {
 namespace
 {
-// Two million lines would fault in thirty thousand pages of 4 KB, one by one.
+// Asks for large pages: two million lines would otherwise cause thirty thousand page faults of 4 KB
+// each.
 void askForLargePage([[maybe_unused]] void* block, [[maybe_unused]] std::size_t bytes)
 {
 #ifdef __linux__
-    ::madvise(block, bytes, MADV_HUGEPAGE);  // a wish: refused, it is only slower
+    ::madvise(block, bytes, MADV_HUGEPAGE);  // the program is only slower if the system refuses
 #endif
 }
 }  // namespace
@@ -29,7 +30,7 @@ StubArena::~StubArena()
 void StubArena::addBlock()
 {
     auto* block = static_cast<Block*>(::operator new(blockBytes, std::align_val_t(blockBytes)));
-    if (!m_blocks.empty())  // small drawings do not fill one
+    if (!m_blocks.empty())  // small drawings do not fill one block
     {
         askForLargePage(block, blockBytes);
     }

@@ -139,7 +139,7 @@ Acad::ErrorStatus AcDbText::setTextString(const ACHAR* text)
     {
         return Acad::eInvalidInput;
     }
-    ACHAR* const copy = copyOf(text);  // before the old one goes: text may be that
+    ACHAR* const copy = copyOf(text);  // `text` may be the old text, which is deleted below
     delete[] m_text;
     m_text = copy;
     return Acad::eOk;
@@ -161,7 +161,7 @@ Acad::ErrorStatus AcDbText::setHorizontalMode(AcDb::TextHorzMode mode)
 
 namespace
 {
-// How far the anchor lies right of the text's start, in widths of the text.
+// Returns how far the anchor lies to the right of the text's start, in widths of the text.
 double anchorAcross(AcDb::TextHorzMode mode)
 {
     switch (mode)
@@ -176,8 +176,8 @@ double anchorAcross(AcDb::TextHorzMode mode)
     }
 }
 
-// How far the anchor lies above the base line, in text heights. Letters reach a third of their
-// height below the line in the host's stroke fonts.
+// Returns how far the anchor lies above the base line, in text heights. In the host's stroke fonts,
+// letters reach a third of their height below the line.
 double anchorAbove(AcDb::TextHorzMode horizontal, AcDb::TextVertMode vertical)
 {
     if (horizontal == AcDb::kTextMid || vertical == AcDb::kTextVertMid)
@@ -226,7 +226,7 @@ Acad::ErrorStatus AcDbText::transformBy(const AcGeMatrix3d& matrix)
     const AcGeVector3d up = (matrix * normal()).normal();
     const AcGePoint3d position = matrix * m_position;
     const AcGePoint3d alignment = matrix * m_alignment;
-    // A turn leaves the height as it is, to the last bit.
+    // A rotation keeps the height exactly.
     const double scale = along.length();
     const double height = m_height * (std::fabs(scale - 1) > 1e-12 ? scale : 1);
     const bool staysFit = host::isFitInPlane(position, up) && host::isFitInPlane(alignment, up) &&
