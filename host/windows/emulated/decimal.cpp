@@ -7,14 +7,15 @@ namespace host
 {
 namespace
 {
-// Digits with the point after the first `point` of them.
+// Digits, with the decimal point after the first `point` digits.
 struct Decimal
 {
     std::string digits;
     std::size_t point;
 };
 
-// No double has more decimals than 1074 nor more digits before them than 309, so nothing is lost.
+// Returns all digits. A double has at most 1074 decimals and at most 309 digits before them, so no
+// digit is lost.
 Decimal exactDecimal(double size)
 {
     char text[309 + 1 + 1074 + 1];
@@ -39,7 +40,7 @@ void addOneToLastDigit(Decimal& number)
     ++number.point;
 }
 
-// The digits are all there, so a five behind the last one kept is half a unit of it or more.
+// All digits are present, so a five behind the last kept digit means half a unit or more.
 void roundTo(Decimal& number, std::size_t count)
 {
     if (count >= number.digits.size())

@@ -24,7 +24,8 @@ struct Conversion
     wchar_t type = 0;
 
     bool has(char flag) const { return flags.find(flag) != std::string::npos; }
-    // The small letter takes wide text and the capital narrow text, unless a size says otherwise.
+    // The small letter takes wide text and the capital letter narrow text, unless a size prefix
+    // says otherwise.
     bool isNarrow() const
     {
         const bool capital = type == L'S' || type == L'C';
@@ -38,7 +39,7 @@ struct Conversion
     }
 };
 
-// A byte is the unit of the same number.
+// Converts each byte to the unit of the same number.
 std::wstring widened(std::string_view bytes)
 {
     return std::wstring(reinterpret_cast<const unsigned char*>(bytes.data()),
@@ -128,7 +129,7 @@ Conversion Formatter::parse()
     return conversion;
 }
 
-// `*` takes the count from the arguments.
+// A `*` takes the count from the arguments.
 int Formatter::parseCount()
 {
     if (*m_at == L'*')
@@ -230,7 +231,7 @@ std::wstring padded(std::wstring text, const Conversion& conversion)
     return text;
 }
 
-// A long double is a double on the module's platform.
+// On the module's platform a long double is a double.
 std::wstring Formatter::real(const Conversion& conversion)
 {
     const double value = conversion.size == L"L" ? double(va_arg(m_arguments, long double))
@@ -261,7 +262,7 @@ std::wstring Formatter::fixed(const Conversion& conversion, double value)
     return padded(widened(sign + digits), conversion);
 }
 
-// Sixteen digits and no 0x.
+// Writes a pointer as sixteen digits without 0x.
 std::wstring Formatter::pointer(const Conversion& conversion)
 {
     const void* address = va_arg(m_arguments, void*);
@@ -275,7 +276,7 @@ std::wstring Formatter::character(const Conversion& conversion)
     return padded({unit}, conversion);
 }
 
-// With a precision the text needs no NUL.
+// A text with a precision needs no NUL at its end.
 std::wstring Formatter::text(const Conversion& conversion)
 {
     const std::size_t limit = conversion.precision ? *conversion.precision : SIZE_MAX;

@@ -2,7 +2,7 @@
 
 HWND adsw_acadMainWnd()
 {
-    // Only ever compared and handed back; no window stands behind it.
+    // The handle is only compared and handed back. It does not stand for a real window.
     static char window;
     return reinterpret_cast<HWND>(&window);
 }

@@ -15,7 +15,7 @@ namespace
 {
 using ModuleResources = std::map<HINSTANCE, std::vector<host::Resource>>;
 
-// Never destroyed: modules leave while the process ends.
+// The map is never destroyed, because modules leave while the process ends.
 ModuleResources& moduleResources()
 {
     static ModuleResources& resources = *new ModuleResources;
@@ -120,7 +120,7 @@ LPVOID LockResource(HGLOBAL data)
     return data;
 }
 
-// Texts lie in blocks of sixteen, each text with its length in front and no end mark.
+// Finds a text. Texts lie in blocks of sixteen. Each has its length in front and no end mark.
 int LoadStringW(HINSTANCE module, UINT id, LPWSTR text, int size)
 {
     if (text == nullptr || size <= 0)

@@ -26,18 +26,20 @@ struct Module
 struct Registry
 {
     std::map<HINSTANCE, Module> modules;
-    std::optional<std::filesystem::path> loading;  // the name, while a loader is at work
+    std::optional<std::filesystem::path> loading;  // the name, while a loader is working
     HINSTANCE arrived = nullptr;                   // the module that took the name
 };
 
-// Never destroyed: modules leave while the process ends, in an order that is not ours to choose.
+// The record is never destroyed, because modules leave while the process ends, in an order that we
+// do not control.
 Registry& registry()
 {
     static Registry& instance = *new Registry;
     return instance;
 }
 
-// Dots and links stay as they are: "..", taken out of a text, would not go back through a link.
+// Makes the path absolute. Dots and links stay as they are: removing ".." from the text would give
+// another folder behind a link.
 std::filesystem::path pathInProcess(const void* address, HINSTANCE module)
 {
     if (module == programInstance())

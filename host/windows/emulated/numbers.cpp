@@ -20,10 +20,10 @@ struct NumberText
     bool negative = false;
     std::string whole;
     std::string fraction;
-    std::string exponent;  // with its minus
+    std::string exponent;  // with its minus sign
 
     bool empty() const { return whole.empty() && fraction.empty(); }
-    // Power of ten of the first digit that counts, plus one.
+    // Returns the power of ten of the first digit that is not zero, plus one.
     double magnitude() const;
 };
 
@@ -47,7 +47,8 @@ bool takeMinus(const wchar_t*& at)
     return minus;
 }
 
-// A sign without digits is no exponent; from_chars stops in front of it.
+// Reads the exponent. A sign without digits is not an exponent, and from_chars stops in front of
+// it.
 std::string takeExponent(const wchar_t* at)
 {
     if (*at != L'e' && *at != L'E' && *at != L'd' && *at != L'D')
@@ -108,7 +109,7 @@ double _wtof(const wchar_t* text)
     const NumberText parts = parse(text);
     if (parts.empty())
     {
-        return 0;  // a lone minus gives this zero no sign
+        return 0;  // a minus without digits does not make the zero negative
     }
     const double size = value(parts);
     return parts.negative ? -size : size;

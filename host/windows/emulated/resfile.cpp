@@ -13,14 +13,15 @@ ResourceKey readKey(ResourceReader& reader)
     return {read.number, upperCase(read.name)};
 }
 
-// What follows the two keys: data version, memory flags, language, version, characteristics.
+// The size of the data after the two keys: data version, memory flags, language, version,
+// characteristics.
 const std::size_t headerTail = 16;
 
 Resource readResource(ResourceReader& reader)
 {
     Resource resource;
     const auto size = reader.number<DWORD>();
-    reader.number<DWORD>();  // size of this header, which the keys tell as well
+    reader.number<DWORD>();  // size of this header, which the keys determine as well
     resource.type = readKey(reader);
     resource.name = readKey(reader);
     reader.align();

@@ -14,7 +14,7 @@ namespace host
 {
 namespace
 {
-// The path without links; empty for a file that nothing can be put in place of.
+// Returns the path without links; empty for a file whose place no other file can take.
 std::string pathToReplace(const struct stat& old, const std::string& path)
 {
     if (!S_ISREG(old.st_mode) || old.st_nlink != 1)
@@ -28,7 +28,8 @@ std::string pathToReplace(const struct stat& old, const std::string& path)
 
 bool fill(int file, const struct stat& old, std::string_view bytes)
 {
-    // Only the administrator may give files away; for anyone else the new owner is who writes.
+    // Only the administrator may give files away. For anyone else, the user who writes becomes the
+    // owner.
     std::ignore = ::fchown(file, old.st_uid, old.st_gid);
     const bool filled = ::fchmod(file, old.st_mode & 07777) == 0 && writeFully(file, bytes);
     return ::close(file) == 0 && filled;
@@ -36,7 +37,7 @@ bool fill(int file, const struct stat& old, std::string_view bytes)
 
 bool rewriteInPlace(int file, std::string_view bytes)
 {
-    // A device cannot be made shorter and need not be.
+    // A device cannot be truncated and need not be.
     return (::ftruncate(file, 0) == 0 || errno == EINVAL) && writeFully(file, bytes);
 }
 }  // namespace
@@ -67,8 +68,8 @@ bool rewrite(int file, const std::string& path, std::string_view bytes)
     const int replacement = target.empty() ? -1 : createUnfinishedFile(beside, 0600);
     if (replacement < 0)
     {
-        // A disk that is full or broken takes neither, a run that a signal ends has no time for
-        // either, and what stands in the file is to stay.
+        // The contents of the file are to stay. A full or broken disk would take neither file, and
+        // a run that a signal ends has no time to write either.
         const bool fails = !target.empty() &&
                            (errno == ENOSPC || errno == EDQUOT || errno == EIO || errno == EBUSY);
         return !fails && rewriteInPlace(file, bytes);

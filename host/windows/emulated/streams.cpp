@@ -84,10 +84,11 @@ bool isFile(int number)
     return ::fstat(number, &status) == 0 && S_ISREG(status.st_mode);
 }
 
-// Texts are held whole. A longer one is none that anybody would want to have read.
+// Texts are held in memory as a whole. The limit is larger than any useful text.
 constexpr std::size_t longestText = 16 << 20;
 
-// Nothing also for a device, which may have no end, and a pipe, at which one would wait.
+// Returns nothing if the file cannot be read. A device might have no end and a pipe would have to
+// be waited for, so both count as unreadable.
 std::optional<std::string> contentOf(const std::string& path)
 {
     const File file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
@@ -113,14 +114,14 @@ std::optional<std::string> contentOf(const std::string& path)
     return std::nullopt;
 }
 
-// Streams that hold units of two bytes instead of characters of one.
+// Returns the streams that have units of two bytes instead of characters of one byte.
 std::set<FILE*>& unitStreams()
 {
     static std::set<FILE*> streams;
     return streams;
 }
 
-// A stream opened for text reading: the whole file, already translated.
+// A stream opened for text reading: the whole file, already converted.
 struct Reader
 {
     std::string content;
@@ -165,8 +166,8 @@ FILE* openReader(const std::string& path, std::optional<host::Encoding> encoding
     return reader->stream;
 }
 
-// A stream opened for text writing. The file keeps what it holds until the stream is closed, so a
-// run that ends in between leaves no half of a text.
+// A stream opened for text writing. The file keeps its contents until the stream is closed, so a
+// run that ends before leaves no incomplete text.
 struct Writer
 {
     std::string path;
@@ -175,7 +176,7 @@ struct Writer
     std::string content{};
 };
 
-// The C library, which calls this, would leave the stream locked if something were thrown.
+// The C library calls this function and would leave the stream locked if the function threw.
 ssize_t writeText(void* cookie, const char* bytes, std::size_t size)
 {
     const host::NoThrowing writing;
@@ -200,14 +201,14 @@ int closeWriter(void* cookie)
 FILE* openWriter(const std::string& path, bool appends)
 {
     std::unique_ptr<Writer> writer(new Writer{path, appends});
-    // Without a reader a pipe is to fail and not to wait.
+    // A pipe without a reader must fail instead of waiting.
     const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | (appends ? O_APPEND : 0);
     writer->file.number = ::open(path.c_str(), flags, 0666);
     if (writer->file.number < 0)
     {
         return nullptr;
     }
-    // A device would swallow the text without a word.
+    // A device would discard the text without an error.
     if (!isFile(writer->file.number))
     {
         errno = EINVAL;
@@ -216,7 +217,7 @@ FILE* openWriter(const std::string& path, bool appends)
     return fopencookie(writer.release(), "w", {nullptr, writeText, nullptr, closeWriter});
 }
 
-// "C" locale of that runtime.
+// Converts units to bytes as the "C" locale of that runtime does.
 std::string narrowed(std::wstring_view units)
 {
     std::string bytes;
@@ -260,7 +261,7 @@ wint_t crtFgetwc(FILE* stream)
     {
         return WEOF;
     }
-    // U+FFFF has the number of that platform's WEOF and cannot be told from it.
+    // On that platform U+FFFF has the number of WEOF and cannot be distinguished from it.
     const wint_t unit = bytes[0] | bytes[1] << 8;
     return unit == 0xFFFF ? WEOF : unit;
 }

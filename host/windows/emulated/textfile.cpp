@@ -23,7 +23,7 @@ std::basic_string<Unit> translated(std::basic_string_view<Unit> units)
     return text;
 }
 
-// Half a unit at the end of a cut file is dropped.
+// Half a unit at the end of a truncated file is dropped.
 std::wstring fromUtf16(std::string_view bytes)
 {
     std::wstring units;

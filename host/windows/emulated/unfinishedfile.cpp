@@ -26,13 +26,15 @@ static_assert(std::atomic<State>::is_always_lock_free, "signal handlers look at 
 
 char thePath[PATH_MAX];
 
-// Makes one state of another, unless the program is being ended or the state is a third one.
+// Changes the state from one to another. Fails if the program is being ended or the state is a
+// third one.
 bool change(State from, State to)
 {
     return theState.compare_exchange_strong(from, to);
 }
 
-// A handler that interrupted the making of a file could not wait for the end of it.
+// Holds signals back, because a handler that interrupts the creation of a file could not wait for
+// its end.
 class SignalsHeldBack
 {
 public:
@@ -85,8 +87,8 @@ void settleUnfinishedFile()
     change(State::there, State::none);
 }
 
-// Calls only what a handler may. A file that is being made is waited for: the name may turn out to
-// be that of another run's.
+// Calls only functions that a signal handler may call. Waits for a file that is being created,
+// because the name may turn out to belong to another run.
 void deleteUnfinishedFile()
 {
     const int aMoment = 1;  // millisecond

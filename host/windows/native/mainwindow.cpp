@@ -1,6 +1,6 @@
 #include "acedads.h"
 
-// Never shown: it owns what the module shows.
+// The window is never shown. It owns the windows that the module shows.
 HWND adsw_acadMainWnd()
 {
     static const HWND window =

@@ -12,10 +12,10 @@ struct Answering
 {
     MessageBoxHandler handler;
     HHOOK hook = nullptr;
-    HWND box = nullptr;  // the one that is open; handled already
+    HWND box = nullptr;  // the open box, which has been handled already
 };
 
-// One for each thread that may show a box.
+// Each thread that may show a box has its own.
 thread_local Answering s_answering;
 
 std::wstring textOf(HWND window)
@@ -25,7 +25,7 @@ std::wstring textOf(HWND window)
     return text;
 }
 
-// The longest text on it: the picture beside it has none.
+// Returns the longest text on the box. The picture beside it has no text.
 std::wstring messageOf(HWND box)
 {
     std::wstring longest;
@@ -58,13 +58,15 @@ unsigned typeOf(HWND box)
     return buttons | (isSecond && buttons != MB_OK ? MB_DEFBUTTON2 : 0);
 }
 
-// The box of a lone OK button gives it the number of Cancel, so that Esc presses it.
+// Returns true if the box has only an OK button. Windows gives this button the number of Cancel, so
+// that Esc presses it.
 bool isLoneButton(HWND box)
 {
     return GetDlgItem(box, IDOK) == nullptr && GetDlgItem(box, IDYES) == nullptr;
 }
 
-// A box whose button was clicked is hidden at once, and destroyed when all it has called is back.
+// Returns true if a button was clicked. The box is then hidden at once, and destroyed when all the
+// calls that it made have returned.
 bool isClosed(HWND box)
 {
     return s_answering.box != box || !IsWindowVisible(box);
@@ -74,7 +76,7 @@ void CALLBACK answer(HWND box, UINT, UINT_PTR timer, DWORD)
 {
     if (!IsWindowVisible(box))
     {
-        return;  // not shown yet: the timer comes again
+        return;  // the box is not shown yet: the timer comes again
     }
     KillTimer(box, timer);
     const bool isLone = isLoneButton(box);
@@ -88,7 +90,7 @@ void CALLBACK answer(HWND box, UINT, UINT_PTR timer, DWORD)
     }
 }
 
-// Texts, a picture and the buttons of a box are all that it has.
+// A message box contains only texts, a picture and buttons.
 bool isPartOfBox(HWND child)
 {
     wchar_t name[16] = L"";
@@ -126,7 +128,7 @@ LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam)
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-// The topmost dialog of the thread.
+// Returns the topmost dialog of the thread.
 BOOL CALLBACK findDialog(HWND window, LPARAM found)
 {
     wchar_t name[16] = L"";

@@ -8,7 +8,7 @@ namespace host
 {
 namespace
 {
-// The system's own words, in the language of the machine, on one line.
+// Returns the system's message in the language of the machine, on one line.
 std::string reasonOf(DWORD error)
 {
     wchar_t* text = nullptr;
