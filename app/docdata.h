@@ -5,15 +5,16 @@
 
 #include "hostapi/host.h"
 
-// Nothing: the grid command leaves nothing behind but its settings file.
+// The record of one document. It is empty, because the grid command keeps nothing between two runs
+// except its settings file.
 class CDocData
 {
 };
 
 namespace netrax
 {
-// A record for each open document. The host gives the pointer of a closed document to a later one,
-// so a record goes with its document.
+// Keeps a record for each open document. The host may give the address of a closed document to a
+// later one, so a record is removed together with its document.
 template <class Data>
 class AcApDataManager : public AcApDocManagerReactor
 {
@@ -29,7 +30,8 @@ public:
 
     ~AcApDataManager()
     {
-        // Asked anew: a session that ends may have none left.
+        // The destructor asks for the manager again, because a session that ends may already have
+        // destroyed it.
         AcApDocManager* manager = acDocManager;
         if (manager != nullptr)
         {
@@ -37,9 +39,11 @@ public:
         }
     }
 
-    // The document's record, made when there is none. [borrowed] until the document is destroyed.
+    // Returns the document's record and creates an empty one at the first call. The record is
+    // [borrowed] until the document is destroyed.
     Data& dataOf(AcApDocument* document) { return m_records[document]; }
 
+    // Removes the document's record; the host calls it.
     virtual void documentToBeDestroyed(AcApDocument* document) override
     {
         m_records.erase(document);

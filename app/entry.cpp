@@ -1,5 +1,5 @@
-// The functions by which the system and the host enter the module. What else the host asks for,
-// acrxGetApiVersion, is linked in from the host's own library.
+// The functions through which the system and the host enter the module. The host also asks for
+// acrxGetApiVersion, which is linked in from the host's own library.
 #include "app/entry.h"
 
 #include "app/gridapp.h"

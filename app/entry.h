@@ -3,5 +3,6 @@
 
 #include "hostapi/host.h"
 
-// Handle of the module; null before the system has attached it.
+// Returns the handle of the module [borrowed]. The handle is null until the system has attached the
+// module.
 HINSTANCE attachedModule();

@@ -3,11 +3,12 @@
 
 #include "app/rxapp.h"
 
+// The application of this module; its tables (app/tables.h) say what it registers.
 class CGridApp : public netrax::AcRxArxApp
 {
 public:
     virtual void registerComponents() override {}
 };
 
-// The one there is; made when the module is loaded.
+// Returns the only application object [borrowed]. It exists as long as the module is loaded.
 CGridApp& gridApp();

@@ -36,7 +36,7 @@ void deleteClass(Slots<CustomClassEntry> slots, CustomClassEntry& entry)
     entry.registered = false;
 }
 
-// Calls action(entry, index) for each present entry.
+// Calls action(entry, index) for each entry that is present; the index counts those entries from 0.
 template <class Action>
 void forEachFunction(Slots<const LispEntry> slots, Action action)
 {

@@ -1,24 +1,35 @@
-// The frame of an application object: it answers the messages of the host.
+// The base of an application object: it answers the messages of the host.
 //
-// Every handler gives AcRx::kRetOK. The packet of a message is the host's; it means something to
-// the host alone, and only that of kInitAppMsg stands for the module.
+// Every handler returns AcRx::kRetOK. The packet of a message is [borrowed] from the host and
+// opaque to the module. The packet of kInitAppMsg identifies the module when it talks to the host's
+// linker.
 #pragma once
 
 #include "hostapi/host.h"
 
-// Some of the host's headers bring classes of the same names, another frame for the same purpose.
+// The namespace keeps these classes apart from classes of the host with the same names and the same
+// purpose, which some of its headers declare.
 namespace netrax
 {
+// Registers and removes the custom classes of the module. Every other message is accepted and
+// ignored.
 class AcRxDbxApp
 {
 public:
     AcRxDbxApp();
 
-    // Handle of the module's own resources; null before kInitAppMsg.
+    // Returns the handle of the module's own resources [borrowed]. It is null until kInitAppMsg has
+    // been handled.
     HINSTANCE moduleHandle() const { return m_module; }
 
+    // Handles kInitAppMsg: notes the handle of the module, tells the host's linker what m_unlock
+    // and m_mdiAware say, and registers the custom classes.
     virtual AcRx::AppRetCode initApp(void* packet);
+
+    // Handles kUnloadAppMsg: deletes the custom classes.
     virtual AcRx::AppRetCode unloadApp(void* packet);
+
+    // The handlers of the other messages. Each of them does nothing here.
     virtual AcRx::AppRetCode loadDrawing(void*) { return AcRx::kRetOK; }
     virtual AcRx::AppRetCode unloadDrawing(void*) { return AcRx::kRetOK; }
     virtual AcRx::AppRetCode invokeFunction(void*) { return AcRx::kRetOK; }
@@ -34,7 +45,7 @@ public:
     virtual AcRx::AppRetCode endDialog(void*) { return AcRx::kRetOK; }
     virtual AcRx::AppRetCode nullMessage(void*) { return AcRx::kRetOK; }
 
-    // What the module offers to other programs than the host.
+    // Registers what the module offers to programs other than the host.
     virtual void registerComponents() = 0;
 
 protected:
@@ -50,7 +61,8 @@ private:
     HINSTANCE m_module;
 };
 
-// Adds the commands and the LISP functions.
+// Registers the commands and the LISP functions as well. Commands exist from kInitAppMsg to
+// kUnloadAppMsg, LISP functions from kLoadDwgMsg to kUnloadDwgMsg of each drawing.
 class AcRxArxApp : public AcRxDbxApp
 {
 public:
@@ -64,7 +76,7 @@ protected:
     ~AcRxArxApp() {}
 };
 
-// Hands the message to its handler. A code that this release does not know gives kRetOK, and the
-// application does not hear of it.
+// Calls the handler of the message and returns its result. A message code that is not known here
+// returns kRetOK, and no handler is called.
 AcRx::AppRetCode dispatch(AcRxDbxApp& app, AcRx::AppMsgCode message, void* packet);
 }  // namespace netrax

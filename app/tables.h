@@ -1,38 +1,41 @@
-// What the module registers with the host.
+// The tables of what the module registers with the host.
 #pragma once
 
 #include <cstddef>
 
 #include "hostapi/host.h"
 
+// One command; the names and the context are [borrowed].
 struct CommandEntry
 {
     const wchar_t* groupName;
     const wchar_t* globalName;
-    const wchar_t* localName;  // null: the string resource localNameId
-    Adesk::Int32 flags;
+    const wchar_t* localName;  // null: the string resource localNameId holds the name
+    Adesk::Int32 flags;        // a sum of ACRX_CMD_ values
     AcRxFunctionPtr handler;
     AcEdUIContext* context;
-    Adesk::Int32 localNameId;  // -1 for none
+    Adesk::Int32 localNameId;  // -1: the name has no string resource
 };
 
+// One class that the module adds to the host's class tree.
 struct CustomClassEntry
 {
-    AcRxClass* (*type)();
-    void (*initialise)();  // makes the run-time class
-    bool registered;
+    AcRxClass* (*type)();  // returns the run-time class [borrowed]
+    void (*initialise)();  // creates the run-time class
+    bool registered;       // set by registerClasses, cleared by deleteClasses
 };
 
+// One LISP function.
 struct LispEntry
 {
-    const wchar_t* name;  // null: the string resource nameId
+    const wchar_t* name;  // [borrowed]; null: the string resource nameId holds the name
     Adesk::UInt32 nameId;
     int (*function)();
-    bool registerFunction;  // else the host only hands the call on as a message
+    bool registerFunction;  // false: the host sends a call only as the message kInvkSubrMsg
 };
 
-// The slots of a table, walked from begin to end. A null slot is empty and skipped, so that a table
-// of no entries is one empty slot: an array cannot have none.
+// The slots of a table [borrowed], visited from begin to end. A null slot is empty and skipped. A
+// table without entries is one empty slot, because an array cannot have zero elements.
 template <class Entry>
 struct Slots
 {
@@ -40,6 +43,7 @@ struct Slots
     Entry* const* end;
 };
 
+// Returns the slots of a table; they are good as long as the table exists.
 template <class Entry, std::size_t count>
 Slots<Entry> slotsOf(Entry* const (&table)[count])
 {
@@ -47,7 +51,7 @@ Slots<Entry> slotsOf(Entry* const (&table)[count])
     return slots;
 }
 
-// The tables of this module.
+// These functions return the slots of this module's own tables, [borrowed] for good.
 Slots<const CommandEntry> commandSlots();
 Slots<CustomClassEntry> customClassSlots();
 Slots<const LispEntry> lispSlots();

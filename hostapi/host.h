@@ -1,9 +1,11 @@
-// The host's interface, in one include. Nothing else of the host is named by the module, but for
-// afxdllx.h: it defines MFC's own entry, so one source may have it, and that is entry.cpp.
+// The host's interface in one include. The module includes no other header of the host except
+// afxdllx.h. That header defines MFC's own entry point, so only one source may include it:
+// app/entry.cpp.
 //
-// Header by header: the host's umbrella header brings more names than anyone wants beside his own.
-// MFC comes first and whole, since the host's dialogs derive from all over it. Then each header
-// stands behind those that its declarations name, as not all of them include what they need.
+// The headers are listed one by one, because the host's umbrella header brings in many more names
+// than the module uses. MFC comes first and complete, because the host's dialogs derive from
+// classes all over MFC. Every later header follows those that its declarations need, because some
+// of them do not include what they need.
 #pragma once
 
 #include "afxwin.h"
