@@ -29,7 +29,8 @@ BorrowedFrame::BorrowedFrame()
 
 BorrowedFrame::~BorrowedFrame()
 {
-    // UCS first: with UCSFOLLOW back at 1 the host would swing the view to plan.
+    // The UCS is restored first: if UCSFOLLOW were already back at 1, the host would swing the view
+    // to plan.
     if (m_ucsSet)
     {
         acedRestorePreviousUCS();

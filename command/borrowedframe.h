@@ -1,14 +1,17 @@
-// The user's coordinate system and its variables, on loan for the length of a command.
+// Borrows the user's coordinate system and its variables for the length of a command.
 #pragma once
 
 #include "hostapi/host.h"
 
-// A whole-number system variable, set to 0 until it is given back. One that cannot be read is left
-// alone both times: what is not known cannot be put back.
+// A whole-number system variable that is 0 until it is given back. A variable that cannot be read
+// is not changed at all, because its value could not be restored.
 class ZeroedVariable
 {
 public:
-    explicit ZeroedVariable(const ACHAR* name);  // [borrowed] name
+    // Reads the variable and sets it to 0. The name is [borrowed] while this object lives.
+    explicit ZeroedVariable(const ACHAR* name);
+
+    // Sets the variable to the value that the constructor read.
     void giveBack() const;
 
 private:
@@ -17,20 +20,23 @@ private:
     bool m_known;
 };
 
-// Sets UCSICON and UCSFOLLOW to 0, then the UCS into the screen plane; gives the UCS, UCSICON and
-// UCSFOLLOW back on every way out, in that order. A UCS that could not be set is not taken back, or
-// the user would land one step before his own.
+// Works in the plane of the screen: UCSICON and UCSFOLLOW are 0 and the UCS lies in that plane
+// while this object lives.
 class BorrowedFrame
 {
 public:
+    // Sets UCSICON and UCSFOLLOW to 0 and then changes the UCS.
     BorrowedFrame();
+
+    // Restores the UCS, UCSICON and UCSFOLLOW in that order. If the constructor could not change
+    // the UCS, the destructor does not step back either: the user would get the UCS before his own.
     ~BorrowedFrame();
 
 private:
     BorrowedFrame(const BorrowedFrame&);
     BorrowedFrame& operator=(const BorrowedFrame&);
 
-    // The order of these three is the order of borrowing.
+    // The members are constructed in this order, so it is the order of the changes.
     ZeroedVariable m_icon;
     ZeroedVariable m_follow;
     bool m_ucsSet;

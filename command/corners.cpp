@@ -9,8 +9,9 @@
 
 namespace
 {
-// The whole word "Settings" is no match for the one-letter keyword and comes back as it was typed,
-// so its first letter decides. The case counts, for the host gives a matched keyword as listed.
+// Compares only the first letter of the answer: the whole word "Settings" does not match the
+// one-letter keyword, so the host returns it as it was typed. The comparison is case-sensitive,
+// because the host returns a matched keyword as it is listed.
 bool answerIsKeyword(const wchar_t* keyword)
 {
     wchar_t answer[answerCapacity] = L"";
@@ -44,7 +45,7 @@ bool askFirstCorner(GridRun& run, AcGePoint3d& cornerUcs)
     PromptFailures failures;
     for (;;)
     {
-        // The host drops the keywords after each prompt.
+        // The keywords are set for each prompt, because the host drops them after every prompt.
         acedInitGet(RSG_OTHER, run.messages->settingsKeyword);
         const int result =
             acedGetPoint(nullptr, run.messages->firstCornerPrompt, asDblArray(cornerUcs));
@@ -60,7 +61,7 @@ bool askFirstCorner(GridRun& run, AcGePoint3d& cornerUcs)
         {
             answerFirstCornerText(run);
         }
-        // Enter asks again.
+        // The loop asks again after any other answer, for example after Enter.
     }
 }
 

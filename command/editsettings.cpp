@@ -4,7 +4,8 @@
 
 namespace
 {
-// Makes the module's resources current, so that the dialog's template is found.
+// Makes the module's resources current while this object lives, so that the host finds the template
+// of the dialog.
 class ModuleResources
 {
 public:

@@ -3,9 +3,11 @@
 
 #include "command/gridrun.h"
 
-// Lets the user change the settings of the run. True: the user confirmed and the settings hold the
-// new values; false: they are untouched.
+// Opens the dialog in which the user changes the settings of the run.
 //
-// gridWidth and gridHeight: the picked rectangle's sides in drawing units, -1.0 each when it is not
-// picked yet.
+// Returns true when the user confirmed; run.settings then holds the new values. Returns false when
+// the user cancelled and when the host has no document manager; run.settings is then unchanged.
+//
+// gridWidth and gridHeight are the sides of the picked rectangle in drawing units. Both are -1.0
+// while the rectangle is not picked yet.
 bool editSettings(GridRun& run, double gridWidth, double gridHeight);

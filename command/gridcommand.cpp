@@ -28,7 +28,7 @@ CString appearance(const GridSettings& settings, const Messages& messages)
     return text;
 }
 
-// A number that is not set is printed as it is, all 309 digits of it.
+// Prints the settings. A number that is not set is printed with all its 309 digits.
 void printSummary(const GridSettings& settings, const Messages& messages)
 {
     acutPrintf(messages.summary, settings.HorStep, settings.VertStep, settings.Color,

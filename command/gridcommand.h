@@ -3,10 +3,11 @@
 
 #include "hostapi/host.h"
 
-// Asks for a rectangle, shows the grid in it, and keeps it when the user takes it: as one group,
-// with the settings saved. [prints] Cancelling leaves the drawing as it was. Runs in a document's
-// context; the UCS, UCSICON and UCSFOLLOW are the user's own again when it returns.
+// Asks for a rectangle and shows the grid in it [prints]. When the user accepts the grid, the
+// command makes it one group and saves the settings. When the user cancels, the drawing stays as it
+// was. The command runs in the context of a document. When it returns, the UCS, UCSICON and
+// UCSFOLLOW have the user's own values again.
 //
-// module  handle of the module: the dialog's template is among its resources, properties.ini beside
-//         its file
+// module  handle of the module [borrowed]. Its resources hold the template of the dialog, and the
+//         folder of its file holds properties.ini.
 void gridCommand(HINSTANCE module);

@@ -1,10 +1,10 @@
-// What one run of the command carries from prompt to prompt.
+// The state that one run of the command carries from prompt to prompt.
 #pragma once
 
 #include "command/messages.h"
 #include "settings/gridsettings.h"
 
-// The settings start as the defaults.
+// One run of the command. The settings begin with their defaults.
 struct GridRun
 {
     explicit GridRun(HINSTANCE module)
@@ -12,14 +12,14 @@ struct GridRun
     {
     }
 
-    HINSTANCE module;  // holds the template of the dialog
-    CString localeName;
+    HINSTANCE module;          // [borrowed]; its resources hold the template of the dialog
+    CString localeName;        // selects the language (output/language.h)
     const Messages* messages;  // [borrowed] for good
     GridSettings settings;
 };
 
-// Room for an answer: the host fills a caller's buffer whose size it is never told, and its longest
-// answer has 132 characters by the older guides.
+// The size of a buffer for an answer, in characters. The host fills the buffer without being told
+// its size. By the older guides the longest answer has 132 characters.
 enum
 {
     answerCapacity = 512

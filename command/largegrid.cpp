@@ -5,8 +5,8 @@
 bool mayBuildGrid(double gridWidth, double gridHeight, const GridSettings& settings,
                   const CString& localeName)
 {
-    // The height goes with the vertical lines and the width with the horizontal ones, in the words
-    // the users know.
+    // The texts call lines vertical when the vertical step spaces them along the height. The users
+    // know these words, so the words stay.
     const bool vertical = isManyLines(gridHeight, settings.VertStep);
     const bool horizontal = isManyLines(gridWidth, settings.HorStep);
     return (!vertical && !horizontal) || userAllowsManyLines(vertical, horizontal, localeName);

@@ -3,11 +3,11 @@
 
 #include "settings/gridsettings.h"
 
-// Whether the grid may be built: true without a question unless a side of the rectangle is more
-// than 50 steps long, else the user's answer.
+// Returns whether the grid may be built. If a side of the rectangle is more than 50 steps long, the
+// function asks the user in a message box and returns the answer. Otherwise it returns true.
 //
-// Width and height in drawing units, not negative. A step of 0 asks; with a side of 0 as well there
-// is no ratio, and nothing is asked. A step that is not set asks nothing. localeName
-// selects the language (output/language.h).
+// The width and the height are in drawing units and not negative. A step of 0 leads to the
+// question, unless the side is 0 as well, because 0/0 is not a ratio. A step that is not set does
+// not lead to the question. localeName selects the language (output/language.h).
 bool mayBuildGrid(double gridWidth, double gridHeight, const GridSettings& settings,
                   const CString& localeName);

@@ -1,8 +1,9 @@
-// What the command says, in both languages.
+// The texts that the command prints, in both languages.
 #pragma once
 
 #include "hostapi/host.h"
 
+// The texts of one language. A format takes the values named beside it.
 struct Messages
 {
     const wchar_t* firstCornerPrompt;
@@ -16,8 +17,8 @@ struct Messages
     const wchar_t* saveFailed;
 };
 
-// Locale name of the host product, "en-US" when the host has none.
+// Returns the locale name of the host product, or "en-US" when the host has no locale name.
 CString productLocaleName();
 
-// The texts in the language of the locale name (output/language.h). [borrowed] for good.
+// Returns the texts in the language of the locale name (output/language.h), [borrowed] for good.
 const Messages& messagesFor(const CString& localeName);

@@ -25,7 +25,8 @@ AcDbObjectIdArray build(const GridRun& run, const PickedRectangle& rectangle)
     return drawGrid(rectangle.boundaryId, request);
 }
 
-// Only the whole keyword counts here, in its case: any other text rebuilds the grid.
+// Returns which answer the text is. Only the exact keyword counts here, letter case included; any
+// other text rebuilds the grid.
 Answer answerOf(const wchar_t* text, const Messages& messages)
 {
     if (wcscmp(text, messages.applyKeyword) == 0)
@@ -35,7 +36,8 @@ Answer answerOf(const wchar_t* text, const Messages& messages)
     return wcscmp(text, messages.settingsKeyword) == 0 ? answerSettings : answerOther;
 }
 
-// Text that is no keyword comes back as RTNORM or as RTKWORD, by the host's release; both ask anew.
+// Asks whether the grid is accepted. If the user types text that is not a keyword, the host returns
+// RTNORM or RTKWORD, depending on its release; after either result the command asks again.
 Answer askAnswer(const Messages& messages, PromptFailures& failures)
 {
     CString keywords;
@@ -60,7 +62,8 @@ Answer askAnswer(const Messages& messages, PromptFailures& failures)
     }
 }
 
-// One that cannot be erased stays, and the others go all the same.
+// Erases the entities and empties the list. An entity that cannot be erased stays in the drawing
+// and does not keep the others from being erased.
 void eraseEntities(AcDbObjectIdArray& ids)
 {
     for (int i = 0; i < ids.length(); ++i)
@@ -73,8 +76,8 @@ void eraseEntities(AcDbObjectIdArray& ids)
 
 bool offerGrid(GridRun& run, const PickedRectangle& rectangle, AcDbObjectIdArray& gridIds)
 {
-    // A refusal holds for one pass: the next one builds without asking, whatever the steps are
-    // then.
+    // The question about a very dense grid is asked once. A refusal holds for one pass: the next
+    // pass builds the grid without asking, whatever the steps are by then.
     bool asked = false;
     PromptFailures failures;
     for (;;)

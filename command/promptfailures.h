@@ -1,14 +1,16 @@
-// Prompts that the host fails to ask.
+// Counts prompts that the host fails to ask.
 #pragma once
 
-// Counts results in a row with which no person has to do: no value, no text, neither Enter nor Esc.
-// A host that fails for good would be asked for ever, and the grid built anew each time.
+// Counts consecutive results that no person caused: the result is not a value, a text, Enter or
+// Esc. Without this limit the command would ask a host that fails for good for ever, and would
+// build the grid again each time.
 class PromptFailures
 {
 public:
     PromptFailures() : m_inARow(0) {}
 
-    // Notes the result of a prompt. True: the sixteenth failure in a row, to be taken for a cancel.
+    // Notes the result of a prompt, an RT code of the host. Returns true from the sixteenth
+    // consecutive failure on; the caller then acts as after a cancel.
     bool areTooMany(int result);
 
 private:
