@@ -27,8 +27,8 @@ double pointTolerance(const GridRequest& request)
     return atLeastRounding(AcGeContext::gTol.equalPoint(), largest);
 }
 
-// Keeps one reader on the outline for good, so that the command cannot take the outline back: the
-// draughtsman sees by the frame left behind that the grid has failed.
+// Opens the outline for read and never closes it, so that the command cannot erase it. The frame
+// that stays in the drawing shows the draughtsman that the grid has failed.
 void leaveOpen(AcDbObjectId boundaryId)
 {
     AcDbEntity* leftOpen = nullptr;
@@ -48,7 +48,8 @@ AcDbObjectIdArray drawGrid(AcDbObjectId boundaryId, const GridRequest& request)
     GridRequest measurable = request;
     if (!isMeasurable(request.options.heightText))
     {
-        measurable.options.needText = 0;  // the drawing could not be saved again
+        // A text of such a height would keep the drawing from being saved.
+        measurable.options.needText = 0;
     }
     const BorrowedTolerance tolerance(pointTolerance(request));
     if (request.options.WCSBasePoint == 0)

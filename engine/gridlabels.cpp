@@ -14,9 +14,9 @@ WantedEdges wantedEdges(const GridSettings& options, int axis)
     return axis == 0 ? ofX : ofY;
 }
 
-// The supporting line runs from end to end of the grid. A piece that was clipped gives its
-// direction to a few units of the last place over its own length; a thousand lengths away, at
-// survey coordinates, each piece of one line would end at a point of its own.
+// The supporting line runs from end to end of the grid. A clipped piece would not do: its length
+// gives the direction only to a few units of the last place. A thousand lengths away, at survey
+// coordinates, each piece of one line would then meet the outline at a different point.
 AcGePoint3dArray labelPoints(const GridRequest& request, const std::vector<double>& positions,
                              int axis, const PieceClipper& clipper)
 {

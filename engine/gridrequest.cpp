@@ -13,7 +13,8 @@ void addMade(AcDbObjectIdArray& made, AcDbObjectId id)
     {
         return;
     }
-    // The host grows its arrays by a few entries; a million of them would be copied all day.
+    // The host grows its arrays by a few entries at a time, so appending a million ids would copy
+    // the array again and again.
     if (made.length() == made.physicalLength())
     {
         made.setPhysicalLength(made.length() * 2 + 8);

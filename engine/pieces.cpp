@@ -28,8 +28,9 @@ bool PieceClipper::intersectOutline(const Piece& piece, AcDb::Intersect mode,
     return line.intersectWith(&m_boundary, mode, points) == Acad::eOk;
 }
 
-// In the UCS grid the node is not asked: a cross with only its centre inside is dropped there,
-// unlike in the world grid. Both are kept: a grid drawn again must match the filed sheet.
+// The UCS grid does not test the node, so it drops a cross if only the centre of it is inside. The
+// world grid draws that cross. A compatibility rule keeps both behaviours: a grid drawn again must
+// match the filed sheet.
 bool PieceClipper::clip(Piece& piece, const AcGePoint3d& node) const
 {
     const bool startIsInside = isInside(piece.start);
@@ -51,8 +52,8 @@ bool PieceClipper::clip(Piece& piece, const AcGePoint3d& node) const
     {
         return true;
     }
-    // The host gives the far end first; with only the node inside they bound the piece from both
-    // sides.
+    // The host returns the far end first. If only the node is inside, the first and the last point
+    // bound the piece on both sides.
     const AcGePoint3d first = isInUcs ? toUcs(points.first()) : points.first();
     (startIsInside ? piece.end : piece.start) = first;
     if (!startIsInside && !endIsInside)
@@ -64,7 +65,7 @@ bool PieceClipper::clip(Piece& piece, const AcGePoint3d& node) const
 
 namespace
 {
-// From a node to the end of its piece along X, or else along Y.
+// Returns the vector from a node to the end of its piece, which runs along X or along Y.
 AcGeVector3d halfPiece(const GridSettings& options, bool alongX)
 {
     const double step = alongX ? options.HorStep : options.VertStep;
@@ -91,7 +92,7 @@ GridLines drawPieces(const GridRequest& request, const GridLines& lines,
                      const PieceClipper& clipper, AcDbObjectIdArray& made)
 {
     GridLines drawn;
-    // A cross of no size that can be measured would end at no point that can be drawn.
+    // The size of the cross is not a usable number, so its pieces would have no usable ends.
     if (request.options.LookType != 0 && !isMeasurable(request.options.crossSize))
     {
         return drawn;

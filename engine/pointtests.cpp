@@ -39,7 +39,8 @@ int pointInQuad(const AcGePoint3d& P, const AcGePoint3d& Q0, const AcGePoint3d& 
     {
         return 0;
     }
-    // The angle-sum test: only from within do the corners make up a full turn.
+    // The angle-sum test: the angles between the corners add up to a full turn only when they are
+    // seen from a point inside.
     return std::fabs(angleSum - twoPi) <= 1e-6 ? 1 : -1;
 }
 

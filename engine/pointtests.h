@@ -1,36 +1,42 @@
-// Where a point lies.
+// Tests where a point lies.
 //
-// Tolerances are the host's own (AcGeContext::gTol), as they stand at the call: at survey
-// coordinates the caller raises equalPoint to their rounding (output/tolerance.h).
+// The tolerances are the values of the host's AcGeContext::gTol at the time of the call. At survey
+// coordinates the caller raises equalPoint to the rounding of the coordinates (output/tolerance.h).
 #pragma once
 
 #include "hostapi/host.h"
 
-// The largest of the tolerances that decide in the tests below, in drawing units.
+// Returns the largest of the tolerances that the tests below use, in drawing units.
 double largestPointTolerance();
 
-// Tells where P lies with respect to the outline Q0-Q1-Q2-Q3.
+// Tells where P lies relative to the outline Q0-Q1-Q2-Q3.
 //
-// All points in one system, drawing units, corners in order, either turn.
-// Returns 1 inside, 0 on an edge, -1 outside, 2 at a corner; -1 too for what cannot be measured.
+// All points are in the same system, in drawing units. The corners are in order, clockwise or
+// counter-clockwise.
+// Returns 1 inside, 0 on an edge, -1 outside and 2 at a corner. The result is also -1 when the
+// distances cannot be measured.
 //
-// On the outline is not inside: a piece that only touches the frame is not drawn.
+// A point on the outline does not count as inside, because a piece that only touches the frame is
+// not drawn.
 int pointInQuad(const AcGePoint3d& P, const AcGePoint3d& Q0, const AcGePoint3d& Q1,
                 const AcGePoint3d& Q2, const AcGePoint3d& Q3);
 
-// The same for an outline given by the points of its entity; -99 for fewer than four.
+// Does the same as pointInQuad for an outline that is given by the points of its entity. Returns
+// -99 for fewer than four points.
 //
-// Only the first four count: an outline is the quadrilateral of its first corners. The command
-// draws no other, and grids in longer outlines have always been cut so.
+// Only the first four points count: they are the corners of the outline. The command draws only
+// quadrilaterals. A compatibility rule covers longer outlines: a grid drawn again must match the
+// filed sheet, and filed grids are cut this way.
 int pointInOutlinePoints(const AcGePoint3d& P, const AcGePoint3dArray& points);
 
-// Area within a closed curve, for many questions about the same curve.
+// The area within a closed curve. It prepares the curve once, for many tests of points.
 class CurveArea
 {
 public:
-    explicit CurveArea(const AcDbCurve& curve);  // [borrowed], open for read while this lives
+    // The curve is [borrowed] and open for read while this object lives.
+    explicit CurveArea(const AcDbCurve& curve);
 
-    // As pointInCurve.
+    // Returns what pointInCurve returns for the curve.
     int locate(const AcGePoint3d& P) const;
 
 private:
@@ -42,9 +48,13 @@ private:
     AcDbMPolygon m_polygon;
 };
 
-// Tells where P lies with respect to a closed curve that is open for read, both in one system.
-// Returns 1 inside, 0 on the curve, -1 outside, -99 off a curve that is no 2D polyline.
+// Tells where P lies relative to a closed curve that is open for read. Both are in the same system,
+// in drawing units.
+// Returns 1 inside, 0 on the curve and -1 outside. For a curve other than a 2D polyline the result
+// is 0 on the curve and -99 elsewhere.
 int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve);
 
-// Whether a point of the list lies closer to P than 1e-6. A linear scan; lists are short.
+// Returns whether a point of the list lies closer to P than 1e-6 drawing units. At survey
+// coordinates the distance is the rounding of the coordinates if that is coarser. The function
+// searches the list from its beginning, because lists are short.
 bool containsPoint(const AcGePoint3dArray& list, const AcGePoint3d& P);

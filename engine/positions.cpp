@@ -50,7 +50,8 @@ GridLines gridLines(const GridRequest& request)
         const int left = maxNodes / static_cast<int>(lines.x.size());
         lines.y = linePositions(low.y, high.y, options.basePoint.y, options.VertStep, left);
     }
-    // Millions of lines without one across would fill the memory for no node.
+    // Without lines across there are no nodes, and millions of positions would only fill the
+    // memory.
     if (lines.y.empty())
     {
         lines.x.clear();

@@ -1,26 +1,27 @@
-// A conservative filter for the point tests.
+// A conservative filter for the point tests: it answers the clear cases quickly.
 #pragma once
 
 #include "hostapi/host.h"
 
-// The rectangle of an outline with a guard band along its edges. The point tests take their time
-// over points near the edges, where tolerances and angles decide; nearly all points of a grid lie
-// elsewhere, and four distances tell where.
+// The rectangle of an outline with a guard band along its edges. The point tests are slow, because
+// near the edges tolerances and angles decide. Nearly all points of a grid lie far from the edges,
+// and four distances are enough to tell where they lie.
 class RectangleFilter
 {
 public:
-    // corners    in order, either turn, all in one system, drawing units. The filter decides
-    //            nothing unless they make a rectangle at the elevation.
-    // elevation  z of the corners and of every point asked for
+    // corners    the corners in order, clockwise or counter-clockwise, all in the same system, in
+    //            drawing units. If they are not a rectangle at the elevation, the filter decides
+    //            nothing.
+    // elevation  z of the corners and of every tested point
     //
-    // The guard band is four times as wide as the largest tolerance of the point tests, as the
-    // host's tolerances stand: no rounding reaches over it. It is at least a millionth of the
-    // outline's size: seen from there the corners lack 8e-6 of the full turn, and the angle-sum
-    // test notices 1e-6.
+    // The guard band is four times as wide as the largest current tolerance of the point tests, so
+    // rounding cannot reach across it. It is at least a millionth of the outline's size wide. Seen
+    // from that distance, the angles between the corners differ from the full turn by 8e-6, and the
+    // angle-sum test notices a difference of 1e-6.
     RectangleFilter(const AcGePoint3d (&corners)[4], double elevation);
 
-    // Returns 1 inside, -1 outside, 0 where the point test has to decide: in the guard band, and
-    // everywhere when the corners make no rectangle.
+    // Returns 1 inside, -1 outside and 0 where the point test has to decide. The point test has to
+    // decide in the guard band, and everywhere if the corners are not a rectangle.
     int locate(const AcGePoint3d& P) const;
 
 private:

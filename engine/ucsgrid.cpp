@@ -8,12 +8,12 @@
 
 namespace
 {
-// Tests points against a rectangle whose coordinates are [ucs], clips with the boundary, which is
-// [wcs].
+// Tests points against a rectangle whose coordinates are [ucs]. It clips with the boundary, which
+// is [wcs].
 class UcsClipper : public PieceClipper
 {
 public:
-    // rectangle  [borrowed], open for read while this lives, with these corners
+    // rectangle  [borrowed], open for read while this object lives; its corners are `corners`
     UcsClipper(const AcDbEntity& boundary, const AcDbCurve& rectangle,
                const AcGePoint3d (&corners)[4])
         : PieceClipper(boundary, true, corners, 0), m_area(rectangle)
@@ -34,13 +34,14 @@ void convertPoints(GridRequest& request)
     sortCorners(request.corner1, request.corner2);
 }
 
-// Vertical lines end at the top and the bottom edge, horizontal ones at the left and the right. So
-// left and right for X, top and bottom for Y are not asked, and neither is the view twist.
+// Draws the labels of one axis. Vertical lines end at the top and the bottom edge, horizontal lines
+// at the left and the right edge. The function therefore ignores left and right for X, top and
+// bottom for Y, and the view twist.
 void addLabels(const GridRequest& request, int axis, const AcGePoint3dArray& pairs,
                AcDbObjectIdArray& made)
 {
     const WantedEdges wanted = wantedEdges(request.options, axis);
-    // The host gives the far end of a line first: the upper or the right one.
+    // The host returns the far end of a line first, which is the upper or the right end.
     const bool isWanted[] = {axis == 0 ? wanted.top : wanted.right,
                              axis == 0 ? wanted.bottom : wanted.left};
     for (int i = 0; i < pairs.length(); ++i)
@@ -48,8 +49,8 @@ void addLabels(const GridRequest& request, int axis, const AcGePoint3dArray& pai
         if (isWanted[i % 2])
         {
             const LabelPlace place = labelPlace(pairs, i, i % 2 != 0);
-            // Not brought to exactly 0 near the base, unlike in the world grid: labels here show
-            // what was computed, and filed drawings may say "-0".
+            // Near the base the value is not set to exactly 0, unlike in the world grid. The labels
+            // show the computed value, and filed drawings may say "-0".
             const double value = place.anchor[axis] - request.options.basePoint[axis];
             addLabel(request, axis, value, place, made);
         }

@@ -1,13 +1,16 @@
-// Grid along the axes of the current UCS.
+// The grid along the axes of the current UCS.
 #pragma once
 
 #include "hostapi/host.h"
 #include "engine/gridrequest.h"
 
-// Draws the grid within the boundary: lines through the base point, parallel to the UCS axes.
+// Draws the grid within the boundary and appends the ids of its entities to made. The lines are
+// parallel to the UCS axes, and the steps count from the base point.
 //
-// request   points [wcs]; a copy, which the steps change
+// request   its points are [wcs]; the function changes its own copy
 // boundary  [borrowed], open for read, the rectangle between the corners in the plane of the UCS
-// False when the host refuses the auxiliary rectangle that points are tested against; nothing is
-// drawn then. The rectangle is invisible and never stays in the drawing.
+//
+// Points are tested against an auxiliary rectangle, which is invisible and never stays in the
+// drawing. Returns true when the grid is drawn. Returns false when the host refuses the auxiliary
+// rectangle; then nothing is drawn.
 bool drawUcsGrid(GridRequest request, const AcDbEntity& boundary, AcDbObjectIdArray& made);

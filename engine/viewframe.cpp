@@ -2,7 +2,8 @@
 
 namespace
 {
-// A variable that cannot be read leaves zeros; the frame is then built from them.
+// Returns the value of the variable. If the variable cannot be read, the result holds zeros, and
+// the frame is built from them.
 resbuf readVariable(const ACHAR* name)
 {
     resbuf variable = resbuf();
@@ -10,7 +11,8 @@ resbuf readVariable(const ACHAR* name)
     return variable;
 }
 
-// The variable holds UCS coordinates and any length.
+// Returns the unit vector [wcs] towards the viewer. The variable holds a vector of any length in
+// UCS coordinates.
 AcGeVector3d viewDirection()
 {
     AcGePoint3d direction = asPnt3d(readVariable(L"VIEWDIR").resval.rpoint);

@@ -1,11 +1,12 @@
-// The frame that the command works in.
+// The coordinate system in which the command works.
 #pragma once
 
 #include "hostapi/host.h"
 
-// Lays the UCS into the plane of the screen: X along the screen's horizontal, Z towards the viewer,
-// the origin where it was. Whoever calls it brings the former UCS back (acedRestorePreviousUCS).
+// Sets the UCS into the plane of the screen: X along the screen's horizontal, Z towards the viewer.
+// The origin stays where it was. The caller restores the former UCS with acedRestorePreviousUCS.
 //
-// Gives the host's answer to the change; on any status but eOk the UCS is the former one and there
-// is nothing to go back to. UCSFOLLOW must be 0, or the host swings the view to plan.
+// Returns the host's status of the change. After any status except eOk the UCS is unchanged, and
+// the caller must not restore anything. UCSFOLLOW must be 0; otherwise the host swings the view to
+// plan.
 Acad::ErrorStatus setViewFrameUcs();

@@ -14,12 +14,14 @@
 
 namespace
 {
-// Takes the outline for the quadrilateral of its first four points.
+// Treats the outline as the quadrilateral of its first four points.
 class WorldClipper : public PieceClipper
 {
 public:
-    // tolerance  of the point test: the outline may reach beyond the picked corners, to coarser
-    //            coordinates
+    // outline    [borrowed] while this object lives
+    // tolerance  the tolerance of the point test, in drawing units. It is a parameter, because the
+    //            outline may reach beyond the picked corners, to coordinates with a coarser
+    //            rounding.
     WorldClipper(const AcDbEntity& boundary, const AcGePoint3dArray& outline,
                  const AcGePoint3d (&corners)[4], double elevation, double tolerance)
         : PieceClipper(boundary, false, corners, elevation),
@@ -56,7 +58,7 @@ void addTiltedText(const GridRequest& request, AcDbObjectIdArray& made)
                                ACDB_MODEL_SPACE));
 }
 
-// corner1 takes the smallest, corner2 the largest x and y of both corners and the outline.
+// Sets corner1 to the smallest and corner2 to the largest x and y of both corners and the outline.
 void widenTo(const AcGePoint3dArray& outline, AcGePoint3d& corner1, AcGePoint3d& corner2)
 {
     sortCorners(corner1, corner2);

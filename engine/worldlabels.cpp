@@ -43,8 +43,10 @@ bool isOnWantedEdge(const AcGePoint3d& point, const FrameEdges& edges, const Wan
            (wanted.right && edges.right.distanceTo(point) <= tolerance);
 }
 
-// In a view turned by a quarter both ends of a line are as high and rounding alone would tell them
-// apart, for each line anew. Such pairs stay as the host gave them, all of a sheet the same way.
+// Sorts the two points of each pair along the axis of the UCS. In a view that is turned by a
+// quarter both ends of a line are equally high, and rounding alone would decide, differently for
+// each line. Such pairs keep the order of the host, so that all lines of a sheet are treated in the
+// same way.
 void orderPairs(AcGePoint3dArray& pairs, int axis)
 {
     const double tolerance = AcGeContext::gTol.equalPoint();
@@ -57,8 +59,10 @@ void orderPairs(AcGePoint3dArray& pairs, int axis)
     }
 }
 
-// Strictly between quarter turns of twelve decimals, which are a little longer than whole ones: a
-// view that is turned by just 90 or 270 degrees is twisted, one turned by 0 or 180 is not.
+// Returns whether the view twist lies in the first or the third quarter. The comparison excludes
+// the bounds, but they are multiples of labelPi and a little larger than the exact angles. A view
+// turned by exactly 90 or 270 degrees therefore counts as twisted; a view turned by 0 or 180 does
+// not.
 bool isViewTwisted()
 {
     resbuf variable = resbuf();
@@ -75,7 +79,8 @@ LabelPlace turnedOver(LabelPlace place)
     return place;
 }
 
-// Exactly 0 for the line through the base point, or rounding would print it with a minus sign.
+// Returns the distance from the base. The result is exactly 0 for the line through the base point;
+// otherwise rounding could print it with a minus sign.
 double offsetFromBase(double coordinate, double base)
 {
     const double offset = coordinate - base;
