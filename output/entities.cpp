@@ -41,7 +41,8 @@ AcDbObjectId showEntity(AcDbEntity* entity, const ACHAR* blockName)
         return AcDbObjectId::kNull;
     }
     entity->draw();
-    // The append has closed it already: the host answers so and changes nothing.
+    // appendToBlock has closed the entity already, so the host refuses this close and changes
+    // nothing.
     entity->close();
     return id;
 }
@@ -53,8 +54,8 @@ Acad::ErrorStatus eraseEntity(AcDbObjectId id)
     {
         return Acad::eCannotBeErasedByCaller;
     }
-    // What the host refuses to change or to erase stays open, and is kept so: an entity that the
-    // draughtsman has locked meanwhile is then out of reach for the rest of the command.
+    // An entity that the host refuses to change or to erase deliberately stays open. If the
+    // draughtsman has locked it meanwhile, the rest of the command cannot reach it.
     Acad::ErrorStatus status = entity->upgradeOpen();
     if (status != Acad::eOk)
     {

@@ -13,7 +13,8 @@ AcDbDictionary* openGroups()
     return groups;
 }
 
-// The meter moves about twenty times, whatever the size of the group.
+// Appends the entities and moves the meter after every twentieth of them, or after each entity of a
+// small group, so that a large group does not spend its time on the meter.
 void appendWithMeter(AcDbGroup* group, const AcDbObjectIdArray& ids)
 {
     acedSetStatusBarProgressMeter(L"Progress: ", 0, ids.length());
@@ -32,7 +33,7 @@ void appendWithMeter(AcDbGroup* group, const AcDbObjectIdArray& ids)
 
 AcDbObjectId makeGroup(const AcDbObjectIdArray& ids, const ACHAR* name)
 {
-    // A group that finds no dictionary is let go like a refused entity, see appendToBlock.
+    // Without a dictionary the group is not deleted, for the reason given with appendToBlock.
     AcDbGroup* group = new AcDbGroup(name, true);
     AcDbDictionary* groups = openGroups();
     if (groups == nullptr)

@@ -29,8 +29,9 @@ Acad::ErrorStatus currentTextStyleName(CString& name)
 
 namespace
 {
-// A style that is not there leaves the text its own style, slant 0 and width 1. The fixed height
-// of a style is not taken: the height of labels is an option of its own.
+// Gives the text a style with its slant and width. If the style is missing, the text keeps the
+// style of new texts, slant 0 and width 1. The fixed height of a style is ignored, because the user
+// sets the height of labels with a separate option.
 void setStyle(AcDbText* text, const ACHAR* styleName)
 {
     AcDbSymbolTablePointer<AcDbTextStyleTable> styles(
@@ -49,7 +50,8 @@ void setStyle(AcDbText* text, const ACHAR* styleName)
     }
 }
 
-// Modes before points: the host takes no alignment point while the text still sits on its baseline.
+// Anchors the text at the position. The modes are set before the points, because the host refuses
+// an alignment point while the text still sits on its baseline.
 void anchor(AcDbText* text, const AcGePoint3d& position, AcDb::TextHorzMode horizontal,
             AcDb::TextVertMode vertical)
 {

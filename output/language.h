@@ -1,8 +1,8 @@
-// The two languages that the user reads: Russian and English.
+// Selects one of the two languages of the texts: Russian or English.
 #pragma once
 
 #include "hostapi/host.h"
 
-// Returns whether a locale name selects Russian: "ru-RU" in any letter case does, any other name
-// selects English.
+// Returns whether a locale name selects Russian. "ru-RU" in any letter case selects Russian; any
+// other name selects English.
 bool isRussian(const CString& localeName);

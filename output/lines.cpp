@@ -18,7 +18,8 @@ void setLook(AcDbEntity* entity, Adesk::UInt16 color, const ACHAR* layerName,
     {
         entity->setLayer(layerName, true, false);
     }
-    // Never the current linetype: a dashed grid could not be told from dashed contours.
+    // The current linetype is never used, because a dashed grid could not be told from dashed
+    // contours.
     entity->setLinetype(linetypeExists(linetypeName) ? linetypeName : L"Continuous", true);
 }
 

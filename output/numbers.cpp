@@ -28,8 +28,8 @@ CString formatInt(int value)
 
 namespace
 {
-// The conversion has room for one digit, so 10 decimals are 1 and 25 are 2. Settings files that
-// say so are around and their labels must not change.
+// Returns the first digit of the number of decimals, so 10 gives 1 and 25 gives 2. A compatibility
+// rule keeps this: settings files in use hold such numbers, and their labels must not change.
 wchar_t decimalsDigit(int decimals)
 {
     CString digits;

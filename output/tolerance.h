@@ -1,9 +1,10 @@
 // Tolerances that hold at survey coordinates.
 //
-// Doubles near 10^7 lie 2e-9 apart, so there a fixed 1e-10 asks for more than a coordinate can say:
-// a point computed twice is two points. Where a tolerance is finer than the rounding of the
-// coordinates in hand, that rounding takes its place. Below about 28 000 units nothing changes.
-// Inline, as it is asked for every end of every piece.
+// Doubles near 10^7 lie 2e-9 apart. A fixed tolerance of 1e-10 is finer than such coordinates can
+// express: the same point computed twice would be two points. Where a tolerance is finer than the
+// rounding of the coordinates, the rounding replaces it. Below about 28 000 units nothing changes.
+//
+// The functions are inline, because they are called for every end of every piece.
 #pragma once
 
 #include <algorithm>
@@ -12,18 +13,21 @@
 
 #include "hostapi/host.h"
 
-// Whether distances can be taken with it: no NaN, not infinite, and its square does not overflow.
+// Returns whether distances can be computed with the coordinate: it is neither NaN nor infinite,
+// and its square does not overflow.
 inline bool isMeasurable(double coordinate)
 {
     return std::fabs(coordinate) <= 1e150;
 }
 
+// Returns whether all three coordinates of the point are measurable.
 inline bool isMeasurable(const AcGePoint3d& point)
 {
     return isMeasurable(point.x) && isMeasurable(point.y) && isMeasurable(point.z);
 }
 
-// Largest absolute coordinate of the point; those that are not measurable do not count.
+// Returns the largest absolute value of the point's coordinates, in drawing units. Coordinates that
+// are not measurable do not count.
 inline double largestCoordinate(const AcGePoint3d& point)
 {
     const double x = isMeasurable(point.x) ? std::fabs(point.x) : 0;
@@ -32,21 +36,26 @@ inline double largestCoordinate(const AcGePoint3d& point)
     return (std::max)((std::max)(x, y), z);
 }
 
-// The tolerance, or the rounding of coordinates of that size where it is coarser.
+// Returns the larger of the tolerance and the rounding of coordinates of the given size, in drawing
+// units.
 inline double atLeastRounding(double tolerance, double largestCoordinate)
 {
-    // Measured in 12 000 plain, turned and tilted frames at coordinates up to 1e7: the ends of
-    // lines lay up to 2.1 of these units off the edge that they were cut at, and a point taken to
-    // a tilted frame and back up to 9.6 off itself. 16 leaves room and is still 4e-8 at 1e7.
+    // The number rests on measurements in 12 000 plain, turned and tilted frames at coordinates up
+    // to 1e7. The ends of lines lay up to 2.1 of these units off the edge at which they were cut. A
+    // point that was converted to a tilted frame and back moved by up to 9.6 units. 16 leaves room
+    // and is still only 4e-8 at 1e7.
     const double units = 16;
     return (std::max)(tolerance, units * DBL_EPSILON * largestCoordinate);
 }
 
-// Sets the host's global equalPoint and gives the former one back on every way out.
+// Replaces the host's global equalPoint while this object lives.
 class BorrowedTolerance
 {
 public:
+    // Sets equalPoint, in drawing units.
     explicit BorrowedTolerance(double equalPoint);
+
+    // Restores the former equalPoint.
     ~BorrowedTolerance();
 
 private:
