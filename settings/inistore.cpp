@@ -19,9 +19,9 @@ CString strippedName(const CString& name)
     return stripped(name, L" \t");
 }
 
-// The value keeps its leading blanks: "HorStep= 10" has always read as not set. A line without "="
-// is a key named and valued by itself, so that a remark behind "#" in another section than ours is
-// still there after a save.
+// Adds the key of a line to the section. A compatibility rule keeps the leading blanks of the
+// value: "HorStep= 10" reads as not set. A line without "=" becomes a key whose name and value are
+// the line, so that a remark behind "#" in another section survives a save.
 void readKey(const CString& line, IniSection& section)
 {
     const int equals = line.Find(L'=');
@@ -33,8 +33,9 @@ void readKey(const CString& line, IniSection& section)
     getOrCreateKey(section, name) = equals < 0 ? line : line.Mid(equals + 1);
 }
 
-// Runtimes differ on what fwprintf does at a character that the code page lacks; some drop the rest
-// of the line, its line feed included, and so the key after it.
+// Returns the line with "?" for each character that the code page lacks. Runtimes differ on what
+// fwprintf does at such a character: some drop the rest of the line with its line feed, and with
+// them the next key.
 CString inCodePage(CString line)
 {
     char bytes[MB_LEN_MAX];
@@ -48,7 +49,7 @@ CString inCodePage(CString line)
     return line;
 }
 
-// A text file that is closed on every way out.
+// A text file. The destructor closes it on every way out.
 class TextFile
 {
 public:
@@ -57,7 +58,8 @@ public:
 
     bool isOpen() const { return m_file != nullptr; }
     FILE* get() const { return m_file; }
-    // False when the runtime could not write what it had kept back.
+    // Closes the file if it is open. Returns false when the runtime cannot write what it has
+    // buffered.
     bool close()
     {
         FILE* const file = m_file;
@@ -93,8 +95,9 @@ void IniStore::clear()
     m_sections.clear();
 }
 
-// Read as UTF-8 although written in the narrow code page: files written by hand are UTF-8, and only
-// ASCII has to survive both ways. A last line without its line feed is ignored, as it always was.
+// The file is read as UTF-8, although it is written in the narrow code page: files written by hand
+// are UTF-8, and only ASCII has to survive both ways. A compatibility rule ignores a last line
+// without a line feed.
 bool IniStore::readFile(const CString& path)
 {
     clear();
@@ -148,7 +151,7 @@ bool IniStore::writeFile(const CString& path) const
     {
         written = writeSection(file.get(), section->first, section->second);
     }
-    // The runtime keeps lines back until the file is closed: a full disk shows only then.
+    // The runtime buffers lines until the file is closed, so a full disk may show only then.
     return file.close() && written;
 }
 

@@ -1,4 +1,4 @@
-// Sections of keys and their texts, and the file they are kept in.
+// Keeps sections of keys with their texts, and reads and writes the file that holds them.
 #pragma once
 
 #include <cwchar>
@@ -6,7 +6,8 @@
 
 #include "hostapi/host.h"
 
-// Order of names: letters count as lower case, by the runtime's _wcsicmp.
+// Orders names without regard to letter case: letters count as lower case, by the runtime's
+// _wcsicmp.
 struct NameBefore
 {
     bool operator()(const CString& left, const CString& right) const
@@ -15,42 +16,56 @@ struct NameBefore
     }
 };
 
-// Values by key name.
+// The values of one section by the names of their keys.
 typedef std::map<CString, CString, NameBefore> IniSection;
 
-// Names are stripped of blanks and tabs at both ends before use and found whatever their case; the
-// spelling first met stays. Values stand as given.
+// The sections of one file. Blanks and tabs at both ends of a name are removed before use. Letter
+// case does not matter when a name is looked up, and the first spelling stays. Values are kept as
+// they are given.
 class IniStore
 {
 public:
+    // Removes all sections.
     void clear();
 
-    // Replaces the contents. False: the file could not be opened, and the store is empty.
+    // Replaces the contents by those of the file. Returns false when the file cannot be opened; the
+    // store is then empty.
     bool readFile(const CString& path);
 
-    // False: the file could not be opened for writing or not be written whole (a full disk).
-    // A character that the narrow code page cannot hold goes out as "?".
+    // Writes all sections to the file. A character that the narrow code page cannot hold is written
+    // as "?". Returns false when the file cannot be opened for writing or is not written
+    // completely, for example on a full disk.
     bool writeFile(const CString& path) const;
 
-    // Null if there is none. [borrowed] until the section is removed.
+    // Returns the section, or null if it does not exist. The section is [borrowed] until it is
+    // removed.
     const IniSection* findSection(const CString& name) const;
+
+    // Returns the section and creates it if it does not exist. The section is [borrowed] until it
+    // is removed.
     IniSection& getOrCreateSection(const CString& name);
+
+    // Removes the section with its keys. A name that is not found has no effect.
     void removeSection(const CString& name);
 
-    // "0" when the section or the key is missing.
+    // Returns the value of the key, or "0" when the section or the key is missing.
     CString getValue(const CString& section, const CString& key) const;
 
-    // Makes the section and the key when missing.
+    // Sets the value of the key and creates the section and the key if they are missing.
     void setValue(const CString& section, const CString& key, const CString& text);
 
 private:
+    // Adds one line of the file to the current section, which is null before the first section.
+    // Returns the section of the next line.
     IniSection* readLine(const CString& line, IniSection* current);
 
     std::map<CString, IniSection, NameBefore> m_sections;
 };
 
-// Value of the key, null if there is none. [borrowed] until the key is removed.
+// Returns the value of the key, or null if the key does not exist. The value is [borrowed] until
+// the key is removed.
 const CString* findKey(const IniSection& section, const CString& name);
 
-// Value of the key, to be read or replaced; empty for a new key.
+// Returns the value of the key, which the caller may replace. A missing key is created with an
+// empty value. The value is [borrowed] until the key is removed.
 CString& getOrCreateKey(IniSection& section, const CString& name);

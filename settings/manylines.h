@@ -1,13 +1,13 @@
-// The question whether a grid of very many lines is meant.
+// The question whether the user wants a grid of very many lines.
 #pragma once
 
 #include "hostapi/host.h"
 
-// More than fifty steps along a side of the rectangle, both in drawing units. An infinite ratio is
-// many, one that is no number is not.
+// Returns whether a side of the rectangle is more than fifty steps long. Both are in drawing units.
+// The result is true for an infinite ratio and false for a ratio that is NaN.
 bool isManyLines(double gridSize, double step);
 
-// Asks Yes or No about one direction or both [prints]; true for Yes. "Vertical" lines are those
-// that the vertical step spaces along the height, in the words the users know.
+// Asks Yes or No about one direction or both in a message box. Returns true for Yes. In the words
+// that the users know, "vertical" lines are those that the vertical step spaces along the height.
 // localeName selects the language (output/language.h).
 bool userAllowsManyLines(bool vertical, bool horizontal, const CString& localeName);

@@ -1,7 +1,8 @@
-// The options that the settings file keeps, each described once. The record takes its defaults from
-// this table, the file its keys, the dialog its controls.
+// Describes each option of the settings file once. The record takes its defaults from these tables,
+// the file takes its keys, and the dialog takes its controls.
 //
-// A new option is a member of GridSettings, a row here and a control in the dialog's template.
+// A new option needs a member of GridSettings, a row in options.cpp and a control in the template
+// of the dialog.
 #pragma once
 
 #include "settings/gridsettings.h"
@@ -9,20 +10,21 @@
 // How a control of the dialog shows an option.
 enum ControlKind
 {
-    editControl,   // as text
-    checkedAtOne,  // a check box or the second of two radio buttons, on for 1 and for nothing else
-    checkedNotZero,  // the same, on for everything but 0
-    listControl      // in a way of its own, which the dialog knows
+    editControl,     // an edit that shows text
+    checkedAtOne,    // a check box or the second of two radio buttons, checked only for 1
+    checkedNotZero,  // the same control, checked for every value except 0
+    listControl      // a list; the dialog has separate code for each list
 };
 
-// Standard is the type in which the table holds a default.
+// One option. Value is the type of its member, Standard the type in which the table holds the
+// default.
 template <class Value, class Standard>
 struct Option
 {
-    const wchar_t* key;           // in the settings file
-    Value GridSettings::*member;  // lengths in drawing units
+    const wchar_t* key;           // the key in the settings file
+    Value GridSettings::*member;  // lengths are in drawing units
     Standard standard;            // the default
-    int control;                  // in the dialog
+    int control;                  // the id of the control in the dialog
     ControlKind kind;
     bool isOfLabels;  // the control is enabled only while labels are wanted
 };
@@ -31,6 +33,7 @@ typedef Option<int, int> IntOption;
 typedef Option<double, double> RealOption;
 typedef Option<CString, const wchar_t*> TextOption;
 
+// The rows of one table [borrowed].
 template <class Row>
 struct Rows
 {
@@ -38,11 +41,13 @@ struct Rows
     const Row* end;
 };
 
-// [borrowed] for good.
+// These functions return the rows of the options with whole numbers, real numbers and texts. The
+// rows are [borrowed] for good.
 Rows<IntOption> intOptions();
 Rows<RealOption> realOptions();
 Rows<TextOption> textOptions();
 
+// Calls action(row) for each row.
 template <class Row, class Action>
 void forEachRow(const Rows<Row>& rows, const Action& action)
 {
@@ -52,7 +57,7 @@ void forEachRow(const Rows<Row>& rows, const Action& action)
     }
 }
 
-// Calls action(row) for the row of every option; the type of the row is that of its table.
+// Calls action(row) for the row of every option. The type of a row depends on its table.
 template <class Action>
 void forEachOption(const Action& action)
 {

@@ -5,8 +5,8 @@ RestingDialog::RestingDialog(CWnd& dialog) : m_dialog(dialog), m_focus(GetFocus(
     m_dialog.EnableWindow(FALSE);
 }
 
-// Windows has looked for another window to work in when the box went, and while the dialog and the
-// main window were both disabled it may have found only another program's.
+// When the box closes, Windows looks for another window to activate. The dialog and the main window
+// are disabled at that moment, so Windows may have activated a window of another program.
 RestingDialog::~RestingDialog()
 {
     m_dialog.EnableWindow(TRUE);

@@ -1,17 +1,20 @@
-// A dialog under a box that the host opens over it.
+// Disables a dialog while the host shows a box over it.
 #pragma once
 
 #include "hostapi/host.h"
 
-// The dialog is disabled while this lives; then it is in front again, with the keyboard where it
-// was.
+// Keeps the dialog disabled while this object lives.
 //
-// The box belongs to the host's main window, so Windows would leave the dialog awake under it: a
-// second OK asked the question once more, and a Yes stored what a Cancel had taken back.
+// The box belongs to the host's main window, so Windows would leave the dialog enabled under it. A
+// second OK would then ask the question again, and a Yes would store what the user had cancelled.
 class RestingDialog
 {
 public:
-    explicit RestingDialog(CWnd& dialog);  // [borrowed]
+    // Disables the dialog, which is [borrowed] while this object lives.
+    explicit RestingDialog(CWnd& dialog);
+
+    // Enables the dialog, brings it to the front and returns the keyboard focus to the control that
+    // had it.
     ~RestingDialog();
 
 private:
@@ -19,5 +22,5 @@ private:
     RestingDialog& operator=(const RestingDialog&);
 
     CWnd& m_dialog;
-    const HWND m_focus;  // null for none
+    const HWND m_focus;  // null: no window had the focus
 };

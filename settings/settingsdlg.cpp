@@ -12,7 +12,8 @@ namespace
 {
 const int shownDecimals = 4;
 
-// Options with lists are shown apart: what a list offers has to be put into it first.
+// Shows one option in its control. Separate functions show the options with lists, because a list
+// must get its entries first.
 struct ShowInControl
 {
     CWnd& dialog;
@@ -37,7 +38,7 @@ struct ShowInControl
     }
 };
 
-// A control that the host cannot give is left as it is.
+// Enables or disables a control. A control that the host cannot find is ignored.
 void enable(CWnd& dialog, int control, BOOL enabled)
 {
     CWnd* window = dialog.GetDlgItem(control);
@@ -47,6 +48,7 @@ void enable(CWnd& dialog, int control, BOOL enabled)
     }
 }
 
+// Enables or disables the control of an option of the labels.
 struct EnableLabelControl
 {
     CWnd& dialog;
@@ -120,7 +122,7 @@ BOOL CSettingsDlg::OnInitDialog()
         showEnglish();
     }
     showBanners();
-    loadPickButtons();  // after the captions: they name the picture and the tooltip
+    loadPickButtons();  // follows the captions, because they name the picture and the tooltip
     showOptions();
     showColor();
     showTextStyles();
@@ -140,7 +142,8 @@ void CSettingsDlg::showEnglish()
     }
 }
 
-// Hidden while the edit has the focus. A banner is no text: an empty prefix stays empty.
+// Sets the banners of the prefixes. The host hides a banner while its edit has the focus. A banner
+// is not the text of its edit, so an empty prefix stays empty.
 void CSettingsDlg::showBanners()
 {
     SendDlgItemMessage(IDC_X_PREFIX, EM_SETCUEBANNER, FALSE,
@@ -156,11 +159,12 @@ void CSettingsDlg::loadPickButtons()
     for (auto button = std::begin(buttons); button != std::end(buttons); ++button)
     {
         (*button)->SetAutoSizeToBitmap(FALSE);
-        (*button)->AutoLoad();  // without its picture a button still works
+        (*button)->AutoLoad();  // the result is ignored: a button works without its picture, too
     }
 }
 
-// An option with two radio buttons knows the second one; the first is the other answer.
+// Shows all options except the lists. An option with two radio buttons names the second button, so
+// the first button is set here.
 void CSettingsDlg::showOptions()
 {
     const ShowInControl show = {*this, m_settings};
@@ -170,9 +174,9 @@ void CSettingsDlg::showOptions()
                      isChecked(IDC_MODE_VIEW) ? IDC_MODE_VIEW : IDC_MODE_WCS);
 }
 
-// What the list answers to a colour that it has already differs by its release, so the item is
-// looked for: it is the one that OK would read as this colour. What the list does not know as a
-// colour stays unselected.
+// Selects the colour of the settings. When a colour is added that the list already holds, releases
+// of the list return different results. The function therefore searches for the item that OK would
+// read as this colour. If the list does not know the number as a colour, nothing is selected.
 void CSettingsDlg::showColor()
 {
     m_color.AddColorToMRU(m_settings.Color);
@@ -257,7 +261,7 @@ void CSettingsDlg::OnModeChanged()
 
 void CSettingsDlg::OnNeedTextChanged()
 {
-    // Controls of the labels that are no option of the settings file.
+    // These controls belong to the labels but not to an option of the settings file.
     const int others[] = {IDC_TEXT_STYLE, IDC_PICK_TEXT_HEIGHT, IDC_TEXT_STYLE_LABEL,
                           IDC_TEXT_HEIGHT_LABEL, IDC_ACCURACY_LABEL};
     const EnableLabelControl enableOption = {*this, isChecked(IDC_NEED_TEXT)};

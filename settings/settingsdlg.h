@@ -4,27 +4,38 @@
 #include "settings/gridsettings.h"
 #include "settings/settingstexts.h"
 
-// Works on a copy of the settings; OK checks it and makes it the result. Shown while the module's
-// resources are the current ones.
+// Works on a copy of the settings. OK checks the values in the controls and makes them the result.
+// The module's resources must be current while the dialog is shown.
 class CSettingsDlg : public CAcUiDialog
 {
     DECLARE_MESSAGE_MAP()
 
 public:
-    // gridWidth, gridHeight: sides of the picked rectangle in drawing units, -1.0 each when it is
-    // not picked yet; what is checked against a side is checked only when the side is above 0.
-    // localeName selects the language (output/language.h).
+    // gridWidth, gridHeight  the sides of the picked rectangle in drawing units; both are -1.0
+    // while
+    //                        the rectangle is not picked yet. A value is checked against a side
+    //                        only if the side is above 0.
+    // localeName             selects the language (output/language.h)
+    // textStyleName          the selected entry of the list; an empty name selects "Standard"
     CSettingsDlg(const GridSettings& settings, double gridWidth, double gridHeight,
                  const CString& localeName, const CString& textStyleName);
 
-    // After IDOK the new settings, otherwise those that were given.
+    // Returns the new settings after IDOK, and otherwise the settings that the constructor
+    // received. They are [borrowed] from the dialog.
     const GridSettings& settings() const { return m_settings; }
 
 protected:
+    // Connects the controls with their members.
     virtual void DoDataExchange(CDataExchange* exchange) override;
+
+    // Fills the controls. Returns TRUE, so that the host sets the focus.
     virtual BOOL OnInitDialog() override;
+
+    // Checks and stores the values and closes the dialog. A value that is refused leaves the dialog
+    // open and the settings unchanged.
     virtual void OnOK() override;
 
+    // The handlers of the buttons.
     afx_msg void OnPickVertStep();
     afx_msg void OnPickHorStep();
     afx_msg void OnPickCrossSize();
@@ -35,27 +46,28 @@ protected:
     afx_msg void OnNeedTextChanged();
 
 private:
-    // A length that is typed or picked.
+    // A length that the user types or picks.
     struct Length
     {
-        int edit;
-        double current;  // drawing units; what a pick begins with
-        const LengthTexts* texts;
+        int edit;                  // the id of its edit
+        double current;            // the length with which a pick begins, in drawing units
+        const LengthTexts* texts;  // [borrowed] for good
     };
 
+    // A step of the grid.
     struct Step
     {
         Length length;
-        double gridSize;  // side of the rectangle that it divides; not above 0: unknown
-        const wchar_t* tooBig;
-        bool vertical;
-        bool manyAllowed;  // the user has said Yes to its many lines
+        double gridSize;        // the side that the step divides; a value not above 0 is unknown
+        const wchar_t* tooBig;  // the alert for a step that is larger than the side
+        bool vertical;          // true: the vertical step; false: the horizontal step
+        bool manyAllowed;       // the user has said Yes to many lines
     };
 
     CSettingsDlg(const CSettingsDlg&);
     CSettingsDlg& operator=(const CSettingsDlg&);
 
-    // settingsdlg.cpp: from the settings to the controls
+    // settingsdlg.cpp: functions that carry the settings to the controls.
     void showEnglish();
     void showBanners();
     void showOptions();
@@ -68,7 +80,7 @@ private:
     double shownReal(int edit) const;
     bool isChecked(int button) const;
 
-    // settingspicks.cpp: values picked in the drawing
+    // settingspicks.cpp: functions that take values picked in the drawing.
     class SteppedAside;
     void takeTyped(Length& length);
     bool askLength(const Length& length, double& picked);
@@ -77,7 +89,7 @@ private:
     void pickSize(Length& size);
     bool stepIsAccepted(Step& step, double picked);
 
-    // settingsok.cpp: from the controls to the settings
+    // settingsok.cpp: functions that carry the controls to the settings.
     bool readLength(const Length& length, double& value);
     void goToEdit(int edit);
     bool readStep(Step& step, double& value);
@@ -94,10 +106,10 @@ private:
     Length m_crossSize;
     Length m_textHeight;
 
-    // Kept as it was given and changed over only to be shown: no number of changes of the mode, and
-    // no OK, moves it by so much as a rounding.
+    // The base point is kept in the system in which it was given and converted only to be shown and
+    // stored. Neither a change of the mode nor OK therefore moves it, not even by a rounding.
     AcGePoint3d m_basePoint;
-    bool m_basePointInUcs;
+    bool m_basePointInUcs;  // true: m_basePoint is [ucs]; false: it is [wcs]
 
     CAcUiColorComboBox m_color;
     CComboBox m_textStyle;

@@ -69,7 +69,7 @@ CString settingsFilePath(HMODULE module)
     wchar_t buffer[capacity] = L"";
     if (GetModuleFileNameW(module, buffer, capacity) == capacity)
     {
-        return L"";  // cut: what is left may name another folder
+        return L"";  // the path is cut, so the rest may name another folder
     }
     const CString modulePath(buffer);
     const int folderEnd = modulePath.ReverseFind(L'\\');
@@ -88,7 +88,8 @@ void SettingsFile::load(GridSettings& settings)
     {
         return;
     }
-    // A missing key reads as "0", not as the default: files cut down by hand rely on it.
+    // A missing key reads as "0" instead of the default. A compatibility rule keeps this: files
+    // that users have shortened by hand rely on it.
     const ReadKey read = {m_store, settings};
     forEachOption(read);
 }

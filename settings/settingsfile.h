@@ -1,26 +1,29 @@
-// The file in which the options outlive a run.
+// The file that keeps the options from one run to the next.
 #pragma once
 
 #include "settings/gridsettings.h"
 #include "settings/inistore.h"
 
-// Path of properties.ini in the folder of the module. Should the module's path hold no folder, the
-// file is the one in the working folder. Empty for a module whose path has more than 520
-// characters: no file can be opened by that name, neither to read nor to write.
+// Returns the path of properties.ini in the folder of the module. If the module's path has no
+// folder, the path names the file in the working folder. The path is empty for a module whose path
+// has more than 520 characters; a file with an empty path can be neither read nor written.
 CString settingsFilePath(HMODULE module);
 
-// The section "GRID" of the file, as it was when it was loaded, with whatever else the file held.
+// The contents of the file as they were when the file was loaded. The options are in the section
+// "GRID".
 class SettingsFile
 {
 public:
+    // Notes the path. The constructor does not read the file; load does.
     explicit SettingsFile(const CString& path);
 
-    // Lays what the file holds over the settings. Without a file, or without the section, they stay
-    // as they are. With the section, a key that is missing from it counts as "0".
+    // Sets the options to the values in the file. If the file cannot be opened or has no section
+    // "GRID", the settings stay unchanged. If the section lacks a key, the value counts as "0".
     void load(GridSettings& settings);
 
-    // Writes the section anew, so keys of it that are not ours go; other sections stay. False: the
-    // file could not be opened for writing or not be written whole.
+    // Replaces the section "GRID" and writes the file. Keys of the section that are not options are
+    // removed; other sections stay. Returns false when the file cannot be opened for writing or is
+    // not written completely.
     bool save(const GridSettings& settings);
 
 private:

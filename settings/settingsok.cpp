@@ -1,5 +1,5 @@
-// The settings dialog: the checks and the storing on OK. What is refused leaves the dialog open and
-// the settings as they are.
+// The settings dialog: checks and stores the values on OK. A value that is refused leaves the
+// dialog open and the settings unchanged.
 #include "output/numbers.h"
 #include "resources/resource.h"
 #include "settings/manylines.h"
@@ -9,7 +9,8 @@
 
 namespace
 {
-// Lengths and lists are read apart: a length may be refused, and in a list nothing may be selected.
+// Reads one option from its control. Separate functions read lengths and lists, because a length
+// may be refused and a list may have no selection.
 struct ReadControl
 {
     const CWnd& dialog;
@@ -42,7 +43,8 @@ void CSettingsDlg::OnOK()
     {
         return;
     }
-    // Asked for with the labels off too, deliberately: whoever switches them on later finds one.
+    // The height is deliberately checked with the labels off, too: a user who turns them on later
+    // then has a usable height.
     if (!readLength(m_textHeight, settings.heightText))
     {
         return;
@@ -67,7 +69,8 @@ bool CSettingsDlg::readLength(const Length& length, double& value)
     return true;
 }
 
-// Where the user types on; the host leaves the focus where it is when the edit is disabled.
+// Moves the focus to the edit, so that the user can correct the value. If the edit is disabled, the
+// host leaves the focus where it is.
 void CSettingsDlg::goToEdit(int edit)
 {
     CWnd* control = GetDlgItem(edit);
@@ -103,7 +106,7 @@ AcGePoint3d CSettingsDlg::basePointWcs() const
     return point;
 }
 
-// A list in which nothing is selected leaves its option as it was.
+// Reads all options except the lengths. A list without a selection leaves its option unchanged.
 void CSettingsDlg::readOptions(GridSettings& settings)
 {
     const ReadControl read = {*this, settings};

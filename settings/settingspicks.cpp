@@ -1,4 +1,4 @@
-// The settings dialog: values picked in the drawing, while the dialog is hidden.
+// The settings dialog: takes values that the user picks in the drawing while the dialog is hidden.
 #include <cmath>
 
 #include "output/numbers.h"
@@ -14,8 +14,8 @@ bool isZero(double length)
 }
 }  // namespace
 
-// Hides the dialog for the length of a prompt, and of the alerts that follow it, and shows it again
-// on every way out.
+// Hides the dialog during a prompt and the alerts that follow it. The destructor shows the dialog
+// again on every way out.
 class CSettingsDlg::SteppedAside
 {
 public:
@@ -52,9 +52,9 @@ void CSettingsDlg::OnPickTextHeight()
     pickSize(m_textHeight);
 }
 
-// The numbers of a pick are those of the current UCS. In the world's mode they are taken for the
-// world's as they stand, unchanged, which lets a surveyor type world coordinates in any view; kept
-// for those who do.
+// Asks for the base point. The host returns coordinates of the current UCS. In the mode of the
+// world these numbers are used as world coordinates without a conversion. This looks wrong, but it
+// is kept for surveyors, who can therefore type world coordinates in any view.
 void CSettingsDlg::OnPickBasePoint()
 {
     AcGePoint3d picked(0.0, 0.0, 0.0);
@@ -67,7 +67,8 @@ void CSettingsDlg::OnPickBasePoint()
     }
 }
 
-// Every pick that is refused leaves the edit, and with it what the next pick begins with, as it is.
+// Asks for a step. A pick that is refused changes neither the edit nor the value with which the
+// next pick begins.
 void CSettingsDlg::pickStep(Step& step)
 {
     takeTyped(step.length);
@@ -96,7 +97,8 @@ void CSettingsDlg::pickSize(Length& size)
     keepPicked(size, picked);
 }
 
-// A pick begins with what is typed; where that is no number, the edit shows what it begins with.
+// Makes the typed value the one with which the pick begins. If the typed text is not a number, the
+// edit shows the value with which the pick begins.
 void CSettingsDlg::takeTyped(Length& length)
 {
     const double typed = shownReal(length.edit);
@@ -110,7 +112,7 @@ void CSettingsDlg::takeTyped(Length& length)
     }
 }
 
-// True when the user gave a length. The dialog has stepped aside.
+// Asks for a length and returns whether the user gave one. The caller has hidden the dialog.
 bool CSettingsDlg::askLength(const Length& length, double& picked)
 {
     CString prompt;
@@ -141,7 +143,8 @@ bool CSettingsDlg::stepIsAccepted(Step& step, double picked)
         acedAlert(step.tooBig);
         return false;
     }
-    // Asked at every such pick, whatever was answered before; a Yes holds for OK as well.
+    // The question is asked at every pick of such a step, whatever the user answered before. A Yes
+    // also holds for OK.
     if (!isManyLines(step.gridSize, picked))
     {
         return true;

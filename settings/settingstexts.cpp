@@ -5,7 +5,7 @@
 
 namespace
 {
-// The odd wording ("height" for the width, "равена") is the one that the users know; it stays.
+// The odd wording ("height" for the width, "равена") stays, because the users know it.
 const SettingsTexts englishTexts = {
     {
         {

@@ -1,22 +1,24 @@
-// What the settings dialog says, in both languages.
+// The texts of the settings dialog in both languages.
 #pragma once
 
 #include "hostapi/host.h"
 
-// Of a length that can be picked. The prompt is a format for the length as it stands.
+// The texts about a length that can be picked.
 struct LengthTexts
 {
-    const wchar_t* prompt;
-    const wchar_t* zero;    // alert: it may not be zero
-    const wchar_t* notSet;  // alert: it is not given
+    const wchar_t* prompt;  // a format for the current length
+    const wchar_t* zero;    // the alert for a length of zero
+    const wchar_t* notSet;  // the alert for a missing length
 };
 
+// The texts about a step.
 struct StepTexts
 {
     LengthTexts length;
-    const wchar_t* tooBig;  // alert: bigger than the grid
+    const wchar_t* tooBig;  // the alert for a step that is larger than the grid
 };
 
+// All texts of one language.
 struct SettingsTexts
 {
     StepTexts vertStep;
@@ -28,16 +30,18 @@ struct SettingsTexts
     const wchar_t* yPrefixBanner;
 };
 
-// The texts in the language of the locale name (output/language.h). [borrowed] for good.
+// Returns the texts in the language of the locale name (output/language.h), [borrowed] for good.
 const SettingsTexts& settingsTextsFor(const CString& localeName);
 
-// A caption that stands in Russian in the template, in English.
+// The English caption of a control whose caption in the template is Russian.
 struct Caption
 {
-    int control;
-    const wchar_t* text;
+    int control;          // the id of the control
+    const wchar_t* text;  // null after the last caption
 };
 
-// Ended by a null text.
+// Returns the English captions [borrowed] for good; an entry with a null text ends them.
 const Caption* englishCaptions();
+
+// Returns the English title of the dialog [borrowed] for good.
 const wchar_t* englishTitle();

@@ -1,9 +1,10 @@
-// The text styles of the current drawing.
+// Lists the text styles of the current drawing.
 #pragma once
 
 #include <vector>
 
 #include "hostapi/host.h"
 
-// Names in table order, erased styles left out; empty when the drawing cannot be locked or read.
+// Returns the names of the text styles in table order, without erased styles. The list is empty
+// when the drawing cannot be locked or read.
 std::vector<CString> textStyleNames();
