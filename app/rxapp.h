@@ -1,7 +1,7 @@
 // The base of an application object: it answers the messages of the host.
 //
 // Every handler returns AcRx::kRetOK. The packet of a message is [borrowed] from the host and
-// opaque to the module. The packet of kInitAppMsg identifies the module when it talks to the host's
+// opaque to the module. The packet of kInitAppMsg identifies the module in calls of the host's
 // linker.
 #pragma once
 

@@ -3,15 +3,15 @@
 
 #include "hostapi/host.h"
 
-// A whole-number system variable that is 0 until it is given back. A variable that cannot be read
-// is not changed at all, because its value could not be restored.
+// A whole-number system variable that is 0 until giveBack. A variable that cannot be read is not
+// changed at all, because its value could not be restored.
 class ZeroedVariable
 {
 public:
     // Reads the variable and sets it to 0. The name is [borrowed] while this object lives.
     explicit ZeroedVariable(const ACHAR* name);
 
-    // Sets the variable to the value that the constructor read.
+    // Sets the variable to the value that the constructor read, if it could read one.
     void giveBack() const;
 
 private:
@@ -29,7 +29,8 @@ public:
     BorrowedFrame();
 
     // Restores the UCS, UCSICON and UCSFOLLOW in that order. If the constructor could not change
-    // the UCS, the destructor does not step back either: the user would get the UCS before his own.
+    // the UCS, the destructor does not step back either: a step would lead to the UCS that the user
+    // had before the present one.
     ~BorrowedFrame();
 
 private:

@@ -2,7 +2,7 @@
 #pragma once
 
 // Counts consecutive results that no person caused: the result is not a value, a text, Enter or
-// Esc. Without this limit the command would ask a host that fails for good for ever, and would
+// Esc. Without a limit the command would never stop asking a host that always fails, and it would
 // build the grid again each time.
 class PromptFailures
 {

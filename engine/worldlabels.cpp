@@ -79,8 +79,8 @@ LabelPlace turnedOver(LabelPlace place)
     return place;
 }
 
-// Returns the distance from the base. The result is exactly 0 for the line through the base point;
-// otherwise rounding could print it with a minus sign.
+// Returns the signed distance from the base. The result is exactly 0 for the line through the base
+// point; otherwise rounding could print it with a minus sign.
 double offsetFromBase(double coordinate, double base)
 {
     const double offset = coordinate - base;

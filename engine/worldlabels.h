@@ -18,8 +18,8 @@ struct FrameEdges
 FrameEdges frameEdges(const GridRequest& request);
 
 // Labels every end of a line that lies on an edge where the options request labels of the
-// coordinate, and appends the ids of the labels to made. The values are distances from the base
-// point along the world axes, in drawing units.
+// coordinate, and appends the ids of the labels to made. The values are signed distances from the
+// base point along the world axes, in drawing units.
 //
 // axis   0 for X labels, 1 for Y labels
 // pairs  the ends of the lines [wcs]. The two ends of a line are labelled in the order of reading:

@@ -8,10 +8,9 @@
 
 // Appends a new entity to the named block, closes it and sets id.
 //
-// entity  [adopted], even if the call fails: the caller must not delete it. A refused entity is in
-// no
-//         database and is never deleted, because the host may have noted its address before it
-//         refused. A few lost bytes in a rare case are better than a dangling address.
+// entity  [adopted], even if the call fails: the caller must not delete it. A refused entity
+//         belongs to no database and is never deleted, because the host may have noted its address
+//         before it refused. A few lost bytes in a rare case are better than a dangling address.
 //
 // Returns eOk, eNoDatabase without a drawing, or the status of the step that the host refused:
 // opening the block table, opening the block or appending the entity.
@@ -53,8 +52,7 @@ bool linetypeExists(const ACHAR* linetypeName);
 // lineweight is ByLayer.
 //
 // points        [ucs] if pointsInUcs is true, otherwise [wcs]; their z in the UCS is dropped. If
-// the
-//               last point lies on the first, it is left out and the polyline is closed.
+//               the last point lies on the first, it is left out and the polyline is closed.
 // color         colour index; 0 leaves the drawing's current colour
 // layerName     a layer that is unknown or null means the current layer
 // linetypeName  a linetype that is unknown or null means Continuous

@@ -96,8 +96,8 @@ void IniStore::clear()
 }
 
 // The file is read as UTF-8, although it is written in the narrow code page: files written by hand
-// are UTF-8, and only ASCII has to survive both ways. A compatibility rule ignores a last line
-// without a line feed.
+// are UTF-8, and only ASCII has to survive both ways. By a compatibility rule a last line without a
+// line feed is ignored.
 bool IniStore::readFile(const CString& path)
 {
     clear();

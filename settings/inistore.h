@@ -28,8 +28,8 @@ public:
     // Removes all sections.
     void clear();
 
-    // Replaces the contents by those of the file. Returns false when the file cannot be opened; the
-    // store is then empty.
+    // Replaces the contents with those of the file. Returns false when the file cannot be opened;
+    // the store is then empty.
     bool readFile(const CString& path);
 
     // Writes all sections to the file. A character that the narrow code page cannot hold is written

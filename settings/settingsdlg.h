@@ -12,9 +12,8 @@ class CSettingsDlg : public CAcUiDialog
 
 public:
     // gridWidth, gridHeight  the sides of the picked rectangle in drawing units; both are -1.0
-    // while
-    //                        the rectangle is not picked yet. A value is checked against a side
-    //                        only if the side is above 0.
+    //                        while the rectangle is not picked yet. A value is checked against a
+    //                        side only if the side is above 0.
     // localeName             selects the language (output/language.h)
     // textStyleName          the selected entry of the list; an empty name selects "Standard"
     CSettingsDlg(const GridSettings& settings, double gridWidth, double gridHeight,
