@@ -1,10 +1,11 @@
-// Controls: what newer Windows adds to the messages of edits.
+// Controls: messages that newer versions of Windows add to edits.
 #pragma once
 
 #include "winuser.h"
 
-// The banner lies in an empty edit and is never its text. EM_SETCUEBANNER takes it in lParam,
-// wParam keeps it while the edit has the focus; EM_GETCUEBANNER copies it to wParam, lParam
-// characters at most with the final NUL. FALSE for no banner.
+// An empty edit shows its banner, which is never the edit's text. EM_SETCUEBANNER takes the banner
+// in lParam; wParam keeps it visible while the edit has the focus. EM_GETCUEBANNER copies it to
+// wParam, at most lParam characters including the final NUL, and returns FALSE if there is no
+// banner.
 #define EM_SETCUEBANNER 0x1501
 #define EM_GETCUEBANNER 0x1502

@@ -1,13 +1,13 @@
-// Text helper of the Windows shell library.
+// A text helper of the Windows shell library.
 #pragma once
 
 #include "windows.h"
 
 extern "C"
 {
-    // Decimal digits after an optional minus, up to the first other character; 0 when it starts
-    // with anything else, a blank or a plus too. A number out of range keeps its low 32 bits. Null
-    // gives 0.
+    // Reads decimal digits after an optional minus, up to the first other character. Returns 0 for
+    // nullptr and for a text that begins with anything else, even a blank or a plus. Returns the
+    // low 32 bits of a number out of range.
     int WINAPI StrToIntW(PCWSTR text);
 }
 

@@ -1,4 +1,4 @@
-// Texts of a Unicode build, and the calls that a Unicode build makes.
+// The texts and the calls of a Unicode build.
 #pragma once
 
 #define _T(text) L##text

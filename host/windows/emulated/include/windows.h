@@ -1,4 +1,4 @@
-// The part of the Windows interface that a module uses. Unicode forms only.
+// The part of the Windows interface that a module uses. Only the Unicode forms exist.
 #pragma once
 
 #include <cstddef>
@@ -36,7 +36,7 @@ typedef const wchar_t* LPCWSTR;
 typedef const wchar_t* PCWSTR;
 typedef const wchar_t* LPCTSTR;
 
-typedef struct HINSTANCE__* HINSTANCE;  // first byte of the module in memory
+typedef struct HINSTANCE__* HINSTANCE;  // the first byte of the module in memory
 typedef HINSTANCE HMODULE;
 typedef struct HWND__* HWND;
 
@@ -70,19 +70,19 @@ extern "C"
     void WINAPI SetLastError(DWORD error);
 
     // Writes the path of a module's file as it was named when the module was loaded, absolute and
-    // with backslashes; that of the program for a null handle. Returns its length without the final
-    // NUL, 0 for an unknown handle. A path that does not fit is cut and terminated, the result is
-    // `size` then.
+    // with backslashes. A null handle stands for the program. Returns the length without the final
+    // NUL, or 0 for an unknown handle. A path that does not fit is cut and terminated, and the
+    // result is `size`.
     DWORD WINAPI GetModuleFileNameW(HMODULE module, LPWSTR path, DWORD size);
 
-    // Writes the name of a locale ("ru-RU"). Returns its length with the final NUL, 0 for an
-    // unknown one or a buffer too small; with `size` 0 the length that is needed.
+    // Writes the name of a locale ("ru-RU"). Returns its length including the final NUL, or 0 if
+    // the locale is unknown or the buffer too small. Returns the required length if `size` is 0.
     int WINAPI LCIDToLocaleName(LCID locale, LPWSTR name, int size, DWORD flags);
 
     // Copies a text of a module's string table, cut to the buffer. Returns its length without the
-    // final NUL, 0 when there is none.
+    // final NUL, or 0 if the table lacks the text.
     int WINAPI LoadStringW(HINSTANCE module, UINT id, LPWSTR text, int size);
 
-    // Asks the user [prints]. Returns the id of the button, 0 when nobody can be asked.
+    // Asks the user [prints]. Returns the id of the button, or 0 if no user can be asked.
     int WINAPI MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type);
 }

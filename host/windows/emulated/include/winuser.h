@@ -1,7 +1,7 @@
-// Windows and controls: the part of Windows' user interface that the dialog classes stand on.
+// Windows and controls: the part of Windows' user interface on which the dialog classes are built.
 //
-// Texts are Unicode. A null or unknown window is refused as each function says; no function throws.
-// Positions and sizes are pixels.
+// Texts are Unicode. Each function says how it refuses a null or unknown window. No function
+// throws. Positions and sizes are in pixels.
 #pragma once
 
 #include "windows.h"
@@ -64,17 +64,18 @@ struct RECT
 #define CBS_SORT 0x100
 #define CBS_HASSTRINGS 0x200
 
-// Messages of any window. An edit tells EN_CHANGE when its text is set; the text of a drop-down
+// Messages of any window. An edit sends EN_CHANGE when its text is set. The text of a drop-down
 // list is that of the selected item and cannot be set.
 #define WM_SETTEXT 0x000C
 #define WM_GETTEXT 0x000D
 #define WM_GETTEXTLENGTH 0x000E
 
-// Messages of dialogs. WM_INITDIALOG brings the control that is going to have the focus and the
-// parameter of the call. WM_COMMAND brings id and code (MAKEWPARAM) and the control; its result is
-// 0. WM_CLOSE that the procedure leaves becomes WM_COMMAND with IDCANCEL unless that button is
-// disabled. DM_GETDEFID: id of the default button and DC_HASDEFID in the high word; 0 for none.
-// WM_NEXTDLGCTL with a control and TRUE: the control has the focus.
+// Messages of dialogs. WM_INITDIALOG brings the control that will get the focus and the parameter
+// of the call. WM_COMMAND brings id and code (MAKEWPARAM) and the control; its result is 0. If the
+// procedure does not handle WM_CLOSE, the dialog sends WM_COMMAND with IDCANCEL, unless that button
+// is disabled. DM_GETDEFID returns the id of the default button and DC_HASDEFID in the high word,
+// or 0 if there is no default button. WM_NEXTDLGCTL with a control and TRUE gives the control the
+// focus.
 #define WM_CLOSE 0x0010
 #define WM_INITDIALOG 0x0110
 #define WM_COMMAND 0x0111
@@ -83,9 +84,9 @@ struct RECT
 #define DC_HASDEFID 0x534B
 
 // Messages of buttons. A click gives the focus, toggles an automatic check box, checks an automatic
-// radio button and unchecks the others of its group, then tells BN_CLICKED; a disabled button and a
-// group box do nothing. BM_SETCHECK tells nobody and leaves the group as it is; the style
-// WS_TABSTOP of a radio button goes with its check.
+// radio button and unchecks the others of its group, and then sends BN_CLICKED. A disabled button
+// and a group box ignore clicks. BM_SETCHECK sends no notification and leaves the group unchanged.
+// The style WS_TABSTOP of a radio button follows its check.
 #define BM_GETCHECK 0x00F0
 #define BM_SETCHECK 0x00F1
 #define BM_CLICK 0x00F5
@@ -93,14 +94,14 @@ struct RECT
 #define BST_CHECKED 1
 #define BN_CLICKED 0
 
-// An edit tells EN_CHANGE when its text is set.
+// An edit sends EN_CHANGE when its text is set.
 #define EN_CHANGE 0x0300
 
-// Messages of combo boxes, with position or data in wParam, text or data in lParam; CB_ERR for a
-// position that the list does not have. CB_SETCURSEL tells nobody, and with -1 or a position beyond
-// the last clears the selection and returns CB_ERR. CB_INSERTSTRING: -1 is the end, nothing is
-// sorted. CB_FINDSTRINGEXACT: in any case, from the item after wParam on, round the end; -1 for the
-// first.
+// Messages of combo boxes. wParam holds the position or data, lParam the text or data. The result
+// is CB_ERR for a position that the list does not have. CB_SETCURSEL sends no notification; with -1
+// or a position beyond the last it clears the selection and returns CB_ERR. CB_INSERTSTRING takes
+// -1 for the end, and the list is not sorted. CB_FINDSTRINGEXACT ignores letter case and searches
+// from the item after wParam to the end and on from the start; -1 begins at the first item.
 #define CB_ADDSTRING 0x0143
 #define CB_DELETESTRING 0x0144
 #define CB_GETCOUNT 0x0146
@@ -124,58 +125,62 @@ struct RECT
 
 extern "C"
 {
-    // Resources of one module, by type and name; a number stands for a name as MAKEINTRESOURCEW
-    // gives it, names of letters are found in any case. Null for none. The bytes are the module's.
+    // Find and read the resources of one module, by type and name. A number stands for a name as
+    // MAKEINTRESOURCEW gives it. Names ignore letter case. Return null if there is no such
+    // resource. The bytes are [borrowed] from the module.
     HRSRC WINAPI FindResourceW(HMODULE module, LPCWSTR name, LPCWSTR type);
     DWORD WINAPI SizeofResource(HMODULE module, HRSRC resource);
     HGLOBAL WINAPI LoadResource(HMODULE module, HRSRC resource);
     LPVOID WINAPI LockResource(HGLOBAL data);
 
-    // Makes the dialog and its controls from a template (DLGTEMPLATEEX), sends it WM_INITDIALOG
-    // with `parameter`, gives the focus to the first control that can have it if the answer is
-    // TRUE, and shows the dialog if the template says so. Null when the template is no whole one of
-    // a module's resources, when it has a class that is not known, and when the procedure has
-    // destroyed the dialog. The procedure hears of WM_INITDIALOG, WM_COMMAND and WM_CLOSE; a FALSE
-    // leaves the message to the dialog itself. An owner that is no window is none.
+    // Creates a dialog and its controls from a template (DLGTEMPLATEEX) and sends it WM_INITDIALOG
+    // with `parameter`. If the answer is TRUE, the first control that can have the focus gets it.
+    // Shows the dialog if the template says so. Returns null if the template is not a whole one of
+    // a module's resources, contains an unknown class, or if the procedure destroyed the dialog.
+    // The procedure receives WM_INITDIALOG, WM_COMMAND and WM_CLOSE; by returning FALSE it leaves
+    // the message to the dialog itself. An owner that is not a window is ignored.
     HWND WINAPI CreateDialogIndirectParamW(HINSTANCE module, LPCDLGTEMPLATEW dialogTemplate,
                                            HWND owner, DLGPROC procedure, LPARAM parameter);
-    // With its controls and the dialogs that it owns. FALSE for no window.
+    // Destroys a window with its controls and the dialogs that it owns. Returns FALSE for a null or
+    // unknown window.
     BOOL WINAPI DestroyWindow(HWND window);
     BOOL WINAPI IsWindow(HWND window);
 
-    // 0 for no window and for a message that the window does not know. The window may be gone
-    // afterwards.
+    // Sends a message. Returns 0 for a null or unknown window and for a message that the window
+    // does not know. The window may not exist afterwards.
     LRESULT WINAPI SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND WINAPI GetDlgItem(HWND dialog, int id);
     int WINAPI GetDlgCtrlID(HWND control);
-    // The dialog of a control, the owner of a dialog.
+    // Returns the dialog of a control or the owner of a dialog.
     HWND WINAPI GetParent(HWND window);
-    // GW_CHILD: the first control of a dialog; GW_HWNDNEXT: the one after it, in template order.
+    // Returns the first control of a dialog (GW_CHILD) or the control after this one, in template
+    // order (GW_HWNDNEXT).
     HWND WINAPI GetWindow(HWND window, UINT which);
     int WINAPI GetClassNameW(HWND window, LPWSTR name, int size);
     LONG WINAPI GetWindowLongW(HWND window, int what);
-    // FALSE for no window. Without a screen the client area of every dialog begins at 0,0, it has
-    // no frame, and a drop-down list has the height of its list.
+    // Returns FALSE for a null or unknown window. Without a screen, the client area of every dialog
+    // begins at 0,0, a dialog has no frame, and a drop-down list has the height of its list.
     BOOL WINAPI GetWindowRect(HWND window, RECT* rectangle);
 
-    // FALSE for a window whose text cannot be set.
+    // Returns FALSE for a window whose text cannot be set.
     BOOL WINAPI SetWindowTextW(HWND window, LPCWSTR text);
-    // Length of what was copied, cut to the buffer, without the final NUL.
+    // Copies the text, cut to the buffer. Returns its length without the final NUL.
     int WINAPI GetWindowTextW(HWND window, LPWSTR text, int size);
     int WINAPI GetWindowTextLengthW(HWND window);
 
-    // TRUE when the window was disabled before. A disabled window loses the focus.
+    // Returns TRUE if the window was disabled before. A disabled window loses the focus.
     BOOL WINAPI EnableWindow(HWND window, BOOL enable);
     BOOL WINAPI IsWindowEnabled(HWND window);
-    // TRUE when the window was visible before.
+    // Returns TRUE if the window was visible before.
     BOOL WINAPI ShowWindow(HWND window, int command);
-    // FALSE for a control of a hidden dialog.
+    // Returns FALSE for a control of a hidden dialog, too.
     BOOL WINAPI IsWindowVisible(HWND window);
-    // The window that had the focus before. Null and no change for a window that is disabled or not
-    // there; null takes the focus away.
+    // Returns the window that had the focus before. Returns null and changes nothing for a window
+    // that is disabled or does not exist. A null window takes the focus away.
     HWND WINAPI SetFocus(HWND window);
     HWND WINAPI GetFocus();
-    // Nothing is in front of anything here. FALSE for a window that is disabled or not there.
+    // Returns FALSE for a window that is disabled or does not exist. Without a screen, no window is
+    // in front of another.
     BOOL WINAPI SetForegroundWindow(HWND window);
 }

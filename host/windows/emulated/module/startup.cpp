@@ -13,7 +13,7 @@
 // Hidden, so that it is always the module's own, whatever the program exports.
 extern "C" __attribute__((visibility("hidden"))) int APIENTRY DllMain(HINSTANCE, DWORD, LPVOID);
 
-// For a module that brings none.
+// The DllMain of a module that does not define one.
 extern "C" __attribute__((weak)) int APIENTRY DllMain(HINSTANCE, DWORD, LPVOID)
 {
     return TRUE;
@@ -24,7 +24,7 @@ extern "C" int acrxGetApiVersion()
     return ACRX_API_VERSION;
 }
 
-// The module's compiled resources; both null in a module that has none.
+// The module's compiled resources; both are null in a module without resources.
 extern "C" __attribute__((weak, visibility("hidden"))) const std::byte arxResources[];
 extern "C" __attribute__((weak, visibility("hidden"))) const std::byte arxResourcesEnd[];
 
@@ -33,7 +33,7 @@ namespace
 HINSTANCE s_module = nullptr;
 bool s_attachCalled = false;
 
-// Windows calls a module that has refused to attach once more, to detach.
+// Detaches even a module that has refused to attach, as Windows does.
 void leave()
 {
     const HINSTANCE module = std::exchange(s_module, nullptr);
@@ -50,16 +50,17 @@ void leave()
 
 bool attach(HINSTANCE module)
 {
-    // Registered when all static objects stand, hence run before any of them goes. This serves a
-    // process that ends with the module in it; dlclose calls the destructor function below first.
+    // `leave` is registered when all static objects exist, so it runs before any of them is
+    // destroyed. It serves a process that ends while the module is loaded. dlclose calls the
+    // destructor function below first.
     std::atexit(leave);
     s_module = module;
     s_attachCalled = true;
     return DllMain(module, DLL_PROCESS_ATTACH, nullptr) != 0;
 }
 
-// Runs somewhere among the constructors of the module's static objects, so it leaves attaching to
-// the loader where there is one.
+// Runs at some point among the constructors of the module's static objects. If a loader exists, it
+// does the attaching.
 __attribute__((constructor)) void enter()
 {
     host::setModuleResources(host::instanceHolding(&s_module), {arxResources, arxResourcesEnd});
