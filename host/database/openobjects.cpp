@@ -20,7 +20,7 @@ OpenObjects::~OpenObjects()
 
 void OpenObjects::remove(const AcDbObject& object)
 {
-    // The object opened last is mostly closed first.
+    // Usually the object opened last is closed first.
     if (m_objects.back() == &object)
     {
         m_objects.pop_back();

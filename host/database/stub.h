@@ -50,6 +50,7 @@ public:
     StubArena(const StubArena&) = delete;
     StubArena& operator=(const StubArena&) = delete;
 
+    // Adds a stub with that handle. Returns it [borrowed]; it lives as long as the arena.
     AcDbStub* add(std::uint64_t handle);
     std::size_t size() const { return m_size; }
     AcDbStub& operator[](std::size_t index) const
@@ -57,6 +58,7 @@ public:
         return m_blocks[index / perBlock]->stubs[index % perBlock];
     }
     static DatabaseCore& coreOf(const AcDbStub* stub) { return *blockOf(stub)->core; }
+    // Returns the place of a stub in the order.
     static std::size_t indexOf(const AcDbStub* stub);
 
 private:

@@ -45,6 +45,7 @@ struct HeaderEdits
     Edits& edits;
     const CodePage& codePage;
 
+    // Sets one variable.
     template <class Row, class Variables>
     void set(const Row& row, const Variables& variables, const std::string& prefix) const
     {
@@ -52,12 +53,14 @@ struct HeaderEdits
                         { putValue(writer, row.code, variables.*row.member, codePage); });
     }
 
+    // Sets all variables of a table.
     template <class Variables, class Rows>
     void setAll(const Rows& rows, const Variables& variables, const std::string& prefix = {}) const
     {
         schema::forEachRow(rows, [&](const auto& row) { set(row, variables, prefix); });
     }
 
+    // Sets the variables of a table that differ from `before`.
     template <class Variables, class Rows>
     void setChanged(const Rows& rows, const Variables& before, const Variables& now) const
     {

@@ -70,7 +70,7 @@ public:
     std::size_t firstTag() const;
     std::size_t eofOffset() const { return m_eofOffset; }  // new sections are inserted here
 
-    // Of all sections, in file order.
+    // Returns the records of all sections in file order.
     std::span<const Record> records() const { return m_records; }
     std::span<const Record> records(std::string_view section) const;
     std::string_view typeName(const Record& record) const { return m_types[record.type]; }
@@ -78,16 +78,17 @@ public:
     // Returns false only for an R12 drawing without handles; later releases always have them.
     bool hasHandles() const { return m_release->objects || m_highestHandle != 0; }
 
-    // The indexes of records whose handle in the file is empty, zero or that of another record.
-    // Here they have new handles above all others; saving writes these to the file.
+    // Returns the indexes of records whose handle in the file is empty, zero or that of another
+    // record. Here they have new handles above all others; saving writes these to the file.
     std::span<const std::size_t> repairedRecords() const { return m_repaired; }
     // Returns the tag with the record's handle, or a tag with code 0 if the record has no handle.
     Tag handleTag(const Record& record) const;
     std::string repairs() const;  // one line about the repaired records; empty if there are none
 
-    // In file order. If two variables have the same name, `header` finds the later one.
+    // Returns the variables in file order. If two variables have the same name, `header` finds the
+    // later one.
     std::span<const HeaderVariable> headerVariables() const { return m_header; }
-    // With the "$"; nullptr if it is missing.
+    // Finds a variable by its name with the "$". Returns nullptr if it is missing.
     const HeaderVariable* header(std::string_view name) const;
 
     Tags tags(const Record& record) const { return range(record); }  // the first tag has code 0

@@ -60,6 +60,7 @@ public:
     void point(Code code, double x, double y);
 
     void raw(std::string_view bytes);  // written unchanged
+    // Writes a record: the bytes of the form, the handle and the numbers.
     void record(const RecordForm& form, std::uint64_t handle, const double (&numbers)[6]);
 
     // Write the two parts of a tag separately, for the parts of a form.
