@@ -20,6 +20,7 @@ struct AcDbEntity::Internals
         all = 31
     };
 
+    // Returns all properties of the entity.
     static host::LineStyle styleOf(const AcDbEntity& entity);
     // Sets all properties of a style. They all count as set afterwards.
     static void setStyle(AcDbEntity& entity, const host::LineStyle& style);

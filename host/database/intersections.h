@@ -12,7 +12,7 @@ bool keepsAngles(const AcGeMatrix3d& matrix);
 // Appends the points [wcs] that `line` has in common with a line or a 2D polyline, in decreasing
 // order along the line. Points nearer to each other than the point tolerance are appended once.
 // Parts that overlap along their length give no points. An extended line has no ends; a polyline is
-// never extended.
+// never extended. Returns eOk, or eNotImplementedYet for any other entity.
 Acad::ErrorStatus intersectLine(const AcDbLine& line, const AcDbEntity& other, AcDb::Intersect type,
                                 AcGePoint3dArray& points);
 

@@ -17,6 +17,7 @@ public:
     OpenObjects(const OpenObjects&) = delete;
     OpenObjects& operator=(const OpenObjects&) = delete;
 
+    // Adds an object [borrowed] that has just been opened.
     void add(AcDbObject& object) { m_objects.push_back(&object); }
     // Removes an object, which must have been added.
     void remove(const AcDbObject& object);

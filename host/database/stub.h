@@ -18,7 +18,7 @@ public:
         isPacked = 2,  // `line` holds the line; there is no object on the heap
         isErasedFlag = 4,
         isDrawn = 8,   // the module has asked to show the object
-        isEntity = 16  // made in this run; objects of the file have no AcDbObject
+        isEntity = 16  // made in this run; entities of the file have no AcDbObject
     };
 
     std::uint64_t handle;

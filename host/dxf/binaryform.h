@@ -34,6 +34,7 @@ class BinaryEncoder
 public:
     using Drain = std::function<void(std::string_view)>;
 
+    // Writes to `drain`. `codeSize` is the number of bytes of a group code, 1 or 2.
     BinaryEncoder(Drain drain, int codeSize);
 
     // Encodes the next piece. Throws std::domain_error for a value that its group code cannot hold.

@@ -30,6 +30,7 @@ public:
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
+    // Appends bytes to the new file.
     void write(std::string_view bytes);
     // Gives the new file its name. If it replaces an old drawing, the function first waits until
     // the disk holds the new one; a new name puts nothing at risk.

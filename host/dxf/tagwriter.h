@@ -47,6 +47,7 @@ public:
     static constexpr std::size_t bufferSize = 1 << 18;
     using Drain = std::function<void(std::string_view)>;  // may throw
 
+    // Writes tags in the given style to `drain`.
     TagWriter(Drain drain, const TagStyle& style);
     TagWriter(const TagWriter&) = delete;
     TagWriter& operator=(const TagWriter&) = delete;
