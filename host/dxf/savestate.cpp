@@ -128,7 +128,7 @@ void saveVariables(Edits& edits, const FileSource& source, const DrawingState& s
         }
         const std::string name = "$" + std::string(wideName.begin(), wideName.end());
         const Code code = codeOf(source, name, value, before);
-        const auto put = [&](TagWriter& writer) {
+        const auto put = [&, &value = value](TagWriter& writer) {
             std::visit([&](const auto& typed) { putValue(writer, code, typed, source.codePage); },
                        value);
         };
