@@ -328,7 +328,7 @@ long reasonsNotMet()
 }
 }  // namespace
 
-Tried tryRuns(const fs::path& folder)
+Tried tryRuns(const fs::path& folder, int everyFewth)
 {
     board = shared<Board>();
     const int workers = int(std::max(1L, sysconf(_SC_NPROCESSORS_ONLN)));
@@ -337,7 +337,7 @@ Tried tryRuns(const fs::path& folder)
     {
         if (fork() == 0)
         {
-            Worker(folder, number, workers).work();
+            Worker(folder, number, workers * everyFewth).work();
             _exit(0);
         }
     }
@@ -346,5 +346,6 @@ Tried tryRuns(const fs::path& folder)
     {
         ended = ended && status == 0;
     }
-    return {board->tried, board->failed + reasonsNotMet() + (ended ? 0 : 1)};
+    return {board->tried,
+            board->failed + (everyFewth == 1 ? reasonsNotMet() : 0) + (ended ? 0 : 1)};
 }

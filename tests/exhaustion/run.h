@@ -9,5 +9,6 @@ struct Tried
     long failed = 0;
 };
 
-// Every request once, and some of them with all that follow. Files are made in the folder.
-Tried tryRuns(const std::filesystem::path& folder);
+// Refuses every request once, and some of them with all that follow; with everyFewth above 1 only
+// every so many of them. Makes files in the folder.
+Tried tryRuns(const std::filesystem::path& folder, int everyFewth);

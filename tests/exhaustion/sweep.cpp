@@ -208,8 +208,15 @@ void sweepSaving(const fs::path& original, const fs::path& target)
 }
 }  // namespace
 
-int main()
+// Argument N: refuses only every Nth request of whole runs.
+int main(int count, char** arguments)
 {
+    const int everyFewth = count > 1 ? std::atoi(arguments[1]) : 1;
+    if (everyFewth < 1)
+    {
+        std::fprintf(stderr, "usage: exhaustion_sweep [N]\n");
+        return 2;
+    }
     const fs::path folder = support::scratchFolder();
     // The files of the fonts are not ours: a drawing with texts has them read before calls fail.
     const fs::path drawings = fs::path(TESTS_DIR) / "golden" / "drawings";
@@ -217,7 +224,7 @@ int main()
     expect(bool(host::plotDrawing(*host::openDrawing(withTexts)->database,
                                   (folder / "plot.png").string())),
            "plotting without a fault");
-    const Tried runs = tryRuns(folder);  // early: a small process is copied quickly
+    const Tried runs = tryRuns(folder, everyFewth);  // early: a small process is copied quickly
     fs::remove_all(folder);
     fs::create_directory(folder);
     scarcity::noteRefusedIn(&refused);
