@@ -91,5 +91,14 @@ def the_folders_of_a_test_go_with_it():
     expect([Path(folder).exists() for folder in said.split()] == [False] * 3, f"left: {said}")
 
 
+@check
+def a_group_that_is_killed_or_ends_badly_counts_as_a_failure():
+    script = """. scripts/groups; alone() { "$@"; }; killed() { kill -9 $BASHPID; }
+        group well true; group killed killed; group "it's bad" false; group two echo "2 passed, 0 failed"
+        count_groups; echo "$passed and $failed" """
+    done = subprocess.run(["bash", "-c", script], cwd=ROOT, capture_output=True, text=True, check=False)
+    expect_equal(done.stdout.splitlines()[-3:], ["failed: killed", "failed: it's bad", "3 and 2"], "what is counted")
+
+
 need_built()
 run_all()
