@@ -9,7 +9,7 @@ ACRX_DEFINE_MEMBERS(AcApDocument, AcRxObject)
 namespace host
 {
 Document::Document(std::unique_ptr<AcDbDatabase> database, std::filesystem::path path)
-    : m_database(std::move(database))
+    : m_database(std::move(database)), m_commands(*m_database, m_ucsHistory)
 {
     setPath(std::move(path));
 }
@@ -18,10 +18,5 @@ void Document::setPath(std::filesystem::path path)
 {
     m_path = path.empty() ? path : std::filesystem::absolute(path).lexically_normal();
     m_fileName = fromUtf8(m_path.string());
-}
-
-AcAp::DocLockMode Document::lockMode() const
-{
-    return locks.empty() ? AcAp::kNotLocked : locks.back();
 }
 }  // namespace host

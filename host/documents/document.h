@@ -5,34 +5,16 @@
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "acdocman.h"
 #include "dbmain.h"
-#include "host/database/undo.h"
+#include "host/documents/commandhistory.h"
+#include "host/documents/locks.h"
 #include "host/documents/resourcestack.h"
 #include "host/documents/ucshistory.h"
 
 namespace host
 {
-// The state that a command found when it started. Undoing the command returns to it.
-struct UndoStep
-{
-    std::wstring command;
-    UndoMark objects;
-    DrawingState state;
-    UcsHistory ucsHistory;
-};
-
-// A command that was undone, and the state that it had left.
-struct RedoStep
-{
-    UndoStep step;
-    UndoneChanges objects;
-    DrawingState state;
-    UcsHistory ucsHistory;
-};
-
 // The open drawing.
 class Document final : public AcApDocument
 {
@@ -42,23 +24,38 @@ public:
 
     AcDbDatabase* database() const override { return m_database.get(); }
     const ACHAR* fileName() const override { return m_fileName.c_str(); }
-    AcAp::DocLockMode lockMode() const override;
+    AcAp::DocLockMode lockMode() const override { return m_locks.mode(); }
 
     const std::filesystem::path& path() const { return m_path; }
     void setPath(std::filesystem::path path);
 
-    ResourceStack resources;
-    UcsHistory ucsHistory;
-    std::vector<UndoStep> undo;
-    std::vector<RedoStep> redo;  // until something else is done
-    AcGePoint3d lastPoint;       // [wcs]; "@" counts from it
-    bool blockEditor = false;    // a block is being edited
-    std::vector<AcAp::DocLockMode> locks;
-    std::uint64_t savedDigest = 0;  // of the changes that its file holds
+    CommandHistory& commands() { return m_commands; }
+    ResourceStack& resources() { return m_resources; }
+    UcsHistory& ucsHistory() { return m_ucsHistory; }
+    Locks& locks() { return m_locks; }
+
+    // The last point that was given [wcs]; "@" counts from it.
+    const AcGePoint3d& lastPoint() const { return m_lastPoint; }
+    void setLastPoint(const AcGePoint3d& pointWcs) { m_lastPoint = pointWcs; }
+
+    // Whether a block is being edited.
+    bool isBlockEditor() const { return m_isBlockEditor; }
+    void setBlockEditor(bool on) { m_isBlockEditor = on; }
+
+    // The digest of the changes that the file of the drawing holds; 0 before the first.
+    std::uint64_t savedDigest() const { return m_savedDigest; }
+    void noteSaved(std::uint64_t digest) { m_savedDigest = digest; }
 
 private:
     std::unique_ptr<AcDbDatabase> m_database;
     std::filesystem::path m_path;
     std::wstring m_fileName;
+    ResourceStack m_resources;
+    UcsHistory m_ucsHistory;
+    CommandHistory m_commands;
+    Locks m_locks;
+    AcGePoint3d m_lastPoint;
+    bool m_isBlockEditor = false;
+    std::uint64_t m_savedDigest = 0;
 };
 }  // namespace host

@@ -82,19 +82,18 @@ Acad::ErrorStatus DocumentManager::lock(AcAp::DocLockMode mode, const ACHAR* com
     {
         return Acad::eNoDatabase;
     }
-    changeLock(m_document->lockMode(), mode, command, [&] { m_document->locks.push_back(mode); });
+    changeLock(m_document->lockMode(), mode, command, [&] { m_document->locks().push(mode); });
     return Acad::eOk;
 }
 
 Acad::ErrorStatus DocumentManager::unlock(const ACHAR* command)
 {
-    if (!m_document || m_document->locks.empty())
+    if (!m_document || m_document->locks().depth() == 0)
     {
         breach("unlockDocument", "the document is not locked");
     }
-    std::vector<AcAp::DocLockMode>& locks = m_document->locks;
-    const AcAp::DocLockMode next = locks.size() > 1 ? locks[locks.size() - 2] : AcAp::kNotLocked;
-    changeLock(locks.back(), next, command, [&] { locks.pop_back(); });
+    Locks& locks = m_document->locks();
+    changeLock(locks.mode(), locks.modeBelow(), command, [&] { locks.pop(); });
     return Acad::eOk;
 }
 
@@ -108,7 +107,7 @@ void DocumentManager::pushResourceHandle(HINSTANCE resources)
     {
         breach("pushResourceHandle", "the handle is that of no loaded module");
     }
-    m_document->resources.push(resources);
+    m_document->resources().push(resources);
 }
 
 void DocumentManager::popResourceHandle()
@@ -117,7 +116,7 @@ void DocumentManager::popResourceHandle()
     {
         breach("popResourceHandle", "there is no document");
     }
-    m_document->resources.pop();
+    m_document->resources().pop();
 }
 
 void DocumentManager::addReactor(AcApDocManagerReactor* reactor)

@@ -60,7 +60,7 @@ Result<> checkAllowed(const Command& command, Document& document)
     {
         return ownFailure(L"** Command not allowed in Model Tab **");
     }
-    if (document.blockEditor && command.has(ACRX_CMD_NOBEDIT))
+    if (document.isBlockEditor() && command.has(ACRX_CMD_NOBEDIT))
     {
         return ownFailure(L"** %1 command not allowed in block editor. **", {shownName(command)});
     }
@@ -94,9 +94,9 @@ Borrowed::Borrowed(Editor& editor, Document& document, const CommandPtr& command
 {
     if (m_ownResources)
     {
-        document.resources.push(command->entry().resources);
+        document.resources().push(command->entry().resources);
     }
-    m_depth = document.resources.depth();
+    m_depth = document.resources().depth();
     if (!command->has(ACRX_CMD_SESSION))
     {
         documents().lock(AcAp::kWrite, command->globalName());
@@ -120,7 +120,7 @@ Borrowed::~Borrowed()
     checkMeter();
     if (m_ownResources)
     {
-        m_document.resources.pop();
+        m_document.resources().pop();
     }
     // An outer command may hold objects open while it asks, so only the outermost is checked.
     if (!outer)
@@ -131,7 +131,7 @@ Borrowed::~Borrowed()
 
 void Borrowed::checkResources() const
 {
-    const std::size_t depth = m_document.resources.depth();
+    const std::size_t depth = m_document.resources().depth();
     if (depth != m_depth)
     {
         breach(depth > m_depth ? "pushResourceHandle" : "popResourceHandle",
@@ -159,14 +159,10 @@ void run(Editor& editor, Document& document, const CommandPtr& command)
 
 void markForUndo(Document& document, const Command& command)
 {
-    if (command.has(ACRX_CMD_NO_UNDO_MARKER))
+    if (!command.has(ACRX_CMD_NO_UNDO_MARKER))
     {
-        return;
+        document.commands().begin(shownName(command));
     }
-    document.redo.clear();
-    AcDbDatabase& database = *document.database();
-    document.undo.push_back(
-        {shownName(command), undoMark(database), stateOf(database), document.ucsHistory});
 }
 
 void start(Editor& editor, Document& document, const CommandPtr& command)

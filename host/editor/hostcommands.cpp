@@ -1,6 +1,8 @@
 #include "host/editor/hostcommands.h"
 
-#include "host/database/drawing.h"
+#include <optional>
+#include <string>
+
 #include "host/documents/documentmanager.h"
 #include "host/editor/editor.h"
 #include "host/editor/owntexts.h"
@@ -45,40 +47,14 @@ void registerHostCommands()
 
 void undoCommand()
 {
-    Editor& editor = *Editor::current();
-    Document& document = *documents().document();
-    if (document.undo.empty())
-    {
-        editor.printLine(own(L"Everything has been undone."));
-        return;
-    }
-    AcDbDatabase& database = *document.database();
-    UndoStep step = std::move(document.undo.back());
-    document.undo.pop_back();
-    editor.printLine(step.command);
-    const UndoneChanges objects = undoTo(database, step.objects);
-    document.redo.push_back({step, objects, stateOf(database), document.ucsHistory});
-    stateOf(database) = std::move(step.state);
-    document.ucsHistory = std::move(step.ucsHistory);
+    const std::optional<std::wstring> undone = documents().document()->commands().undo();
+    Editor::current()->printLine(undone ? *undone : own(L"Everything has been undone."));
 }
 
 void redoCommand()
 {
-    Editor& editor = *Editor::current();
-    Document& document = *documents().document();
-    if (document.redo.empty())
-    {
-        editor.printLine(own(L"Nothing to redo."));
-        return;
-    }
-    AcDbDatabase& database = *document.database();
-    RedoStep step = std::move(document.redo.back());
-    document.redo.pop_back();
-    editor.printLine(step.step.command);
-    redo(database, step.objects);
-    stateOf(database) = std::move(step.state);
-    document.ucsHistory = std::move(step.ucsHistory);
-    document.undo.push_back(std::move(step.step));
+    const std::optional<std::wstring> redone = documents().document()->commands().redo();
+    Editor::current()->printLine(redone ? *redone : own(L"Nothing to redo."));
 }
 
 void quitCommand()

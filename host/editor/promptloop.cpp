@@ -87,6 +87,6 @@ Editor* askingEditor()
 void setLastPoint(const AcGePoint3d& point)
 {
     Document& document = *documents().document();
-    document.lastPoint = ucsToWorld(stateOf(*document.database()).ucs().toWorld, point);
+    document.setLastPoint(ucsToWorld(stateOf(*document.database()).ucs().toWorld, point));
 }
 }  // namespace host

@@ -56,7 +56,7 @@ AcGePoint3d resolvePoint(const TypedPoint& typed, const AcGePoint3d* base)
     AcGePoint3d point = typed.coordinates;
     if (typed.relative)
     {
-        const AcGePoint3d from = base ? *base : worldToUcs(ucs, document.lastPoint);
+        const AcGePoint3d from = base ? *base : worldToUcs(ucs, document.lastPoint());
         return from + point.asVector();
     }
     if (!typed.hasZ)

@@ -84,7 +84,7 @@ VariableValue version(Context)
 
 VariableValue blockEditor(Context at)
 {
-    return int(at.document.blockEditor);
+    return int(at.document.isBlockEditor());
 }
 
 VariableValue color(Context at)
@@ -192,12 +192,12 @@ VariableError setErrorNumber(Context at, Value value)
 
 VariableValue lastPoint(Context at)
 {
-    return worldToUcs(ucsOf(at), at.document.lastPoint);
+    return worldToUcs(ucsOf(at), at.document.lastPoint());
 }
 
 VariableError setLastPoint(Context at, Value value)
 {
-    at.document.lastPoint = ucsToWorld(ucsOf(at), std::get<AcGePoint3d>(value));
+    at.document.setLastPoint(ucsToWorld(ucsOf(at), std::get<AcGePoint3d>(value)));
     return done;
 }
 

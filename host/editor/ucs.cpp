@@ -100,7 +100,7 @@ bool setUcs(Document& document, const AcGeMatrix3d& frame)
         return false;
     }
     DrawingState& state = stateOf(*document.database());
-    document.ucsHistory.push(state);
+    document.ucsHistory().push(state);
     // worldToUcs uses dot products with the axes. At survey coordinates a slight skew would move a
     // point by millimetres on the way to the UCS and back.
     state.ucs() = {error > 1e-14 ? squared(frame) : frame, L""};
@@ -111,7 +111,7 @@ bool setUcs(Document& document, const AcGeMatrix3d& frame)
 bool restorePreviousUcs(Document& document)
 {
     DrawingState& state = stateOf(*document.database());
-    if (!document.ucsHistory.pop(state, state.ucs()))
+    if (!document.ucsHistory().pop(state, state.ucs()))
     {
         return false;
     }

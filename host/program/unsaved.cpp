@@ -110,14 +110,14 @@ void noteSaved(Editor& editor)
     if (editor.interactive())
     {
         Document& document = *documents().document();
-        document.savedDigest = digestOfChanges(*document.database());
+        document.noteSaved(digestOfChanges(*document.database()));
     }
 }
 
 bool isUnsaved()
 {
     const Document& document = *documents().document();
-    return document.savedDigest != digestOfChanges(*document.database());
+    return document.savedDigest() != digestOfChanges(*document.database());
 }
 
 bool mayGiveUpChanges(Editor& editor)

@@ -143,7 +143,7 @@ INT_PTR CAdUiBaseDialog::DoModal()
         return original<INT_PTR(CAdUiBaseDialog*)>("_ZN15CAdUiBaseDialog7DoModalEv")(this);
     }
     current->log.push_back(L"dialog");
-    EXPECT_EQ(host::documents().document()->resources.depth(), 1u);
+    EXPECT_EQ(host::documents().document()->resources().depth(), 1u);
     EXPECT_EQ(AfxGetResourceHandle(), attachedModule());
     INT_PTR result = IDCANCEL;
     if (current->userOfDialog)

@@ -94,7 +94,7 @@ TEST(Documents, locksNestAndGoBackOneByOne)
         const AcAxDocLock outer;
         EXPECT_EQ(outer.lockStatus(), Acad::eOk);
         const AcAxDocLock inner(&session.drawing());
-        EXPECT_EQ(session.document().locks.size(), 2u);
+        EXPECT_EQ(session.document().locks().depth(), 2u);
     }
     EXPECT_EQ(listener.heard, "+ + + - ");  // still locked when the inner one goes
     EXPECT_EQ(session.document().lockMode(), AcAp::kNotLocked);
@@ -113,7 +113,7 @@ TEST(Documents, resourceHandlesNest)
 {
     support::Session session;
     const HINSTANCE program = host::programInstance();
-    host::ResourceStack& stack = session.document().resources;
+    host::ResourceStack& stack = session.document().resources();
     char one;
     const HINSTANCE before = AfxGetResourceHandle();
     stack.push(handle(one));

@@ -77,13 +77,13 @@ TEST(CommandPrompt, commandIsRefusedWhereItsFlagsForbidIt)
     session.define(L"grid", sayHere, ACRX_CMD_NOPAPERSPACE | ACRX_CMD_NOBEDIT);
     session.define(L"sheet", sayHere, ACRX_CMD_NOTILEMODE);
     EXPECT_TRUE(has(session.type({"sheet"}), "** Command not allowed in Model Tab **"));
-    session.document().blockEditor = true;
+    session.document().setBlockEditor(true);
     EXPECT_TRUE(has(session.type({"grid"}), "** GRID command not allowed in block editor. **\n"));
-    session.document().blockEditor = false;
+    session.document().setBlockEditor(false);
     host::stateOf(session.drawing()).paperSpace = true;
     EXPECT_TRUE(has(session.type({"grid"}), "** Command not allowed in Paper Space **\n"));
     EXPECT_TRUE(has(session.type({"sheet"}), "here"));
-    EXPECT_EQ(session.document().undo.size(), 1u);  // what was refused leaves no step
+    EXPECT_EQ(session.document().commands().size(), 1u);  // what was refused leaves no step
 }
 
 TEST(TransparentCommands, outerPromptComesAgainWithItsOptions)

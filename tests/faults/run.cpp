@@ -45,7 +45,7 @@ State stateNow()
             drawing.ucsFollow,
             AcGeContext::gTol.equalPoint(),
             AcGeContext::gTol.equalVector(),
-            document.resources.depth(),
+            document.resources().depth(),
             std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {})};
 }
 
