@@ -38,7 +38,7 @@ std::optional<State> atFirst;
 
 State stateNow()
 {
-    const host::Document& document = *host::documents().document();
+    host::Document& document = *host::documents().document();
     const host::DrawingState& drawing = host::coreOf(*document.database()).state();
     return {drawing.modelUcs.toWorld,
             drawing.ucsIcon,
