@@ -21,11 +21,11 @@ extern "C"
     // opened. A file that begins with a UTF-16BE mark and any other mode give EINVAL.
     FILE* _wfopen(const wchar_t* path, const wchar_t* mode);
 
-    // Reads [blanks and tabs] [sign] [digits] [.digits] [d|D|e|E [sign] digits] up to the first
+    // Reads `[blanks and tabs] [sign] [digits] [.digits] [d|D|e|E [sign] digits]` up to the first
     // character that does not fit. The decimal point is a point in every locale. Returns 0 for a
     // text without a number and +-HUGE_VAL for a number out of range.
     double _wtof(const wchar_t* text);
-    // Reads [white space] [sign] [digits]. Returns the nearest int for a number out of range.
+    // Reads `[white space] [sign] [digits]`. Returns the nearest int for a number out of range.
     int _wtoi(const wchar_t* text);
 
     // Compare unit by unit. A-Z count as a-z, and no other letters are folded: `_` comes before the
