@@ -1,21 +1,21 @@
-// What the host application offers to the database.
+// The services that the host application offers to the database.
 #pragma once
 
 #include "dbmain.h"
 
-// What the application tells its drawings. There is one object of it.
+// The services of the application. The host has one object of this class.
 class AcDbHostApplicationServices
 {
 public:
-    // The drawing that calls without a drawing of their own act on, here that of the open document
-    // [borrowed]; null while no drawing is open.
+    // Returns the drawing that calls without a drawing argument act on [borrowed]; in this host it
+    // is the drawing of the open document. Returns null while no drawing is open.
     AcDbDatabase* workingDatabase() const { return m_working; }
-    // The host calls it; null takes the working database away [borrowed].
+    // Sets the working database [borrowed]; null leaves none. Only the host calls this function.
     void setWorkingDatabase(AcDbDatabase* database) { m_working = database; }
 
 private:
     AcDbDatabase* m_working = nullptr;
 };
 
-// The one object of that class [borrowed]; it is there before any module is loaded.
+// Returns the one object of that class [borrowed]. It exists before any module is loaded.
 AcDbHostApplicationServices* acdbHostApplicationServices();

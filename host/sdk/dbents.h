@@ -13,18 +13,19 @@ class AcDbLine : public AcDbCurve
 public:
     ACRX_DECLARE_MEMBERS(AcDbLine)
 
-    // From start to end [wcs]; 0,0,0 to 0,0,0 without arguments.
+    // Create a line from start to end [wcs], or from 0,0,0 to 0,0,0.
     AcDbLine() {}
     AcDbLine(const AcGePoint3d& start, const AcGePoint3d& end) : m_start(start), m_end(end) {}
 
-    // The ends [wcs].
+    // Return the ends [wcs].
     AcGePoint3d startPoint() const { return m_start; }
     AcGePoint3d endPoint() const { return m_end; }
-    // Move one end [wcs] [write]. eInvalidInput for a point of a drawing that is not finite.
+    // Move one end [wcs] [write]. Return eInvalidInput when the line is in a drawing and the point
+    // is not finite.
     Acad::ErrorStatus setStartPoint(const AcGePoint3d& point);
     Acad::ErrorStatus setEndPoint(const AcGePoint3d& point);
 
-    // As said in the base classes: the stretch points are the start and the end.
+    // These do what the base classes describe. The stretch points are the start and the end.
     Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
     Acad::ErrorStatus getStretchPoints(AcGePoint3dArray& points) const override;
     Acad::ErrorStatus intersectWith(const AcDbEntity* other, AcDb::Intersect type,
@@ -41,19 +42,20 @@ private:
     AcGePoint3d m_end;
 };
 
-// A vertex of a 2D polyline. The polyline makes it and owns it until both are in a database.
+// A vertex of a 2D polyline. The polyline creates the vertex and owns it until both are in a
+// database.
 class AcDb2dVertex : public AcDbEntity
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDb2dVertex)
 
-    // At 0,0,0, or at a position in the plane system (OCS) of its polyline.
+    // Create a vertex at 0,0,0 or at a position in its polyline's plane system (OCS).
     AcDb2dVertex() {}
     explicit AcDb2dVertex(const AcGePoint3d& position) : m_position(position) {}
 
-    // In the polyline's plane system (OCS); z is the polyline's elevation.
+    // Returns the position in the polyline's plane system (OCS); z is the polyline's elevation.
     AcGePoint3d position() const { return m_position; }
-    // eNotApplicable: a vertex lies in the plane of its polyline and moves with that.
+    // Returns eNotApplicable: a vertex lies in the plane of its polyline and moves with it.
     Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
 private:
@@ -61,16 +63,17 @@ private:
     AcGePoint3d m_position;
 };
 
-// Goes through the vertices of a polyline, as they were when the iterator was made. The caller
-// deletes it.
+// Iterates over the vertices that a polyline had when the iterator was created. The caller deletes
+// the iterator.
 class AcDbObjectIterator
 {
 public:
-    // Order of calls: start, then while not done: objectId, step. A new iterator is at its start.
+    // Order of calls: start; then, until done returns true, objectId and step. A new iterator is at
+    // its start.
     void start() { m_at = 0; }
     bool done() const { return m_at >= m_ids.length(); }
     void step() { ++m_at; }
-    // Id of the vertex; once the iterator is done it ends the run.
+    // Returns the id of the vertex. Calling it after the last vertex ends the run.
     AcDbObjectId objectId() const { return m_ids[m_at]; }
 
 private:
@@ -79,41 +82,42 @@ private:
     int m_at = 0;
 };
 
-// Straight segments in one plane. The vertices are entities of their own with the polyline's layer,
-// colour and linetype. They belong to the polyline and enter the database with it.
+// Straight segments in one plane. The vertices are separate entities with the polyline's layer,
+// colour and linetype. They belong to the polyline and join the database with it.
 class AcDb2dPolyline : public AcDbCurve
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDb2dPolyline)
 
-    // An open polyline without vertices.
+    // Creates an open polyline without vertices.
     AcDb2dPolyline();
-    // Through copies of the vertices, in the XY plane [wcs]: their z is not used, and all lie at
-    // `elevation`. Lengths and widths are in drawing units. Only simple polylines without bulges
-    // are known; another type, or bulges that are not null, leave it without vertices.
+    // Creates a polyline through copies of the vertices [wcs]. Their z is ignored: the polyline
+    // lies at `elevation` in the XY plane. Lengths and widths are in drawing units. This host
+    // supports only simple polylines without bulges; another type, or bulges that are not null,
+    // give a polyline without vertices.
     AcDb2dPolyline(AcDb::Poly2dType type, AcGePoint3dArray& vertices, double elevation = 0,
                    Adesk::Boolean closed = Adesk::kFalse, double defStartWidth = 0,
                    double defEndWidth = 0, AcGeDoubleArray* bulges = nullptr,
                    AcArray<Adesk::Int32>* vertexIdentifiers = nullptr);
     ~AcDb2dPolyline();
 
-    // Join the end to the start or not, run a dashed linetype through the corners or begin it anew
-    // at each; eOk [write].
+    // Open and close the polyline, and set whether a dashed linetype runs through the corners or
+    // begins anew at each vertex [write]. The setters return eOk.
     Acad::ErrorStatus makeClosed();
     Acad::ErrorStatus makeOpen();
     Acad::ErrorStatus setLinetypeGenerationOn();
     Acad::ErrorStatus setLinetypeGenerationOff();
     bool isLinetypeGenerationOn() const { return m_linetypeGeneration; }
-    // Z of all vertices in the plane system (OCS), and the widths that segments start and end with,
-    // in drawing units.
+    // Return the z of all vertices in the plane system (OCS), and the widths at the start and the
+    // end of segments, in drawing units.
     double elevation() const { return m_elevation; }
     double defStartWidth() const { return m_startWidth; }
     double defEndWidth() const { return m_endWidth; }
-    // Goes through the vertices [read]; the caller deletes it. It is empty while the polyline is in
-    // no database.
+    // Returns a new iterator over the vertices [read], which the caller deletes. It visits no
+    // vertex while the polyline is in no database.
     AcDbObjectIterator* vertexIterator() const;
 
-    // As said in AcDbEntity; the vertices get the property with doSubents only.
+    // These do what AcDbEntity describes. The vertices get the property only when doSubents is set.
     Acad::ErrorStatus setColorIndex(Adesk::UInt16 color,
                                     Adesk::Boolean doSubents = Adesk::kTrue) override;
     using AcDbEntity::setLayer;
@@ -127,10 +131,11 @@ public:
     Acad::ErrorStatus setVisibility(AcDb::Visibility visibility,
                                     Adesk::Boolean doSubents = Adesk::kTrue) override;
 
-    // As said in AcDbObject and AcDbEntity; the vertices are erased and moved with it.
+    // Erase and transform the polyline with its vertices, as AcDbObject and AcDbEntity describe.
     Acad::ErrorStatus erase(Adesk::Boolean erasing = Adesk::kTrue) override;
     Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
-    // The vertices in their order [wcs]; a closed polyline does not repeat the first one.
+    // The stretch points are the vertices in their order [wcs]; a closed polyline does not repeat
+    // the first one.
     Acad::ErrorStatus getStretchPoints(AcGePoint3dArray& points) const override;
     Acad::ErrorStatus getClosestPointTo(const AcGePoint3d& given, AcGePoint3d& onCurve,
                                         Adesk::Boolean extend = Adesk::kFalse) const override;
@@ -151,68 +156,78 @@ private:
 
 // One line of text.
 //
-// Which point rules: with kTextBase and kTextLeft, kTextAlign or kTextFit the position does. In all
-// other modes the alignment point does, and the position is computed from it when the text is
-// closed in a database. So a caller sets the modes first, then the alignment point.
+// One of two points determines where the text lies. In kTextBase with kTextLeft, kTextAlign or
+// kTextFit it is the position. In every other mode it is the alignment point, and the host computes
+// the position from it when the text is closed in a database. A caller therefore sets the modes
+// first and the alignment point after them.
 class AcDbText : public AcDbEntity
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbText)
 
-    // A text at position [wcs], in the XY plane, with copies of the arguments; a null text is
-    // empty. The height is in drawing units, the rotation [rad]. A text without a style gets the
-    // current one when it is appended. A new text has no slant and width factor 1.
+    // Create a text at position [wcs], in the XY plane, with copies of the arguments. A null text
+    // counts as empty. The height is in drawing units, the rotation is [rad]. A text without a
+    // style gets the current one when it is appended. A new text has no slant and width factor 1.
     AcDbText();
     AcDbText(const AcGePoint3d& position, const ACHAR* text,
              AcDbObjectId style = AcDbObjectId::kNull, double height = 0, double rotation = 0);
     ~AcDbText();
 
-    // Left end of its baseline and the point that it is aligned to [wcs].
+    // Return the left end of the baseline, and the point that the text is aligned to [wcs].
     AcGePoint3d position() const { return m_position; }
     AcGePoint3d alignmentPoint() const { return m_alignment; }
-    // Its style; null until it is set or the text is appended.
+    // Returns the style; the id is null until it is set or the text is appended.
     AcDbObjectId textStyle() const { return AcDbObjectId(m_style); }
-    // Height of the capitals in drawing units.
+    // Returns the height of the capitals in drawing units.
     double height() const { return m_height; }
-    // Direction from the X axis of its plane (OCS), and slant from the upright [rad].
+    // Return the direction from the X axis of the text's plane (OCS), and the slant from the
+    // upright [rad].
     double rotation() const { return m_rotation; }
     double oblique() const { return m_oblique; }
-    // Width of the letters as a multiple of that of the style's font.
+    // Returns the width of the letters as a multiple of their width in the style's font.
     double widthFactor() const { return m_widthFactor; }
-    // The text [borrowed], good until it is changed.
+    // Returns the text [borrowed], good until it is changed.
     const ACHAR* textStringConst() const { return m_text; }
-    // Where the alignment point lies in the text.
+    // Return where the alignment point lies in the text.
     AcDb::TextHorzMode horizontalMode() const { return m_horizontal; }
     AcDb::TextVertMode verticalMode() const { return m_vertical; }
 
-    // The setters need the text open for write [write].
+    // The setters need the text open for write [write]. They return eOk unless their comment names
+    // another status.
     //
-    // Sets the position [wcs]. eInvalidInput for a point of a drawing that is not finite.
+    // Sets the position [wcs]. Returns eInvalidInput when the text is in a drawing and the point is
+    // not finite.
     Acad::ErrorStatus setPosition(const AcGePoint3d& point);
-    // Sets the alignment point [wcs]. eNotApplicable with kTextLeft and kTextBase; eInvalidInput
-    // for a point of a drawing that is not finite.
+    // Sets the alignment point [wcs]. Returns eNotApplicable with kTextLeft and kTextBase, and
+    // eInvalidInput when the text is in a drawing and the point is not finite.
     Acad::ErrorStatus setAlignmentPoint(const AcGePoint3d& point);
-    // eWrongObjectType for an id that is null or of another kind of object.
+    // Sets the style. Returns eWrongObjectType for a null id or the id of another kind of object.
     Acad::ErrorStatus setTextStyle(AcDbObjectId style);
-    // [rad]. eInvalidInput beyond 85 degrees either way.
+    // Sets the slant from the upright [rad]. Returns eInvalidInput beyond 85 degrees in either
+    // direction.
     Acad::ErrorStatus setOblique(double angle);
-    // eInvalidInput unless the number is positive and finite.
+    // Set the width factor, and the height in drawing units. Return eInvalidInput unless the number
+    // is positive and finite.
     Acad::ErrorStatus setWidthFactor(double factor);
     Acad::ErrorStatus setHeight(double height);
-    // [rad]. eInvalidInput for an angle of a drawing that is not finite.
+    // Sets the rotation [rad]. Returns eInvalidInput when the text is in a drawing and the angle is
+    // not finite.
     Acad::ErrorStatus setRotation(double angle);
-    // The text is copied. eInvalidInput for null.
+    // Sets the text to a copy of the argument. Returns eInvalidInput for null.
     Acad::ErrorStatus setTextString(const ACHAR* text);
-    // The points stay as they are until the text is aligned; eOk.
+    // Set where the alignment point lies in the text. The points stay as they are until the text is
+    // aligned.
     Acad::ErrorStatus setVerticalMode(AcDb::TextVertMode mode);
     Acad::ErrorStatus setHorizontalMode(AcDb::TextHorzMode mode);
-    // Moves the position to where the alignment point puts the text [write]; the host does so by
-    // itself when a text in a database is closed. Where the position rules, the alignment point of
-    // kTextLeft follows it. Widths are estimated: there are no fonts here. The argument has no
-    // effect. eInvalidInput when the position of a text in a drawing would not be finite.
+    // Moves the position to where the alignment point puts the text [write]. The host calls it when
+    // a text in a database is closed. Where the position determines the place of the text, the
+    // alignment point of a kTextLeft text follows the position. Widths are estimated because the
+    // host has no fonts. The argument has no effect. Returns eInvalidInput when the position of a
+    // text in a drawing would not be finite.
     Acad::ErrorStatus adjustAlignment(const AcDbDatabase* database = nullptr);
 
-    // As said in AcDbEntity: both points, the plane, the direction and the height follow.
+    // Transforms the text as AcDbEntity describes. Both points, the plane, the direction and the
+    // height follow the matrix.
     Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
 
 private:

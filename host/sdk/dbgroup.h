@@ -1,34 +1,36 @@
-// Group of entities.
+// Groups of entities.
 #pragma once
 
 #include "dbidar.h"
 #include "dbmain.h"
 
-// Entities that are picked together. Order of calls: make the group, put it in the group dictionary
-// (AcDbDictionary::setAt), append the members, close it. It has to be in the dictionary first
-// because it leaves a persistent reactor with its id on each member. Erased members do not count.
+// Entities that are picked together. Order of calls: create the group, put it in the group
+// dictionary (AcDbDictionary::setAt), append the members, close it. The group must be in the
+// dictionary first because append leaves a persistent reactor with the group's id on each member.
+// Erased members do not count.
 class AcDbGroup : public AcDbObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbGroup)
 
-    // A group with that description, which is copied and is not its name; null counts as empty. A
-    // selectable group is picked as a whole.
+    // Create a group with a copy of the description; null counts as empty. The description is not
+    // the group's name. A selectable group is picked as a whole.
     AcDbGroup();
     explicit AcDbGroup(const ACHAR* description, bool selectable = true);
     ~AcDbGroup();
 
-    // Adds an entity, which need not be open [write]. eNotInDatabase when the group is not in the
-    // dictionary yet, eNullObjectId, eNotAnEntity, eAlreadyInGroup.
+    // Adds an entity, which need not be open [write]. Returns eNotInDatabase when the group is not
+    // in the dictionary yet, eNullObjectId, eNotAnEntity or eAlreadyInGroup.
     Acad::ErrorStatus append(const AcDbObjectId& id);
 
-    // What the group was made with; the text is [borrowed] and lives as long as the group.
+    // Return what the constructor was given. The text is [borrowed] and good as long as the group
+    // lives.
     const ACHAR* description() const;
     bool isSelectable() const;
-    // Whether its key in the dictionary begins with "*".
+    // Tells whether the group's key in the dictionary begins with "*".
     bool isAnonymous() const;
-    // How many members it has [read]; allEntityIds also appends their ids, in the order in which
-    // they were added, to what is in the array.
+    // Return the number of members [read]. allEntityIds also appends their ids to the array, in the
+    // order in which they were added.
     Adesk::UInt32 numEntities() const;
     Adesk::UInt32 allEntityIds(AcDbObjectIdArray& ids) const;
 

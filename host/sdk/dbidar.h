@@ -1,4 +1,4 @@
-// Array of ids.
+// The array of object ids.
 #pragma once
 
 #include "acarray.h"

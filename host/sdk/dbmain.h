@@ -1,4 +1,4 @@
-// Database, objects and entities.
+// The drawing database, its objects and entities, and the calls that open them.
 #pragma once
 
 #include "acdb.h"
@@ -16,31 +16,32 @@ class AcDbLayerTable;
 class AcDbLinetypeTable;
 class AcDbTextStyleTable;
 
-// One drawing. It owns every object in it; every pointer and id that it gives is [borrowed] and
-// good until the drawing is closed. A module does not make one: it asks the document or the host.
+// A drawing. The database owns every object in it. Every pointer and id that it returns is
+// [borrowed] and good until the drawing is closed. A module does not create a database: it gets one
+// from the document or from the host.
 class AcDbDatabase
 {
 public:
-    // A drawing without tables: the host fills it from a file or from the empty drawing.
+    // Creates a drawing without tables. The host fills it from a file or from the empty drawing.
     AcDbDatabase();
-    // Ends every object; if it is the working database there is none after it.
+    // Destroys every object. If this is the working database, no database is current afterwards.
     ~AcDbDatabase();
 
-    // Each opens a table or the group dictionary, which the caller closes. The statuses are those
-    // of acdbOpenAcDbObject; the pointer is null unless eOk.
+    // Open a table or the group dictionary. The caller closes it. The statuses are those of
+    // acdbOpenAcDbObject; the pointer is null unless the status is eOk.
     Acad::ErrorStatus getBlockTable(AcDbBlockTable*& table, AcDb::OpenMode mode);
     Acad::ErrorStatus getLayerTable(AcDbLayerTable*& table, AcDb::OpenMode mode);
     Acad::ErrorStatus getLinetypeTable(AcDbLinetypeTable*& table, AcDb::OpenMode mode);
     Acad::ErrorStatus getTextStyleTable(AcDbTextStyleTable*& table, AcDb::OpenMode mode);
     Acad::ErrorStatus getGroupDictionary(AcDbDictionary*& dictionary, AcDb::OpenMode mode);
 
-    // Ids of the tables; null in a drawing without them.
+    // Return the ids of the tables, or the null id in a drawing without tables.
     AcDbObjectId blockTableId() const;
     AcDbObjectId layerTableId() const;
     AcDbObjectId linetypeTableId() const;
     AcDbObjectId textStyleTableId() const;
 
-    // What new entities get: the current layer, text style and linetype.
+    // Return what new entities get: the current layer, text style and linetype.
     AcDbObjectId clayer() const;
     AcDbObjectId textstyle() const;
     AcDbObjectId celtype() const;
@@ -54,56 +55,61 @@ private:
     Internals* m_internals;
 };
 
-// An object of the database, or one that is still to enter it.
+// An object that belongs to a database or will be added to one.
 //
-// A new object counts as open for write and belongs to its maker, who may delete it. Once it is in
-// a database it belongs to that and is only opened and closed; to delete it ends the run. Whoever
-// opens an object closes it before the command ends; an object that is left open ends the run.
+// A new object counts as open for write and belongs to its creator, who may delete it. After an
+// object joins a database, the database owns it. A caller may only open and close it; deleting it
+// ends the run. A caller that opens an object closes it before the command ends; an object that is
+// left open ends the run.
 //
-// A call with [read] needs the object open, one with [write] needs it open for write; on a closed
-// object, or one that is open in the wrong way, such a call ends the run.
+// A call tagged [read] needs the object open, and one tagged [write] needs it open for write. Such
+// a call ends the run when the object is closed or open in the wrong mode.
 class AcDbObject : public AcRxObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbObject)
 
-    AcDbObject();           // open for write, in no database
-    virtual ~AcDbObject();  // ends the run for an object of a database
+    AcDbObject();           // creates an object that is open for write and in no database
+    virtual ~AcDbObject();  // ends the run if the object belongs to a database
 
-    // Its id; null while it is in no database. It may be asked for after close, too, as long
-    // as nothing else has been opened since.
+    // Returns the object's id, or the null id while it is in no database. The call is also allowed
+    // after close, as long as nothing else has been opened since.
     AcDbObjectId objectId() const;
-    // The block, table, dictionary or polyline that it is in; null while it is in no database.
+    // Returns the block, table, dictionary or polyline that holds the object, or the null id while
+    // the object is in no database.
     AcDbObjectId ownerId() const;
-    // The drawing that it is in [borrowed]; null while it is in none.
+    // Returns the drawing that holds the object [borrowed], or null while the object is in no
+    // database.
     AcDbDatabase* database() const;
-    // Whether it is erased; false while it is in no database.
+    // Tells whether the object is erased. An object in no database is never erased.
     bool isErased() const;
-    // Whether it is open, and whether it is open for write.
+    // Tell whether the object is open, and whether it is open for write.
     bool isReadEnabled() const;
     bool isWriteEnabled() const;
 
-    // Turns the only reader into the writer [read]; one close closes the object after it.
-    // eWasOpenForWrite, eHadMultipleReaders, eOnLockedLayer: nothing has changed, and the readers
-    // stay.
+    // Turns the only reader into the writer [read]; a single close then closes the object. Returns
+    // eWasOpenForWrite, eHadMultipleReaders or eOnLockedLayer when it cannot; nothing has changed
+    // then, and the readers stay.
     Acad::ErrorStatus upgradeOpen();
-    // Turns the writer into a reader [read]. eNotInDatabase for a new object, eWasOpenForRead.
+    // Turns the writer into a reader [read]. Returns eNotInDatabase for a new object and
+    // eWasOpenForRead for an object that is open for read already.
     Acad::ErrorStatus downgradeOpen();
-    // Ends one opening. A text that was open for write is aligned first
-    // (AcDbText::adjustAlignment). eNotInDatabase for a new object, which stays as it is. An entity
-    // that appendAcDbEntity left open may be closed twice: the second close gives eNotOpenForWrite
-    // and changes nothing. Any other close of a closed object ends the run.
+    // Ends one opening. Aligns a text that was open for write first (AcDbText::adjustAlignment).
+    // Returns eNotInDatabase for a new object, which stays as it is. An entity that
+    // appendAcDbEntity left open may be closed twice: the second close returns eNotOpenForWrite and
+    // changes nothing. Any other close of a closed object ends the run.
     Acad::ErrorStatus close();
-    // Marks the object as erased, or with kFalse as not erased [write]; it is still to be closed.
-    // An erased object is not saved, not listed, and opened only by who asks for erased ones.
-    // eNotInDatabase for a new object, eWasErased when it is in that state already.
+    // Marks the object as erased, or with kFalse as not erased [write]. The caller still closes it.
+    // An erased object is not saved, not listed, and opened only when the caller asks for erased
+    // objects. Returns eNotInDatabase for a new object and eWasErased for an object that is in the
+    // requested state already.
     virtual Acad::ErrorStatus erase(Adesk::Boolean erasing = Adesk::kTrue);
 
     struct Internals;  // the host's own
 
 protected:
-    // End the run unless the object is open, or open for write. `call` is the name that the line on
-    // standard error tells.
+    // End the run unless the object is open, or open for write. `call` is the name that the message
+    // on standard error mentions.
     void assertReadEnabled(const char* call) const;
     void assertWriteEnabled(const char* call) const;
 
@@ -112,83 +118,92 @@ private:
     AcDbStub* m_owner;
     unsigned short m_readers;  // at most 256
     bool m_forWrite;
-    bool m_forgiveClose;     // the one close that may follow the close after an append
-    bool m_refused;          // the host refused an upgrade or an erase: may stay open on purpose
-    bool m_released;         // the host itself deletes it
-    mutable bool m_changed;  // since it was unpacked
+    bool m_forgiveClose;  // whether one more close may follow the close after an append
+    bool m_refused;  // the host refused an upgrade or an erase: the object may stay open on purpose
+    bool m_released;         // whether the host itself deletes the object
+    mutable bool m_changed;  // whether the object changed since it was unpacked
 };
 
-// Anything drawn. Points and vectors are [wcs] unless said otherwise, lengths are in drawing units.
+// An object that is drawn. Points and vectors are [wcs] unless a comment says otherwise. Lengths
+// are in drawing units.
 //
-// Setters need the entity open for write [write] and return eOk or what is said with them; a value
-// that is refused leaves the former one. A number that is not finite is taken while the entity is
-// in no database; in a drawing it is eInvalidInput, so that every drawing can be saved.
+// Setters need the entity open for write [write]. They return eOk or a status that their comment
+// names. A setter that refuses a value keeps the former one. An entity in no database accepts
+// numbers that are not finite; an entity in a drawing refuses them with eInvalidInput, so that
+// every drawing can be saved.
 class AcDbEntity : public AcDbObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbEntity)
 
-    // ByLayer, visible, without a layer and linetype until it is appended.
+    // Creates an entity that is ByLayer and visible. It has no layer and no linetype until it is
+    // appended.
     AcDbEntity();
 
-    // Takes the current layer, colour, linetype, linetype scale and lineweight of the working
-    // database, or of the given one, and makes the entity visible [write]. Without a database it
-    // does nothing. An append does the same for each of these that was not set before.
+    // Take the current layer, colour, linetype, linetype scale and lineweight of the working
+    // database or of the given one, and make the entity visible [write]. Without a database they do
+    // nothing. Appending an entity does the same for each of these properties that was not set
+    // before.
     void setDatabaseDefaults();
     void setDatabaseDefaults(AcDbDatabase* database);
 
-    // Colour index: 0 ByBlock, 1 to 255, 256 ByLayer.
+    // Returns the colour index: 0 for ByBlock, 1 to 255, or 256 for ByLayer.
     Adesk::UInt16 colorIndex() const;
-    // Its properties; the ids are null until they are set or the entity is appended.
+    // Return the properties. An id is null until it is set or the entity is appended.
     AcDbObjectId layerId() const;
     AcDbObjectId linetypeId() const;
     double linetypeScale() const;
     AcDb::LineWeight lineWeight() const;
     AcDb::Visibility visibility() const;
-    // Unit normal of its plane [wcs]; 0,0,1 for a new entity. Its own plane system (OCS) follows
-    // from it by the arbitrary axis rule.
+    // Returns the unit normal of the entity's plane [wcs]; it is 0,0,1 for a new entity. The
+    // plane's own coordinate system (OCS) follows from the normal by the arbitrary axis rule.
     AcGeVector3d normal() const;
 
-    // In all of these doSubents hands the property on to the vertices of a polyline.
+    // In each of the following setters, doSubents passes the property on to the vertices of a
+    // polyline.
     //
-    // eInvalidInput above 256.
+    // Sets the colour index. Returns eInvalidInput for an index above 256.
     virtual Acad::ErrorStatus setColorIndex(Adesk::UInt16 color,
                                             Adesk::Boolean doSubents = Adesk::kTrue);
-    // By name, in any letter case, in the entity's database or else the working one: eKeyNotFound,
-    // also for a null name, eDeletedEntry, eNoDatabase. By id: eWrongObjectType, also for a null
-    // id. A layer that is frozen or locked is taken; allowHiddenLayer has no effect.
+    // Set the layer, by name or by id. A layer that is frozen or locked is accepted;
+    // allowHiddenLayer has no effect. The name, in any letter case, is looked up in the entity's
+    // database, or in the working database while the entity has none. The call by name returns
+    // eKeyNotFound for an unknown or null name, eDeletedEntry for an erased layer, and eNoDatabase.
+    // The call by id returns eWrongObjectType for a null id or the id of another kind of object.
     Acad::ErrorStatus setLayer(const ACHAR* name, Adesk::Boolean doSubents = Adesk::kTrue,
                                bool allowHiddenLayer = false);
     virtual Acad::ErrorStatus setLayer(AcDbObjectId id, Adesk::Boolean doSubents = Adesk::kTrue,
                                        bool allowHiddenLayer = false);
-    // As setLayer.
+    // Set the linetype, by name or by id. The statuses are those of setLayer.
     Acad::ErrorStatus setLinetype(const ACHAR* name, Adesk::Boolean doSubents = Adesk::kTrue);
     virtual Acad::ErrorStatus setLinetype(AcDbObjectId id, Adesk::Boolean doSubents = Adesk::kTrue);
-    // eInvalidInput for a width that is not in the list of AcDb::LineWeight.
+    // Sets the lineweight. Returns eInvalidInput for a width that is not in the list of
+    // AcDb::LineWeight.
     virtual Acad::ErrorStatus setLineWeight(AcDb::LineWeight weight,
                                             Adesk::Boolean doSubents = Adesk::kTrue);
-    // Shows or hides the entity; eOk.
+    // Shows or hides the entity. Returns eOk.
     virtual Acad::ErrorStatus setVisibility(AcDb::Visibility visibility,
                                             Adesk::Boolean doSubents = Adesk::kTrue);
 
-    // Shows the entity now; eOk. It may be called after close, too. There is no screen here: the
-    // host only notes that it was asked.
+    // Shows the entity now. Returns eOk. The call is also allowed after close. The host has no
+    // screen and only records the call.
     Acad::ErrorStatus draw();
 
-    // Moves the entity by matrix, which maps [wcs] to [wcs] [write]. The entity may be in no
-    // database. eCannotScaleNonUniformly for a matrix that does not keep angles, eInvalidInput when
-    // a number would no longer be finite in a drawing, eNotApplicable for a vertex, which moves
-    // with its polyline.
+    // Transforms the entity by a matrix that maps [wcs] to [wcs] [write]. The entity may be in no
+    // database. Returns eCannotScaleNonUniformly for a matrix that does not keep angles,
+    // eInvalidInput when a number in a drawing would no longer be finite, and eNotApplicable for a
+    // vertex, which moves with its polyline.
     virtual Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) = 0;
-    // Appends the points that shape the entity [wcs], in its own order [read].
-    // eNotImplementedYet for an entity without any.
+    // Appends the points that shape the entity [wcs], in the entity's own order [read]. Returns
+    // eNotImplementedYet for an entity without such points.
     virtual Acad::ErrorStatus getStretchPoints(AcGePoint3dArray& points) const;
-    // Appends the points that this entity and the other have in common [wcs] [read]; eOk also when
-    // there are none. The other has to be open if it is in a database. Only a line can ask, and it
-    // can ask for a line or a 2D polyline. Its points come in decreasing order along it, the far
-    // end first, and points within AcGeContext::gTol count as one. Nothing is met in another plane.
-    // The markers have no effect. eNullObjectPointer for a null other, eNotImplementedYet for any
-    // other pair.
+    // Appends the points that this entity and the other have in common [wcs] [read]. Returns eOk
+    // also when the entities do not meet. If the other entity is in a database, it must be open.
+    // Only a line can be asked, and the other entity must be a line or a 2D polyline. The points
+    // come in decreasing order along this line, from its far end on. Points within
+    // AcGeContext::gTol of each other count as one. Entities in different planes do not meet. The
+    // markers have no effect. Returns eNullObjectPointer for a null `other` and eNotImplementedYet
+    // for any other pair of entities.
     virtual Acad::ErrorStatus intersectWith(const AcDbEntity* other, AcDb::Intersect type,
                                             AcGePoint3dArray& points,
                                             Adesk::GsMarker thisMarker = 0,
@@ -197,9 +212,9 @@ public:
     struct Internals;  // the host's own
 
 protected:
-    // Sets the normal, which has to be a unit vector.
+    // Sets the normal, which must be a unit vector.
     void setNormal(const AcGeVector3d& normal) { m_normal = normal; }
-    // Hands the properties on to the parts of the entity.
+    // Passes the properties on to the parts of the entity.
     virtual void subentSetProperties() {}
 
 private:
@@ -209,27 +224,30 @@ private:
     double m_linetypeScale;
     Adesk::UInt16 m_color;
     Adesk::Int16 m_lineWeight;
-    Adesk::UInt32 m_reactors;  // number of the interned list of persistent reactors; 0 for none
+    Adesk::UInt32
+        m_reactors;  // number of the interned list of persistent reactors; 0 means no reactor
     bool m_invisible;
-    unsigned char m_given;  // properties that have been set, a bit each
+    unsigned char m_given;  // one bit for each property that has been set
 };
 
-// Open an object by its id. The caller closes it [borrowed]. Up to 256 readers may have an object
-// open at a time, or one writer alone. eNullObjectId; eWasErased unless openErased is set;
-// eNotThatKindOfClass; eWasOpenForWrite; eWasOpenForRead when a writer asks for an object that has
-// readers; eAtMaxReaders; eOnLockedLayer when a writer asks for an entity on a locked layer;
-// eNotImplementedYet for kForNotify and for a kind of object that this host only carries along. The
-// pointer is null then.
+// Open an object by its id. The pointer is [borrowed], and the caller closes the object. Up to 256
+// readers, or a single writer, may have an object open at a time. Statuses: eNullObjectId;
+// eWasErased for an erased object unless openErased is set; eNotThatKindOfClass; eWasOpenForWrite;
+// eWasOpenForRead when a writer asks for an object that has readers; eAtMaxReaders; eOnLockedLayer
+// when a writer asks for an entity on a locked layer; eNotImplementedYet for kForNotify and for a
+// kind of object that this host only carries along. The pointer is null unless the status is eOk.
 Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode mode,
                                      bool openErased = false);
 Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, AcDbObjectId id, AcDb::OpenMode mode,
                                      bool openErased = false);
 
-// acdbOpenAcDbObject for a class; also through a locked layer when asked.
+// Opens an object that must be of the given class. With openOnLockedLayer set, a writer also gets
+// an entity on a locked layer. Everything else is as in acdbOpenAcDbObject.
 Acad::ErrorStatus acdbOpenOfClass(AcDbObject*& object, AcDbObjectId id, AcRxClass* type,
                                   AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer);
 
-// The same for one class T: an object of another class is eNotThatKindOfClass.
+// Opens an object of class T, as acdbOpenAcDbObject does. Returns eNotThatKindOfClass for an object
+// of another class.
 template <class T>
 Acad::ErrorStatus acdbOpenObject(T*& object, AcDbObjectId id, AcDb::OpenMode mode = AcDb::kForRead,
                                  bool openErased = false)

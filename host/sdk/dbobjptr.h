@@ -1,28 +1,28 @@
-// Pointer objects that open in their constructor and close in their destructor.
+// Pointers that open an object in their constructor and close it in their destructor.
 //
-// Order of calls: make the pointer, ask openStatus, use the object. The object must not be closed
-// by itself: its pointer closes it, at the latest when it goes.
+// Order of calls: create the pointer, ask openStatus, use the object. Code that uses the pointer
+// must not close the object directly: the pointer closes it, at the latest in its destructor.
 #pragma once
 
 #include "dbapserv.h"
 #include "dbmain.h"
 #include "dbsymtb.h"
 
-// What all pointer objects have in common. T is the class that the object has to be of.
+// The base of all these pointers. T is the class that the object must have.
 template <class T>
 class AcDbObjectPointerBase
 {
 public:
-    // eOk while the object is open; else why it could not be opened, and eNullObjectPointer after
-    // close.
+    // Returns eOk while the object is open, the reason why opening failed, or eNullObjectPointer
+    // after close.
     Acad::ErrorStatus openStatus() const { return m_status; }
-    // The open object [borrowed]; null unless openStatus is eOk.
+    // Return the open object [borrowed], or null unless openStatus is eOk.
     T* object() const { return m_object; }
     T* operator->() const { return m_object; }
     operator T*() const { return m_object; }
 
-    // Closes the object before the pointer goes and returns what AcDbObject::close returns;
-    // eNullObjectPointer when nothing is open.
+    // Closes the object before the destructor does. Returns what AcDbObject::close returns, or
+    // eNullObjectPointer when no object is open.
     Acad::ErrorStatus close()
     {
         if (m_object == nullptr)
@@ -36,18 +36,18 @@ public:
     }
 
 protected:
-    // Nothing is open at first. The destructor closes what is.
+    // The constructor opens nothing. The destructor closes an object that is still open.
     AcDbObjectPointerBase() : m_object(nullptr), m_status(Acad::eNullObjectPointer) {}
     ~AcDbObjectPointerBase() { close(); }
 
-    // Opens the object, or notes why it could not be opened. Called once, by a constructor.
+    // Opens the object, or records why opening failed. A constructor calls it once.
     void openById(AcDbObjectId id, AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer)
     {
         AcDbObject* opened = nullptr;
         m_status = acdbOpenOfClass(opened, id, T::desc(), mode, openErased, openOnLockedLayer);
         m_object = static_cast<T*>(opened);
     }
-    // Notes why nothing was opened.
+    // Records why no object was opened.
     void fail(Acad::ErrorStatus status) { m_status = status; }
 
 private:
@@ -58,8 +58,8 @@ private:
     Acad::ErrorStatus m_status;
 };
 
-// Opens any object by its id. The statuses are those of acdbOpenAcDbObject; with openOnLockedLayer
-// an entity on a locked layer is opened for write as well.
+// Opens any object by its id. The statuses are those of acdbOpenAcDbObject. With openOnLockedLayer
+// set, an entity on a locked layer is also opened for write.
 template <class T>
 class AcDbObjectPointer : public AcDbObjectPointerBase<T>
 {
@@ -72,8 +72,8 @@ public:
     }
 };
 
-// Opens a symbol table by its id or as that of a database. eNoDatabase for a null database; else
-// the statuses of acdbOpenAcDbObject.
+// Opens a symbol table by its id, or as a table of a database. The status is eNoDatabase for a null
+// database, and otherwise one of acdbOpenAcDbObject.
 template <class T>
 class AcDbSymbolTablePointer : public AcDbObjectPointerBase<T>
 {
@@ -95,9 +95,10 @@ public:
     }
 };
 
-// Opens a record of a symbol table by its id, or by its name in a database. eNoDatabase for a null
-// database, eInvalidInput for a null name, eKeyNotFound, eDeletedEntry for an erased record unless
-// openErased is set; else the statuses of acdbOpenAcDbObject.
+// Opens a record of a symbol table by its id, or by its name in a database. The status is
+// eNoDatabase for a null database, eInvalidInput for a null name, eKeyNotFound for an unknown name,
+// eDeletedEntry for an erased record unless openErased is set, and otherwise one of
+// acdbOpenAcDbObject.
 template <class T>
 class AcDbSymbolTableRecordPointer : public AcDbObjectPointerBase<T>
 {

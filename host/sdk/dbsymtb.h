@@ -1,76 +1,79 @@
-// Symbol tables: blocks, layers, linetypes, text styles.
+// The symbol tables: blocks, layers, linetypes and text styles.
 #pragma once
 
 #include "dbmain.h"
 
-// A named record of a symbol table. Letter case of names does not count.
+// A named record of a symbol table. Names are compared without regard to letter case.
 class AcDbSymbolTableRecord : public AcDbObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbSymbolTableRecord)
 
     // Sets name to a copy of the record's name [read], which the caller owns and frees with
-    // acutDelString. A text style for a shape file has an empty name. eOutOfMemory; name is null
-    // then.
+    // acutDelString. The name of a text style that is a shape file is empty. Returns eOutOfMemory
+    // when the copy cannot be made; name is null then.
     Acad::ErrorStatus getName(ACHAR*& name) const;
-    // Sets name to the record's own text [borrowed] [read], good while the drawing is open; eOk.
+    // Sets name to the record's own text [borrowed] [read], which is good while the drawing is
+    // open. Returns eOk.
     Acad::ErrorStatus getName(const ACHAR*& name) const;
 
     struct Internals;  // the host's own
 
 private:
-    const wchar_t* m_name = L"";  // lives as long as the database
+    const wchar_t* m_name = L"";  // good as long as the database lives
 };
 
-// Goes through the records of a table in the order of the table, as they were when the iterator was
-// made. Order of calls: while not done: getRecordId or getRecord, step.
+// Iterates over the records that a table had when the iterator was created, in the order of the
+// table. Order of calls: until done returns true, call getRecordId or getRecord, then step.
 class AcDbSymbolTableIterator
 {
 public:
-    // Goes to the first or the last record; with skipErased to the next one that is not erased.
+    // Goes to the first or the last record. With skipErased set it goes on to the next record that
+    // is not erased.
     void start(bool atBeginning = true, bool skipErased = true);
-    // Whether the iterator has left the table at either end.
+    // Tells whether the iterator has left the table at either end.
     bool done() const;
-    // Goes on by one record, again past erased ones with skipErased.
+    // Moves by one record. With skipErased set it also passes over erased records.
     void step(bool forward = true, bool skipErased = true);
-    // Sets id to the record that the iterator is at. eInvalidIndex, and id as it was, once it is
-    // done.
+    // Sets id to the record at the iterator's position. Returns eInvalidIndex when the iterator is
+    // done; id is unchanged then.
     Acad::ErrorStatus getRecordId(AcDbObjectId& id) const;
 
 protected:
-    // Opens the record; see AcDbTableIteratorOf::getRecord.
+    // Opens the record as AcDbTableIteratorOf::getRecord describes.
     Acad::ErrorStatus openRecord(AcDbObject*& record, AcDb::OpenMode mode, bool openErased) const;
 
 private:
     friend class AcDbSymbolTable;
-    AcDbObjectIdArray m_ids;  // as they stood when the iterator was made, in table order
+    AcDbObjectIdArray m_ids;  // the records when the iterator was created, in table order
     int m_at = 0;
 
     void skip(int direction, bool skipErased);
 };
 
-// A table of named records; it owns them.
+// A table of named records, which the table owns.
 class AcDbSymbolTable : public AcDbObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbSymbolTable)
 
-    // An empty table; the host makes and fills it. Its records are the database's and stay.
+    // The constructor creates an empty table, which the host fills. The destructor leaves the
+    // records alone: the database destroys them.
     AcDbSymbolTable();
     ~AcDbSymbolTable();
 
-    // Sets id to the record of that name, in any letter case, without opening it.
-    // eInvalidInput for a null name, eKeyNotFound, eDeletedEntry for an erased record unless
-    // getErasedRecord is set; id is null then.
+    // Sets id to the record with that name, in any letter case, without opening it. Returns
+    // eInvalidInput for a null name, eKeyNotFound for an unknown one, and eDeletedEntry for an
+    // erased record unless getErasedRecord is set; id is null then.
     Acad::ErrorStatus getAt(const ACHAR* name, AcDbObjectId& id,
                             bool getErasedRecord = false) const;
-    // Whether getAt finds the name.
+    // Tells whether getAt finds the name.
     bool has(const ACHAR* name) const;
 
     struct Internals;  // the host's own
 
 protected:
-    // The work of AcDbTableOf::getAt and AcDbTableOf::newIterator [read].
+    // Do the work of AcDbTableOf::getAt and AcDbTableOf::newIterator [read].
     Acad::ErrorStatus openAt(const ACHAR* name, AcDbObject*& record, AcDb::OpenMode mode,
                              bool openErased) const;
     void fillIterator(AcDbSymbolTableIterator& iterator, bool atBeginning, bool skipErased) const;
@@ -79,17 +82,17 @@ private:
     Internals* m_internals;
 };
 
-// A block: model space, a sheet, or what an insert repeats.
+// A block: model space, a sheet, or the entities that an insert repeats.
 class AcDbBlockTableRecord : public AcDbSymbolTableRecord
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord)
 
-    // Adds a new entity at the end of the block and sets id [write]. The entity is the database's
-    // then [adopted], properties that were not set get the drawing's current ones, and it stays
-    // open for write; the caller closes it and may no longer delete it. eNullObjectPointer,
-    // eAlreadyInDb, eInvalidInput for an entity with a number that is not finite; id is null then,
-    // and the entity stays its maker's.
+    // Add a new entity at the end of the block and set id [write]. The database takes the entity
+    // over [adopted]. The entity gets the drawing's current value for each property that was not
+    // set. It stays open for write; the caller closes it and may no longer delete it. Returns
+    // eNullObjectPointer, eAlreadyInDb, or eInvalidInput for an entity with a number that is not
+    // finite; id is null then, and the entity still belongs to its creator.
     Acad::ErrorStatus appendAcDbEntity(AcDbObjectId& id, AcDbEntity* entity);
     Acad::ErrorStatus appendAcDbEntity(AcDbEntity* entity);
 };
@@ -100,13 +103,15 @@ class AcDbLayerTableRecord : public AcDbSymbolTableRecord
 public:
     ACRX_DECLARE_MEMBERS(AcDbLayerTableRecord)
 
-    // Frozen and off: its entities are not shown. Locked: they cannot be opened for write.
+    // Tell whether the layer is frozen, locked or off. Entities on a frozen layer or a layer that
+    // is off are not shown. Entities on a locked layer cannot be opened for write.
     bool isFrozen() const { return m_frozen; }
     bool isLocked() const { return m_locked; }
     bool isOff() const { return m_off; }
-    // [write]. eInvalidLayer: the current layer cannot be frozen.
+    // Freezes or thaws the layer [write]. Returns eInvalidLayer for the current layer, which cannot
+    // be frozen.
     Acad::ErrorStatus setIsFrozen(bool frozen);
-    // [write]. Any layer can be locked and turned off.
+    // Lock the layer or turn it off, or the reverse [write]. Every layer accepts this.
     void setIsLocked(bool locked);
     void setIsOff(bool off);
 
@@ -118,7 +123,7 @@ private:
     bool m_off = false;
 };
 
-// A linetype that the drawing has loaded. Continuous is always there.
+// A linetype that the drawing has loaded. The linetype Continuous is always loaded.
 class AcDbLinetypeTableRecord : public AcDbSymbolTableRecord
 {
 public:
@@ -131,11 +136,12 @@ class AcDbTextStyleTableRecord : public AcDbSymbolTableRecord
 public:
     ACRX_DECLARE_MEMBERS(AcDbTextStyleTableRecord)
 
-    // Slant from the upright [rad].
+    // Returns the slant from the upright [rad].
     double obliquingAngle() const { return m_oblique; }
-    // Width of the letters as a multiple of that of the font.
+    // Returns the width of the letters as a multiple of their width in the font.
     double xScale() const { return m_xScale; }
-    // Height of its texts in drawing units; 0 when each text has its own.
+    // Returns the height of texts in this style in drawing units, or 0 when each text has its own
+    // height.
     double textSize() const { return m_textSize; }
 
     struct Internals;  // the host's own
@@ -151,8 +157,9 @@ template <class Record>
 class AcDbTableIteratorOf : public AcDbSymbolTableIterator
 {
 public:
-    // Opens the record that the iterator is at; the caller closes it [borrowed]. eInvalidIndex once
-    // the iterator is done; else the statuses of acdbOpenAcDbObject. record is null unless eOk.
+    // Opens the record at the iterator's position; the caller closes it [borrowed]. Returns
+    // eInvalidIndex when the iterator is done, and otherwise a status of acdbOpenAcDbObject. record
+    // is null unless the status is eOk.
     Acad::ErrorStatus getRecord(Record*& record, AcDb::OpenMode mode = AcDb::kForRead,
                                 bool openErased = false) const
     {
@@ -169,9 +176,10 @@ class AcDbTableOf : public AcDbSymbolTable
 {
 public:
     using AcDbSymbolTable::getAt;
-    // Opens the record of that name; the caller closes it [borrowed] [read]. eInvalidInput for a
-    // null name, eKeyNotFound, eWasErased for an erased record unless openErasedRecord is set; else
-    // the statuses of acdbOpenAcDbObject. record is null unless eOk.
+    // Opens the record with that name; the caller closes it [borrowed] [read]. Returns
+    // eInvalidInput for a null name, eKeyNotFound for an unknown one, eWasErased for an erased
+    // record unless openErasedRecord is set, and otherwise a status of acdbOpenAcDbObject. record
+    // is null unless the status is eOk.
     Acad::ErrorStatus getAt(const ACHAR* name, Record*& record, AcDb::OpenMode mode,
                             bool openErasedRecord = false) const
     {
@@ -180,8 +188,8 @@ public:
         record = static_cast<Record*>(opened);
         return status;
     }
-    // Sets iterator to a new one at the first or the last record; eOk [read]. The caller deletes it
-    // before the table is closed.
+    // Sets iterator to a new one at the first or the last record [read]. Returns eOk. The caller
+    // deletes the iterator before it closes the table.
     Acad::ErrorStatus newIterator(AcDbTableIteratorOf<Record>*& iterator, bool atBeginning = true,
                                   bool skipErased = true) const
     {
@@ -195,34 +203,35 @@ public:
 typedef AcDbTableIteratorOf<AcDbTextStyleTableRecord> AcDbTextStyleTableIterator;
 typedef AcDbTableIteratorOf<AcDbLayerTableRecord> AcDbLayerTableIterator;
 
-// The tables of a drawing are this one and the three below. The database opens them.
+// The table of blocks. The database opens this table and the three below.
 class AcDbBlockTable : public AcDbTableOf<AcDbBlockTableRecord>
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbBlockTable)
 };
 
-// See AcDbBlockTable.
+// A table that the database opens.
 class AcDbLayerTable : public AcDbTableOf<AcDbLayerTableRecord>
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbLayerTable)
 };
 
-// See AcDbBlockTable.
+// A table that the database opens.
 class AcDbLinetypeTable : public AcDbTableOf<AcDbLinetypeTableRecord>
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbLinetypeTable)
 };
 
-// See AcDbBlockTable.
+// A table that the database opens.
 class AcDbTextStyleTable : public AcDbTableOf<AcDbTextStyleTableRecord>
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbTextStyleTable)
 };
 
-// Ids of a database's tables by the class of table or record, for the smart pointers.
+// Returns the id of a database's table by the class of the table or of its record. The smart
+// pointers call it.
 template <class T>
 AcDbObjectId acdbTableIdFor(const AcDbDatabase* database);
