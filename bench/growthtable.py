@@ -40,9 +40,10 @@ class Growth:
         grows = [max(last, least) / max(first, least) - 1 for first, last in zip(rounds[0], rounds[-1])]
         return cls([Spread.of(each).middle for each in rounds], Spread.of(grows))
 
-    def text(self, factor):
+    def cells(self, factor, late):
         said = f"{percent(self.grows.middle)} ({percent(self.grows.low)} .. {percent(self.grows.high)})"
-        return ", ".join(number(each * factor) for each in self.each), said
+        each = [*(number(each * factor) for each in self.each), *("-" for _ in late)]
+        return ", ".join(each), said if len(self.each) > 1 else "-"
 
 
 def costs_of(series, rounds):
@@ -69,15 +70,14 @@ def table_head():
 
 def table_rows(series, rounds, limit):
     for name, costs in costs_of(series, rounds).items():
-        at = [size for size in series.sizes if size in costs]
-        what = f"{name}: {', '.join(f'{series.count(size):,}' for size in at[1:])} {series.things}"
+        what = f"{name}: {', '.join(f'{series.count(size):,}' for size in series.sizes[1:])} {series.things}"
         late = [f"{series.count(size):,}" for size in series.sizes if size not in costs]
-        if len(at) < 3:
-            row(what, "", "", "", "", f"missed: over {limit:g} s" if late else "not told: too few sizes")
+        if len(costs) < 2:
+            row(what, *"----", f"missed: {late[0]} took over {limit:g} s")
             continue
         time = Growth.of(series, costs, lambda cost: cost.cpu, NO_TIME)
         memory = Growth.of(series, costs, lambda cost: cost.peak * 1024, NO_BYTES)
-        row(what, *time.text(1e6), *memory.text(1), _verdict(time, memory, late, limit))
+        row(what, *time.cells(1e6, late), *memory.cells(1, late), _verdict(time, memory, late, limit))
 
 
 def _verdict(time, memory, late, limit):

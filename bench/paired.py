@@ -8,7 +8,7 @@ from report import head, row, spread
 
 def measure(this, other, others, rounds, quick):
     head("this build against the other", "wall clock", "processor", "peak", "page faults", "saved bytes")
-    for name, program, saved in _jobs(this, 500 if not quick else 100):
+    for name, program, saved in _jobs(this, 200 if quick else 500):
         measures = in_turn(others.measure(), others.folder, {"this": program(this), "other": program(other)}, rounds)
         equal = filecmp.cmp(this.folder / saved, other.folder / saved, shallow=False)
         row(name, *(f"{spread(measures.ratio('this', 'other', what), '{:.3f}'.format)} x"
