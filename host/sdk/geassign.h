@@ -1,4 +1,5 @@
-// Points and vectors seen as the plain arrays of the editor's functions, and the other way round.
+// Views of points and vectors as the plain arrays of the editor's functions, and of such arrays as
+// points and vectors.
 #pragma once
 
 #include "gepnt3d.h"
@@ -7,8 +8,8 @@
 static_assert(sizeof(AcGePoint3d) == 3 * sizeof(double), "a point is laid out as its coordinates");
 static_assert(sizeof(AcGeVector3d) == 3 * sizeof(double), "so is a vector");
 
-// The three coordinates of the argument [borrowed]. This is the argument itself and not a copy; a
-// change of the one changes the other.
+// Return the three coordinates of the argument [borrowed]. They are the argument itself and not a
+// copy, so a change to one changes the other.
 inline double* asDblArray(AcGePoint3d& p)
 {
     return reinterpret_cast<double*>(&p);
@@ -26,7 +27,7 @@ inline const double* asDblArray(const AcGeVector3d& v)
     return reinterpret_cast<const double*>(&v);
 }
 
-// Three doubles seen as a point or a vector [borrowed], again the argument itself.
+// Return three doubles as a point or a vector [borrowed]. It is the argument itself and not a copy.
 inline AcGePoint3d& asPnt3d(double* p)
 {
     return *reinterpret_cast<AcGePoint3d*>(p);

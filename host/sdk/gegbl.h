@@ -1,12 +1,12 @@
-// Settings of the geometry library that hold for the whole process.
+// The settings of the geometry library, which hold for the whole process.
 #pragma once
 
 #include "getol.h"
 
-// Settings that every comparison uses unless it is told otherwise.
+// The settings that every comparison uses unless its caller passes others.
 struct AcGeContext
 {
-    // Default of every tolerance argument. A change holds for the host and every module, so whoever
-    // changes it sets the former value again.
+    // The default of every tolerance argument. A change affects the host and every module, so a
+    // caller that changes it restores the former value.
     static AcGeTol gTol;
 };

@@ -1,4 +1,4 @@
-// Array of whole numbers.
+// The array of whole numbers.
 #pragma once
 
 #include "acarray.h"

@@ -6,35 +6,36 @@
 
 class AcGePlane;
 
-// Works on column vectors: columns 0 to 2 are the images of the axes, column 3 is the image of the
-// origin, the last row is 0,0,0,1. A * B applies B first.
+// A matrix for column vectors: columns 0 to 2 are the images of the axes, column 3 is the image of
+// the origin, and the last row is 0,0,0,1. A * B applies B first.
 class AcGeMatrix3d
 {
 public:
-    // The identity.
+    // Creates the identity.
     constexpr AcGeMatrix3d() : entry{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}} {}
 
     static const AcGeMatrix3d kIdentity;  // maps everything to itself
 
-    // Turns by angle [rad] about the axis through center, counter-clockwise seen from the tip of
-    // axis, which may have any length. A zero angle or a zero-length axis gives the identity, to
-    // the last bit.
+    // Returns a rotation by angle [rad] about the axis through center. It is counter-clockwise when
+    // seen from the tip of axis, which may have any length. A zero angle or a zero-length axis
+    // gives the identity, to the last bit.
     static AcGeMatrix3d rotation(double angle, const AcGeVector3d& axis,
                                  const AcGePoint3d& center = AcGePoint3d::kOrigin);
-    // Moves by vector.
+    // Returns a translation by vector.
     static AcGeMatrix3d translation(const AcGeVector3d& vector);
-    // Scales by factor, the same in every direction, about center.
+    // Returns a scaling about center by factor, which is the same in every direction.
     static AcGeMatrix3d scaling(double factor, const AcGePoint3d& center = AcGePoint3d::kOrigin);
 
-    // Maps the plane's own system to [wcs], and back. The plane of a normal goes through the world
-    // origin and has its axes by the arbitrary axis rule; the normal may have any length, and a
-    // zero-length normal stands for 0,0,1.
+    // Return the matrix from a plane's own coordinate system to [wcs], or the reverse. The plane of
+    // a normal passes through the world origin, and its axes follow from the arbitrary axis rule.
+    // The normal may have any length; a zero-length normal counts as 0,0,1.
     static AcGeMatrix3d planeToWorld(const AcGeVector3d& normal);
     static AcGeMatrix3d worldToPlane(const AcGeVector3d& normal);
     static AcGeMatrix3d planeToWorld(const AcGePlane& plane);
     static AcGeMatrix3d worldToPlane(const AcGePlane& plane);
 
-    // Products. A * B applies B first; preMultBy makes this left * this, postMultBy this * right.
+    // Multiply two matrices. A * B applies B first; preMultBy sets this to left * this, postMultBy
+    // sets it to this * right.
     AcGeMatrix3d operator*(const AcGeMatrix3d& right) const;
     AcGeMatrix3d& preMultBy(const AcGeMatrix3d& left) { return *this = left * *this; }
     AcGeMatrix3d& postMultBy(const AcGeMatrix3d& right) { return *this = *this * right; }
@@ -45,32 +46,34 @@ public:
     {
         return *this = translation(vector);
     }
-    // Replaces the translation column only; the axes stay. translation reads that column.
+    // Replaces the translation column and leaves the axes unchanged; translation() returns that
+    // column.
     AcGeMatrix3d& setTranslation(const AcGeVector3d& vector);
     AcGeVector3d translation() const { return AcGeVector3d(entry[0][3], entry[1][3], entry[2][3]); }
 
-    // Replace and read the columns. The matrix maps coordinates along these axes to the system that
-    // the axes are given in. The axes are taken as they are, of any length and direction.
+    // Replace and return the columns. The matrix maps coordinates along these axes to the
+    // coordinate system that the axes are given in. The axes are stored unchanged, with any length
+    // and direction.
     AcGeMatrix3d& setCoordSystem(const AcGePoint3d& origin, const AcGeVector3d& xAxis,
                                  const AcGeVector3d& yAxis, const AcGeVector3d& zAxis);
     void getCoordSystem(AcGePoint3d& origin, AcGeVector3d& xAxis, AcGeVector3d& yAxis,
                         AcGeVector3d& zAxis) const;
 
-    // The way back. The matrix must not be singular: one that is gives numbers that are not finite.
-    // The inverse of square unit axes is their transpose, without rounding.
+    // Returns the inverse. A singular matrix gives values that are not finite. The inverse of
+    // perpendicular unit axes is their transpose, without rounding.
     AcGeMatrix3d inverse() const;
-    // Exchanges rows and columns, the translation included.
+    // Exchanges rows and columns, including the translation.
     AcGeMatrix3d& transposeBy();
-    // Determinant of the axes; negative for a matrix that mirrors.
+    // Returns the determinant of the axes, which is negative for a matrix that mirrors.
     double det() const;
-    // True when the axes are square to each other and of one length, within equalVector times that
-    // length, which is not zero. The matrix may mirror.
+    // Tells whether the axes are perpendicular to each other and equal in length, which must not be
+    // zero. The tolerance is equalVector times that length. The matrix may mirror.
     bool isUniScaledOrtho(const AcGeTol& tol = AcGeContext::gTol) const;
 
     double entry[4][4];  // row, column
 };
 
-// The image of a vector; the translation does not count.
+// Returns the image of a vector, which the translation does not affect.
 inline AcGeVector3d operator*(const AcGeMatrix3d& m, const AcGeVector3d& v)
 {
     return AcGeVector3d(m.entry[0][0] * v.x + m.entry[0][1] * v.y + m.entry[0][2] * v.z,
@@ -78,7 +81,7 @@ inline AcGeVector3d operator*(const AcGeMatrix3d& m, const AcGeVector3d& v)
                         m.entry[2][0] * v.x + m.entry[2][1] * v.y + m.entry[2][2] * v.z);
 }
 
-// The image of a point.
+// Returns the image of a point.
 inline AcGePoint3d operator*(const AcGeMatrix3d& m, const AcGePoint3d& p)
 {
     const AcGeVector3d turned = m * p.asVector();

@@ -4,24 +4,27 @@
 #include "gepnt3d.h"
 #include "gevec3d.h"
 
-// A plane, in the system that it is made in. Its axes are of unit length and square to each other
-// whatever the arguments were. When only the normal is given, the axes follow from it by the
-// arbitrary axis rule.
+// A plane in the coordinate system of the constructor's arguments. Its axes always have unit length
+// and are perpendicular to each other. When only the normal is given, the axes follow from it by
+// the arbitrary axis rule.
 class AcGePlane
 {
 public:
-    // The XY plane; the plane through origin with that normal, which may have any length.
+    // Create the XY plane, or the plane through origin with the given normal, which may have any
+    // length.
     constexpr AcGePlane() : m_xAxis(1, 0, 0), m_yAxis(0, 1, 0), m_normal(0, 0, 1) {}
     AcGePlane(const AcGePoint3d& origin, const AcGeVector3d& normal);
-    // The plane a x + b y + c z + d = 0, with a, b and c not all zero. Its origin is the point
-    // nearest to 0,0,0.
+    // Creates the plane a x + b y + c z + d = 0, where a, b and c are not all zero. Its origin is
+    // the point nearest to 0,0,0.
     AcGePlane(double a, double b, double c, double d);
-    // uVec gives the X axis, vVec the side on which the Y axis lies. The two are not parallel.
+    // Creates the plane through origin whose X axis has the direction of uVec. vVec tells on which
+    // side of it the Y axis lies. The two vectors must not be parallel.
     AcGePlane(const AcGePoint3d& origin, const AcGeVector3d& uVec, const AcGeVector3d& vVec);
 
-    static const AcGePlane kXYPlane;  // z = 0, its axes X and Y
+    static const AcGePlane kXYPlane;  // z = 0, with the axes X and Y
 
-    // The origin, the unit normal, and both with the axes.
+    // Return the origin and the unit normal; getCoordSystem returns the origin with the X and Y
+    // axes.
     AcGePoint3d pointOnPlane() const { return m_origin; }
     AcGeVector3d normal() const { return m_normal; }
     void getCoordSystem(AcGePoint3d& origin, AcGeVector3d& xAxis, AcGeVector3d& yAxis) const;

@@ -5,11 +5,12 @@
 
 #include "gegbl.h"
 
-// Three components in drawing units. The call that takes or gives a vector says in which system.
+// Three components in drawing units. The call that takes or returns a vector names its coordinate
+// system.
 class AcGeVector3d
 {
 public:
-    // 0,0,0, or the given components.
+    // Create the vector 0,0,0 or one with the given components.
     constexpr AcGeVector3d() : x(0), y(0), z(0) {}
     constexpr AcGeVector3d(double xx, double yy, double zz) : x(xx), y(yy), z(zz) {}
 
@@ -18,7 +19,7 @@ public:
     static const AcGeVector3d kYAxis;     // 0,1,0
     static const AcGeVector3d kZAxis;     // 0,0,1
 
-    // Componentwise. A divisor of 0 gives components that are not finite.
+    // Work on each component. A divisor of 0 gives components that are not finite.
     AcGeVector3d operator-() const { return AcGeVector3d(-x, -y, -z); }
     AcGeVector3d operator+(const AcGeVector3d& v) const
     {
@@ -46,7 +47,7 @@ public:
         return *this;
     }
 
-    // Products, the square of the length, and the length.
+    // Return a product, the square of the length, or the length.
     double dotProduct(const AcGeVector3d& v) const { return x * v.x + y * v.y + z * v.z; }
     AcGeVector3d crossProduct(const AcGeVector3d& v) const
     {
@@ -55,8 +56,8 @@ public:
     double lengthSqrd() const { return dotProduct(*this); }
     double length() const { return std::sqrt(lengthSqrd()); }
 
-    // Unit vector of the same direction; normalize replaces the vector by it. A vector no longer
-    // than tol.equalVector() has no direction and stays as it is.
+    // Return the unit vector of the same direction; normalize replaces the vector by it. A vector
+    // no longer than tol.equalVector() has no direction and stays unchanged.
     AcGeVector3d normal(const AcGeTol& tol = AcGeContext::gTol) const
     {
         const double size = length();
@@ -64,8 +65,8 @@ public:
     }
     AcGeVector3d& normalize(const AcGeTol& tol = AcGeContext::gTol) { return *this = normal(tol); }
 
-    // Whether the vector, or the difference of two, is no longer than tol.equalVector(). The
-    // operators use AcGeContext::gTol as it stands at the call.
+    // Tell whether the vector, or the difference of two vectors, is no longer than
+    // tol.equalVector(). The operators use the value of AcGeContext::gTol at the time of the call.
     bool isZeroLength(const AcGeTol& tol = AcGeContext::gTol) const
     {
         return length() <= tol.equalVector();
@@ -77,24 +78,26 @@ public:
     bool operator==(const AcGeVector3d& v) const { return isEqualTo(v); }
     bool operator!=(const AcGeVector3d& v) const { return !isEqualTo(v); }
 
-    // True for the same and for the opposite direction: the sine of the angle is no larger than
-    // tol.equalVector(). A zero-length vector is parallel to nothing.
+    // Tells whether the vectors have the same or opposite directions: the sine of the angle between
+    // them is no larger than tol.equalVector(). A zero-length vector is parallel to no vector.
     bool isParallelTo(const AcGeVector3d& v, const AcGeTol& tol = AcGeContext::gTol) const;
 
-    // Unit vector square to this one: by the arbitrary axis rule the X axis of the plane whose
-    // normal this is.
+    // Returns a unit vector perpendicular to this one. By the arbitrary axis rule it is the X axis
+    // of the plane whose normal is this vector.
     AcGeVector3d perpVector() const;
 
-    // Unsigned angle [rad], from 0 to pi; 0 when either vector is 0,0,0.
+    // Returns the unsigned angle to v [rad], from 0 to pi, or 0 when either vector is 0,0,0.
     double angleTo(const AcGeVector3d& v) const
     {
         const double across = crossProduct(v).length();
         const double along = dotProduct(v);
-        // A zero vector may give a negative zero along, which atan2 would read as opposite.
+        // A zero vector may give a negative zero for `along`, which atan2 would take for the
+        // opposite direction.
         return across == 0 && along == 0 ? 0 : std::atan2(across, along);
     }
 
-    // Angle to v [rad], from 0 to 2 pi, counter-clockwise seen from the tip of ref.
+    // Returns the angle to v [rad], from 0 to 2 pi, counter-clockwise when seen from the tip of
+    // ref.
     double angleTo(const AcGeVector3d& v, const AcGeVector3d& ref) const;
 
     // The components.
@@ -103,7 +106,7 @@ public:
     double z;
 };
 
-// The vector times a factor.
+// Returns the vector times a factor.
 inline AcGeVector3d operator*(double factor, const AcGeVector3d& v)
 {
     return v * factor;
