@@ -17,23 +17,22 @@ function(complete_host)
 endfunction()
 
 function(complete_program)
-  # Apart from the host: a module does not need it, and the library it calls is large.
-  file(GLOB png_sources CONFIGURE_DEPENDS png/cairo/*.cpp)
-  add_library(png STATIC ${png_sources})
-  target_include_directories(png SYSTEM PUBLIC ${CAIRO_INCLUDE})
-  target_link_libraries(png PUBLIC host PRIVATE ${CAIRO})
-
-  file(GLOB picture_sources CONFIGURE_DEPENDS pictures/*.cpp)
+  # Apart from the rest: only a run that draws needs them, and the library they call is large.
+  file(GLOB picture_sources CONFIGURE_DEPENDS png/cairo/*.cpp pictures/*.cpp plot/cairo/*.cpp)
   add_library(pictures STATIC ${picture_sources})
-  target_link_libraries(pictures PUBLIC png PRIVATE ${CAIRO})
+  target_include_directories(pictures SYSTEM PUBLIC ${CAIRO_INCLUDE})
+  target_link_libraries(pictures PUBLIC host PRIVATE ${CAIRO})
+  add_library(arxhost_pictures MODULE program/terminal/pictures/table.cpp)
+  target_link_libraries(arxhost_pictures PRIVATE pictures)
 
-  file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp plot/cairo/*.cpp)
+  file(GLOB plot_sources CONFIGURE_DEPENDS plot/*.cpp)
   add_library(plot STATIC ${plot_sources})
-  target_link_libraries(plot PUBLIC png PRIVATE ${CAIRO})
+  target_link_libraries(plot PUBLIC host)
 
   file(GLOB terminal_sources CONFIGURE_DEPENDS program/terminal/*.cpp)
   target_sources(program PRIVATE ${terminal_sources})
-  target_link_libraries(program PUBLIC pictures plot ${EDIT})
+  target_link_libraries(program PUBLIC plot ${EDIT})
+  add_dependencies(arxhost arxhost_pictures)
 endfunction()
 
 # The compiled resources travel inside the module, where the host's start-up code finds them.

@@ -1,5 +1,8 @@
 """Drawings on paper: the option --plot and the command PLOT."""
-from common import GRID, Desk, check, expect, expect_equal, not_on_windows, one_line, only_on_windows
+import shutil
+import tempfile
+
+from common import BUILD, GRID, Desk, check, expect, expect_equal, not_on_windows, one_line, only_on_windows
 
 
 @check
@@ -47,3 +50,22 @@ def a_plot_that_cannot_be_written_fails_and_leaves_nothing():
                      (1, "arxhost: a.dxf: expected a name that ends in .png, .pdf or .svg\n"), "result")
         expect_equal(desk.run(script="PLOT\n\n").status, 0, "exit status without a name")
         expect_equal(sorted(path.name for path in desk.folder.glob("*.dxf")), [], "files")
+
+
+@check
+@not_on_windows("what draws there is the system's")
+def without_the_library_that_draws_everything_else_is_done():
+    with tempfile.TemporaryDirectory() as build:
+        for name in ("arxhost", "libarxhost_core.so", "netrax.arx"):
+            shutil.copy(BUILD / name, build)
+        with Desk(build) as desk:
+            told = (1, f"arxhost: {build}/libarxhost_pictures.so: cannot open shared object file: "
+                       "No such file or directory\n")
+            run = desk.run("--save", "saved.dxf", "--plot", "plot.png", script=GRID)
+            expect_equal((run.status, run.errors), told, "the option")
+            expect("\nLINE\n" in (desk / "saved.dxf").read_text(), "the grid is not saved")
+            run = desk.run(script="PLOT\nplot.png\n")
+            expect_equal((run.status, run.errors), told, "the command")
+            run = desk.run("--dialog-picture", "dialog.png")
+            expect_equal((run.status, run.errors), (1, told[1].replace("arxhost: ", "arxhost: dialog.png: ")), "a dialog")
+            expect_equal([*desk.folder.glob("*.png")], [], "pictures")

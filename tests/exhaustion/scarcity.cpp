@@ -56,7 +56,7 @@ bool isOurs(const void* caller)
     }
     const std::string_view path = found.dlfo_link_map->l_name;  // empty for the program
     const std::string_view file = path.substr(path.rfind('/') + 1);
-    return file == "netrax.arx" || file == "libarxhost_core.so" || file.empty() ||
+    return file == "netrax.arx" || file.starts_with("libarxhost_") || file.empty() ||
            (scarce != Of::memory && file.starts_with("libstdc++.so"));
 }
 

@@ -1,0 +1,24 @@
+// The library in which arxhost keeps everything that calls the drawing library of the system.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "host/basics/result.h"
+#include "host/plot/ink.h"
+#include "windows.h"
+
+namespace host
+{
+// What the program calls there. The functions are those of the same names in plot/ and pictures/.
+struct PictureLibrary
+{
+    std::unique_ptr<plot::Ink> (*openInk)(const plot::Sheet& sheet);
+    double (*textWidth)(std::wstring_view text);
+    Result<std::string> (*drawDialog)(HWND dialog);
+};
+
+// What the library exports.
+extern "C" __attribute__((visibility("default"))) const PictureLibrary arxhostPictures;
+}  // namespace host
