@@ -1,10 +1,10 @@
-// Why a module is loaded.
+// The reasons why a module is loaded.
 #pragma once
 
 namespace AcadApp
 {
-// The reasons are bits: a registry entry or a package combines them. This host loads a module when
-// it is asked to and reads no such entry, so every reason has the same effect here.
+// The reasons are bits, which a registry entry or a package combines. This host loads a module on
+// request and reads no such entry, so every reason has the same effect here.
 enum LoadReasons
 {
     kOnProxyDetection = 1,     // a drawing holds an object of the module

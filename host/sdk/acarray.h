@@ -8,23 +8,24 @@
 #include <type_traits>
 #include <utility>
 
-// The ways an array ends the run; the line on standard error names the call.
+// These end the run when an array is misused. The message on standard error names the call.
 [[noreturn]] void acArrayIndexBreach(const char* call, int index, int length);
 [[noreturn]] void acArrayMemoryBreach();
 
-// An array owns its entries. The logical length counts the entries in use, the physical length
-// those that fit without growing. The grow length is the least that a full array grows by, 1 or
-// more; a long array grows by half its length, so that appending costs the same however long it
-// gets.
+// An array owns its entries. The logical length counts the entries in use. The physical length
+// counts the entries that fit without growing. The grow length is the smallest number of entries
+// that a full array grows by, at least 1. A long array grows by half its length, so that the cost
+// of appending does not depend on the length.
 //
-// An index outside the entries in use ends the run, and so does memory that cannot be had. A
-// reference or pointer to an entry is [borrowed] and good until the array grows or shrinks. An
-// entry may be given to the array's own append and insertAt.
+// An index outside the entries in use ends the run, and so does a failed allocation. A reference or
+// pointer to an entry is [borrowed] and good until the array grows or shrinks. An entry may be
+// passed to append and insertAt of its own array.
 template <typename T>
 class AcArray
 {
 public:
-    // An empty array with room for that many entries; a copy; what the other array held.
+    // Create an empty array with room for that many entries, a copy of another array, or an array
+    // that takes over the entries of another.
     AcArray(int initPhysicalLength = 0, int initGrowLength = 8) : AcArray(initGrowLength, Empty())
     {
         setPhysicalLength(initPhysicalLength);
@@ -36,8 +37,8 @@ public:
         destroyFrom(0);
         std::free(m_entries);
     }
-    // Takes copies of the other's entries, or the entries themselves. The grow length stays this
-    // array's own.
+    // Replace the entries by copies of the other array's entries, or by those entries themselves.
+    // The grow length of this array stays unchanged.
     AcArray& operator=(const AcArray& other)
     {
         return this == &other ? *this : removeAll().append(other);
@@ -47,20 +48,20 @@ public:
         exchange(other);
         return *this;
     }
-    // True when both have equal entries in the same order.
+    // Tells whether both arrays have equal entries in the same order.
     bool operator==(const AcArray& other) const
     {
         return m_length == other.m_length && std::equal(begin(), end(), other.begin());
     }
 
-    // The lengths; length and logicalLength are the same.
+    // Return the lengths; length and logicalLength are the same.
     int length() const { return m_length; }
     int logicalLength() const { return m_length; }
     int physicalLength() const { return m_physicalLength; }
     int growLength() const { return m_growLength; }
     bool isEmpty() const { return m_length == 0; }
 
-    // An entry [borrowed]. first and last of an empty array end the run.
+    // Return an entry [borrowed]. first and last of an empty array end the run.
     T& operator[](int index) { return entry(index, "AcArray::operator[]"); }
     const T& operator[](int index) const { return entry(index, "AcArray::operator[]"); }
     T& at(int index) { return entry(index, "AcArray::at"); }
@@ -69,11 +70,12 @@ public:
     const T& first() const { return entry(0, "AcArray::first"); }
     T& last() { return entry(m_length - 1, "AcArray::last"); }
     const T& last() const { return entry(m_length - 1, "AcArray::last"); }
-    // All entries, one after the other [borrowed]; null while nothing was ever stored.
+    // Return all entries, one after the other [borrowed], or null while nothing has been stored
+    // yet.
     T* asArrayPtr() { return m_entries; }
     const T* asArrayPtr() const { return m_entries; }
 
-    // Replace one entry, and all entries in use.
+    // Replace one entry or all entries in use.
     AcArray& setAt(int index, const T& value)
     {
         entry(index, "AcArray::setAt") = value;
@@ -100,7 +102,7 @@ public:
         }
         return m_length++;
     }
-    // Adds copies of the other's entries, which may be this array, at the end.
+    // Adds copies of the other array's entries at the end. The other array may be this array.
     AcArray& append(const AcArray& other)
     {
         const int count = other.m_length;  // other may be this array
@@ -112,7 +114,8 @@ public:
         }
         return *this;
     }
-    // Puts a copy in front of the entry `index`. index may be the length, which appends.
+    // Inserts a copy in front of the entry at `index`. When index is the length, the copy is
+    // appended.
     AcArray& insertAt(int index, const T& value)
     {
         checkIndex(index, m_length + 1, "AcArray::insertAt");
@@ -121,7 +124,7 @@ public:
         return *this;
     }
 
-    // Take an entry out; those behind it move up. Removing from an empty array ends the run.
+    // Remove an entry and move the following ones up. Removing from an empty array ends the run.
     AcArray& removeAt(int index)
     {
         checkIndex(index, m_length, "AcArray::removeAt");
@@ -131,13 +134,13 @@ public:
     }
     AcArray& removeFirst() { return removeAt(0); }
     AcArray& removeLast() { return removeAt(m_length - 1); }
-    // Takes all entries out and keeps the memory.
+    // Removes all entries and keeps the memory.
     AcArray& removeAll()
     {
         destroyFrom(0);
         return *this;
     }
-    // Takes out the first entry that equals value; false when there is none.
+    // Removes the first entry that equals value. Returns false when no entry does.
     bool remove(const T& value)
     {
         int index = 0;
@@ -149,15 +152,15 @@ public:
         return found;
     }
 
-    // Whether an entry at or behind `start` equals value. Points compare within
+    // Tells whether an entry at or behind `start` equals value. Points compare within
     // AcGeContext::gTol.
     bool contains(const T& value, int start = 0) const
     {
         int index = 0;
         return find(value, index, start);
     }
-    // Sets foundAt to the index of the first such entry; false, and foundAt as it was, when there
-    // is none.
+    // Sets foundAt to the index of the first such entry. Returns false when no entry equals value;
+    // foundAt is unchanged then.
     bool find(const T& value, int& foundAt, int start = 0) const
     {
         for (int i = std::max(start, 0); i < m_length; ++i)
@@ -171,8 +174,8 @@ public:
         return false;
     }
 
-    // Makes the array that long. New entries are made by the default constructor; those of a plain
-    // type hold no value yet. Entries beyond the length are removed.
+    // Sets the logical length. New entries are created by the default constructor; those of a plain
+    // type have no defined value. Entries beyond the length are removed.
     AcArray& setLogicalLength(int length)
     {
         checkIndex(length, noLimit, "AcArray::setLogicalLength");
@@ -184,7 +187,8 @@ public:
         }
         return *this;
     }
-    // Makes room for just that many entries. Entries that no longer fit are removed.
+    // Sets the physical length to exactly that many entries. Entries that no longer fit are
+    // removed.
     AcArray& setPhysicalLength(int length)
     {
         checkIndex(length, noLimit, "AcArray::setPhysicalLength");
@@ -195,14 +199,14 @@ public:
         }
         return *this;
     }
-    // A length below 1 counts as 1.
+    // Sets the grow length. A length below 1 counts as 1.
     AcArray& setGrowLength(int length)
     {
         m_growLength = std::max(length, 1);
         return *this;
     }
 
-    // Turn the order round, and exchange two entries.
+    // Reverse the order, or exchange two entries.
     AcArray& reverse()
     {
         std::reverse(begin(), end());
@@ -284,7 +288,7 @@ private:
         }
         return static_cast<T*>(memory);
     }
-    // At least one byte, since a request for none may give null or not.
+    // Asks for at least one byte: an allocation of zero bytes may or may not return null.
     static std::size_t bytes(int length) { return std::max<std::size_t>(length * sizeof(T), 1); }
 
     void reallocate(int length, std::true_type)

@@ -1,4 +1,5 @@
-// Documents, and who wants to hear of them. This host has one document at a time.
+// Documents and the reactors that are notified of changes to them. This host has one document at a
+// time.
 #pragma once
 
 #include "acadstrc.h"
@@ -10,8 +11,8 @@ class AcDbDatabase;
 
 namespace AcAp
 {
-// How a document is locked. While a document is locked for write nobody else changes it. kNotLocked
-// is what a document without any lock tells.
+// Tells how a document is locked. While a document is locked for write, no other reader or writer
+// changes it. A document without a lock reports kNotLocked.
 enum DocLockMode
 {
     kNone = 0x00,
@@ -25,43 +26,45 @@ enum DocLockMode
 }  // namespace AcAp
 
 // An open drawing with its editor. The document manager owns it. A later document may have the same
-// address, so what a module keeps for a document goes in documentToBeDestroyed.
+// address, so a module drops the data that it keeps for a document in documentToBeDestroyed.
 class AcApDocument : public AcRxObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcApDocument)
 
-    // Its drawing [borrowed], good until the document is destroyed.
+    // Returns the document's drawing [borrowed], good until the document is destroyed.
     virtual AcDbDatabase* database() const = 0;
-    // Absolute path of its file [borrowed], good until it is saved under another name; empty while
-    // it has no file.
+    // Returns the absolute path of the document's file [borrowed], good until the drawing is saved
+    // under another name. The text is empty while the document has no file.
     virtual const ACHAR* fileName() const = 0;
-    // The newest lock; kNotLocked without any.
+    // Returns the mode of the newest lock, or kNotLocked when the document has no lock.
     virtual AcAp::DocLockMode lockMode() const = 0;
 };
 
-// Hears what happens to documents. A module derives from it and overrides what it needs; the others
-// do nothing. The functions must let no exception out. A document or text that a function is given
-// is [borrowed] and good until the function returns, unless said otherwise.
+// Is notified of what happens to documents. A module derives a class and overrides the functions
+// that it needs; the others do nothing. The functions must let no exception out. A document or text
+// that a function receives is [borrowed] and good until the function returns, unless its comment
+// says otherwise.
 class AcApDocManagerReactor : public AcRxObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcApDocManagerReactor)
 
-    // A drawing is being opened: the document is there, but it is not current yet.
+    // Called while a drawing is being opened: the document exists but is not current yet.
     virtual void documentCreateStarted(AcApDocument*) {}
-    // The drawing is open and its database the working one. The document stays until
-    // documentToBeDestroyed.
+    // Called when the drawing is open and its database is the working database. The document is
+    // good until documentToBeDestroyed.
     virtual void documentCreated(AcApDocument*) {}
-    // The document goes now; this is the last call with its pointer.
+    // Called before the document is destroyed. This is the last call with its pointer.
     virtual void documentToBeDestroyed(AcApDocument*) {}
-    // The document that had this file is gone.
+    // Called after the document with this file has been destroyed.
     virtual void documentDestroyed(const ACHAR*) {}
-    // A drawing could not be opened; this host never calls it.
+    // Called when a drawing could not be opened. This host never calls it.
     virtual void documentCreateCanceled(AcApDocument*) {}
-    // A lock comes or goes. The modes are that of the document before the change, that after it,
-    // and that of all its locks at the time of the call; the text is the command's global name,
-    // empty for a lock that a module takes. This host never vetoes a change.
+    // Called when a lock is taken or released. The three modes are the mode of the document before
+    // the change, the mode after it, and the mode of all its locks at the time of the call. The
+    // text is the command's global name, or empty for a lock that a module takes. This host never
+    // vetoes a change.
     virtual void documentLockModeWillChange(AcApDocument*, AcAp::DocLockMode, AcAp::DocLockMode,
                                             AcAp::DocLockMode, const ACHAR*)
     {
@@ -71,10 +74,11 @@ public:
                                          AcAp::DocLockMode, const ACHAR*)
     {
     }
-    // Calls act on the document from now on.
+    // Called when the document becomes the one that calls act on.
     virtual void documentBecameCurrent(AcApDocument*) {}
-    // The document gets the input, has it, or loses it. After documentCreated come
-    // documentToBeActivated, documentBecameCurrent and documentActivated, in this order.
+    // Called before the document gets the input, before it loses it, and when it has it.
+    // documentCreated is followed by documentToBeActivated, documentBecameCurrent and
+    // documentActivated, in this order.
     virtual void documentToBeActivated(AcApDocument*) {}
     virtual void documentToBeDeactivated(AcApDocument*) {}
     virtual void documentActivationModified(bool) {}  // this host never calls it
@@ -82,35 +86,37 @@ public:
     virtual void documentTitleUpdated(AcApDocument*) {}  // this host never calls it
 };
 
-// The host's documents and the module resources that are current.
+// The host's documents, and the current module resources.
 class AcApDocManager : public AcRxObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcApDocManager)
 
-    // The document that calls act on and the one that has the input, here the same [borrowed]; null
-    // while no drawing is open.
+    // Return the document that calls act on and the document that has the input, which are the same
+    // here [borrowed]. Return null while no drawing is open.
     virtual AcApDocument* curDocument() const = 0;
     virtual AcApDocument* mdiActiveDocument() const = 0;
-    // True while no command runs that works on one document.
+    // Tells whether calls run in application context, that is, while no command works on one
+    // document.
     virtual bool isApplicationContext() const = 0;
 
-    // Makes the module's resources current until they are popped; pairs nest. Needs an open
-    // drawing. A handle of no loaded module, a pop without its push, and a push that a command
-    // leaves behind end the run.
+    // Make the module's resources current until they are popped; pairs nest. Both calls need an
+    // open drawing. The run ends for a handle of no loaded module, for a pop without its push, and
+    // for a push that a command leaves behind.
     virtual void pushResourceHandle(HINSTANCE hRes) = 0;
     virtual void popResourceHandle() = 0;
 
-    // A reactor is told of every document from now on until it is removed [borrowed]. The caller
-    // removes it before it goes and before the module is unloaded; a reactor of a module that is
-    // gone ends the run. A null reactor, one that was added before and one that was never added are
-    // ignored. A reactor may remove itself while it is told of something.
+    // Add and remove a reactor [borrowed], which is notified of every document until it is removed.
+    // The caller removes it before it destroys the reactor and before the module is unloaded; a
+    // reactor of an unloaded module ends the run. The calls ignore a null reactor, one that was
+    // added before, and one that was never added. A reactor may remove itself during a
+    // notification.
     virtual void addReactor(AcApDocManagerReactor* pReactor) = 0;
     virtual void removeReactor(AcApDocManagerReactor* pReactor) = 0;
 
-    // Locks the current document. Locks nest; each one needs its unlockDocument, and an unlock
-    // without its lock ends the run. The lock of another reader or writer never stands in the way
-    // here, so nobody is asked: the local name and prompt have no effect.
+    // Lock and unlock the current document. Locks nest. Each lock needs its unlockDocument; an
+    // unlock without its lock ends the run. No other reader or writer ever holds a conflicting lock
+    // here, so the user is not asked: the local name and prompt have no effect. Return
     // eInvalidInput for any other document.
     virtual Acad::ErrorStatus lockDocument(AcApDocument* pDoc,
                                            AcAp::DocLockMode mode = AcAp::kWrite,
@@ -120,6 +126,6 @@ public:
     virtual Acad::ErrorStatus unlockDocument(AcApDocument* pDoc) = 0;
 };
 
-// The host's one document manager [borrowed]; it is there before any module is loaded.
+// Returns the host's one document manager [borrowed]. It exists before any module is loaded.
 AcApDocManager* acDocManagerPtr();
 #define acDocManager acDocManagerPtr()

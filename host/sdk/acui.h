@@ -5,8 +5,8 @@
 #include "acuiComboBox.h"
 #include "acuiDialog.h"
 
-// Lets the library's resources join the resource chain. A module calls it at its attach, after it
-// has joined the chain itself (CDynLinkLibrary) and before it makes a dialog of the host. A call
-// before the module has joined ends the run. A later call, also by another module, does nothing.
-// The library stays in the chain for good.
+// Adds the library's resources to the resource chain, where they stay as long as the host runs. A
+// module calls this function when it is attached, after it has joined the chain itself
+// (CDynLinkLibrary) and before it creates a dialog of the host. A call before the module has joined
+// ends the run. A later call, by this or another module, does nothing.
 void InitAcUiDLL();

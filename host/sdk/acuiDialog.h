@@ -1,25 +1,28 @@
-// Dialogs that ask at the editor's prompts.
+// Dialogs that ask questions at the editor's prompts.
 #pragma once
 
 #include "aduiDialog.h"
 
-// A dialog that may step aside while the user answers prompts.
+// A dialog that can step aside while the user answers prompts.
 class CAcUiDialog : public CAdUiDialog
 {
     DECLARE_MESSAGE_MAP()
 
 public:
-    // As CAdUiBaseDialog. The destructor ends the run when BeginEditorCommand has no end.
+    // Takes the arguments of CAdUiBaseDialog. The destructor ends the run when a BeginEditorCommand
+    // has no matching end.
     explicit CAcUiDialog(UINT templateId, CWnd* parent = nullptr, HINSTANCE resources = nullptr);
     virtual ~CAcUiDialog();
 
-    // Hides the dialog so that prompts may run. The dialog must stand. Each call has exactly one
-    // CompleteEditorCommand or CancelEditorCommand; another Begin before that ends the run.
+    // Hides the dialog so that prompts may run. The dialog must be on the screen. Each call needs
+    // exactly one CompleteEditorCommand or CancelEditorCommand; a second Begin before that ends the
+    // run.
     virtual void BeginEditorCommand();
-    // Shows the dialog again, whatever the prompts gave; with FALSE it stays hidden. Prompts end
-    // the run again. A call without its Begin ends the run.
+    // Shows the dialog again, whatever the prompts returned; with FALSE the dialog stays hidden.
+    // From then on a prompt ends the run again. A call without its Begin ends the run.
     virtual void CompleteEditorCommand(BOOL restoreDialogs = TRUE);
-    // CompleteEditorCommand for a prompt that the user broke off. Callers may use either.
+    // Does what CompleteEditorCommand does, for a prompt that the user cancelled. Callers may use
+    // either function.
     virtual void CancelEditorCommand();
 
 private:

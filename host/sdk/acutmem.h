@@ -4,11 +4,11 @@
 #include "acadstrc.h"
 #include "adesk.h"
 
-// Each frees a text that the host allocated for the caller and sets the pointer to null. A null
-// pointer is allowed. Both do the same work; the host has two names for it.
+// Free a text that the host allocated for the caller and set the pointer to null. The pointer may
+// be null. Both functions do the same; the host has two names for it.
 void acutDelString(ACHAR*& pString);
 void acutDelBuffer(ACHAR*& pBuffer);
 
-// Copies a text. The caller owns pOutput and frees it with acutDelString.
-// eInvalidInput for a null pInput, eOutOfMemory; pOutput is null then.
+// Copies a text. The caller owns pOutput and frees it with acutDelString. Returns eInvalidInput for
+// a null pInput and eOutOfMemory when the copy cannot be made; pOutput is null then.
 Acad::ErrorStatus acutNewString(const ACHAR* pInput, ACHAR*& pOutput);

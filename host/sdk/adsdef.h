@@ -1,4 +1,4 @@
-// Plain data that the editor's calls exchange.
+// The plain data that the editor's calls exchange.
 #pragma once
 
 #include "adesk.h"
@@ -16,21 +16,22 @@ enum
     Z = 2
 };
 
-// Value of a resbuf; its restype says which member holds it.
+// The value of a resbuf; restype tells which member holds it.
 union ads_u_val
 {
     ads_real rreal;      // RTREAL, RTANG [rad]
     ads_real rpoint[3];  // RTPOINT, RT3DPOINT
     short rint;          // RTSHORT
-    ACHAR* rstring;      // RTSTR; the call that fills or reads the resbuf says who frees it
+    ACHAR*
+        rstring;  // RTSTR; the comment of the call that fills or reads the resbuf names the owner
     ads_name rlname;     // name of an entity; no call here fills it
     Adesk::Int32 rlong;  // RTLONG
 };
 
-// One typed value, or a list of them. No call here frees a resbuf.
+// One typed value, or the first of a list. No call here frees a resbuf.
 struct resbuf
 {
-    struct resbuf* rbnext;   // next value of a list; null at its end
+    struct resbuf* rbnext;   // next value of the list; null at its end
     short restype;           // a value type of adscodes.h
     union ads_u_val resval;  // the value
 };

@@ -1,4 +1,4 @@
-// All calls of the editor in one include. This header declares nothing itself.
+// Includes all calls of the editor. This header declares nothing itself.
 #pragma once
 
 #include "acedads.h"

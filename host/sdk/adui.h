@@ -1,4 +1,4 @@
-// The dialog library under the host's own, in one include. This header declares nothing itself.
+// Includes the dialog library that the host's own is based on. This header declares nothing itself.
 #pragma once
 
 #include "aduiButton.h"

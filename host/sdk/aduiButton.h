@@ -7,35 +7,36 @@
 class CAdUiOwnerDrawButton : public CButton
 {
 public:
-    // Loads what the button shows. It is called after the base's OnInitDialog; before the object
-    // stands for a window it ends the run. FALSE when there is nothing to show.
+    // Loads the content of the button. A dialog calls it after the base class's OnInitDialog; a
+    // call before the object is attached to a window ends the run. Returns FALSE when there is
+    // nothing to show.
     BOOL AutoLoad();
 
 protected:
-    virtual BOOL OnAutoLoad();  // does the loading; FALSE here
+    virtual BOOL OnAutoLoad();  // does the loading; returns FALSE here
 };
 
-// A button with a bitmap of the module's resources.
+// A button that shows a bitmap of the module's resources.
 class CAdUiBitmapButton : public CAdUiOwnerDrawButton
 {
 public:
-    // bitmapName is copied. When it is null, AutoLoad takes the name from the button's text: the
-    // part before the bar names the bitmap, the part after it becomes the text and the tooltip. So
-    // the text has to be in its final language before AutoLoad.
+    // Copies bitmapName. When it is null, AutoLoad takes the name from the button's text: the part
+    // before the bar names the bitmap, and the part after it becomes the text and the tooltip. The
+    // text must therefore be in its final language before AutoLoad.
     explicit CAdUiBitmapButton(LPCWSTR bitmapName = nullptr);
 
-    // Whether AutoLoad makes the button as large as its bitmap; TRUE unless told otherwise. This
-    // host leaves every button as large as the template makes it.
+    // Return and set whether AutoLoad makes the button as large as its bitmap; the default is TRUE.
+    // This host keeps every button as large as the template makes it.
     BOOL GetAutoSizeToBitmap() const;
     void SetAutoSizeToBitmap(BOOL size);
 
-    // The host's own; both null before AutoLoad.
+    // For the host only. Both are null before AutoLoad.
     HRSRC bitmap() const { return m_bitmap; }
     HINSTANCE bitmapModule() const { return m_bitmapModule; }
 
 protected:
-    // Looks the bitmap up in the chain of resources, so the module's resources have to be current.
-    // FALSE when there is no name, no such bitmap, or the control is not owner-drawn.
+    // Finds the bitmap in the resource chain, so the module's resources must be current. Returns
+    // FALSE when there is no name or no such bitmap, or when the control is not owner-drawn.
     virtual BOOL OnAutoLoad() override;
 
 private:
