@@ -1,5 +1,5 @@
-// MFC's drag and drop. This host has nothing of it. The header exists because a module includes it
-// before the dialog headers, which need it where MFC itself is used.
+// MFC's drag and drop. This host implements no part of it. The header exists because a module
+// includes it before the dialog headers, which need it where MFC itself is used.
 #pragma once
 
 #include "afxwin.h"

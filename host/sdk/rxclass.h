@@ -1,21 +1,22 @@
-// Run-time types of the host's classes.
+// The run-time types of the host's classes.
 #pragma once
 
 #include "adesk.h"
 
-// Run-time type of a class derived from AcRxObject. Each class has one static object, made by
-// ACRX_DEFINE_MEMBERS; parents outlive children.
+// The run-time type of a class derived from AcRxObject. Each class has one static object of it,
+// which ACRX_DEFINE_MEMBERS creates. Parents outlive children.
 class AcRxClass
 {
 public:
-    // Both are [borrowed] for the life of the object; the root has a null parent.
+    // Creates a type. Both arguments are [borrowed] as long as the object lives; the root has a
+    // null parent.
     AcRxClass(const ACHAR* name, AcRxClass* parent) : m_name(name), m_parent(parent) {}
 
-    // The class's name as it is spelled in its source [borrowed].
+    // Returns the class's name as its source spells it [borrowed].
     const ACHAR* name() const { return m_name; }
-    // The type of the class that it derives from [borrowed]; null for the root.
+    // Returns the type of the base class [borrowed], or null for the root.
     AcRxClass* myParent() const { return m_parent; }
-    // True also for the class itself. False for null.
+    // Tells whether this type is `other` or derives from it. Returns false for null.
     bool isDerivedFrom(const AcRxClass* other) const
     {
         const AcRxClass* type = this;

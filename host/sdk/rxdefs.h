@@ -1,21 +1,23 @@
-// What passes between the host and a module.
+// The messages and answers that pass between the host and a module.
 #pragma once
 
 #include "adesk.h"
 
-// Makes a function of a module visible to the host. A module shows the host acrxEntryPoint and
+// Makes a function of a module visible to the host. A module exports acrxEntryPoint and
 // acrxGetApiVersion and nothing else.
 #define ACRX_MODULE_EXPORT __attribute__((visibility("default")))
 
-// Generation of the interface; a module built against another one is not loaded.
+// The generation of the interface. The host does not load a module that was built against another
+// one.
 #define ACRX_API_VERSION 0x00130001
 
 namespace AcRx
 {
-// What the host tells a module through acrxEntryPoint. Later hosts send more messages, so a module
-// answers kRetOK to every number that it does not know. The host sends kInitAppMsg once after it
-// has loaded the module, then kLoadDwgMsg when a drawing is open; kUnloadDwgMsg and kUnloadAppMsg
-// before it unloads the module. Only a module with LISP functions hears of later drawings.
+// The messages that the host sends to a module through acrxEntryPoint. Later hosts send more
+// messages, so a module answers kRetOK to every number that it does not know. The host sends
+// kInitAppMsg once after it has loaded the module, and then kLoadDwgMsg when a drawing is open. It
+// sends kUnloadDwgMsg and kUnloadAppMsg before it unloads the module. Only a module with LISP
+// functions is told of later drawings.
 enum AppMsgCode : int
 {
     kNullMsg = 0,
@@ -36,8 +38,8 @@ enum AppMsgCode : int
     kEndDialogMsg = 15
 };
 
-// Answer to a message. kRetError to kInitAppMsg, or to the kLoadDwgMsg that follows it, unloads the
-// module; to kUnloadAppMsg it refuses the unloading. The host ignores other answers.
+// The answer to a message. kRetError to kInitAppMsg, or to the kLoadDwgMsg that follows it, unloads
+// the module. kRetError to kUnloadAppMsg refuses the unloading. The host ignores other answers.
 enum AppRetCode
 {
     kRetOK = 0,
@@ -45,13 +47,13 @@ enum AppRetCode
 };
 }  // namespace AcRx
 
-// What runs when the user types a command; it must let no exception out.
+// The function that runs when the user types a command. It must let no exception out.
 typedef void (*AcRxFunctionPtr)();
 
-// Defined by the module; the host calls it with each message. The packet of kInitAppMsg stands for
-// the module in acrxUnlockApplication and the like and is good until the module is unloaded. The
-// function must let no exception out.
+// Receives each message of the host. The module defines it. The packet of kInitAppMsg identifies
+// the module in acrxUnlockApplication and similar calls and is good until the module is unloaded.
+// The function must let no exception out.
 extern "C" ACRX_MODULE_EXPORT AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode msg, void* pkt);
-// Tells ACRX_API_VERSION as it was when the module was built. The host's library defines it; the
-// module only exports it.
+// Returns the ACRX_API_VERSION that the module was built with. The host's library defines the
+// function; the module only exports it.
 extern "C" ACRX_MODULE_EXPORT int acrxGetApiVersion();

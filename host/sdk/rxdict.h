@@ -1,14 +1,14 @@
-// Named objects of the host.
+// The named objects of the host.
 #pragma once
 
 #include "rxobject.h"
 
-// A dictionary of the host's services. Letter case of keys counts.
+// A dictionary of the host's services. Letter case of keys matters.
 class AcRxDictionary : public AcRxObject
 {
 public:
     ACRX_DECLARE_MEMBERS(AcRxDictionary)
 
-    // The object under that key [borrowed]; null for a null key or when there is no such entry.
+    // Returns the object under that key [borrowed], or null for a null or unknown key.
     virtual AcRxObject* at(const ACHAR* key) const = 0;
 };

@@ -1,25 +1,27 @@
-// Root of the host's classes.
+// The root of the host's classes, and the macros that give a class its run-time type.
 #pragma once
 
 #include "adesk.h"
 #include "acadstrc.h"
 #include "rxclass.h"
 
-// Root of the host's classes. An object can be asked for its run-time type and is never copied.
+// The root of the host's classes. An object knows its run-time type and is never copied.
 class AcRxObject
 {
 public:
-    // Only a derived class is made; any object may be deleted through its root.
+    // Only derived classes are created. Any object may be deleted through the root.
     AcRxObject() {}
     virtual ~AcRxObject() {}
 
-    // The class's type, and that of the object, which may be of a derived class [borrowed].
+    // Return the class's type, and the type of the object, which may be that of a derived class
+    // [borrowed].
     static AcRxClass* desc();
     virtual AcRxClass* isA() const { return desc(); }
-    // True when the object is of that class or of one derived from it.
+    // Tells whether the object is of that class or of a derived one.
     bool isKindOf(const AcRxClass* type) const { return isA()->isDerivedFrom(type); }
 
-    // The object as one of this class; null for a null pointer or an object of another class.
+    // Returns the object as one of this class [borrowed], or null for a null pointer or an object
+    // of another class.
     static AcRxObject* cast(const AcRxObject* object) { return const_cast<AcRxObject*>(object); }
 
 private:
@@ -27,7 +29,7 @@ private:
     AcRxObject& operator=(const AcRxObject&);
 };
 
-// Declares desc, isA and cast of CLASS_NAME inside its body; ACRX_DEFINE_MEMBERS defines the type
+// Declares desc, isA and cast of CLASS_NAME inside its body. ACRX_DEFINE_MEMBERS defines the type
 // in one source.
 #define ACRX_DECLARE_MEMBERS(CLASS_NAME)                                       \
     static AcRxClass* desc();                                                  \
@@ -42,7 +44,7 @@ private:
                    : nullptr;                                                  \
     }
 
-// Defines what ACRX_DECLARE_MEMBERS declares; PARENT_NAME is the direct base.
+// Defines the members that ACRX_DECLARE_MEMBERS declares. PARENT_NAME is the direct base.
 #define ACRX_DEFINE_MEMBERS(CLASS_NAME, PARENT_NAME)                 \
     AcRxClass* CLASS_NAME::desc()                                    \
     {                                                                \

@@ -1,4 +1,4 @@
-// Services that the host offers by name, in one include. This header declares nothing itself.
+// Includes the services that the host offers by name. This header declares nothing itself.
 #pragma once
 
 #include "rxdict.h"
