@@ -49,7 +49,7 @@ def head(*cells):
 
 def number(value):
     """Three digits."""
-    return f"{value:,.0f}" if abs(value) >= 100 else f"{value:.3g}"
+    return f"{value:,.0f}" if abs(value) >= 100 or value == 0 else f"{value:#.3g}"
 
 
 def percent(share):
