@@ -1,4 +1,4 @@
-// What U and REDO go through: the commands of one document.
+// Keeps the commands of one document that U and REDO go through.
 #pragma once
 
 #include <optional>
@@ -10,12 +10,12 @@
 
 namespace host
 {
-// The commands that can be undone, and those that were undone and can be done again. A new command
-// ends the second list: redo needs the drawing exactly as the undo left it.
+// Keeps the commands that can be undone, and the undone commands that can be redone. A new command
+// clears the second list, because redo needs the drawing exactly as the undo left it.
 class CommandHistory
 {
 public:
-    // Both are [borrowed] and outlive the history.
+    // Both arguments are [borrowed] and outlive the history.
     CommandHistory(AcDbDatabase& database, UcsHistory& ucsHistory)
         : m_database(database), m_ucsHistory(ucsHistory)
     {
@@ -23,22 +23,21 @@ public:
     CommandHistory(const CommandHistory&) = delete;
     CommandHistory& operator=(const CommandHistory&) = delete;
 
-    // Notes the state that the command finds.
+    // Records the state of the drawing before the command.
     void begin(std::wstring command);
-    // Takes back what the last command did. Returns its name, or nothing when every command has
-    // been undone.
+    // Undoes the last command. Returns its name, or no value when every command has been undone.
     std::optional<std::wstring> undo();
-    // Does again what the last undo took back. Returns the name of the command, or nothing when
-    // there is nothing to redo.
+    // Redoes the command that was undone last. Returns its name, or no value when there is no
+    // command to redo.
     std::optional<std::wstring> redo();
-    // The number of commands that can be undone.
+    // Returns the number of commands that can be undone.
     std::size_t size() const { return m_done.size(); }
 
 private:
     struct Done
     {
         std::wstring command;
-        UndoMark objects;  // this and the rest: as the command found them
+        UndoMark objects;  // this and the following members: the state before the command
         DrawingState state;
         UcsHistory ucsHistory;
     };
@@ -46,7 +45,7 @@ private:
     {
         Done done;
         UndoneChanges objects;
-        DrawingState state;  // this and the next: as the command left them
+        DrawingState state;  // this and the next member: the state after the command
         UcsHistory ucsHistory;
     };
 

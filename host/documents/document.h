@@ -1,4 +1,4 @@
-// An open drawing with what the editor keeps for it.
+// An open drawing with the state that the editor keeps for it.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,8 @@
 
 namespace host
 {
-// The open drawing.
+// The open drawing. Accessors return [borrowed] parts that live as long as the document, except
+// that a new path replaces the former one and its file name.
 class Document final : public AcApDocument
 {
 public:
@@ -34,15 +35,16 @@ public:
     UcsHistory& ucsHistory() { return m_ucsHistory; }
     Locks& locks() { return m_locks; }
 
-    // The last point that was given [wcs]; "@" counts from it.
+    // Return and set the last point that was given [wcs], from which "@" is measured.
     const AcGePoint3d& lastPoint() const { return m_lastPoint; }
     void setLastPoint(const AcGePoint3d& pointWcs) { m_lastPoint = pointWcs; }
 
-    // Whether a block is being edited.
+    // Tell and set whether a block is being edited.
     bool isBlockEditor() const { return m_isBlockEditor; }
     void setBlockEditor(bool on) { m_isBlockEditor = on; }
 
-    // The digest of the changes that the file of the drawing holds; 0 before the first.
+    // Return and set the digest of the changes that the drawing's file contains. It is 0 before the
+    // first call of noteSaved.
     std::uint64_t savedDigest() const { return m_savedDigest; }
     void noteSaved(std::uint64_t digest) { m_savedDigest = digest; }
 

@@ -1,4 +1,4 @@
-// The documents of the host. At most one is open.
+// Manages the host's documents, of which at most one is open.
 #pragma once
 
 #include <functional>
@@ -9,26 +9,29 @@
 
 namespace host
 {
-// Opens and closes the document, locks it and tells the reactors of modules.
+// Opens, closes and locks the document and notifies the reactors of modules.
 class DocumentManager final : public AcApDocManager
 {
 public:
     DocumentManager();
 
-    // Makes the drawing the current document and its database the working one [adopted]. A document
-    // that is open is closed first.
+    // Makes the drawing the current document and its database the working one [adopted]. Closes a
+    // document that is open first. Returns the document [borrowed], good until it is closed.
     Document& open(std::unique_ptr<AcDbDatabase> database, std::filesystem::path path = {});
     // Closes the document, if one is open.
     void close();
-    // The open document [borrowed]; null when there is none.
+    // Returns the open document [borrowed], good until it is closed, or null when no document is
+    // open.
     Document* document() const { return m_document.get(); }
 
-    // Add a lock to the document and take the newest one back; `command` is what reactors are told.
-    // lock gives eNoDatabase without a document; an unlock without its lock ends the run.
+    // Add a lock to the document and remove the newest one. `command` is the name that reactors
+    // receive. lock returns eNoDatabase without a document; an unlock without its lock ends the
+    // run.
     Acad::ErrorStatus lock(AcAp::DocLockMode mode, const ACHAR* command);
     Acad::ErrorStatus unlock(const ACHAR* command);
 
-    // Notes whether a command runs that works on one document: false while it does.
+    // Sets whether calls run in application context. It is false while a command works on one
+    // document.
     void setApplicationContext(bool set) { m_applicationContext = set; }
 
     AcApDocument* curDocument() const override { return m_document.get(); }
@@ -55,6 +58,6 @@ private:
     bool m_applicationContext = true;
 };
 
-// The one document manager.
+// Returns the one document manager [borrowed], which lives as long as the program.
 DocumentManager& documents();
 }  // namespace host

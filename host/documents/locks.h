@@ -7,17 +7,18 @@
 
 namespace host
 {
-// Locks nest: the newest counts, and the one before it counts again when the newest goes.
+// Keeps the nested locks. The newest lock is in effect; when it is removed, the one before it is in
+// effect again.
 class Locks
 {
 public:
     void push(AcAp::DocLockMode mode) { m_modes.push_back(mode); }
-    // Takes the newest lock off. There must be one.
+    // Removes the newest lock, which must exist.
     void pop() { m_modes.pop_back(); }
     std::size_t depth() const { return m_modes.size(); }
-    // The mode that counts; kNotLocked without a lock.
+    // Returns the mode in effect, or kNotLocked without a lock.
     AcAp::DocLockMode mode() const { return modeAt(depth()); }
-    // The mode that counts after the newest lock has gone. There must be one.
+    // Returns the mode that is in effect after the newest lock, which must exist, has been removed.
     AcAp::DocLockMode modeBelow() const { return modeAt(depth() - 1); }
 
 private:

@@ -1,4 +1,4 @@
-// The resource handles that were current before.
+// Keeps the resource handles that were current before.
 #pragma once
 
 #include <vector>
@@ -7,14 +7,14 @@
 
 namespace host
 {
-// Each push makes a handle current, and its pop makes the former handle current again.
+// Makes a handle current with push and the former handle current again with pop.
 class ResourceStack
 {
 public:
     void push(HINSTANCE resources);
-    // Ends the run when nothing was pushed.
+    // Ends the run when no handle was pushed.
     void pop();
-    // How many handles have been pushed and not popped.
+    // Returns the number of handles that have been pushed and not popped.
     std::size_t depth() const { return m_former.size(); }
 
 private:

@@ -1,4 +1,4 @@
-// The coordinate systems that were current before in one document.
+// Keeps the coordinate systems that were current before in one document.
 #pragma once
 
 #include <vector>
@@ -7,14 +7,16 @@
 
 namespace host
 {
-// Two lists of at most ten, one of model space and one of paper space; the newest comes back first.
+// Keeps two lists of at most ten systems, one for model space and one for paper space. The newest
+// system is returned first.
 class UcsHistory
 {
 public:
-    // Adds the current UCS to the list of the current space. The oldest of more than ten goes.
+    // Adds the current UCS to the list of the current space and removes the oldest of more than
+    // ten.
     void push(const DrawingState& state);
-    // Takes the newest former UCS off that list. False when the list is empty; former is as it was
-    // then.
+    // Removes the newest former UCS of the current space from its list and sets `former` to it.
+    // Returns false when the list is empty; `former` is unchanged then.
     bool pop(const DrawingState& state, Ucs& former);
 
 private:

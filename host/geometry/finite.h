@@ -1,4 +1,4 @@
-// Whether the coordinates are finite: neither infinite nor NaN.
+// Tells whether the coordinates of points and vectors are finite: neither infinite nor NaN.
 #pragma once
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Coordinates in a frame such as the user's coordinate system.
+// Converts points to the coordinates of a frame such as the user's coordinate system.
 #pragma once
 
 #include "gemat3d.h"
@@ -6,9 +6,9 @@
 
 namespace host
 {
-// Converts pointWcs [wcs] to the coordinates of a frame; `frame` maps these to [wcs]. The origin is
-// subtracted before the turn: a product with the inverse matrix would subtract two turned points,
-// each rounded at the size of world coordinates.
+// Converts pointWcs [wcs] to the coordinates of a frame; `frame` maps these to [wcs]. The function
+// subtracts the origin before it rotates: a product with the inverse matrix would subtract two
+// rotated points, each rounded at the size of world coordinates.
 inline AcGePoint3d worldToFrame(const AcGeMatrix3d& frame, const AcGePoint3d& pointWcs)
 {
     return AcGePoint3d() + frame.inverse() * (pointWcs.asVector() - frame.translation());

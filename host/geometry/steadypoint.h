@@ -1,4 +1,4 @@
-// A place reached from two sides, with the least rounding.
+// Computes a point that can be reached from two sides, with the least rounding.
 #pragma once
 
 #include <cmath>
@@ -8,14 +8,14 @@
 
 namespace host
 {
-// One coordinate of steadyPoint.
+// Returns one coordinate of steadyPoint.
 inline double steadyCoordinate(double a, double offset, double b, double otherOffset)
 {
     return std::abs(offset) <= std::abs(otherOffset) ? a + offset : b + otherOffset;
 }
 
-// Returns the point p + offset, which is also q + otherOffset apart from rounding. Each coordinate
-// is taken from the side that moves less in it, so an offset of 0 hands the coordinate on
+// Returns the point p + offset, which equals q + otherOffset apart from rounding. Each coordinate
+// is computed from the side with the smaller offset, so an offset of 0 passes the coordinate on
 // unrounded.
 inline AcGePoint3d steadyPoint(const AcGePoint3d& p, const AcGeVector3d& offset,
                                const AcGePoint3d& q, const AcGeVector3d& otherOffset)

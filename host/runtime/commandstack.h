@@ -1,4 +1,4 @@
-// The commands that the host and its modules have registered.
+// Keeps the commands that the host and its modules have registered.
 #pragma once
 
 #include <list>
@@ -11,7 +11,7 @@
 
 namespace host
 {
-// What a command was registered with; see AcEdCommandStack::addCommand.
+// The arguments with which a command was registered; see AcEdCommandStack::addCommand.
 struct CommandEntry
 {
     std::wstring group;
@@ -22,7 +22,7 @@ struct CommandEntry
     HINSTANCE resources = nullptr;
 };
 
-// A registered command.
+// A registered command. Its accessors return [borrowed] parts that live as long as the command.
 class Command final : public AcEdCommand
 {
 public:
@@ -35,17 +35,17 @@ public:
 
     const CommandEntry& entry() const { return m_entry; }
     bool has(Adesk::Int32 flag) const { return (m_entry.flags & flag) != 0; }
-    // True from the start of the command to its end; the dispatcher sets it.
+    // True while the command runs. The dispatcher sets it.
     bool running = false;
 
 private:
     CommandEntry m_entry;
 };
 
-// The ownership is shared because a command that is running outlives its removal.
+// A running command may be removed from the stack, so the stack shares its ownership.
 using CommandPtr = std::shared_ptr<Command>;
 
-// The stack that modules see as acedRegCmds.
+// The command stack. Modules see it as acedRegCmds.
 class CommandStack final : public AcEdCommandStack
 {
 public:
@@ -57,11 +57,12 @@ public:
     Acad::ErrorStatus removeGroup(const ACHAR* group) override;
     AcEdCommand* lookupCmd(const ACHAR* name, bool globalLookup, bool allGroups) const override;
 
-    // Finds a command by its local name, or by its global name alone, in any letter case. The
-    // newest group is searched first. Null when there is no such command.
+    // Find a command by its local name alone or by its global name alone, in any letter case.
+    // Search the newest group first. Return null when no command has the name.
     CommandPtr findLocal(std::wstring_view name) const;
     CommandPtr findGlobal(std::wstring_view name) const;
-    // All commands: the newest group first, and in a group the first registered first.
+    // Returns all commands: the newest group first, and within a group in the order of
+    // registration.
     std::vector<CommandPtr> all() const;
 
 private:
@@ -76,6 +77,6 @@ private:
     std::list<Group> m_groups;  // newest first
 };
 
-// The one command stack.
+// Returns the one command stack [borrowed], which lives as long as the program.
 CommandStack& commandStack();
 }  // namespace host

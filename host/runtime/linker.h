@@ -11,13 +11,13 @@
 
 namespace host
 {
-// One loaded module. Its address is the packet of kInitAppMsg, by which the module names itself.
+// A loaded module. Its address is the packet of kInitAppMsg, by which the module identifies itself.
 struct Module
 {
     std::unique_ptr<ModuleFile> file;
-    bool locked = true;     // cannot be unloaded
-    bool mdiAware = false;  // copes with several drawings
-    int references = 1;     // loads that have not been taken back
+    bool locked = true;     // the module cannot be unloaded
+    bool mdiAware = false;  // the module supports several drawings
+    int references = 1;     // the number of loads that have not been taken back
 };
 
 // Loads and unloads modules and sends them messages. Modules see it as acrxDynamicLinker.
@@ -26,33 +26,35 @@ class Linker final : public AcRxDynamicLinker
 public:
     using Report = std::function<void(const std::string&)>;
 
-    // Loads a module and starts it; loading it again only counts. A name without a folder means a
-    // module of that name that was loaded before, then a file in the current folder, then one in
-    // `searchFolder`. ".arx" may be left out.
+    // Loads a module and starts it. Loading it again only counts the load. A name without a folder
+    // is looked up among the modules that were loaded before, then in the current folder, then in
+    // `searchFolder`. ".arx" may be left out. Fails when the file is not a module or the module
+    // refuses to start.
     Result<> load(const std::filesystem::path& name);
-    // Unloads a module, however often it was loaded. It fails for a locked module, for one whose
-    // command is running, and when the module refuses. A module that leaves a command or a document
-    // reactor behind ends the run.
+    // Unloads a module, however often it was loaded. Fails when the module is locked or refuses, or
+    // when one of its commands is running. A module that leaves a command or a document reactor
+    // behind ends the run.
     Result<> unload(const std::filesystem::path& name);
-    // Unloads every module, the newest first, locked or not.
+    // Unloads every module, the newest first, whether it is locked or not.
     void unloadAll();
 
-    // Notes whether a drawing is open and tells the modules with LISP functions.
+    // Sets whether a drawing is open and notifies the modules that have LISP functions.
     void setDrawingOpen(bool open);
     // Sends the message to every module.
     void broadcast(AcRx::AppMsgCode message);
 
-    // The module that is answering a message [borrowed]; null while none is.
+    // Returns the module that is answering a message [borrowed], or null while none is.
     Module* current() const { return m_current; }
-    // The module of that packet [borrowed]; null for any other address.
+    // Returns the module with that packet [borrowed], or null for any other address. The pointer is
+    // good until the module is unloaded.
     Module* fromPacket(const void* packet) const;
     // Sends the message to one module and returns its answer.
     AcRx::AppRetCode send(Module& module, AcRx::AppMsgCode message);
 
     std::filesystem::path searchFolder;
-    // Prints why loadModule failed, when its caller asked for that.
+    // Prints why loadModule failed, if its caller asked for that.
     Report report;
-    // Returns the objects of modules that the document manager calls.
+    // Returns the objects of modules that the document manager calls [borrowed].
     std::function<std::vector<const void*>()> listeners;
 
     bool loadModule(const ACHAR* fileName, bool printit, bool asCmd) override;
@@ -78,6 +80,6 @@ private:
     bool m_drawingOpen = false;
 };
 
-// The one linker.
+// Returns the one linker [borrowed], which lives as long as the program.
 Linker& linker();
 }  // namespace host

@@ -1,4 +1,5 @@
-// LISP functions that modules define. A function whose name begins with "C:" is a command.
+// Keeps the LISP functions that modules define. A function whose name begins with "C:" is a
+// command.
 #pragma once
 
 #include <map>
@@ -8,29 +9,29 @@
 
 namespace host
 {
-// The functions by their names; letter case does not count.
+// Finds functions by name, in any letter case.
 class LispFunctions
 {
 public:
     using Handler = int (*)();
 
-    // Defines a function; a former one of that name is replaced.
+    // Defines a function and replaces a former one of that name.
     void define(Module& module, std::wstring_view name, int code);
-    // Removes a function; false when the module has none of that name and code.
+    // Removes a function. Returns false when the module has no function with that name and code.
     bool undefine(Module& module, std::wstring_view name, int code);
-    // Calls the handler instead of the module's entry point from now on; false when the module has
-    // no function with that code.
+    // Makes `invoke` call the handler instead of the module's entry point. Returns false when the
+    // module has no function with that code.
     bool setHandler(Module& module, int code, Handler handler);
 
-    // Whether the module has any function, and whether there is one of that name.
+    // Tell whether the module has any function, and whether a function of that name exists.
     bool has(const Module& module) const;
     bool defines(std::wstring_view name) const;
     // Removes all functions of the module.
     void forget(const Module& module);
 
-    // Runs the function; it has to be defined.
+    // Runs the function, which must be defined.
     void invoke(std::wstring_view name);
-    // Code of the function that is running; -1 while none is.
+    // Returns the code of the function that is running, or -1 while none is.
     int runningCode() const { return m_runningCode; }
 
 private:
@@ -45,6 +46,6 @@ private:
     int m_runningCode = -1;
 };
 
-// The one list of functions.
+// Returns the one list of functions [borrowed], which lives as long as the program.
 LispFunctions& lispFunctions();
 }  // namespace host

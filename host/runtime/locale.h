@@ -1,5 +1,5 @@
-// Language of the product. The module follows it. The host's own texts follow it only for a person
-// who reads along; scripts get English.
+// Sets the language of the product, which the module uses. The host uses it for its own texts only
+// when a person reads them; scripts get English.
 #pragma once
 
 #include "windows.h"

@@ -1,4 +1,4 @@
-// A module's file, opened and checked: the part of loading that the operating system does.
+// Opens and checks a module's file: the part of loading that the operating system does.
 #pragma once
 
 #include <filesystem>
@@ -9,24 +9,24 @@
 
 namespace host
 {
-// An open module file; the destructor unloads it.
+// An open module file. The destructor unloads it.
 class ModuleFile
 {
 public:
-    // Loads the file and starts the module. It fails when the file is not a module of this
-    // generation or its start fails. The path is kept as it is named: a link to a module counts as
-    // a module in the folder of the link.
+    // Loads the file and starts the module. Fails when the file is not a module of this generation
+    // or when the module cannot start. The path is kept as given: a link to a module counts as a
+    // module in the folder of the link.
     static Result<std::unique_ptr<ModuleFile>> open(const std::filesystem::path& path);
     ~ModuleFile();
     ModuleFile(const ModuleFile&) = delete;
     ModuleFile& operator=(const ModuleFile&) = delete;
 
-    // Calls the module's entry point.
+    // Calls the module's entry point and returns its answer.
     AcRx::AppRetCode send(AcRx::AppMsgCode message, void* packet)
     {
         return m_entryPoint(message, packet);
     }
-    // Whether the address of a function or table lies in this file.
+    // Tells whether a function or table at that address is part of this file.
     bool holds(const void* address) const;
     const std::filesystem::path& path() const { return m_path; }
 

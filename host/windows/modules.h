@@ -1,4 +1,4 @@
-// The files of modules in this process: loads them, names them, and finds the file that holds an
+// Loads the files of modules into this process, names them, and finds the file that holds an
 // address.
 #pragma once
 
@@ -13,29 +13,30 @@ namespace host
 struct LoadedFile
 {
     void* handle = nullptr;
-    std::string reason{};    // why there is no handle
-    bool isRefused = false;  // the module's own start failed
+    std::string reason{};    // why the load failed
+    bool isRefused = false;  // whether the module's own start failed
 };
 
-// Loads a module's file and starts the module. The caller unloads a file that has a handle, also
-// when the module refused to start.
+// Loads a module's file and starts the module. The caller unloads every file that has a handle,
+// even when the module refused to start.
 LoadedFile loadFile(const std::filesystem::path& path);
-// Ends the module, destroys its static objects and unloads its file.
+// Detaches the module, destroys its static objects and unloads its file.
 void unloadFile(void* handle);
-// Address of what the file exports under that name [borrowed]; null when there is no such name.
+// Returns the address of the function or object that the file exports under that name [borrowed],
+// good as long as the module is loaded. Returns null when the file exports no such name.
 void* exportOf(void* handle, const char* name);
 
-// Path of a module's file as it was named when it was loaded. Null stands for the program. Empty
-// for a handle of no module.
+// Returns the path of a module's file as it was named when it was loaded, or that of the program
+// for null. Returns an empty path for any other handle.
 std::filesystem::path modulePath(HINSTANCE module);
 
-// Whether the handle is the program's or that of a module that is in the process.
+// Tells whether the handle is that of the program or of a module that is loaded.
 bool isModule(HINSTANCE handle);
 
-// Handle of the program.
+// Returns the handle of the program.
 HINSTANCE programInstance();
 
-// Handle of the module, program or library that holds an address of this process; null when none
-// does.
+// Returns the handle of the module, program or library that holds an address of this process, or
+// null when none holds it.
 HINSTANCE instanceHolding(const void* address);
 }  // namespace host

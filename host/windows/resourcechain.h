@@ -1,4 +1,4 @@
-// The order in which the resources of modules are looked up.
+// The order in which modules are searched for resources.
 #pragma once
 
 #include <vector>
@@ -7,14 +7,14 @@
 
 namespace host
 {
-// Handles of the modules with a CDynLinkLibrary, newest first.
+// Returns the handles of the modules with a CDynLinkLibrary, the newest first.
 std::vector<HINSTANCE> linkedModules();
 
-// Whether the host's dialog library is among them. Without it a dialog of the host misses its texts
-// and pictures.
+// Tells whether the host's dialog library is among them. Without it the host's dialogs lack their
+// texts and pictures.
 bool isDialogLibraryLinked();
 
-// The modules in the order in which a resource is looked up: the current resource handle, then the
-// linked modules.
+// Returns the modules in the order in which they are searched: the current resource handle, then
+// the linked modules.
 std::vector<HINSTANCE> resourceChain();
 }  // namespace host
