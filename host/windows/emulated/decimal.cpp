@@ -1,6 +1,9 @@
 #include "host/windows/emulated/decimal.h"
 
 #include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdint>
 #include <cstdio>
 
 namespace host
@@ -14,12 +17,21 @@ struct Decimal
     std::size_t point;
 };
 
-// Returns all digits. A double has at most 1074 decimals and at most 309 digits before them, so no
-// digit is lost.
+// Returns how many decimals the number has: as many as the place of its lowest binary digit that is
+// not 0 lies behind the binary point.
+int decimalsOf(double size)
+{
+    int exponent = 0;
+    const auto digits = static_cast<std::uint64_t>(std::ldexp(std::frexp(size, &exponent), 53));
+    return std::max(0, 53 - exponent - std::countr_zero(digits));
+}
+
+// Returns all digits, of which no double has more than 309 before the decimal point and 1074 behind
+// it. Asking for exactly those that a number has is many times faster than asking for 1074.
 Decimal exactDecimal(double size)
 {
     char text[309 + 1 + 1074 + 1];
-    std::snprintf(text, sizeof text, "%.1074f", size);
+    std::snprintf(text, sizeof text, "%#.*f", decimalsOf(size), size);
     std::string digits = text;
     const std::size_t point = digits.find_first_not_of("0123456789");
     return {digits.erase(point, 1), point};
