@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "engine/gridrequest.h"
+#include "engine/linespan.h"
+#include "engine/pointtests.h"
 #include "engine/positions.h"
-#include "engine/rectanglefilter.h"
 
 // A part of a grid line at one node. A continuous line is a chain of pieces that are one step long,
 // and a cross is two pieces. The points are in the system of the clipper.
@@ -19,11 +20,26 @@ struct Piece
 class PieceClipper
 {
 public:
-    virtual ~PieceClipper() {}
+    // boundary   the outline [borrowed], open for read while this object lives
+    // outline    the points of the boundary, in the system of the pieces, [borrowed] while this
+    // object
+    //            lives. The first four are the corners in order; with fewer nothing is inside.
+    // area       the area within the outline [ucs], [borrowed] while this object lives: pieces are
+    //            [ucs]. Null: pieces are [wcs], and the outline is the quadrilateral of its
+    //            corners.
+    // elevation  z of all nodes, in drawing units
+    // tolerance  equalPoint during the point tests, in drawing units
+    PieceClipper(const AcDbEntity& boundary, const AcGePoint3dArray& outline, const CurveArea* area,
+                 double elevation, double tolerance);
 
-    // Shortens the piece to its part within the outline. The node is the middle of the piece.
-    // Returns false when no part of the piece is to be drawn.
-    bool clip(Piece& piece, const AcGePoint3d& node) const;
+    // Returns where the points of the line lie that runs through P along an axis, 0 for X and 1 for
+    // Y.
+    LineSpan span(const AcGePoint3d& P, int axis) const { return lineSpan(m_outline, P, axis); }
+
+    // Shortens the piece to its part within the outline. The piece runs along the axis, the node is
+    // its middle, and the span is that of its line. Returns false when no part of the piece is to
+    // be drawn.
+    bool clip(Piece& piece, const AcGePoint3d& node, int axis, const LineSpan& span) const;
 
     // Appends the points [wcs] where the piece meets the outline; kExtendThis extends the piece.
     // Returns false when the host cannot compute them.
@@ -32,26 +48,17 @@ public:
     const bool isInUcs;      // true: pieces are [ucs]; false: pieces are [wcs]
     const double elevation;  // z of all nodes
 
-protected:
-    // boundary   the outline [borrowed], open for read while this object lives
-    // isInUcs    true also means that clip ignores the node of a piece
-    // corners    the corners of the outline, in the system of the pieces
-    // elevation  z of all nodes, in drawing units
-    PieceClipper(const AcDbEntity& boundary, bool isInUcs, const AcGePoint3d (&corners)[4],
-                 double elevation);
-
 private:
     PieceClipper(const PieceClipper&);
     PieceClipper& operator=(const PieceClipper&);
 
-    // Tests the point, which is in the system of the pieces, against the outline. Returns 1 for a
-    // point inside; any other result means that the point is not inside.
-    virtual int locate(const AcGePoint3d& point) const = 0;
-    bool isInside(const AcGePoint3d& point) const;
+    bool isInside(const AcGePoint3d& point, int axis, const LineSpan& span) const;
 
     const AcDbEntity& m_boundary;
+    const AcGePoint3dArray& m_outline;
+    const CurveArea* const m_area;
+    const double m_tolerance;
     const AcGeMatrix3d m_toWorld;  // carries points of pieces to WCS
-    const RectangleFilter m_filter;
 };
 
 // Draws a vertical and a horizontal piece at each node and appends the ids of the lines to made.

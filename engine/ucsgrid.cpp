@@ -2,30 +2,11 @@
 
 #include "engine/gridlabels.h"
 #include "engine/pieces.h"
-#include "engine/pointtests.h"
 #include "output/entities.h"
 #include "output/frame.h"
 
 namespace
 {
-// Tests points against a rectangle whose coordinates are [ucs]. It clips with the boundary, which
-// is [wcs].
-class UcsClipper : public PieceClipper
-{
-public:
-    // rectangle  [borrowed], open for read while this object lives; its corners are `corners`
-    UcsClipper(const AcDbEntity& boundary, const AcDbCurve& rectangle,
-               const AcGePoint3d (&corners)[4])
-        : PieceClipper(boundary, true, corners, 0), m_area(rectangle)
-    {
-    }
-
-private:
-    virtual int locate(const AcGePoint3d& point) const override { return m_area.locate(point); }
-
-    const CurveArea m_area;
-};
-
 void convertPoints(GridRequest& request)
 {
     request.corner1 = toUcs(request.corner1);
@@ -65,11 +46,10 @@ bool drawWithin(AcDbObjectId rectangleId, const GridRequest& request, const AcDb
     {
         return false;
     }
-    const AcGePoint3d& low = request.corner1;
-    const AcGePoint3d& high = request.corner2;
-    const AcGePoint3d corners[4] = {AcGePoint3d(low.x, low.y, 0), AcGePoint3d(high.x, low.y, 0),
-                                    AcGePoint3d(high.x, high.y, 0), AcGePoint3d(low.x, high.y, 0)};
-    const UcsClipper clipper(boundary, *rectangle.object(), corners);
+    AcGePoint3dArray corners;
+    rectangle->getStretchPoints(corners);
+    const CurveArea area(*rectangle.object());
+    const PieceClipper clipper(boundary, corners, &area, 0, AcGeContext::gTol.equalPoint());
     const GridLines drawn = drawPieces(request, gridLines(request), clipper, made);
     if (request.options.needText != 0)
     {

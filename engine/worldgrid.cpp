@@ -5,7 +5,6 @@
 
 #include "engine/gridlabels.h"
 #include "engine/pieces.h"
-#include "engine/pointtests.h"
 #include "engine/worldlabels.h"
 #include "output/frame.h"
 #include "output/labels.h"
@@ -14,33 +13,6 @@
 
 namespace
 {
-// Treats the outline as the quadrilateral of its first four points.
-class WorldClipper : public PieceClipper
-{
-public:
-    // outline    [borrowed] while this object lives
-    // tolerance  the tolerance of the point test, in drawing units. It is a parameter, because the
-    //            outline may reach beyond the picked corners, to coordinates with a coarser
-    //            rounding.
-    WorldClipper(const AcDbEntity& boundary, const AcGePoint3dArray& outline,
-                 const AcGePoint3d (&corners)[4], double elevation, double tolerance)
-        : PieceClipper(boundary, false, corners, elevation),
-          m_outline(outline),
-          m_tolerance(tolerance)
-    {
-    }
-
-private:
-    virtual int locate(const AcGePoint3d& point) const override
-    {
-        const BorrowedTolerance tolerance(m_tolerance);
-        return pointInOutlinePoints(point, m_outline);
-    }
-
-    const AcGePoint3dArray& m_outline;  // [borrowed]
-    const double m_tolerance;
-};
-
 bool isTilted(const GridRequest& request)
 {
     return std::fabs(request.corner1.z - request.corner2.z) > AcGeContext::gTol.equalPoint();
@@ -83,16 +55,12 @@ void drawWorldGrid(GridRequest request, const AcDbEntity& boundary, AcDbObjectId
     const FrameEdges edges = frameEdges(request);
     AcGePoint3dArray outline;
     boundary.getStretchPoints(outline);
-    if (outline.length() < 4)
-    {
-        return;
-    }
     widenTo(outline, request.corner1, request.corner2);
-    const AcGePoint3d corners[4] = {outline[0], outline[1], outline[2], outline[3]};
+    // The outline may reach beyond the picked corners, to coordinates with a coarser rounding.
     const double largest =
         (std::max)(largestCoordinate(request.corner1), largestCoordinate(request.corner2));
     const double tolerance = atLeastRounding(AcGeContext::gTol.equalPoint(), largest);
-    const WorldClipper clipper(boundary, outline, corners, request.corner1.z, tolerance);
+    const PieceClipper clipper(boundary, outline, nullptr, request.corner1.z, tolerance);
     const GridLines drawn = drawPieces(request, gridLines(request), clipper, made);
     if (request.options.needText != 0)
     {

@@ -7,24 +7,6 @@
 
 namespace
 {
-// Every point is inside.
-class WholePieces : public PieceClipper
-{
-public:
-    explicit WholePieces(const AcDbEntity& boundary) : PieceClipper(boundary, false, noCorners(), 0)
-    {
-    }
-
-private:
-    using Corners = AcGePoint3d[4];
-    static const Corners& noCorners()
-    {
-        static const Corners corners;
-        return corners;
-    }
-    int locate(const AcGePoint3d&) const override { return 1; }
-};
-
 struct Drawn
 {
     AcDbObjectIdArray made;
@@ -48,7 +30,9 @@ protected:
         lines.y.push_back(10);
         Drawn drawn;
         AcDbObjectPointer<AcDbEntity> boundary(outline, AcDb::kForRead);
-        const WholePieces clipper(*boundary.object());
+        AcGePoint3dArray corners;
+        boundary->getStretchPoints(corners);
+        const PieceClipper clipper(*boundary.object(), corners, nullptr, 0, 1e-10);
         const GridLines drawnLines = drawPieces(request, lines, clipper, drawn.made);
         drawn.xLabelPoints = labelPoints(request, drawnLines.x, 0, clipper);
         drawn.yLabelPoints = labelPoints(request, drawnLines.y, 1, clipper);

@@ -1,4 +1,4 @@
-#include "engine/rectanglefilter.h"
+#include "engine/linespan.h"
 
 #include <cmath>
 #include <limits>
@@ -25,25 +25,33 @@ AcGePoint3d turned(const AcGePoint3d& p)
     return {0.6 * p.x - 0.8 * p.y, 0.8 * p.x + 0.6 * p.y, p.z};
 }
 
-// The answer for the corners as they come; it has to be the same from whichever corner they begin
-// and whichever way they turn.
+// The answer for the corners as they come; it has to be the same along X and along Y, from
+// whichever corner they begin and whichever way they turn.
 int locate(const Quad& quad, const AcGePoint3d& point)
 {
     const AcGePoint3d(&q)[4] = quad.corners;
-    const double elevation = q[0].z;
-    const int place = RectangleFilter(q, elevation).locate(point);
+    const auto placeIn = [&](int first, int step, int axis)
+    {
+        AcGePoint3dArray outline;
+        for (int i = 0; i < 4; ++i)
+        {
+            outline.append(q[(first + 4 + i * step) % 4]);
+        }
+        return lineSpan(outline, point, axis).locate(point[static_cast<unsigned>(axis)]);
+    };
+    const int place = placeIn(0, 1, 0);
     for (int i = 0; i < 4; ++i)
     {
-        const AcGePoint3d onwards[4] = {q[i], q[(i + 1) % 4], q[(i + 2) % 4], q[(i + 3) % 4]};
-        const AcGePoint3d backwards[4] = {onwards[3], onwards[2], onwards[1], onwards[0]};
-        EXPECT_EQ(RectangleFilter(onwards, elevation).locate(point), place) << "from corner " << i;
-        EXPECT_EQ(RectangleFilter(backwards, elevation).locate(point), place)
-            << "backwards from corner " << i;
+        for (const int axis : {0, 1})
+        {
+            EXPECT_EQ(placeIn(i, 1, axis), place) << "from corner " << i << ", axis " << axis;
+            EXPECT_EQ(placeIn(i, -1, axis), place) << "backwards from " << i << ", axis " << axis;
+        }
     }
     return place;
 }
 
-TEST(RectangleFilter, decidesFourTolerancesOffTheEdges)
+TEST(LineSpan, decidesFourTolerancesOffTheEdges)
 {
     struct Row
     {
@@ -69,7 +77,7 @@ TEST(RectangleFilter, decidesFourTolerancesOffTheEdges)
     }
 }
 
-TEST(RectangleFilter, takesTheLargestToleranceOfThePointTests)
+TEST(LineSpan, takesTheLargestToleranceOfThePointTests)
 {
     EXPECT_EQ(locate(sheet, {50, 4.01, 5}), 1);
     const AcGeTol former = AcGeContext::gTol;
@@ -82,7 +90,7 @@ TEST(RectangleFilter, takesTheLargestToleranceOfThePointTests)
     EXPECT_EQ(locate(small, {0.5, 4.01e-6, 0}), 1);
 }
 
-TEST(RectangleFilter, decidesNothingWithinAMillionthOfTheOutline)
+TEST(LineSpan, decidesNothingWithinAMillionthOfTheOutline)
 {
     const Quad large = {{{0, 0, 0}, {300, 0, 0}, {300, 400, 0}, {0, 400, 0}}};
     EXPECT_EQ(locate(large, {150, 500.1e-6, 0}), 1);
@@ -91,7 +99,7 @@ TEST(RectangleFilter, decidesNothingWithinAMillionthOfTheOutline)
     EXPECT_EQ(locate(large, {150, -500.1e-6, 0}), -1);
 }
 
-TEST(RectangleFilter, decidesNothingUnlessTheCornersMakeARectangle)
+TEST(LineSpan, decidesNothingUnlessTheCornersMakeARectangle)
 {
     struct Row
     {
@@ -120,10 +128,10 @@ TEST(RectangleFilter, decidesNothingUnlessTheCornersMakeARectangle)
             EXPECT_EQ(locate(row.quad, point), 0) << row.what << ' ' << at;
         }
     }
-    EXPECT_EQ(RectangleFilter(sheet.corners, 6).locate({50, 25, 6}), 0) << "at another elevation";
+    EXPECT_EQ(locate(sheet, {50, 25, 6}), 0) << "at another elevation";
 }
 
-TEST(RectangleFilter, takesARectangleThatIsSkewedByLessThanTheTolerance)
+TEST(LineSpan, takesARectangleThatIsSkewedByLessThanTheTolerance)
 {
     const BorrowedTolerance tolerance(1e-3);
     const Quad slightly = {{{0, 0, 0}, {100, 9e-4, 0}, {100, 50, 0}, {0, 50, 0}}};

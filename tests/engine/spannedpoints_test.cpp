@@ -1,11 +1,11 @@
-// The filter and the point tests that it spares.
+// The spans of lines and the point tests that they spare.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <random>
 
+#include "engine/linespan.h"
 #include "engine/pointtests.h"
-#include "engine/rectanglefilter.h"
 #include "output/tolerance.h"
 
 namespace
@@ -20,7 +20,12 @@ AcGePoint3d pointNear(const AcGePoint3d& a, const AcGePoint3d& b, std::mt19937_6
     return a + edge * along(random) + AcGeVector3d(-edge.y, edge.x, 0) * off;
 }
 
-TEST(FilteredPoints, areWhereTheTestOfTheOutlineSays)
+int spanned(const AcGePoint3dArray& outline, const AcGePoint3d& point, int axis)
+{
+    return lineSpan(outline, point, axis).locate(point[static_cast<unsigned>(axis)]);
+}
+
+TEST(PointsOfLineSpans, areWhereTheTestOfTheOutlineSays)
 {
     std::mt19937_64 random(20140321);
     std::uniform_real_distribution<double> place(-1, 1);
@@ -41,21 +46,25 @@ TEST(FilteredPoints, areWhereTheTestOfTheOutlineSays)
             q[2] = q[1] + (q[3] - q[0]);
         }
         const BorrowedTolerance tolerance(atLeastRounding(1e-10, largestCoordinate(far) + size));
-        const RectangleFilter filter(q, 0);
+        AcGePoint3dArray outline;
+        for (const AcGePoint3d& corner : q)
+        {
+            outline.append(corner);
+        }
         for (int i = 0; i < 12; ++i)
         {
             const AcGePoint3d point = pointNear(q[i % 4], q[(i + 1) % 4], random);
-            const int filtered = filter.locate(point);
+            const int decision = spanned(outline, point, i % 2);
             const int tested = pointInQuad(point, q[0], q[1], q[2], q[3]);
-            decided += filtered != 0;
-            ASSERT_TRUE(filtered == 0 || filtered == tested)
-                << filtered << " and " << tested << " for quad " << quad << ", point " << i;
+            decided += decision != 0;
+            ASSERT_TRUE(decision == 0 || decision == tested)
+                << decision << " and " << tested << " for quad " << quad << ", point " << i;
         }
     }
     EXPECT_GT(decided, 70000) << "it hardly ever decides";
 }
 
-TEST(FilteredPoints, areWhereTheTestOfTheCurveSays)
+TEST(PointsOfLineSpans, areWhereTheTestOfTheCurveSays)
 {
     std::mt19937_64 random(20140322);
     std::uniform_real_distribution<double> place(-1, 1);
@@ -74,14 +83,12 @@ TEST(FilteredPoints, areWhereTheTestOfTheCurveSays)
         corners.append(low);
         const AcDb2dPolyline rectangle(AcDb::k2dSimplePoly, corners, 0.0, Adesk::kTrue);
         const CurveArea curve(rectangle);
-        const AcGePoint3d q[4] = {corners[0], corners[1], corners[2], corners[3]};
-        const RectangleFilter filter(q, 0);
         for (int i = 0; i < 12; ++i)
         {
             const AcGePoint3d point = pointNear(corners[i % 4], corners[i % 4 + 1], random);
-            const int filtered = filter.locate(point);
-            decided += filtered != 0;
-            ASSERT_TRUE(filtered == 0 || filtered == curve.locate(point))
+            const int decision = spanned(corners, point, i % 2);
+            decided += decision != 0;
+            ASSERT_TRUE(decision == 0 || decision == curve.locate(point))
                 << quad << ", point " << i;
         }
     }
