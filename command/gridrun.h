@@ -14,7 +14,7 @@ struct GridRun
 
     HINSTANCE module;          // [borrowed]; its resources hold the template of the dialog
     CString localeName;        // selects the language (output/language.h)
-    const Messages* messages;  // [borrowed] for good
+    const Messages* messages;  // [borrowed] as long as the module is loaded
     GridSettings settings;
 };
 

@@ -20,5 +20,6 @@ struct Messages
 // Returns the locale name of the host product, or "en-US" when the host has no locale name.
 CString productLocaleName();
 
-// Returns the texts in the language of the locale name (output/language.h), [borrowed] for good.
+// Returns the texts in the language of the locale name (output/language.h). They are [borrowed] as
+// long as the module is loaded.
 const Messages& messagesFor(const CString& localeName);

@@ -42,7 +42,7 @@ struct Rows
 };
 
 // These functions return the rows of the options with whole numbers, real numbers and texts. The
-// rows are [borrowed] for good.
+// rows are [borrowed] as long as the module is loaded.
 Rows<IntOption> intOptions();
 Rows<RealOption> realOptions();
 Rows<TextOption> textOptions();

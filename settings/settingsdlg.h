@@ -50,7 +50,7 @@ private:
     {
         int edit;                  // the id of its edit
         double current;            // the length with which a pick begins, in drawing units
-        const LengthTexts* texts;  // [borrowed] for good
+        const LengthTexts* texts;  // [borrowed] as long as the module is loaded
     };
 
     // A step of the grid.
@@ -99,7 +99,7 @@ private:
     GridSettings m_settings;
     CString m_localeName;
     CString m_textStyleName;
-    const SettingsTexts* m_texts;  // [borrowed] for good
+    const SettingsTexts* m_texts;  // [borrowed] as long as the module is loaded
     Step m_vertStep;
     Step m_horStep;
     Length m_crossSize;

@@ -30,7 +30,8 @@ struct SettingsTexts
     const wchar_t* yPrefixBanner;
 };
 
-// Returns the texts in the language of the locale name (output/language.h), [borrowed] for good.
+// Returns the texts in the language of the locale name (output/language.h). They are [borrowed] as
+// long as the module is loaded.
 const SettingsTexts& settingsTextsFor(const CString& localeName);
 
 // The English caption of a control whose caption in the template is Russian.
@@ -40,8 +41,9 @@ struct Caption
     const wchar_t* text;  // null after the last caption
 };
 
-// Returns the English captions [borrowed] for good; an entry with a null text ends them.
+// Returns the English captions [borrowed] as long as the module is loaded; an entry with a null
+// text ends them.
 const Caption* englishCaptions();
 
-// Returns the English title of the dialog [borrowed] for good.
+// Returns the English title of the dialog [borrowed] as long as the module is loaded.
 const wchar_t* englishTitle();

@@ -9,6 +9,6 @@
 namespace host
 {
 // Returns the bitmap's bytes as the module's resources hold them [borrowed], good while the module
-// is loaded. Empty for a button without a bitmap.
+// is loaded. The view is empty for a button without a bitmap.
 std::span<const std::byte> bitmapOfButton(HWND button);
 }  // namespace host

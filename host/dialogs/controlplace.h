@@ -7,8 +7,8 @@
 
 namespace host
 {
-// Returns what a person calls the control: its text. A check box without a text has the text of the
-// frame in whose caption it stands. Check boxes of one text around a figure of lines also name the
-// edge of the figure at which they stand.
+// Returns the name by which a person refers to the control: its text. A check box without a text
+// has the text of the frame whose caption holds it. If several check boxes around a figure of lines
+// have the same text, each name also contains the edge of the figure beside the check box.
 std::wstring shownName(HWND control);
 }  // namespace host

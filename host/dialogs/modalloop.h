@@ -8,7 +8,7 @@
 
 namespace host
 {
-// Shows the dialog and hands the user's lines to it until `ended` [borrowed] is set. A dialog that
+// Shows the dialog and passes the user's lines to it until `ended` [borrowed] is set. A dialog that
 // is hidden when the user should see it ends the run.
 void runModalLoop(HWND dialog, const bool& ended);
 // Tells the user that the dialog is closed, by OK or not [prints].

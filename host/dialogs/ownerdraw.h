@@ -6,8 +6,8 @@
 
 namespace host
 {
-// Answers a message that asks a dialog to draw; returns TRUE when something was drawn. Without a
-// screen no such message comes.
+// Answers a message that asks a dialog to draw. Returns TRUE when something was drawn. A host
+// without a screen receives no such message.
 INT_PTR answerDrawing(UINT message, LPARAM lParam);
 
 // Sets the text to show while the pointer rests on the control.

@@ -6,7 +6,7 @@
 namespace host
 {
 // Puts the dialog in the middle of the screen, because its owner is not visible, and gives it a
-// button of its own on the taskbar. It is called before the dialog is shown. Without a screen it
-// does nothing.
+// separate button on the taskbar. The caller calls it before the dialog is shown. Without a screen
+// the function does nothing.
 void placeDialog(HWND dialog);
 }  // namespace host

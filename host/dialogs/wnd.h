@@ -7,8 +7,8 @@
 
 namespace host
 {
-// Returns the module's object that represents the window [borrowed]; null when the module has no
-// such object. Temporary objects do not count.
+// Returns the module's object that represents the window [borrowed], or null when the module has no
+// such object. Ignores temporary objects.
 CWnd* objectOf(HWND window);
 
 // Returns the window that the object represents. If the object has no window, the run ends with a

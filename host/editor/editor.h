@@ -1,4 +1,5 @@
-// The editor: one command line, and the state that commands share through it.
+// The editor: one command line, and the state that commands share through it. Accessors return
+// [borrowed] parts that live as long as the editor and change with its state.
 #pragma once
 
 #include <functional>
@@ -22,14 +23,14 @@ struct PromptOptions
     KeywordList keywords{};
 };
 
-// The text or keyword that the last prompt took instead of a value of its own kind.
+// The text or keyword that the last prompt accepted instead of its own kind of value.
 struct PromptInput
 {
     std::wstring text;
     bool isKeyword = false;
 };
 
-// Serves the module's calls for as long as the object exists, from one thread at a time.
+// Serves the module's calls as long as the object exists, from one thread at a time.
 class Editor
 {
 public:
@@ -39,14 +40,14 @@ public:
     Editor(const Editor&) = delete;
     Editor& operator=(const Editor&) = delete;
 
-    // Returns the editor that exists [borrowed]; null when there is no command line.
+    // Returns the existing editor [borrowed], or null when there is no command line.
     static Editor* current();
 
-    // Prints the text as it stands, without a line end of its own [prints].
+    // Prints the text unchanged and adds no line end [prints].
     void print(std::wstring_view text);
-    // Prints the text on a line of its own [prints].
+    // Prints the text on a separate line [prints].
     void printLine(std::wstring_view line);
-    // Prints the text on a line of its own if events are traced [prints].
+    // Prints the text on a separate line if events are traced [prints].
     void traceLine(std::wstring_view line);
     // Reports a line about the run itself, apart from what the user reads.
     void report(std::wstring_view line) const;
@@ -56,14 +57,14 @@ public:
     // Shows the prompt, waits for the answer, echoes it and ends the line [prints]. A prompt of the
     // command line under a shown dialog is a breach.
     Answer ask(const Question& question);
-    // Asks as `ask` does, in two steps, for a caller that decides by the answer what to echo.
+    // Asks as `ask` does but echoes nothing, for a caller that decides by the answer what to echo.
     Answer askSilently(const Question& question);
     // Prints the text as the answer and ends the line, unless the user sees the answer already.
     void echo(const Answer& answer, std::wstring_view text);
-    // Keeps an answer that was meant for the next question and gives it there.
+    // Keeps an answer that was meant for the next question, which receives it.
     void putBack(Answer answer) { m_putBack = std::move(answer); }
 
-    // Returns the options for this prompt and clears them, as they hold for one prompt only.
+    // Returns the options for this prompt and clears them, because they apply to one prompt only.
     PromptOptions takeOptions() { return std::exchange(m_options, {}); }
     // Sets the options for the next prompt.
     void setOptions(PromptOptions options) { m_options = std::move(options); }
@@ -75,27 +76,29 @@ public:
     // Tells whether `fail` was called.
     bool failed() const { return m_failed; }
 
-    // Notes that a command begins or ends. Calls come in pairs; the innermost command ends first.
+    // Record that a command begins or ends. Calls come in pairs; the innermost command ends first.
     void beginCommand(CommandPtr command) { m_running.push_back(std::move(command)); }
     void endCommand() { m_running.pop_back(); }
-    // The running commands, the outermost first.
+    // Returns the running commands, the outermost first.
     const std::vector<CommandPtr>& running() const { return m_running; }
 
-    // The line that Enter at the command prompt starts again; empty before the first line.
+    // Return and set the line that Enter at the command prompt repeats. It is empty before the
+    // first line.
     const std::wstring& lastLine() const { return m_lastLine; }
     void rememberLine(std::wstring line) { m_lastLine = std::move(line); }
 
-    // The input that acedGetInput returns; it stays until a prompt takes other input.
+    // Return and set the input that acedGetInput returns. It stays until a prompt accepts other
+    // input.
     const PromptInput& lastInput() const { return m_lastInput; }
     void noteInput(PromptInput input) { m_lastInput = std::move(input); }
 
-    // The variable ERRNO.
+    // Return and set the variable ERRNO.
     int errorNumber() const { return m_errorNumber; }
     void setErrorNumber(int number) { m_errorNumber = number; }
 
-    // The progress meter; no value when none is shown.
+    // Returns the progress meter, or no value when none is shown.
     const std::optional<Meter>& meter() const { return m_meter; }
-    // Shows the meter at once; no value removes it.
+    // Shows the meter at once. No value removes the meter.
     void setMeter(std::optional<Meter> meter);
 
     // Ends the session after this command, unless `mayQuit` was given and returns false.
@@ -105,10 +108,11 @@ public:
     // Tells whether the session ends after this command.
     bool hasQuit() const { return m_quit; }
 
-    // The dialogs that are shown. While one is shown, a prompt of the command line is a breach.
+    // Returns the dialogs that are shown. While a dialog is shown, a prompt of the command line is
+    // a breach.
     ShownDialogs& dialogs() { return m_dialogs; }
 
-    // Tells whether a person reads along and types.
+    // Tells whether a person reads the output and types.
     bool interactive() const { return m_frontEnd.interactive(); }
 
 private:

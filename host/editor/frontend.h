@@ -1,4 +1,4 @@
-// The seam between the editor and whatever a person, or a script, sits at.
+// The seam between the editor and the source of its input: a person or a script.
 //
 // A command runs on its own thread; the input may belong to another one. The editor calls a front
 // end from the command's thread only and waits there for each answer. A front end with a thread of
@@ -15,7 +15,7 @@
 
 namespace host
 {
-// What is asked.
+// A question to the user.
 struct Question
 {
     enum class Kind
@@ -25,25 +25,26 @@ struct Question
         corner,
         distance,
         keyword,
-        name,  // one word, or several between double quotes
-        file,  // the same for the name of a file
+        name,  // one word, or several words between double quotes
+        file,  // as `name`, for the name of a file
         text,
         messageBox,
         dialog
     };
 
     Kind kind = Kind::text;
-    std::wstring prompt{};                 // the text on the command line
-    std::vector<std::wstring> keywords{};  // answers by name; for a message box, its buttons
-    std::optional<AcGePoint3d> base{};     // [ucs]; where a rubber band starts
-    std::wstring caption{};                // the caption of a message box or dialog
-    std::wstring text{};                   // the text of a message box
-    // Tells whether a click on a window has answered the question already. May be empty. It is
-    // called on the command's thread.
+    std::wstring prompt{};  // the text on the command line
+    std::vector<std::wstring>
+        keywords{};  // the answers that have names; for a message box, its buttons
+    std::optional<AcGePoint3d> base{};  // [ucs]; the start of a rubber band
+    std::wstring caption{};             // the caption of a message box or dialog
+    std::wstring text{};                // the text of a message box
+    // Tells whether a click on a window has answered the question already. The function may be
+    // empty. The editor calls it on the command's thread.
     std::function<bool()> isWithdrawn{};
 };
 
-// What was answered.
+// The answer to a question.
 struct Answer
 {
     enum class Kind
@@ -57,8 +58,8 @@ struct Answer
 
     Kind kind = Kind::endOfInput;
     std::wstring text{};  // the line as typed
-    // The user sees the typed text, so that the editor does not echo it. For a withdrawn question
-    // it says that the line of the prompt has been ended.
+    // True if the user sees the typed text already, so that the editor does not echo it. For a
+    // withdrawn question it means that the line of the prompt has been ended.
     bool visible = false;
 };
 
@@ -71,7 +72,7 @@ struct Meter
     int position;  // may lie outside `least` to `most`
 };
 
-// What a person or a script sits at.
+// The source of the input and the destination of the output: a person or a script.
 class FrontEnd
 {
 public:
@@ -79,15 +80,16 @@ public:
 
     // Shows the text, in UTF-8, at once and adds no line end. Any thread may call it.
     virtual void print(std::string_view text) = 0;
-    // Shows a line about the run itself, in UTF-8 without its end, apart from what the user reads.
+    // Shows a line about the run itself, in UTF-8 without its end, separately from the output that
+    // the user reads.
     virtual void report(std::string_view line) = 0;
     // Waits for the answer to a question whose prompt has been printed already. After the first
     // endOfInput, every answer is endOfInput.
     virtual Answer ask(const Question& question) = 0;
-    // Shows the meter as it stands now; no value removes it.
+    // Shows the current state of the meter. No value removes the meter.
     virtual void showMeter(const std::optional<Meter>&) {}
-    // Tells whether a person reads along and types. A person gets help that would only disturb a
-    // script.
+    // Tells whether a person reads the output and types. A person gets help that would only disturb
+    // a script.
     virtual bool interactive() const { return false; }
 };
 }  // namespace host

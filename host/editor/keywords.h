@@ -10,9 +10,8 @@ namespace host
 {
 // Holds the keywords of a list, which blanks separate. The first run of capitals in a keyword is
 // the shortest text that selects it; a comma may give another abbreviation ("LTYPE,LT"). After a
-// lone
-// "_" the list repeats the keywords in their global forms, which a user types with a leading
-// underscore.
+// "_" that stands alone, the list repeats the keywords in their global forms, which a user types
+// with a leading underscore.
 class KeywordList
 {
 public:
@@ -20,9 +19,9 @@ public:
     explicit KeywordList(std::wstring_view list);
 
     bool empty() const { return m_keywords.empty(); }
-    // Returns the keyword that was typed, as the list spells it, in its global form if there is
-    // one; no value when no keyword matches. Letter case does not count. A keyword typed in full
-    // goes before an abbreviation of another keyword.
+    // Returns the keyword that was typed, as the list spells it, or its global form if there is
+    // one. Returns no value when no keyword matches. Letter case is ignored. A keyword typed in
+    // full takes precedence over an abbreviation of another keyword.
     std::optional<std::wstring> match(std::wstring_view typed) const;
     // Returns the keywords in the order of the list, in their local forms.
     std::vector<std::wstring> names() const;

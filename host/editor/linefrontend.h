@@ -23,15 +23,15 @@ public:
 
     // Waits for the next answer. After the first endOfInput, every answer is endOfInput.
     virtual Answer next(const Question& question) = 0;
-    // Makes a `next` that waits on another thread return an answer that does not count. Returns
-    // false when the reader cannot do that.
+    // Makes a `next` that waits on another thread return an answer, which the caller ignores.
+    // Returns false when the reader cannot do that.
     virtual bool endWait() { return false; }
-    // Tells whether the person who types sees the line already, as at a terminal.
+    // Tells whether the user already sees the typed line, as at a terminal.
     virtual bool visible() const { return false; }
 };
 
-// Is thrown by a reader that cannot go on; what() returns the failure's line. It ends the program,
-// because nobody waits for a result: see LineFrontEnd::serve.
+// A reader throws this exception when it cannot go on. what() returns the failure's line. The
+// exception ends the program, because no caller waits for a result: see LineFrontEnd::serve.
 struct UnreadableInput : std::runtime_error
 {
     explicit UnreadableInput(const Failure& failure) : std::runtime_error(failure.line) {}
@@ -89,9 +89,9 @@ public:
     Answer ask(const Question& question) override { return m_rendezvous.ask(question); }
     bool interactive() const override { return m_reader.visible(); }
 
-    // Runs the job on a thread of its own and answers its questions on the calling thread. Returns
-    // after the job has ended. An exception of the reader ends the program, because the job waits
-    // for an answer and cannot be told.
+    // Runs the job on a separate thread and answers its questions on the calling thread. Returns
+    // after the job has ended. An exception of the reader ends the program: the job waits for an
+    // answer and cannot be notified.
     void serve(const std::function<void()>& job);
 
 private:

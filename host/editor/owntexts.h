@@ -1,4 +1,5 @@
-// The texts that the host itself says to a person, each once, in two languages.
+// The texts that the host itself shows to a person, each once, in two languages. Accessors return
+// [borrowed] texts that live as long as the program.
 #pragma once
 
 #include <initializer_list>
@@ -35,8 +36,8 @@ private:
     const OwnTextRow* m_row;
 };
 
-// Tells whether a person reads along who works in Russian. A script gets English in every locale,
-// so that its output does not depend on the locale.
+// Tells whether the output is read by a person who works in Russian. A script gets English in every
+// locale, so that its output does not depend on the locale.
 bool readsRussian();
 
 // Returns the text in the reader's language, with the values in place of %1, %2 and so on.

@@ -8,7 +8,7 @@
 
 namespace host
 {
-// A typed point before it is known from where it is measured. Drawing units.
+// A typed point whose origin is not known yet. The coordinates are in drawing units.
 struct TypedPoint
 {
     AcGePoint3d coordinates;
@@ -17,8 +17,8 @@ struct TypedPoint
     bool world = false;     // typed with "*": [wcs]; otherwise [ucs]
 };
 
-// Parses "x,y", "x,y,z" or "dist<angle" with the angle in degrees. Each may begin with "@" or "*";
-// "@" alone is the last point. Blanks around coordinates do not count. Returns no value for any
+// Parses "x,y", "x,y,z" or "dist<angle" with the angle in degrees. Each form may begin with "@" or
+// "*"; "@" alone is the last point. Blanks around coordinates are ignored. Returns no value for any
 // other text.
 std::optional<TypedPoint> parsePoint(std::wstring_view text);
 

@@ -42,16 +42,16 @@ using Reader = std::function<Reading(std::wstring_view)>;
 // base is null. Base and point [borrowed] outlive the reader, which stores each result in `point`.
 Reader pointReader(const AcGePoint3d* base, AcGePoint3d& point);
 
-// Asks until the answer is one that the options allow [prints]. Returns RTNORM for a value, which
-// `read` has stored; RTNONE for Enter; RTCAN for Esc; RTKWORD for a keyword or other text, which
-// the editor then has as its last input.
+// Asks until the options allow the answer [prints]. Returns RTNORM for a value, which `read` has
+// stored; RTNONE for Enter; RTCAN for Esc; RTKWORD for a keyword or other text, which becomes the
+// editor's last input.
 int promptUntilTaken(Editor& editor, Question question, const PromptOptions& options,
                      const Reader& read);
 
 // Builds a question. The prompt and the base [ucs] may be null.
 Question questionOf(Question::Kind kind, const ACHAR* prompt, const ads_real* base);
 
-// Returns the editor [borrowed]; null when there is no command line or no document.
+// Returns the editor [borrowed], or null when there is no command line or no document.
 Editor* askingEditor();
 
 // Sets the point [ucs] from which the next "@" is measured. A document must be open.

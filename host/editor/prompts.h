@@ -14,7 +14,7 @@ namespace host
 // command, and the question is asked again.
 Answer askUser(Editor& editor, const Question& question);
 
-// Asks for a line and returns it trimmed: an empty text for Enter, no value for Esc.
+// Asks for a line and returns it trimmed. Returns an empty text for Enter and no value for Esc.
 std::optional<std::wstring> askLine(Editor& editor, Question::Kind kind,
                                     const std::wstring& prompt);
 

@@ -10,21 +10,21 @@
 
 namespace host
 {
-// Joins the thread of one command and one owner of the input. Either side may come first.
+// Connects the thread of one command with one owner of the input. Either side may come first.
 class Rendezvous
 {
 public:
-    // `onQuestion`, if given, wakes an owner that has an event loop of its own; the owner then
-    // takes the question with waitForQuestion. `endWait`, if given, makes an owner that waits for a
-    // line answer at once, because the line is not needed any more; it returns false when it cannot
-    // do that. Both functions are called on the command's thread.
+    // `onQuestion`, if given, wakes an owner that runs an event loop; the owner then takes the
+    // question with waitForQuestion. `endWait`, if given, makes an owner that waits for a line
+    // answer at once, because the line is not needed any more; it returns false when it cannot do
+    // that. Both functions are called on the command's thread.
     explicit Rendezvous(std::function<void()> onQuestion = {}, std::function<bool()> endWait = {});
 
     // The command's side: blocks until the owner has answered or the question is withdrawn. If
     // `endWait` ends the owner's wait, the answer that the owner then gives is dropped. Otherwise
     // the answer to the withdrawn question, when it comes, answers the next question.
     Answer ask(const Question& question);
-    // The command's side: says that no more questions come.
+    // The command's side: announces that no more questions come.
     void finish();
 
     // The owner's side: blocks until a question is asked; returns no value once the command has

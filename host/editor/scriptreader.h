@@ -11,7 +11,7 @@ namespace host
 // Takes answers from a script. A blank ends an answer as a line end does; another blank or an empty
 // line is Enter. Blanks between double quotes belong to the answer, and the quotes are dropped.
 // "^C" is Esc. A line that begins with ";" is a comment. Texts, message boxes and dialogs take the
-// rest of the line as it stands. Carriage returns are dropped.
+// rest of the line unchanged. Carriage returns are dropped.
 class ScriptReader : public AnswerReader
 {
 public:
@@ -29,7 +29,7 @@ private:
     std::size_t m_at = 0;
 };
 
-// Tells by the file's name whether the CAD program's rules hold: the name ends in ".scr", in any
+// Tells by the file's name whether the CAD program's rules apply: the name ends in ".scr", in any
 // letter case.
 bool isHostScript(const std::filesystem::path& file);
 }  // namespace host

@@ -3,12 +3,12 @@
 
 namespace host
 {
-// A dialog that steps aside for a pick is not shown until it comes back. Calls come in pairs, so
-// that the count never falls below zero.
+// Does not count a dialog that has stepped aside for a pick until it comes back. Calls come in
+// pairs, so the count never falls below zero.
 class ShownDialogs
 {
 public:
-    // Adds a dialog and returns how many are shown with it.
+    // Adds a dialog and returns the number of dialogs that are shown now.
     int show() { return ++m_count; }
     // Removes a dialog that has ended.
     void hide() { --m_count; }
@@ -21,9 +21,9 @@ public:
     // Adds the dialog again after the pick.
     void comeBack() { ++m_count; }
 
-    // How many dialogs are shown now.
+    // Returns the number of dialogs that are shown now.
     int count() const { return m_count; }
-    // How many times a dialog has stepped aside so far.
+    // Returns how many times a dialog has stepped aside so far.
     int picks() const { return m_picks; }
 
 private:

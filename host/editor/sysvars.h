@@ -9,7 +9,7 @@
 
 namespace host
 {
-// Says how a variable's value is typed and shown.
+// Tells how a variable's value is typed and shown.
 enum class VariableType
 {
     integer,  // 16 bits
@@ -49,10 +49,10 @@ struct VariableInfo
     Range range;
 };
 
-// Tells whether a variable of that name exists. Letter case of names does not count. There are no
-// variables without a document.
+// Tells whether a variable of that name exists, in any letter case. No variable exists without a
+// document.
 bool isVariable(std::wstring_view name);
-// Describes a variable; returns no value when it does not exist.
+// Describes a variable. Returns no value when it does not exist.
 std::optional<VariableInfo> variableInfo(std::wstring_view name);
 // Returns the value of a variable, which must exist.
 VariableValue variableValue(std::wstring_view name);

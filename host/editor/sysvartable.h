@@ -20,7 +20,7 @@ struct VariableContext
 
 const Range anyShort{SHRT_MIN, SHRT_MAX};
 
-// A variable that the host computes or that lies in the state of the drawing or the editor.
+// A variable that the host computes or that is part of the state of the drawing or the editor.
 struct VariableRow
 {
     const wchar_t* name;
@@ -31,8 +31,8 @@ struct VariableRow
     VariableError (*set)(const VariableContext&, const VariableValue&);
 };
 
-// A variable that is only kept in the drawing under its own name. A drawing that lacks the variable
-// has its initial value.
+// A variable that the drawing stores under the same name. A drawing that lacks the variable has its
+// initial value.
 struct HeaderRow
 {
     const wchar_t* name;
@@ -41,7 +41,7 @@ struct HeaderRow
     VariableValue initial;
 };
 
-// Returns all rows [borrowed], which live as long as the program.
+// Return all rows [borrowed], which live as long as the program.
 std::span<const VariableRow> variableRows();
 std::span<const HeaderRow> headerRows();
 }  // namespace host

@@ -6,7 +6,7 @@
 
 namespace host
 {
-// Converts points and vectors between [ucs] and [wcs], drawing units. The result is exact where the
+// Convert points and vectors between [ucs] and [wcs], drawing units. The result is exact where the
 // axes are the world's. worldToUcs subtracts the origin of the UCS first, so that cancellation far
 // from the world's origin loses no digits.
 AcGePoint3d ucsToWorld(const AcGeMatrix3d& ucs, const AcGePoint3d& point);
@@ -27,6 +27,6 @@ bool isWorld(const AcGeMatrix3d& frame);
 // Makes a coordinate system current and keeps the former one for restorePreviousUcs. Returns false
 // and changes nothing for a matrix that is not right-handed and orthonormal within 1e-6.
 bool setUcs(Document& document, const AcGeMatrix3d& frame);
-// Makes the previous coordinate system current. Returns false without a previous system.
+// Makes the previous coordinate system current. Returns false when there is no previous system.
 bool restorePreviousUcs(Document& document);
 }  // namespace host

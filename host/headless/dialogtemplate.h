@@ -1,4 +1,4 @@
-// A dialog as a resource compiler describes it.
+// Reads a dialog as a resource compiler describes it.
 #pragma once
 
 #include <cstddef>
@@ -17,8 +17,8 @@ struct DialogTemplate
     std::vector<Window> controls;
 };
 
-// Reads the extended form (DLGTEMPLATEEX). Dialog units become pixels by the measures of "MS Shell
-// Dlg" 8 on a screen of 96 dots to the inch, whatever font the template names. No value when the
-// bytes are not a whole template or name an unknown class of windows.
+// Reads the extended form (DLGTEMPLATEEX). Converts dialog units to pixels by the size of "MS Shell
+// Dlg" 8 on a screen of 96 dots to the inch, whatever font the template names. Returns no value
+// when the bytes are not a complete template or name an unknown window class.
 std::optional<DialogTemplate> readDialogTemplate(std::span<const std::byte> bytes);
 }  // namespace host

@@ -1,7 +1,7 @@
-// Answers of the classes of windows to messages.
+// Answers messages for each class of windows.
 //
-// A dialog that is told something may destroy itself. So the window may be gone when a function
-// returns, and no function touches it after it has told the dialog.
+// A dialog that is notified may destroy itself. A window may therefore be gone when a function
+// returns, and no function touches the window after it has notified the dialog.
 #pragma once
 
 #include <string>
@@ -10,19 +10,20 @@
 
 namespace host
 {
-// Answers for any window: reads and sets its text. Any other message gets 0.
+// Answers a message for a window of any class, a button, an edit, a combo box or a dialog.
+// anyMessage reads and sets the text and answers 0 to every other message.
 LRESULT anyMessage(Window& window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT buttonMessage(Window& button, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT editMessage(Window& edit, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT comboBoxMessage(Window& list, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT dialogMessage(Window& dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Tells the control's dialog what happened (BN_CLICKED and the like).
+// Notifies the control's dialog of what happened (BN_CLICKED and similar codes).
 void notifyDialog(const Window& control, WORD code);
 
-// Returns the text that a message brings; an empty text for a null pointer.
+// Returns the text that a message points to, or an empty text for a null pointer.
 std::wstring textAt(LPARAM text);
-// Copies as much of the text as fits and ends it with a zero, for which `size` has to leave room.
-// Returns the length without the zero.
+// Copies as much of the text as fits and adds a zero, which `size` must include. Returns the length
+// without the zero.
 LRESULT copyCut(const std::wstring& from, LPWSTR to, std::size_t size);
 }  // namespace host

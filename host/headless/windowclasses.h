@@ -9,8 +9,8 @@ namespace host
 {
 extern const WindowClass dialogClass;
 
-// Returns the class of that name, in any letter case, or of that number [borrowed]; null for an
-// unknown class.
+// Returns the class with that name, in any letter case, or with that number [borrowed]. The class
+// lives as long as the program. Returns null for an unknown class.
 const WindowClass* controlClass(std::wstring_view name, WORD ordinal);
 
 // Tells whether the window is a button of that type (BS_...). Other controls use the same bits for

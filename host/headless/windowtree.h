@@ -1,4 +1,4 @@
-// Windows without a screen: the state of each window, and the list of all.
+// Keeps the windows of a system without a screen: the state of each window and the list of all.
 #pragma once
 
 #include <cstddef>
@@ -27,19 +27,19 @@ struct ListItem
     DWORD_PTR data = 0;
 };
 
-// A window. Only the members of its kind mean something.
+// A window. Only the members that belong to its class have a meaning.
 struct Window
 {
     HWND handle = nullptr;
     const WindowClass* kind = nullptr;
-    HWND parent = nullptr;  // a control's dialog, a dialog's owner
+    HWND parent = nullptr;  // the dialog of a control, or the owner of a dialog
     int id = 0;
-    DWORD style = 0;  // WS_VISIBLE and WS_DISABLED as they are now
+    DWORD style = 0;  // WS_VISIBLE and WS_DISABLED have their present values
     RECT place{};     // pixels from the corner of the dialog's client area
     std::wstring text{};
 
     bool checked = false;           // buttons
-    std::wstring banner{};          // edits: shown while there is no text
+    std::wstring banner{};          // edits: shown while the text is empty
     std::vector<ListItem> items{};  // combo boxes
     int selected = -1;
     DLGPROC procedure = nullptr;  // dialogs
@@ -52,16 +52,17 @@ struct Window
 
 // Adds a copy of the window and returns its handle. A handle is never used again.
 HWND addWindow(const Window& window);
-// Removes the window and the windows whose parent it is.
+// Removes the window and all windows whose parent it is.
 void removeWindow(HWND window);
-// Returns the window [borrowed]; null for an unknown handle. The pointer is good until the window
-// is removed, which any dialog procedure may do.
+// Returns the window [borrowed], or null for an unknown handle. The pointer is good until the
+// window is removed, which any dialog procedure may do.
 Window* findWindow(HWND window);
-// Returns the controls of a dialog in the order in which they were made.
+// Returns the controls of a dialog in the order in which they were created.
 std::vector<HWND> controlsOf(HWND dialog);
-// Returns the number of dialogs and controls; 0 when no dialog was left behind.
+// Returns the number of dialogs and controls. It is 0 when every dialog has been destroyed.
 std::size_t openWindows();
 
-// Returns the window that has the keyboard; null without such a window.
+// Returns the variable with the window that has the focus [borrowed], which lives as long as the
+// program. The window is null when no window has the focus.
 HWND& focusedWindow();
 }  // namespace host

@@ -34,7 +34,7 @@ struct Box
 class Canvas
 {
 public:
-    // Makes a picture of `width` by `height` pixels.
+    // Creates a picture of `width` by `height` pixels.
     Canvas(int width, int height, double scale);
     ~Canvas();
     Canvas(const Canvas&) = delete;
@@ -53,7 +53,7 @@ public:
     double textWidth(std::wstring_view text) const;
     double textHeight() const;
 
-    // Returns the bytes of a PNG file; a failure when memory ran out.
+    // Returns the bytes of a PNG file, or a failure when memory ran out.
     Result<std::string> png() const { return pngOf(m_surface); }
 
 private:

@@ -18,8 +18,8 @@ struct Vertex
     double endWidth = 0;
 };
 
-// Returns an arc in the XY plane, counter-clockwise from one angle to the other [rad]. Equal angles
-// make a full circle.
+// Returns an arc in the XY plane, counter-clockwise from `start` to `end` [rad]. Equal angles make
+// a full circle.
 Points arc(const AcGePoint3d& centre, double radius, double start, double end);
 
 // Returns an arc of an ellipse between two parameters [rad], counter-clockwise from `major` to
@@ -34,8 +34,8 @@ Points segment(const Vertex& a, const AcGePoint3d& b);
 // vertex.
 Points chain(std::span<const Vertex> vertices, bool closed);
 
-// Returns a B-spline of that degree; no points when the numbers do not make a spline. The weights
-// may be empty.
+// Returns a B-spline of that degree, or no points when the numbers do not define a spline. The
+// weights may be empty.
 Points bspline(int degree, std::span<const double> knots, std::span<const AcGePoint3d> poles,
                std::span<const double> weights);
 }  // namespace host::plot

@@ -10,9 +10,9 @@
 
 namespace host::plot
 {
-// Draws an entity; returns false when its kind cannot be drawn. Entities of several records or with
-// a block of their own are not drawn here. The pen draws in the coordinates of the space or block
-// that holds the entity.
+// Draws an entity. Returns false when its kind cannot be drawn. Entities that consist of several
+// records or have a block are not drawn here. The pen draws in the coordinates of the space or
+// block that holds the entity.
 bool drawEntity(const EntityTags& entity, const dxf::CodePage& codePage, const Pen& pen);
 
 // Draws a POLYLINE with the vertices that follow it.

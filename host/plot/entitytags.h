@@ -15,7 +15,7 @@ namespace schema = dxf::schema;
 using dxf::Code;
 
 // The entity's own tags, without reactors, extension dictionaries and the data of applications. A
-// value that should be a number and is not throws a dxf::Error.
+// number that cannot be read throws a dxf::Error. Views are [borrowed] from the file.
 class EntityTags
 {
 public:
@@ -26,12 +26,12 @@ public:
     std::span<const dxf::Tag> all() const { return m_tags; }
     bool has(Code code) const { return find(code) != nullptr; }
 
-    // Returns the value of the first tag with the code; the fallback when no tag has the code.
+    // Return the value of the first tag with the code, or the fallback when no tag has the code.
     double real(Code code, double fallback = 0) const;
     int integer(Code code, int fallback = 0) const;
     std::string_view text(Code code) const;                // without blanks around it
     AcGePoint3d point(Code code) const;                    // the point whose X has the code
-    AcGeVector3d normal() const;                           // the normal of its plane
+    AcGeVector3d normal() const;                           // the normal of the entity's plane
     double radians(Code code, double fallback = 0) const;  // [rad], stored in degrees
 
     double real(const dxf::Tag& tag) const { return m_file.real(tag); }

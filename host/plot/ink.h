@@ -36,11 +36,11 @@ public:
     virtual void fill(const std::vector<Points>& loops, Color color) = 0;
     // Draws a filled circle.
     virtual void disc(const AcGePoint3d& centre, double diameter, Color color) = 0;
-    // Draws a text that begins at `start`. The vectors are as those of a TextLine.
+    // Draws a text that begins at `start`. The vectors mean what those of a TextLine mean.
     virtual void text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
                       std::wstring_view text, Color color) = 0;
 
-    // Returns the bytes of the file; a failure when memory ran out. No shape may be drawn
+    // Returns the bytes of the file, or a failure when memory ran out. No shape may be drawn
     // afterwards.
     virtual Result<std::string> finish() = 0;
 };

@@ -5,8 +5,8 @@
 
 namespace host::plot
 {
-// Measures everything that is visible in model space [wcs]. Endless lines do not count. The widths
-// of texts are estimated as for texts that the host makes, so that they do not depend on the fonts
+// Measures everything that is visible in model space [wcs], except infinite lines. The widths of
+// texts are estimated as for texts that the host creates, so that they do not depend on the fonts
 // of the system.
 dxf::Measured entityExtents(const dxf::TagFile& file);
 }  // namespace host::plot

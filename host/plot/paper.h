@@ -34,7 +34,7 @@ public:
     void ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both, Color color) override;
     void text(const TextLine& line, Color color) override;
 
-    // Returns the bytes of the file; a failure when memory ran out. No shape may be drawn
+    // Returns the bytes of the file, or a failure when memory ran out. No shape may be drawn
     // afterwards.
     Result<std::string> finish() { return m_ink->finish(); }
 

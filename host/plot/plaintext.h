@@ -7,7 +7,7 @@
 
 namespace host::plot
 {
-// Replaces "%%d", "%%p", "%%c" and "%%nnn" by the characters that they stand for, and a control
+// Replaces "%%d", "%%p", "%%c" and "%%nnn" by the characters that they represent, and a control
 // character such as a tab by a blank. Removes "%%u", "%%o" and "%%k", which draw lines along the
 // text.
 std::wstring withoutPercentCodes(std::wstring_view text);

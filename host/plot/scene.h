@@ -23,12 +23,12 @@ public:
     // Draws everything that is visible [wcs], in the drawing's order. Each call draws the same.
     void draw(Sink& sink, const Progress& progress = {});
 
-    // Returns the entities that the last `draw` left out, as "1 IMAGE, 2 MESH"; an empty text when
-    // nothing was left out.
+    // Returns the entities that the last `draw` left out, as "1 IMAGE, 2 MESH", or an empty text
+    // when nothing was left out.
     std::string leftOut() const;
 
 private:
-    // Says where and how the entities of a space or block are drawn.
+    // Tells where and how the entities of a space or block are drawn.
     struct Place
     {
         AcGeMatrix3d toWorld;
@@ -39,7 +39,7 @@ private:
 
     using Records = std::span<const dxf::Record>;
 
-    bool spend();  // counts an entity; false when no more may be drawn
+    bool spend();  // counts an entity; returns false when the budget is spent
     void drawAll(Records records, const Place& place, Sink& sink);
     // Draws one entity and returns the number of its records.
     std::size_t drawOne(Records records, const Place& place, Sink& sink);

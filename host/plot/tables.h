@@ -29,16 +29,16 @@ struct Block
     std::span<const dxf::Record> records;  // the records of its entities [borrowed]
 };
 
-// The layers and blocks of a file [borrowed], which outlives the tables, as does the code page.
-// Names are given in the file's encoding; letter case does not count.
+// The layers and blocks of a file. The file and the code page are [borrowed] and outlive the
+// tables. Names are in the file's encoding; letter case is ignored.
 class Tables
 {
 public:
     Tables(const dxf::TagFile& file, const dxf::CodePage& codePage);
 
-    // Returns the layer [borrowed]; a visible black layer for a name that the file lacks.
+    // Returns the layer [borrowed], or a visible black layer for a name that the file lacks.
     const Layer& layer(std::string_view name) const;
-    // Returns the block [borrowed]; null when the file lacks it.
+    // Returns the block [borrowed], or null when the file lacks it.
     const Block* block(std::string_view name) const;
 
 private:
@@ -54,7 +54,7 @@ private:
     mutable std::unordered_map<std::string_view, const Layer*> m_layersAsWritten;
 };
 
-// An entity's own colour. `color` counts only when neither the layer nor the block gives the
+// An entity's own colour. `color` is used only when neither the layer nor the block gives the
 // colour.
 struct OwnColor
 {
@@ -63,7 +63,7 @@ struct OwnColor
     Color color;
 };
 
-// Returns the colour for a colour index and, if the entity has one, a true colour, which goes
-// before the index.
+// Returns the colour for a colour index and, if the entity has one, a true colour, which takes
+// precedence over the index.
 OwnColor ownColor(int index, std::optional<int> rgb);
 }  // namespace host::plot

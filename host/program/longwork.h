@@ -1,4 +1,4 @@
-// The progress meter of work that takes long.
+// The progress meter of long work.
 #pragma once
 
 #include <chrono>

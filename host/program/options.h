@@ -10,7 +10,7 @@
 
 namespace host
 {
-// What the command line asks for. File names are in UTF-8.
+// The requests of the command line. File names are in UTF-8.
 struct Options
 {
     std::string drawing;  // empty: a new drawing
@@ -24,8 +24,8 @@ struct Options
     bool quiet = false;
 };
 
-// Parses the arguments, of which the first is the program's name. Returns no value when the program
-// has nothing to run; help or a complaint has been printed then, and `status` is the status with
-// which the program ends.
+// Parses the arguments, the first of which is the program's name. Returns no value when the program
+// has nothing to run; the function has then printed help or a complaint, and `status` is the status
+// with which the program ends.
 std::optional<Options> parseOptions(std::vector<std::string> arguments, int& status);
 }  // namespace host

@@ -18,11 +18,11 @@ void beginProcess();
 // Returns the arguments in UTF-8, with the program's name first.
 std::vector<std::string> givenArguments(int count, char** arguments);
 
-// Discards what is written to `stdout` from now on. Returns false when that fails.
+// Discards everything that is written to `stdout` from now on. Returns false when that fails.
 bool silenceOutput();
 
-// Returns the folder for files that outlast a session and makes it if possible; an empty path when
-// the user has no such place.
+// Returns the folder for files that outlast a session and creates it if possible. Returns an empty
+// path when the user has no such folder.
 std::filesystem::path stateFolder();
 
 // Writes UTF-8 to standard output or standard error.
@@ -32,14 +32,15 @@ void write(std::FILE* stream, std::string_view text);
 // failed. The program calls it last.
 void beforeTheEnd(int status);
 
-// Makes an empty file. Returns false when a file of that name exists or the file cannot be made.
+// Creates an empty file. Returns false when a file of that name exists or the file cannot be
+// created.
 bool makeNewFile(const std::filesystem::path& file);
 
 // Runs a session with a person at the terminal and returns the status of the program. Returns no
 // value when standard input and output are not a terminal.
 std::optional<int> runAtTerminal(const Options& options);
 
-// Returns the columns of the terminal on standard error; 0 when standard error is not a terminal or
-// the terminal cannot move the cursor back in a line.
+// Returns the columns of the terminal on standard error. Returns 0 when standard error is not a
+// terminal or the terminal cannot move the cursor back in a line.
 int errorColumns();
 }  // namespace host

@@ -1,4 +1,4 @@
-// Guards the work of a person: asks before it is lost, and keeps in a file what was not saved.
+// Protects a person's work: asks before it is lost, and saves unsaved work to a file.
 #pragma once
 
 #include <filesystem>
@@ -7,17 +7,17 @@
 
 namespace host
 {
-// Notes that the open drawing equals its file, after opening or saving. Without a person it does
-// nothing.
+// Records that the open drawing equals its file, after opening or saving. Without a person the
+// function does nothing.
 void noteSaved(Editor& editor);
 // Tells whether the drawing has changed since noteSaved.
 bool isUnsaved();
 
-// Asks whether QUIT may give up the changes. Returns true without a question for an unchanged
+// Asks whether QUIT may discard the changes. Returns true without a question for an unchanged
 // drawing.
 bool mayGiveUpChanges(Editor& editor);
-// Asks whether a file that exists may be replaced; true without a question when it does not exist.
-// Only a person is asked: a script names the files that it wants.
+// Asks whether an existing file may be replaced. Returns true without a question when the file does
+// not exist. Only a person is asked: a script names the files that it wants.
 bool mayReplace(Editor& editor, const std::filesystem::path& file);
 // Tells a person that the file has been saved [prints].
 void tellSaved(Editor& editor, const std::filesystem::path& file);

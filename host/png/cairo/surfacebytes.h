@@ -12,6 +12,6 @@ namespace host
 // Appends the data to `bytes`, which is a std::string [borrowed]. The library's streams call it.
 cairo_status_t appendTo(void* bytes, const unsigned char* data, unsigned length);
 
-// Returns the picture as the bytes of a PNG file; a failure when memory ran out.
+// Returns the picture as the bytes of a PNG file, or a failure when memory ran out.
 Result<std::string> pngOf(cairo_surface_t* surface);
 }  // namespace host

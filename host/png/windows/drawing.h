@@ -12,7 +12,7 @@
 
 namespace host
 {
-// Starts the library; it can be called for as long as such an object lives.
+// Starts the library, which can be called as long as such an object lives.
 class Drawing
 {
 public:
@@ -29,6 +29,6 @@ private:
     ULONG_PTR m_token = 0;
 };
 
-// Returns the picture as the bytes of a PNG file; a failure when memory ran out.
+// Returns the picture as the bytes of a PNG file, or a failure when memory ran out.
 Result<std::string> pngOf(Gdiplus::Bitmap& bitmap);
 }  // namespace host

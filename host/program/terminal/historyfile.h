@@ -5,7 +5,7 @@
 
 namespace host
 {
-// Returns the file's name and makes its folder if possible; an empty name when the user has no
-// place for it.
+// Returns the file's name and creates its folder if possible. Returns an empty name when the user
+// has no folder for it.
 std::string historyFile();
 }  // namespace host

@@ -11,7 +11,8 @@
 
 namespace host
 {
-// What the program calls there. The functions are those of the same names in plot/ and pictures/.
+// The functions that the program calls there. They have the names of the functions in plot/ and
+// pictures/.
 struct PictureLibrary
 {
     std::unique_ptr<plot::Ink> (*openInk)(const plot::Sheet& sheet);
@@ -19,6 +20,6 @@ struct PictureLibrary
     Result<std::string> (*drawDialog)(HWND dialog);
 };
 
-// What the library exports.
+// The object that the library exports.
 extern "C" __attribute__((visibility("default"))) const PictureLibrary arxhostPictures;
 }  // namespace host

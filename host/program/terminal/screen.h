@@ -17,16 +17,16 @@ public:
     // Shows the finished lines. Keeps a line without its end, because it may be the prompt of a
     // question, which the line editor draws together with the typed answer.
     void print(std::string_view text);
-    // Writes to standard error, on a line of its own.
+    // Writes to standard error, on a separate line.
     void report(std::string_view line);
-    // Shows the meter in one line at the bottom; no value erases it.
+    // Shows the meter in one line at the bottom. No value removes the meter.
     void showMeter(const std::optional<Meter>& meter);
 
-    // Returns the line that waits and forgets it. The caller shows it.
+    // Returns the waiting line and forgets it. The caller shows it.
     std::string takePrompt();
-    // Says whether the caller has ended the line of the prompt.
+    // Sets whether the caller has ended the line of the prompt.
     void promptEnded(bool lineEnded) { m_promptOpen = !lineEnded; }
-    // Shows a line that still waits, as no question follows it.
+    // Shows a line that is still waiting, because no question follows it.
     void finish();
 
 private:
