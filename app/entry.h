@@ -1,4 +1,4 @@
-// The module as the system loads it.
+// The entry point through which the system loads the module.
 #pragma once
 
 #include "hostapi/host.h"

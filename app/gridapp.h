@@ -3,7 +3,7 @@
 
 #include "app/rxapp.h"
 
-// The application of this module; its tables (app/tables.h) say what it registers.
+// The application of this module. The tables in app/tables.h list what it registers.
 class CGridApp : public netrax::AcRxArxApp
 {
 public:

@@ -22,8 +22,8 @@ public:
     // been handled.
     HINSTANCE moduleHandle() const { return m_module; }
 
-    // Handles kInitAppMsg: notes the handle of the module, tells the host's linker what m_unlock
-    // and m_mdiAware say, and registers the custom classes.
+    // Handles kInitAppMsg: notes the handle of the module, notifies the host's linker as m_unlock
+    // and m_mdiAware request, and registers the custom classes.
     virtual AcRx::AppRetCode initApp(void* packet);
 
     // Handles kUnloadAppMsg: deletes the custom classes.

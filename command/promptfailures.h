@@ -9,7 +9,7 @@ class PromptFailures
 public:
     PromptFailures() : m_inARow(0) {}
 
-    // Notes the result of a prompt, an RT code of the host. Returns true from the sixteenth
+    // Records the result of a prompt, an RT code of the host. Returns true from the sixteenth
     // consecutive failure on; the caller then acts as after a cancel.
     bool areTooMany(int result);
 

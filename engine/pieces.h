@@ -22,8 +22,8 @@ class PieceClipper
 public:
     // boundary   the outline [borrowed], open for read while this object lives
     // outline    the points of the boundary, in the system of the pieces, [borrowed] while this
-    // object
-    //            lives. The first four are the corners in order; with fewer nothing is inside.
+    //            object lives. The first four are the corners in order; with fewer points the
+    //            outline has no inside.
     // area       the area within the outline [ucs], [borrowed] while this object lives: pieces are
     //            [ucs]. Null: pieces are [wcs], and the outline is the quadrilateral of its
     //            corners.

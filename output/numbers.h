@@ -4,10 +4,10 @@
 
 #include "hostapi/host.h"
 
-// Returns the value that stands for an empty or invalid number: the largest finite double.
+// Returns the value that represents an empty or invalid number: the largest finite double.
 double notSetReal();
 
-// Returns the value that stands for an empty or invalid number: the largest int.
+// Returns the value that represents an empty or invalid number: the largest int.
 int notSetInt();
 
 // Returns the rounded number in fixed-point form with "." and 0 to 9 decimals. Trailing zeros are

@@ -27,7 +27,7 @@ inline bool isMeasurable(const AcGePoint3d& point)
 }
 
 // Returns the largest absolute value of the point's coordinates, in drawing units. Coordinates that
-// are not measurable do not count.
+// are not measurable are ignored.
 inline double largestCoordinate(const AcGePoint3d& point)
 {
     const double x = isMeasurable(point.x) ? std::fabs(point.x) : 0;

@@ -14,7 +14,7 @@ CString settingsFilePath(HMODULE module);
 class SettingsFile
 {
 public:
-    // Notes the path. The constructor does not read the file; load does.
+    // Stores the path. The constructor does not read the file; load does.
     explicit SettingsFile(const CString& path);
 
     // Sets the options to the values in the file. If the file cannot be opened or has no section

@@ -25,11 +25,13 @@ namespace host
 struct DrawingSource
 {
     virtual ~DrawingSource() = default;
-    // Returns the extents of what the file holds in model space [wcs].
+    // Returns the extents of the file's model space [wcs]. They are [borrowed] as long as the
+    // source lives.
     virtual const WorldExtents& modelExtents() = 0;
 };
 
-// Combines the parts of a drawing. Each part keeps its own rules.
+// Combines the parts of a drawing. Each part keeps its own rules. Accessors return [borrowed] parts
+// that live as long as the core.
 class DatabaseCore
 {
 public:

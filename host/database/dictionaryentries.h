@@ -8,7 +8,8 @@
 #include "host/database/stub.h"
 
 // At most one entry of each name is not erased. The numbers of anonymous entries only increase: the
-// number of an erased entry is not used again.
+// number of an erased entry is not used again. Accessors return [borrowed] parts that live as long
+// as the dictionary.
 struct AcDbDictionary::Internals
 {
 public:
@@ -23,7 +24,7 @@ public:
 
     // Adds an entry of the file. The number of an anonymous entry counts as used.
     void addLoaded(const std::wstring& key, AcDbStub* stub);
-    // Returns the entry of that name [borrowed], whatever its letter case; nullptr if there is no
+    // Returns the entry of that name, in any letter case [borrowed]. Returns nullptr if there is no
     // such entry or all are erased.
     AcDbStub* find(const std::wstring& key) const;
     // Returns the key under which an entry is stored: `asked`, or for an anonymous entry "*A" and

@@ -15,9 +15,9 @@ inline CurrentProperties& currentOf(AcDbDatabase& database)
     return coreOf(database).current();
 }
 
-// Returns the name of a table record; empty for a null id. Opens no object.
+// Returns the name of a table record without opening it, or an empty name for a null id.
 std::wstring recordName(const AcDbObjectId& id);
-// Returns the record of that name in a table, ignoring letter case; a null id if the record is
+// Returns the record of that name in a table, in any letter case, or a null id if the record is
 // missing or erased.
 AcDbObjectId findRecord(const AcDbObjectId& table, const std::wstring& name);
 }  // namespace host

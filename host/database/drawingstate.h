@@ -42,10 +42,11 @@ struct DrawingState
     int ucsFollow = 0;
     bool paperSpace = false;  // a layout is current (TILEMODE 0)
     // The header variables by their names in capitals, without "$": every variable that the file
-    // held or that was set. UCS, view, current layer, style, colour and linetype are kept elsewhere
-    // and are not read from here.
+    // held or that was set. UCS, view, current layer, style, colour and linetype have members of
+    // their own instead.
     std::map<std::wstring, VariableValue> variables;
 
+    // Return the UCS of the current space [borrowed], which lives as long as this object.
     Ucs& ucs() { return paperSpace ? paperUcs : modelUcs; }
     const Ucs& ucs() const { return paperSpace ? paperUcs : modelUcs; }
 };

@@ -8,7 +8,8 @@
 #include "dbgroup.h"
 
 // Every member has the group among its persistent reactors. This tells at once whether an entity is
-// a member, without a search through a million members, so an entity never joins twice.
+// a member, without a search through a million members, so an entity never joins twice. Accessors
+// return [borrowed] parts that live as long as the group.
 struct AcDbGroup::Internals
 {
 public:

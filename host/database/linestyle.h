@@ -39,7 +39,7 @@ struct LineStyleHash
 };
 
 // Numbers the styles. Neighbouring lines mostly have the same style, so the last answer is tried
-// first.
+// first. A style is [borrowed] until the next one is interned.
 class LineStyles
 {
 public:
@@ -57,7 +57,8 @@ private:
     std::uint32_t m_last = UINT32_MAX;
 };
 
-// Numbers the lists of persistent reactors; 0 is the empty list.
+// Numbers the lists of persistent reactors; the number 0 is the empty list. A list is [borrowed]
+// and good as long as this object lives.
 class ReactorLists
 {
 public:

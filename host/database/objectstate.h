@@ -26,7 +26,7 @@ struct AcDbObject::Internals
 
     // Makes the close after the next one return a status instead of ending the run.
     static void forgiveClose(AcDbObject& object) { object.m_forgiveClose = true; }
-    // Notes that the host has refused an upgrade or an erase, so the module may leave the object
+    // Records that the host has refused an upgrade or an erase, so the module may leave the object
     // open.
     static void noteRefusal(AcDbObject& object) { object.m_refused = true; }
     static bool wasRefused(const AcDbObject& object) { return object.m_refused; }

@@ -11,7 +11,8 @@
 namespace host
 {
 // A stub is never removed, and its object lives as long as the store. A closed line is packed: the
-// stub holds its points, and a style shared with other lines holds everything else.
+// stub holds its points, and a style shared with other lines holds everything else. Stubs and lists
+// of reactors are [borrowed] and live as long as the store.
 class ObjectStore
 {
 public:
@@ -22,7 +23,7 @@ public:
 
     // Adds an object [adopted]. Returns its stub [borrowed].
     AcDbStub* add(AcDbObject* object, std::uint64_t handle);
-    // Adds a stub for an object of the file to which others only refer.
+    // Adds a stub for an object of the file to which others only refer. Returns it [borrowed].
     AcDbStub* addForeign(std::uint64_t handle) { return m_stubs.add(handle); }
 
     std::size_t size() const { return m_stubs.size(); }
@@ -32,7 +33,8 @@ public:
     AcDbLine* unpack(AcDbStub* stub);
     // Packs a closed line into its stub.
     void pack(AcDbLine* line);
-    // Returns the style of a packed line by the number in its stub.
+    // Returns the style of a packed line by the number in its stub [borrowed], good until the next
+    // line is packed.
     const LineStyle& style(std::uint32_t number) const { return m_styles[number]; }
 
     // Returns a list of persistent reactors by its number.

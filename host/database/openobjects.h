@@ -7,7 +7,8 @@
 
 namespace host
 {
-// Contains an object once, from its opening to its last close, in the order of the openings.
+// Contains an object once, from its opening to its last close, in the order of the openings. The
+// objects are [borrowed] until they are closed.
 class OpenObjects
 {
 public:

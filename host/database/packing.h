@@ -21,12 +21,12 @@ namespace host
 // Returns the object on the heap [borrowed]. Unpacks a packed line. Returns nullptr for a foreign
 // object, because such an object exists only in the file.
 AcDbObject* resolve(AcDbStub* stub);
-// Each reads a property without unpacking. typeOf and ownerOf return nullptr for a foreign object;
-// layerOf returns nullptr for anything except an entity made in this run.
+// Return a property without unpacking the object [borrowed]. typeOf and ownerOf return nullptr for
+// a foreign object; layerOf returns nullptr for anything except an entity made in this run.
 AcRxClass* typeOf(const AcDbStub* stub);
 AcDbStub* layerOf(const AcDbStub* stub);
 AcDbStub* ownerOf(const AcDbStub* stub);
-// Returns the number of the entity's list of persistent reactors; 0 for any other object.
+// Returns the number of the entity's list of persistent reactors, or 0 for any other object.
 std::uint32_t reactorsOf(const AcDbStub* stub);
 // Returns class and handle, for the line that ends a run.
 std::string describe(const AcDbObject& object);

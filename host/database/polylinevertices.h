@@ -7,6 +7,7 @@
 
 // Vertex i lies at point i. All points have the same elevation above the plane of the polyline's
 // normal. The polyline owns its vertices until it joins a drawing; then the drawing owns them.
+// Accessors return [borrowed] parts that live as long as the polyline.
 struct AcDb2dPolyline::Internals
 {
 public:
@@ -22,7 +23,7 @@ public:
     const std::vector<AcDb2dVertex*>& vertices() const { return m_vertices; }
     const std::vector<AcGePoint3d>& points() const { return m_points; }  // [wcs]
 
-    // The object that ends the sequence in a drawing; nullptr outside a drawing.
+    // The object that ends the sequence in a drawing, or nullptr outside a drawing.
     AcDbStub* sequenceEnd = nullptr;
 
 private:

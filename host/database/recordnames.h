@@ -9,7 +9,8 @@
 #include "dbsymtb.h"
 
 // Ignores letter case. Of two records with the same name, `find` returns the first. A record stays
-// after it was added, erased or not, so that the order and the names never lose a record.
+// after it was added, erased or not, so that the order and the names never lose a record. Accessors
+// return [borrowed] parts that live as long as the table.
 struct AcDbSymbolTable::Internals
 {
 public:
@@ -18,9 +19,9 @@ public:
     // Adds a record. Returns the name as the table keeps it [borrowed], valid as long as the table
     // lives.
     const std::wstring& add(const std::wstring& name, AcDbStub* record);
-    // Returns the record, or nullptr if the table never had one of that name.
+    // Returns the record [borrowed], or nullptr if the table never had one of that name.
     AcDbStub* find(const wchar_t* name);
-    // Returns the records in the order in which they were added.
+    // Returns the records in the order in which they were added [borrowed].
     const std::vector<AcDbStub*>& inOrder() const { return m_order; }
 
 private:

@@ -20,8 +20,8 @@ public:
 
     // Adds a closed line [adopted] and deletes the line whose place it takes.
     void add(AcDbLine* line);
-    // Returns the line that would be deleted next, so that another line can be opened in its place;
-    // nullptr if there is no line. The caller owns it.
+    // Returns the line that would be deleted next, so that another line can be opened in its place,
+    // or nullptr if there is no line. The caller owns it.
     AcDbLine* take();
 
 private:

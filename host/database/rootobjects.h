@@ -18,7 +18,8 @@ enum class Root
     modelSpace
 };
 
-// The pointers are null until the drawing is loaded. Nothing changes them afterwards.
+// The pointers are [borrowed] and null until the drawing is loaded. Nothing changes them
+// afterwards.
 class RootObjects
 {
 public:

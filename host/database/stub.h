@@ -15,7 +15,7 @@ public:
     enum Flag : std::uint32_t
     {
         isLine = 1,
-        isPacked = 2,  // `line` holds the line; there is no object on the heap
+        isPacked = 2,  // `line` holds the line, which has no object on the heap
         isErasedFlag = 4,
         isDrawn = 8,   // the module has asked to show the object
         isEntity = 16  // made in this run; entities of the file have no AcDbObject
@@ -41,7 +41,8 @@ namespace host
 {
 class DatabaseCore;
 
-// Holds stubs in the order in which they were made. The address of a stub never changes.
+// Holds stubs in the order in which they were made. The address of a stub never changes. Stubs are
+// [borrowed] and live as long as the arena.
 class StubArena
 {
 public:

@@ -3,7 +3,7 @@
 
 #include "dbsymtb.h"
 
-// A record keeps its name as long as its table holds it.
+// The name of a record is [borrowed] from its table, which keeps it as long as the table lives.
 struct AcDbSymbolTableRecord::Internals
 {
     static const wchar_t* name(const AcDbSymbolTableRecord& record) { return record.m_name; }

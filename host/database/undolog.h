@@ -1,4 +1,4 @@
-// Records what was done to objects and layers, so that it can be undone.
+// Records the changes to objects and layers, so that they can be undone.
 #pragma once
 
 #include <cstddef>
@@ -43,7 +43,8 @@ public:
     // Redoes the changes. Nothing may have changed since undoTo returned them.
     void redo(const Undone& undone);
 
-    // Returns the erased objects in the order of their erasing, including those restored since.
+    // Returns the erased objects in the order of their erasing, including those restored since
+    // [borrowed].
     const std::vector<AcDbStub*>& erased() const { return m_erased; }
 
 private:

@@ -21,7 +21,7 @@ void saveAtomically(const std::string& path, const TagStyle& style, const Produc
 void saveAtomically(const std::string& path, const Edits& edits, const Progress& progress = {},
                     std::size_t size = 1);
 
-// Hands the bytes that saveAtomically would write, text or binary, to `drain`. Throws
+// Passes the bytes that saveAtomically would write, text or binary, to `drain`. Throws
 // std::domain_error for a value that no tag can hold.
 void writeTags(const TagStyle& style, const Producer& produce, const TagWriter::Drain& drain);
 }  // namespace host::dxf

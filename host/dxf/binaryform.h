@@ -2,7 +2,7 @@
 //
 // A string keeps its bytes, whatever the code page is. A number is written as the shortest decimal
 // that reads back as the same number. A binary chunk becomes hexadecimal digits. A line feed would
-// end a tag of the ASCII form, so `lineFeedInText` stands for a line feed within a text.
+// end a tag of the ASCII form, so `lineFeedInText` replaces a line feed within a text.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ bool isBinary(std::string_view bytes);
 struct AsciiForm
 {
     std::string text;  // The tags, two lines each. What follows EOF is unchanged.
-    // Of each tag in the binary file, and of the end of the last one.
+    // The offset of each tag in the binary file, and the end of the last one.
     std::vector<std::size_t> offsets;
     int codeSize;  // bytes of a group code: 1 up to R12, 2 in later releases
 };

@@ -24,8 +24,8 @@ public:
     CodePage(const Release& release, std::string_view codePageName);
 
     // Decodes the bytes. A character takes one wchar_t, or two where it does not fit into one.
-    // "\U+XXXX", "\M+nXXXX" and "^J" become the characters that they stand for, and
-    // `lineFeedInText` becomes a line feed.
+    // "\U+XXXX", "\M+nXXXX" and "^J" become the characters that they denote, and `lineFeedInText`
+    // becomes a line feed.
     //
     // A byte without a meaning in the code page becomes U+DC00 plus the byte. No other input gives
     // such a character, and `encode` turns it back into the byte, so a name that contains the byte

@@ -15,10 +15,11 @@ namespace host
 struct OpenedDrawing
 {
     std::unique_ptr<AcDbDatabase> database;
-    std::string warning{};  // one line about what was repaired; empty if nothing was
+    std::string warning{};  // one line about the repairs; empty if the file needed none
 };
 
-// Opens a drawing. A failure names the line of the file and what was expected there.
+// Opens a drawing. The failure of a damaged file names the line of the file and what was expected
+// there.
 Result<OpenedDrawing> openDrawing(const std::string& path, const Progress& progress = {});
 
 // Creates a new, empty, metric drawing (R2013).
@@ -29,8 +30,8 @@ std::unique_ptr<AcDbDatabase> newDrawing();
 Result<> saveDrawing(AcDbDatabase& database, const std::string& path,
                      const Progress& progress = {});
 
-// Returns a number that stands for the unsaved changes. Two calls return the same number when
-// saving would write the same at both moments.
+// Returns a number that identifies the unsaved changes. Two calls return the same number when
+// saving would write the same bytes at both moments.
 std::uint64_t digestOfChanges(AcDbDatabase& database);
 
 // Returns one line for each thing that saving leaves out because the release of the drawing's file

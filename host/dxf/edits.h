@@ -19,11 +19,11 @@ using Producer = std::function<void(TagWriter&)>;
 void writeSection(TagWriter& writer, std::string_view name, const Producer& contents);
 
 // Changes may be noted in any order. Changes must not overlap, and each tag and each variable may
-// be changed only once; otherwise `write` throws std::logic_error.
+// be changed only once; otherwise `write` throws std::logic_error. The file is [borrowed] and
+// outlives the edits.
 class Edits
 {
 public:
-    // `file` is [borrowed] and must outlive the edits.
     explicit Edits(const TagFile& file) : m_file(file) {}
 
     const TagFile& file() const { return m_file; }

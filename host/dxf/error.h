@@ -13,7 +13,7 @@ struct Error : std::runtime_error
     using std::runtime_error::runtime_error;
 };
 
-// Throws an Error that says what is wrong with the file at `path`.
+// Throws an Error that tells what is wrong with the file at `path`.
 [[noreturn]] inline void fail(const std::string& path, const std::string& what)
 {
     throw Error(path + ": " + what);

@@ -10,7 +10,7 @@
 
 namespace host::dxf
 {
-using KeptVariables = std::map<std::wstring, VariableValue>;  // the names have no "$"
+using KeptVariables = std::map<std::wstring, VariableValue>;  // the names lack the "$"
 
 // Copy the kept value into `value`, or leave `value` unchanged if the kept value has another type.
 void takeKept(const VariableValue& kept, int& value);

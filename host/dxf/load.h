@@ -10,6 +10,6 @@ namespace host::dxf
 // Fills an empty database. Throws an Error for a file whose records do not make a drawing.
 void load(DatabaseCore& core, TagFile file);
 
-// Returns the name of a table in section TABLES.
+// Returns the name of a table in section TABLES [borrowed] from the file.
 std::string_view tableName(const TagFile& file, const Record& table);
 }  // namespace host::dxf

@@ -5,7 +5,7 @@
 
 namespace host::dxf
 {
-// Returns what the file is, judged by its first bytes: "a PDF document". Returns an empty string
-// for a file that may be a DXF drawing.
+// Returns the kind of file, judged by its first bytes, such as "a PDF document" [borrowed] as long
+// as the program runs. Returns an empty text for a file that may be a DXF drawing.
 std::string_view otherFormat(std::string_view bytes);
 }  // namespace host::dxf

@@ -8,9 +8,9 @@
 
 namespace host
 {
-// Checks, before the work on a file begins, whether it could be written at `path`. A failure says
-// that the folder does not exist or takes no files, or that the file is not writable. Changes
-// nothing.
+// Checks whether a file could be written at `path`, before the work on it begins. The failure tells
+// that the folder does not exist or takes no files, or that the file is not writable. The check
+// changes nothing.
 Result<> checkOutputFile(const std::string& path);
 
 // Writes the bytes to a new file beside `path` and then renames it to `path`. After a failure the

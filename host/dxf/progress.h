@@ -1,4 +1,4 @@
-// Reports how far long work has come.
+// Reports the progress of long work.
 #pragma once
 
 #include <functional>
@@ -6,7 +6,7 @@
 namespace host
 {
 // Receives the completed part, from 0 to 1, about a hundred times and never less than before. The
-// host does not call an empty function. The function must not throw.
+// host ignores an empty function. The function must not throw.
 using Progress = std::function<void(double part)>;
 
 // Returns the progress function for one part of longer work, which takes the whole from `from` to

@@ -11,7 +11,7 @@
 namespace host::dxf
 {
 // The numbers of a record by their group codes. Names and handles are left out, because they never
-// change.
+// change. The map is [borrowed] as long as this object lives.
 class RecordNumbers
 {
 public:

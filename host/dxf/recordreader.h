@@ -59,7 +59,7 @@ private:
 
 // Reads a record into `into`. An attribute that the record does not state keeps its value. Throws
 // an Error for a value that its attribute cannot have. If `wanted` names attributes, only these are
-// read, so that a damaged value that nobody needs does not prevent a drawing from opening.
+// read, so that a damaged value that no code needs does not prevent a drawing from opening.
 template <class Table>
 void readInto(typename Table::RecordType& into, const Table& table, const TagSource& source,
               const Record& record, std::span<const Code> wanted = {})

@@ -7,7 +7,7 @@
 
 namespace host::dxf
 {
-// The release and the code page of the file that is written; they limit what it can hold.
+// The release and the code page of the output file; they limit what it can hold.
 struct FileForm
 {
     const Release& release;
@@ -21,6 +21,7 @@ inline bool has(const Release& release, schema::Since since)
            (since == schema::Since::r2000 && release.ownership);
 }
 
+// Returns a record with all defaults [borrowed], which lives as long as the program.
 template <class Record>
 const Record& usual()
 {

@@ -15,11 +15,12 @@ namespace host::dxf
 // call.
 void withChanges(DatabaseCore& core, const std::function<void(const Edits&)>& take);
 
-// Returns a number that stands for everything that has changed since `load`. Other changes give
+// Returns a number that identifies everything that has changed since `load`. Other changes give
 // another number.
 std::uint64_t digestOfChanges(DatabaseCore& core);
 
-// Saves the file with everything that has changed since `load`. Throws an Error when it cannot.
+// Saves the file with everything that has changed since `load`. Throws an Error when it cannot be
+// saved.
 void save(DatabaseCore& core, const std::string& path, const Progress& progress);
 
 // Returns one line for each thing that the file's release cannot hold.

@@ -13,8 +13,8 @@
 
 namespace host::dxf
 {
-// Stands for a line feed within a text of a binary drawing. A zero byte ends such a text, so the
-// text itself never contains one.
+// Replaces a line feed within a text of a binary drawing. A zero byte ends such a text, so the text
+// itself never contains one.
 inline constexpr char lineFeedInText = '\0';
 
 struct Tag

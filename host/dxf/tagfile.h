@@ -54,19 +54,23 @@ class TagFile
 public:
     // Reads the file at `path`. Throws an Error if the file is refused.
     static TagFile read(const std::string& path, const Progress& progress = {});
-    // Reads the text of a file. `name` stands for the file in messages.
+    // Reads the text of a file. Messages use `name` for the file.
     static TagFile fromText(std::string_view text, std::string name, const Progress& progress = {});
 
     const std::string& name() const { return m_name; }
     std::string_view bytes() const { return {m_bytes.get(), m_size}; }
     const Release& release() const { return *m_release; }
-    std::string_view codePageName() const { return m_codePage; }  // "ANSI_1252"; empty: not stated
+    std::string_view codePageName() const
+    {
+        return m_codePage;
+    }  // "ANSI_1252"; empty if the file states none
     const TagStyle& style() const { return m_style; }
 
     std::span<const Section> sections() const { return m_sections; }
     const Section* section(std::string_view name) const;  // nullptr if the file lacks the section
     std::size_t endOfSection(const Section& section) const;  // offset after ENDSEC
-    // Its offset; it is not 0 if an editor put a UTF-8 mark before it.
+    // Returns the offset of the first tag. It is not 0 if an editor put a UTF-8 mark before the
+    // tag.
     std::size_t firstTag() const;
     std::size_t eofOffset() const { return m_eofOffset; }  // new sections are inserted here
 
@@ -83,7 +87,8 @@ public:
     std::span<const std::size_t> repairedRecords() const { return m_repaired; }
     // Returns the tag with the record's handle, or a tag with code 0 if the record has no handle.
     Tag handleTag(const Record& record) const;
-    std::string repairs() const;  // one line about the repaired records; empty if there are none
+    std::string repairs()
+        const;  // one line about the repaired records; empty if no record was repaired
 
     // Returns the variables in file order. If two variables have the same name, `header` finds the
     // later one.

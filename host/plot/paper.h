@@ -51,7 +51,8 @@ private:
     std::unique_ptr<Ink> m_ink;
 };
 
-// Measures the window of a view that the shapes take.
+// Measures the window of a view that the shapes take. The window is [borrowed] as long as this
+// object lives.
 class Extents : public Sink
 {
 public:

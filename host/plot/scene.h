@@ -28,7 +28,8 @@ public:
     std::string leftOut() const;
 
 private:
-    // Tells where and how the entities of a space or block are drawn.
+    // Tells where and how the entities of a space or block are drawn. The layer is [borrowed] from
+    // the tables.
     struct Place
     {
         AcGeMatrix3d toWorld;

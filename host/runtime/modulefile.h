@@ -9,7 +9,8 @@
 
 namespace host
 {
-// An open module file. The destructor unloads it.
+// An open module file. The destructor unloads it. The path is [borrowed] as long as the object
+// lives.
 class ModuleFile
 {
 public:

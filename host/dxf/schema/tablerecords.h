@@ -129,7 +129,7 @@ inline constexpr Code twist{51};
 inline constexpr Code mode{71};
 inline constexpr Code ucsIcon{74};
 
-// The codes that describe how the drawing is seen.
+// The codes that describe the view of the drawing.
 inline constexpr Code view[] = {centre, direction, target, height, aspect, twist, mode, ucsIcon};
 
 struct Viewport : SymbolRecord

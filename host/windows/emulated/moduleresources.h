@@ -13,6 +13,7 @@ namespace host
 // end the run.
 void setModuleResources(HINSTANCE module, std::span<const std::byte> bytes);
 
-// Returns the resource that begins at this address [borrowed]; empty for any other address.
+// Returns the resource that begins at this address [borrowed], or an empty span for any other
+// address.
 std::span<const std::byte> resourceAt(const void* first);
 }  // namespace host

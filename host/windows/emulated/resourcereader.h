@@ -10,7 +10,8 @@
 
 namespace host
 {
-// After the first read beyond the end, every read returns zero or an empty value.
+// Reads bytes that are [borrowed] and outlive the reader and the spans that it returns. After the
+// first read beyond the end, every read returns zero or an empty value.
 class ResourceReader
 {
 public:

@@ -12,7 +12,7 @@ namespace host
 // `deleteUnfinishedFile` can delete the file until it is settled. Only one such file exists at a
 // time.
 int createUnfinishedFile(const std::string& path, mode_t mode);
-// Notes that the file has got its final name or was deleted.
+// Records that the file has got its final name or was deleted.
 void settleUnfinishedFile();
 
 // Deletes the unfinished file and prevents new ones. Handlers of signals that end the program may

@@ -1,7 +1,7 @@
 // Windows and controls: the part of Windows' user interface on which the dialog classes are built.
 //
-// Texts are Unicode. Each function says how it refuses a null or unknown window. No function
-// throws. Positions and sizes are in pixels.
+// Texts are Unicode. The comment of each function tells how it refuses a null or unknown window. No
+// function throws. Positions and sizes are in pixels.
 #pragma once
 
 #include "windows.h"
