@@ -317,7 +317,7 @@ void BinaryEncoder::encodeTag(std::string_view codeText, std::string_view value)
         }
         default:
             putText(value);
-            m_ended = Code(code) == schema::recordType && value == "EOF";
+            m_ended = Code(code) == schema::recordType && value == schema::endOfFile;
     }
 }
 

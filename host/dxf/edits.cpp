@@ -9,10 +9,10 @@ namespace host::dxf
 {
 void writeSection(TagWriter& writer, std::string_view name, const Producer& contents)
 {
-    writer.text(schema::recordType, "SECTION");
+    writer.text(schema::recordType, schema::sectionStart);
     writer.text(schema::name, name);
     contents(writer);
-    writer.text(schema::recordType, "ENDSEC");
+    writer.text(schema::recordType, schema::sectionEnd);
 }
 
 void Edits::replace(std::size_t begin, std::size_t end, Producer produce)
@@ -43,7 +43,7 @@ void Edits::setHeader(std::string_view name, const Producer& produce)
     produce(writer);
     writer.flush();
 
-    const Section* header = m_file.section("HEADER");
+    const Section* header = m_file.section(schema::section::header);
     if (!header)
     {
         m_newHeader += tags;
@@ -59,7 +59,7 @@ void Edits::setHeader(std::string_view name, const Producer& produce)
 
 void Edits::writeNewHeader(TagWriter& writer) const
 {
-    writeSection(writer, "HEADER", [this](TagWriter& out) { out.raw(m_newHeader); });
+    writeSection(writer, schema::section::header, [this](TagWriter& out) { out.raw(m_newHeader); });
 }
 
 void Edits::write(TagWriter& writer) const

@@ -67,7 +67,7 @@ void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record&
 template <class Table>
 AcDbStub* makeTable(DatabaseCore& core, const FileSource& source, std::string_view type)
 {
-    for (const Record& record : source.file.records("TABLES"))
+    for (const Record& record : source.file.records(schema::section::tables))
     {
         if (source.file.typeName(record) == schema::symbolTable.type &&
             tableName(source.file, record) == type)
@@ -88,7 +88,7 @@ void loadTables(DatabaseCore& core, FileSource& source)
                      makeTable<AcDbLinetypeTable>(core, source, schema::linetype::table.type));
     core.roots().set(Root::textStyleTable,
                      makeTable<AcDbTextStyleTable>(core, source, schema::textstyle::table.type));
-    for (const Record& record : source.file.records("TABLES"))
+    for (const Record& record : source.file.records(schema::section::tables))
     {
         const std::string_view type = source.file.typeName(record);
         if (type == schema::layer::table.type)
@@ -152,7 +152,7 @@ void completeTables(DatabaseCore& core, FileSource& source)
 
 const Record* objectWithHandle(const TagFile& file, std::uint64_t handle)
 {
-    const auto records = file.records("OBJECTS");
+    const auto records = file.records(schema::section::objects);
     const auto found = std::find_if(records.begin(), records.end(),
                                     [handle](const Record& r) { return r.handle == handle; });
     return found != records.end() && handle != 0 ? &*found : nullptr;
@@ -180,9 +180,10 @@ void forEachEntry(const FileSource& source, const Record& dictionary, Take take)
 
 void loadGroupDictionary(DatabaseCore& core, FileSource& source)
 {
-    for (const Record& record : source.file.records("OBJECTS"))
+    for (const Record& record : source.file.records(schema::section::objects))
     {
-        if (source.rootDictionary == nullptr && source.file.typeName(record) == "DICTIONARY")
+        if (source.rootDictionary == nullptr &&
+            source.file.typeName(record) == schema::dictionary::table.type)
         {
             source.rootDictionary = &record;  // the first dictionary contains all others
         }

@@ -58,11 +58,11 @@ std::size_t placeFor(const FileSource& source, const AcDbStub* owner)
     const std::wstring name = recordName(AcDbObjectId(const_cast<AcDbStub*>(owner)));
     if (name.empty() || name[0] == L'*')
     {
-        const Section* entities = source.file.section("ENTITIES");
+        const Section* entities = source.file.section(schema::section::entities);
         return entities != nullptr ? entities->end : source.file.eofOffset();
     }
     bool inBlock = false;
-    for (const Record& record : source.file.records("BLOCKS"))
+    for (const Record& record : source.file.records(schema::section::blocks))
     {
         const std::string_view type = source.file.typeName(record);
         if (type == schema::endOfBlock && inBlock)
@@ -106,8 +106,8 @@ void saveEntities(Edits& edits, const FileSource& source, const LiveStubs& live,
         { entities.writeEntitiesOf(owner, writer); };
         if (place == source.file.eofOffset())
         {
-            edits.insert(
-                place, [produce](TagWriter& writer) { writeSection(writer, "ENTITIES", produce); });
+            edits.insert(place, [produce](TagWriter& writer)
+                         { writeSection(writer, schema::section::entities, produce); });
             continue;
         }
         edits.insert(place, produce);
@@ -227,7 +227,7 @@ void saveGroups(Edits& edits, DatabaseCore& core)
     }
     if (source.rootDictionary != nullptr)
     {
-        edits.insert(source.file.section("OBJECTS")->end, objects);
+        edits.insert(source.file.section(schema::section::objects)->end, objects);
         return;
     }
     const Producer all = [&source, root, rootEntry, objects](TagWriter& writer)
@@ -235,14 +235,14 @@ void saveGroups(Edits& edits, DatabaseCore& core)
         writeDictionary(source, root, 0, rootEntry, writer);
         objects(writer);
     };
-    const Section* section = source.file.section("OBJECTS");
+    const Section* section = source.file.section(schema::section::objects);
     if (section != nullptr)
     {
         edits.insert(section->end, all);
         return;
     }
     edits.insert(source.file.eofOffset(),
-                 [all](TagWriter& writer) { writeSection(writer, "OBJECTS", all); });
+                 [all](TagWriter& writer) { writeSection(writer, schema::section::objects, all); });
 }
 
 // Raises the seed with the objects that are saved, so an unchanged drawing keeps its seed.

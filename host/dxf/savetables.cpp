@@ -98,7 +98,7 @@ void writeTable(const Kind& kind, std::uint64_t handle, const std::vector<NewRec
 
 std::uint64_t tableHandle(const TagFile& file, std::string_view type)
 {
-    for (const Record& record : file.records("TABLES"))
+    for (const Record& record : file.records(schema::section::tables))
     {
         if (file.typeName(record) == schema::symbolTable.type && tableName(file, record) == type)
         {
@@ -112,7 +112,7 @@ std::uint64_t tableHandle(const TagFile& file, std::string_view type)
 const Record* endOfTable(const TagFile& file, std::string_view type)
 {
     bool inside = false;
-    for (const Record& record : file.records("TABLES"))
+    for (const Record& record : file.records(schema::section::tables))
     {
         const std::string_view name = file.typeName(record);
         if (name == schema::endOfTable && inside)
@@ -133,7 +133,7 @@ std::size_t placeForTables(const TagFile& file)
     std::size_t place = file.firstTag();
     for (const Section& section : file.sections())
     {
-        if (section.name == "HEADER" || section.name == "CLASSES")
+        if (section.name == schema::section::header || section.name == schema::section::classes)
         {
             place = file.endOfSection(section);
         }
@@ -168,14 +168,16 @@ std::vector<NewRecord> missingRecords(DatabaseCore& core, const Kind& kind, cons
 
 void insertTables(Edits& edits, const std::string& tables)
 {
-    if (const Section* section = edits.file().section("TABLES"))
+    if (const Section* section = edits.file().section(schema::section::tables))
     {
         edits.insert(section->end, [tables](TagWriter& writer) { writer.raw(tables); });
         return;
     }
-    edits.insert(
-        placeForTables(edits.file()), [tables](TagWriter& writer)
-        { writeSection(writer, "TABLES", [&tables](TagWriter& out) { out.raw(tables); }); });
+    edits.insert(placeForTables(edits.file()),
+                 [tables](TagWriter& writer) {
+                     writeSection(writer, schema::section::tables,
+                                  [&tables](TagWriter& out) { out.raw(tables); });
+                 });
 }
 }  // namespace
 

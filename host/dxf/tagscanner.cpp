@@ -16,8 +16,8 @@ constexpr std::string_view readableVersions = "version AC1009 (R12) to AC1032 (R
 
 bool holdsRecords(std::string_view section)
 {
-    return section == "TABLES" || section == "BLOCKS" || section == "ENTITIES" ||
-           section == "OBJECTS";
+    return section == schema::section::tables || section == schema::section::blocks ||
+           section == schema::section::entities || section == schema::section::objects;
 }
 }  // namespace
 
@@ -30,9 +30,9 @@ TagFileScanner::TagFileScanner(TagFile& file, const Progress& progress)
 void TagFileScanner::scan()
 {
     refuseOtherFormats();
-    for (m_reader.nextButComments(); !m_reader.is("EOF"); m_reader.nextButComments())
+    for (m_reader.nextButComments(); !m_reader.is(schema::endOfFile); m_reader.nextButComments())
     {
-        if (!m_reader.is("SECTION"))
+        if (!m_reader.is(schema::sectionStart))
         {
             m_reader.refuse("SECTION or EOF");
         }
@@ -80,7 +80,7 @@ void TagFileScanner::readSection()
     }
     m_file.m_sections.push_back(
         {name, m_tag.end, 0, m_reader.nextLine(), m_file.m_records.size(), 0});
-    if (name == "HEADER")
+    if (name == schema::section::header)
     {
         readHeader();
     }
@@ -115,19 +115,19 @@ void TagFileScanner::readHeader()
         variables.back().end = m_tag.end;
         readHeaderValue(variables.back().name);
     }
-    if (!m_reader.is("ENDSEC"))
+    if (!m_reader.is(schema::sectionEnd))
     {
-        m_reader.refuse("ENDSEC");
+        m_reader.refuse(schema::sectionEnd);
     }
 }
 
 void TagFileScanner::readHeaderValue(std::string_view variable)
 {
-    if (variable == "$ACADVER")
+    if (variable == schema::versionVariable)
     {
         takeVersion();
     }
-    else if (variable == "$DWGCODEPAGE")
+    else if (variable == schema::codePageVariable)
     {
         m_file.m_codePage = trimmed(m_tag.value);
     }
@@ -145,7 +145,7 @@ void TagFileScanner::readRecords()
         m_reader.refuse("a record (group code 0)");
     }
     constexpr std::size_t recordsBetween = 1 << 13;
-    while (!m_reader.is("ENDSEC"))
+    while (!m_reader.is(schema::sectionEnd))
     {
         readRecord();
         if (m_file.m_records.size() % recordsBetween == 0)
@@ -167,9 +167,9 @@ void TagFileScanner::tellProgress() const
 // afterwards.
 void TagFileScanner::readRecord()
 {
-    if (m_reader.is("SECTION") || m_reader.is("EOF"))
+    if (m_reader.is(schema::sectionStart) || m_reader.is(schema::endOfFile))
     {
-        m_reader.refuse("ENDSEC");
+        m_reader.refuse(schema::sectionEnd);
     }
     const std::string_view type = trimmed(m_tag.value);
     if (type.empty())
@@ -220,10 +220,11 @@ void TagFileScanner::skipContents()
     do
     {
         m_reader.next();
-    } while (!m_reader.is("ENDSEC") && !m_reader.is("SECTION") && !m_reader.is("EOF"));
-    if (!m_reader.is("ENDSEC"))
+    } while (!m_reader.is(schema::sectionEnd) && !m_reader.is(schema::sectionStart) &&
+             !m_reader.is(schema::endOfFile));
+    if (!m_reader.is(schema::sectionEnd))
     {
-        m_reader.refuse("ENDSEC");
+        m_reader.refuse(schema::sectionEnd);
     }
 }
 
@@ -253,7 +254,7 @@ void TagFileScanner::requireKnownCodePage() const
     {
         return;
     }
-    const Tag tag = *m_file.tags(*m_file.header("$DWGCODEPAGE")).begin();
+    const Tag tag = *m_file.tags(*m_file.header(schema::codePageVariable)).begin();
     m_file.refuseValue(tag, "a known code page");
 }
 

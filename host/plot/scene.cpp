@@ -47,14 +47,14 @@ Scene::Scene(const dxf::TagFile& file, long mostFromBlocks)
     : m_file(file),
       m_codePage(file.release(), file.codePageName()),
       m_tables(file, m_codePage),
-      m_mostEntities(mostFromBlocks + long(file.records("ENTITIES").size()))
+      m_mostEntities(mostFromBlocks + long(file.records(schema::section::entities).size()))
 {
 }
 
 void Scene::draw(Sink& sink, const Progress& progress)
 {
     const Place world{AcGeMatrix3d(), nullptr, black, 0};
-    const Records all = m_file.records("ENTITIES");
+    const Records all = m_file.records(schema::section::entities);
     m_leftOut.clear();
     m_budget = m_mostEntities;
     for (Records rest = all; !rest.empty() && spend();)

@@ -53,7 +53,7 @@ OwnColor ownColor(int index, std::optional<int> rgb)
 
 Tables::Tables(const dxf::TagFile& file, const dxf::CodePage& codePage) : m_codePage(codePage)
 {
-    for (const dxf::Record& record : file.records("TABLES"))
+    for (const dxf::Record& record : file.records(schema::section::tables))
     {
         if (file.typeName(record) == schema::layer::table.type)
         {
@@ -82,7 +82,7 @@ void Tables::readLayer(const dxf::TagFile& file, const dxf::Record& record)
 
 void Tables::readBlocks(const dxf::TagFile& file)
 {
-    const std::span<const dxf::Record> records = file.records("BLOCKS");
+    const std::span<const dxf::Record> records = file.records(schema::section::blocks);
     for (std::size_t i = 0; i < records.size(); ++i)
     {
         if (file.typeName(records[i]) != schema::block::type)

@@ -7,6 +7,26 @@
 
 namespace host::dxf::schema
 {
+// The bounds of a section and of the file, as values of tags with code 0.
+inline constexpr std::string_view sectionStart = "SECTION";
+inline constexpr std::string_view sectionEnd = "ENDSEC";
+inline constexpr std::string_view endOfFile = "EOF";
+
+// The names of the sections that the host reads or creates.
+namespace section
+{
+inline constexpr std::string_view header = "HEADER";
+inline constexpr std::string_view classes = "CLASSES";
+inline constexpr std::string_view tables = "TABLES";
+inline constexpr std::string_view blocks = "BLOCKS";
+inline constexpr std::string_view entities = "ENTITIES";
+inline constexpr std::string_view objects = "OBJECTS";
+}  // namespace section
+
+// The header variables without which no other value can be read.
+inline constexpr std::string_view versionVariable = "$ACADVER";
+inline constexpr std::string_view codePageVariable = "$DWGCODEPAGE";
+
 inline constexpr Code recordType{0};
 inline constexpr Code name{2};  // of a section, a table or a block
 inline constexpr Code variableName{9};
