@@ -163,7 +163,7 @@ void writeEntry(const std::wstring& key, std::uint64_t handle, const FileSource&
     writeRecord(writer, schema::dictionary::entry, {key, handle}, formOf(source));
 }
 
-// Writes a dictionary. `owner` is 0 for the root dictionary.
+// `owner` is 0 for the root dictionary, because no object owns it.
 void writeDictionary(const FileSource& source, std::uint64_t handle, std::uint64_t owner,
                      const Producer& entries, TagWriter& writer)
 {

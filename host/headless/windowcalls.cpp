@@ -1,4 +1,5 @@
-// Windows' functions for windows, implemented for windows without a screen.
+// The dialog classes call Windows' own functions, so that one source serves both systems. This file
+// implements these functions where there is no screen.
 #include <algorithm>
 
 #include "host/headless/messages.h"

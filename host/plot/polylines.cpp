@@ -51,7 +51,7 @@ void drawFlat(const std::vector<Vertex>& vertices, bool closed, const Pen& pen)
     }
 }
 
-// Draws a mesh, whose points are stored row by row.
+// The file stores the points of a mesh row by row.
 void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
 {
     const int flags = mesh.integer(schema::entity::flags);

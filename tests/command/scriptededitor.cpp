@@ -135,7 +135,7 @@ Contents ScriptedEditor::contents() const
 // From here on: in the place of the host's functions. Without an editor they hand the call on.
 
 // The dialog's own table of functions leads here. What the host's library calls within itself, such
-// as CDialog::DoModal, nobody outside can stand in for: the library is optimized as a whole.
+// as CDialog::DoModal, nobody outside can stand in for: the library is optimised as a whole.
 INT_PTR CAdUiBaseDialog::DoModal()
 {
     if (current == nullptr)
