@@ -15,8 +15,8 @@ namespace host
 {
 DocumentManager::DocumentManager()
 {
-    linker().listeners = [this]
-    { return std::vector<const void*>(m_reactors.begin(), m_reactors.end()); };
+    linker().setListeners(
+        [this] { return std::vector<const void*>(m_reactors.begin(), m_reactors.end()); });
 }
 
 Document& DocumentManager::open(std::unique_ptr<AcDbDatabase> database, std::filesystem::path path)

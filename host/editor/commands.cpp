@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "host/database/drawing.h"
-#include "host/database/strict.h"
+#include "host/database/nothingopen.h"
 #include "host/documents/documentmanager.h"
 #include "host/editor/hostcommands.h"
 #include "host/text/numbers.h"
@@ -69,11 +69,11 @@ Result<> checkAllowed(const Command& command, Document& document)
 
 // Lends a command the document's lock, its resources and its place among the running commands.
 // Checks at the end of the command that it has returned everything.
-class Borrowed
+class RunningCommand
 {
 public:
-    Borrowed(Editor& editor, Document& document, const CommandPtr& command);
-    ~Borrowed();
+    RunningCommand(Editor& editor, Document& document, const CommandPtr& command);
+    ~RunningCommand();
 
 private:
     void checkResources() const;
@@ -86,7 +86,7 @@ private:
     std::size_t m_depth;
 };
 
-Borrowed::Borrowed(Editor& editor, Document& document, const CommandPtr& command)
+RunningCommand::RunningCommand(Editor& editor, Document& document, const CommandPtr& command)
     : m_editor(editor),
       m_document(document),
       m_command(command),
@@ -102,16 +102,17 @@ Borrowed::Borrowed(Editor& editor, Document& document, const CommandPtr& command
         documents().lock(AcAp::kWrite, command->globalName());
     }
     documents().setApplicationContext(command->has(ACRX_CMD_SESSION));
-    command->running = true;
+    command->setRunning(true);
     editor.beginCommand(command);
 }
 
-Borrowed::~Borrowed()
+RunningCommand::~RunningCommand()
 {
     m_editor.endCommand();
-    m_command->running = false;
-    const bool outer = !m_editor.running().empty();
-    documents().setApplicationContext(!outer || m_editor.running().back()->has(ACRX_CMD_SESSION));
+    m_command->setRunning(false);
+    const bool isNested = !m_editor.running().empty();
+    documents().setApplicationContext(!isNested ||
+                                      m_editor.running().back()->has(ACRX_CMD_SESSION));
     if (!m_command->has(ACRX_CMD_SESSION))
     {
         documents().unlock(m_command->globalName());
@@ -123,13 +124,13 @@ Borrowed::~Borrowed()
         m_document.resources().pop();
     }
     // An outer command may hold objects open while it asks, so only the outermost is checked.
-    if (!outer)
+    if (!isNested)
     {
         requireNothingOpen(*m_document.database(), toUtf8(shownName(*m_command)));
     }
 }
 
-void Borrowed::checkResources() const
+void RunningCommand::checkResources() const
 {
     const std::size_t depth = m_document.resources().depth();
     if (depth != m_depth)
@@ -139,7 +140,7 @@ void Borrowed::checkResources() const
     }
 }
 
-void Borrowed::checkMeter() const
+void RunningCommand::checkMeter() const
 {
     if (m_editor.meter())
     {
@@ -150,7 +151,7 @@ void Borrowed::checkMeter() const
 
 void run(Editor& editor, Document& document, const CommandPtr& command)
 {
-    const Borrowed borrowed(editor, document, command);
+    const RunningCommand running(editor, document, command);
     // Options that a command has set but not used must not reach a prompt of another command.
     editor.setOptions({});
     command->functionAddr()();
@@ -188,7 +189,7 @@ std::wstring unknownCommand(const Editor& editor, std::wstring_view name)
 
 bool mayInterrupt(const Command& command)
 {
-    return command.has(ACRX_CMD_TRANSPARENT) && !command.running;
+    return command.has(ACRX_CMD_TRANSPARENT) && !command.isRunning();
 }
 }  // namespace
 

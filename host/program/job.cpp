@@ -80,7 +80,7 @@ bool openDocument(const Options& options, FrontEnd& frontEnd)
 bool loadModule(const Options& options, FrontEnd& frontEnd)
 {
     const std::filesystem::path module = pathOf(options.module);
-    linker().searchFolder = module.parent_path();
+    linker().setSearchFolder(module.parent_path());
     // The path is made absolute, because a name alone would be searched for in other folders too.
     const Result<> loaded = linker().load(std::filesystem::absolute(module));
     if (!loaded)
@@ -192,8 +192,8 @@ std::wstring welcome()
 bool runDocument(const Options& options, FrontEnd& frontEnd)
 {
     Editor editor(frontEnd, options.trace);
-    const Scoped<Linker::Report> report(
-        linker().report, [&](const std::string& line) { editor.printLine(fromUtf8(line)); });
+    const auto report =
+        linker().reportTo([&](const std::string& line) { editor.printLine(fromUtf8(line)); });
     bool done = loadModule(options, frontEnd);
     if (done)
     {

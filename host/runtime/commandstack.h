@@ -35,11 +35,14 @@ public:
 
     const CommandEntry& entry() const { return m_entry; }
     bool has(Adesk::Int32 flag) const { return (m_entry.flags & flag) != 0; }
-    // True while the command runs. The dispatcher sets it.
-    bool running = false;
+    // Tells whether the command has started and not ended.
+    bool isRunning() const { return m_isRunning; }
+    // The dispatcher alone calls this function, at the start and at the end of the command.
+    void setRunning(bool isRunning) { m_isRunning = isRunning; }
 
 private:
     CommandEntry m_entry;
+    bool m_isRunning = false;
 };
 
 // A running command may be removed from the stack, so the stack shares its ownership.

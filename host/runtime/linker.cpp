@@ -28,7 +28,8 @@ bool runsCommandOf(const ModuleFile& file)
     return std::ranges::any_of(
         commandStack().all(),
         [&](const CommandPtr& command) {
-            return command->running && file.holds(reinterpret_cast<void*>(command->functionAddr()));
+            return command->isRunning() &&
+                   file.holds(reinterpret_cast<void*>(command->functionAddr()));
         });
 }
 
@@ -44,15 +45,10 @@ void requireCommandsRemoved(const ModuleFile& file)
     }
 }
 
-std::vector<const void*> allListeners(const Linker& linker)
-{
-    return linker.listeners ? linker.listeners() : std::vector<const void*>();
-}
-
 // Objects with virtual functions of this file.
 std::vector<const void*> listenersOf(const Linker& linker, const ModuleFile& file)
 {
-    std::vector<const void*> found = allListeners(linker);
+    std::vector<const void*> found = linker.listeners();
     std::erase_if(found, [&](const void* object)
                   { return !file.holds(*static_cast<const void* const*>(object)); });
     return found;
@@ -65,7 +61,7 @@ std::vector<const void*> listenersOf(const Linker& linker, const ModuleFile& fil
 
 void requireGone(const Linker& linker, const std::vector<const void*>& gone, const fs::path& path)
 {
-    const std::vector<const void*> left = allListeners(linker);
+    const std::vector<const void*> left = linker.listeners();
     if (std::ranges::find_first_of(left, gone) != left.end())
     {
         breachOfListeners(path);
@@ -75,9 +71,9 @@ void requireGone(const Linker& linker, const std::vector<const void*>& gone, con
 // A file that is refused has been in the process for a moment: its static objects came and went.
 Result<std::unique_ptr<ModuleFile>> openFile(const Linker& linker, const fs::path& path)
 {
-    const std::size_t before = allListeners(linker).size();
+    const std::size_t before = linker.listeners().size();
     Result<std::unique_ptr<ModuleFile>> file = ModuleFile::open(path);
-    if (!file && allListeners(linker).size() > before)
+    if (!file && linker.listeners().size() > before)
     {
         breachOfListeners(path);
     }
@@ -95,9 +91,9 @@ fs::path Linker::resolve(const fs::path& name) const
         {
             return *seen;
         }
-        if (!fs::exists(file) && fs::exists(searchFolder / file))
+        if (!fs::exists(file) && fs::exists(m_searchFolder / file))
         {
-            return searchFolder / file;
+            return m_searchFolder / file;
         }
     }
     return fs::absolute(file).lexically_normal();
@@ -208,6 +204,11 @@ void Linker::unloadAll()
     }
 }
 
+std::vector<const void*> Linker::listeners() const
+{
+    return m_listeners ? m_listeners() : std::vector<const void*>();
+}
+
 void Linker::setDrawingOpen(bool open)
 {
     m_drawingOpen = open;
@@ -231,9 +232,9 @@ void Linker::broadcast(AcRx::AppMsgCode message)
 bool Linker::loadModule(const ACHAR* fileName, bool printit, bool)
 {
     const Result<> loaded = load(toNativePath(fileName));
-    if (!loaded && printit && report)
+    if (!loaded && printit && m_report)
     {
-        report(loaded.failure().line);
+        m_report(loaded.failure().line);
     }
     return bool(loaded);
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/basics/scoped.h"
 #include "host/runtime/modulefile.h"
 #include "rxdlinkr.h"
 
@@ -25,10 +26,11 @@ class Linker final : public AcRxDynamicLinker
 {
 public:
     using Report = std::function<void(const std::string&)>;
+    using Listeners = std::function<std::vector<const void*>()>;
 
     // Loads a module and starts it. Loading it again only counts the load. A name without a folder
     // is looked up among the modules that were loaded before, then in the current folder, then in
-    // `searchFolder`. ".arx" may be left out. Fails when the file is not a module or the module
+    // the search folder. ".arx" may be left out. Fails when the file is not a module or the module
     // refuses to start.
     Result<> load(const std::filesystem::path& name);
     // Unloads a module, however often it was loaded. Fails when the module is locked or refuses, or
@@ -51,11 +53,16 @@ public:
     // Sends the message to one module and returns its answer.
     AcRx::AppRetCode send(Module& module, AcRx::AppMsgCode message);
 
-    std::filesystem::path searchFolder;
-    // Prints why loadModule failed, if its caller asked for that.
-    Report report;
-    // Returns the objects of modules that the document manager calls [borrowed].
-    std::function<std::vector<const void*>()> listeners;
+    // Sets the folder in which `load` looks last for a name without a folder.
+    void setSearchFolder(std::filesystem::path folder) { m_searchFolder = std::move(folder); }
+    // Sets what prints why loadModule failed, if its caller asked for that. The result restores the
+    // former one at the end of its scope.
+    Scoped<Report> reportTo(Report report) { return {m_report, std::move(report)}; }
+    // Sets what returns the objects of modules that the document manager calls. A module that
+    // leaves one of them behind ends the run.
+    void setListeners(Listeners listeners) { m_listeners = std::move(listeners); }
+    // Returns these objects [borrowed]; the list is empty before setListeners.
+    std::vector<const void*> listeners() const;
 
     bool loadModule(const ACHAR* fileName, bool printit, bool asCmd) override;
     bool unloadModule(const ACHAR* fileName, bool asCmd) override;
@@ -78,6 +85,9 @@ private:
     std::list<std::filesystem::path> m_seen;  // newest first
     Module* m_current = nullptr;
     bool m_drawingOpen = false;
+    std::filesystem::path m_searchFolder;
+    Report m_report;
+    Listeners m_listeners;
 };
 
 // Returns the one linker [borrowed], which lives as long as the program.

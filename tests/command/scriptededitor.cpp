@@ -9,7 +9,7 @@
 #include "app/entry.h"
 #include "command/gridcommand.h"
 #include "host/database/packing.h"
-#include "host/database/strict.h"
+#include "host/database/nothingopen.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
 #include "host/windows/format.h"

@@ -2,7 +2,7 @@
 
 #include "dbgroup.h"
 #include "dbobjptr.h"
-#include "host/database/strict.h"
+#include "host/database/nothingopen.h"
 #include "tests/support/emptydrawing.h"
 
 namespace

@@ -133,9 +133,9 @@ TEST_F(Loading, moduleMayRefuseToCome)
 TEST_F(Loading, runningCommandKeepsItsModule)
 {
     load(moduleFile("polite.arx"));
-    host::commandStack().findGlobal(L"greet")->running = true;
+    host::commandStack().findGlobal(L"greet")->setRunning(true);
     unload("polite.arx");
-    host::commandStack().findGlobal(L"greet")->running = false;
+    host::commandStack().findGlobal(L"greet")->setRunning(false);
     ASSERT_TRUE(error);
     EXPECT_EQ(*error, "polite.arx: a command of the module is running");
 }

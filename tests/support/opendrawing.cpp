@@ -1,7 +1,7 @@
 #include "tests/support/opendrawing.h"
 
 #include "host/database/packing.h"
-#include "host/database/strict.h"
+#include "host/database/nothingopen.h"
 #include "host/documents/documentmanager.h"
 #include "host/dxf/drawingfile.h"
 

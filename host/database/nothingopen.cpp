@@ -1,4 +1,4 @@
-#include "host/database/strict.h"
+#include "host/database/nothingopen.h"
 
 #include "host/database/objectstate.h"
 #include "host/database/packing.h"
