@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/basics/angle.h"
 #include "host/database/polylinevertices.h"
 #include "host/geometry/finite.h"
 #include "host/geometry/ocs.h"
@@ -35,7 +36,7 @@ bool isFitPolyline(const AcDb2dPolyline& polyline)
 
 bool isAngle(double radians)
 {
-    return std::isfinite(radians * 180 / M_PI);
+    return std::isfinite(toDegrees(radians));
 }
 
 bool isFitInPlane(const AcGePoint3d& point, const AcGeVector3d& normal)

@@ -2,6 +2,7 @@
 #include <cwchar>
 
 #include "dbents.h"
+#include "host/basics/angle.h"
 #include "host/database/fitness.h"
 #include "host/database/intersections.h"
 #include "host/database/packing.h"
@@ -82,7 +83,7 @@ Acad::ErrorStatus AcDbText::setTextStyle(AcDbObjectId style)
 Acad::ErrorStatus AcDbText::setOblique(double angle)
 {
     assertWriteEnabled("AcDbText::setOblique");
-    const double limit = 85 * M_PI / 180;
+    const double limit = host::toRadians(85);
     if (!(std::fabs(angle) <= limit))
     {
         return Acad::eInvalidInput;

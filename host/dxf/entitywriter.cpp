@@ -4,6 +4,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "host/basics/angle.h"
 #include "host/database/drawing.h"
 #include "host/database/entitystyle.h"
 #include "host/database/packing.h"
@@ -137,7 +138,7 @@ namespace
 // The database keeps angles in radians; files state them in degrees from 0 up to 360.
 double degrees(double radians)
 {
-    const double angle = std::fmod(radians * 180 / M_PI, 360);
+    const double angle = std::fmod(toDegrees(radians), 360);
     return angle < 0 ? angle + 360 : angle;
 }
 }  // namespace

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "host/basics/angle.h"
 #include "host/database/dictionaryentries.h"
 #include "host/dxf/filesource.h"
 #include "host/dxf/loadstate.h"
@@ -50,7 +51,7 @@ void loadTextStyle(DatabaseCore& core, const FileSource& source, const Record& r
         readRecord(schema::textstyle::table, tagsOf(source), record, wanted);
     auto* style = core.addLoadedRecord<AcDbTextStyleTableRecord>(core.roots()[Root::textStyleTable],
                                                                  read.name, record.handle);
-    setTextStyle(*style, read.oblique * M_PI / 180, read.widthFactor, read.height);
+    setTextStyle(*style, toRadians(read.oblique), read.widthFactor, read.height);
 }
 
 void loadBlockRecord(DatabaseCore& core, const FileSource& source, const Record& record)

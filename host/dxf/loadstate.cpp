@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/basics/angle.h"
 #include "host/database/drawing.h"
 #include "host/dxf/headervariables.h"
 #include "host/dxf/recordreader.h"
@@ -73,7 +74,7 @@ void loadView(const FileSource& source, DrawingState& state)
     view.height = read.height;
     view.aspect = read.aspect;
     view.target = read.target;
-    view.twist = read.twist * M_PI / 180;
+    view.twist = toRadians(read.twist);
     view.direction = read.direction.length() > 0 ? read.direction : view.direction;
     state.ucsFollow = (read.mode.value_or(0) & schema::viewport::ucsFollowMode) != 0;
     state.ucsIcon = read.ucsIcon.value_or(state.ucsIcon);

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <map>
 
+#include "host/basics/angle.h"
 #include "host/database/drawing.h"
 #include "host/dxf/headervariables.h"
 #include "host/dxf/recordedits.h"
@@ -56,7 +57,7 @@ schema::viewport::Viewport viewportOf(const DrawingState& state,
     viewport.aspect = view.aspect;
     viewport.direction = view.direction;
     viewport.target = view.target;
-    viewport.twist = view.twist * 180 / M_PI;
+    viewport.twist = toDegrees(view.twist);
     if (viewport.mode)
     {
         viewport.mode = (*record.mode & ~schema::viewport::ucsFollowMode) |

@@ -1,9 +1,9 @@
 #include "host/editor/pointtext.h"
 
 #include <cmath>
-#include <numbers>
 #include <vector>
 
+#include "host/basics/angle.h"
 #include "host/text/numbers.h"
 
 namespace host
@@ -80,7 +80,7 @@ Direction directionOf(double degrees)
         static const Direction exact[] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
         return exact[(int(quarter) + 4) % 4];
     }
-    const double radians = turn * std::numbers::pi / 180;
+    const double radians = toRadians(turn);
     return {std::cos(radians), std::sin(radians)};
 }
 }  // namespace host

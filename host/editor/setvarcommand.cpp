@@ -1,13 +1,12 @@
 #include <utility>
 
+#include "host/basics/angle.h"
 #include "host/editor/hostcommands.h"
 #include "host/text/numbers.h"
 #include "host/editor/owntexts.h"
 #include "host/editor/prompts.h"
 #include "host/editor/sysvars.h"
 #include "host/text/foldcase.h"
-
-#include <numbers>
 
 namespace host
 {
@@ -58,8 +57,7 @@ std::optional<VariableValue> parseValue(const VariableInfo& info, const std::wst
         case VariableType::angle:
         {
             const std::optional<double> degrees = parseReal(text);
-            return degrees ? std::optional<VariableValue>(*degrees * std::numbers::pi / 180)
-                           : std::nullopt;
+            return degrees ? std::optional<VariableValue>(toRadians(*degrees)) : std::nullopt;
         }
         default:
             return asValue(parseReal(text));

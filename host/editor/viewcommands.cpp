@@ -1,6 +1,6 @@
-#include <numbers>
 
 #include "acedads.h"
+#include "host/basics/angle.h"
 #include "host/database/drawing.h"
 #include "host/documents/documentmanager.h"
 #include "host/editor/hostcommands.h"
@@ -42,11 +42,11 @@ void askTwist(Editor& editor)
     View& view = state().view;
     const double twist = inFullTurn(view.twist);
     const std::wstring prompt = own(L"Specify view twist angle <%1>: ", {degreesText(twist)});
-    const double current = twist * 180 / std::numbers::pi;
+    const double current = toDegrees(twist);
     const std::optional<double> degrees = askDegrees(editor, prompt, current);
     if (degrees && *degrees != current)
     {
-        turnView(view, view.direction, *degrees * std::numbers::pi / 180);
+        turnView(view, view.direction, toRadians(*degrees));
     }
 }
 

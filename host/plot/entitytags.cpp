@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <limits>
-#include <numbers>
 
+#include "host/basics/angle.h"
 #include "host/dxf/owntags.h"
 #include "host/dxf/schema/entities.h"
 
@@ -71,7 +71,7 @@ AcGeVector3d EntityTags::normal() const
 
 double EntityTags::radians(Code code, double fallback) const
 {
-    return real(code, fallback) * std::numbers::pi / 180;
+    return toRadians(real(code, fallback));
 }
 
 Points EntityTags::points(Code code, double z) const

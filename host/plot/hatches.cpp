@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
+#include "host/basics/angle.h"
 #include "host/dxf/schema/hatch.h"
 #include "host/plot/curves.h"
 #include "host/plot/entities.h"
@@ -47,7 +47,7 @@ public:
         const double x = real(code);
         return {x, real(code.y()), 0};
     }
-    double radians(Code code) { return real(code) * std::numbers::pi / 180; }
+    double radians(Code code) { return toRadians(real(code)); }
 
 private:
     const EntityTags& m_hatch;

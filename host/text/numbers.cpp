@@ -1,7 +1,8 @@
 #include "host/text/numbers.h"
 
 #include <cmath>
-#include <numbers>
+
+#include "host/basics/angle.h"
 
 namespace host
 {
@@ -56,7 +57,7 @@ std::wstring realText(double value)
 std::wstring degreesText(double radians)
 {
     char buffer[64];
-    const double degrees = radians * 180 / std::numbers::pi + 0.0;
+    const double degrees = toDegrees(radians) + 0.0;
     const auto written =
         std::to_chars(buffer, buffer + sizeof buffer, degrees, std::chars_format::general, 12);
     return widen(buffer, written.ptr);

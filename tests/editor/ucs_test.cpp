@@ -13,6 +13,7 @@
 #include "geassign.h"
 #include "host/database/drawing.h"
 #include "host/editor/view.h"
+#include "tests/geometry/randomframe.h"
 #include "tests/support/session.h"
 
 namespace
@@ -175,6 +176,21 @@ TEST(UcsConversion, isExactFarFromTheOrigin)
     ads_point corner = {2179000.25, 463000.5, 120};
     acdbWcs2Ucs(corner, corner, false);  // in place
     EXPECT_EQ(asPnt3d(corner), AcGePoint3d(0, 0, 0));
+}
+
+TEST(UcsConversion, pointFarFromTheOriginKeepsItsPlaceInATiltedUcs)
+{
+    Dice dice;
+    double worst = 0;
+    for (int i = 0; i < 1000; ++i)
+    {
+        const AcGeMatrix3d ucs = dice.tiltedFrame(1e7);
+        const AcGePoint3d local = dice.point(100);
+        worst = std::max(worst, host::worldToUcs(ucs, ucs * local).distanceTo(local));
+    }
+    // What storing the world point at 1e7 costs, and no more.
+    EXPECT_LE(worst, 6e-9);
+    EXPECT_EQ(host::worldToUcs(AcGeMatrix3d(), AcGePoint3d(1e7 + 0.1, 2, 3)).x, 1e7 + 0.1);
 }
 
 TEST(UcsConversion, displacementIgnoresTheOrigin)

@@ -7,7 +7,6 @@
 #include <numbers>
 
 #include "geplane.h"
-#include "host/geometry/frame.h"
 #include "tests/geometry/randomframe.h"
 
 namespace
@@ -288,19 +287,4 @@ TEST(Matrices, aViewFrameIsSquareAndUprightWhateverTheView)
         ASSERT_NEAR(frame.det(), 1, 1e-14);
         ASSERT_LE((frame * axisZ - direction).length(), 1e-15);
     }
-}
-
-TEST(Frames, aPointFarFromTheOriginKeepsItsPlaceInTheFrame)
-{
-    Dice dice;
-    double worst = 0;
-    for (int i = 0; i < 1000; ++i)
-    {
-        const AcGeMatrix3d frame = dice.tiltedFrame(1e7);
-        const AcGePoint3d local = dice.point(100);
-        worst = std::max(worst, host::worldToFrame(frame, frame * local).distanceTo(local));
-    }
-    // What storing the world point at 1e7 costs, and no more.
-    EXPECT_LE(worst, 6e-9);
-    EXPECT_EQ(host::worldToFrame(AcGeMatrix3d(), AcGePoint3d(1e7 + 0.1, 2, 3)).x, 1e7 + 0.1);
 }
