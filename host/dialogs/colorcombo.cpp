@@ -9,8 +9,17 @@ struct Fixed
 };
 
 const Fixed fixedColors[] = {
-    {256, L"ByLayer"}, {0, L"ByBlock"}, {1, L"Red"},     {2, L"Yellow"}, {3, L"Green"},
-    {4, L"Cyan"},      {5, L"Blue"},    {6, L"Magenta"}, {7, L"White"},
+    // clang-format off
+    {256, L"ByLayer"},
+    {0, L"ByBlock"},
+    {1, L"Red"},
+    {2, L"Yellow"},
+    {3, L"Green"},
+    {4, L"Cyan"},
+    {5, L"Blue"},
+    {6, L"Magenta"},
+    {7, L"White"},
+    // clang-format on
 };
 }  // namespace
 

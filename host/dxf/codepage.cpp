@@ -101,7 +101,13 @@ struct MultibytePage
 };
 
 constexpr MultibytePage multibytePages[] = {
-    {U'1', "CP932"}, {U'2', "CP950"}, {U'3', "CP949"}, {U'4', "JOHAB"}, {U'5', "CP936"},
+    // clang-format off
+    {U'1', "CP932"},
+    {U'2', "CP950"},
+    {U'3', "CP949"},
+    {U'4', "JOHAB"},
+    {U'5', "CP936"},
+    // clang-format on
 };
 
 char32_t convertedFrom(const char* codePage, const std::string& bytes)

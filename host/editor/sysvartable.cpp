@@ -355,12 +355,20 @@ const VariableRow rows[] = {
 // The variables that control how numbers are shown are only kept, because the command line shows
 // numbers in full.
 const HeaderRow header[] = {
-    {L"AUNITS", integer, {0, 4}, 0},       {L"AUPREC", integer, {0, 8}, 0},
-    {L"ELEVATION", real, anyShort, 0.0},   {L"INSUNITS", integer, {0, 24}, 4},
-    {L"LTSCALE", positive, anyShort, 1.0}, {L"LUNITS", integer, {1, 5}, 2},
-    {L"LUPREC", integer, {0, 8}, 4},       {L"MEASUREMENT", integer, {0, 1}, 1},
-    {L"ORTHOMODE", integer, {0, 1}, 0},    {L"TEXTSIZE", positive, anyShort, 2.5},
-    {L"THICKNESS", real, anyShort, 0.0},   {L"WORLDVIEW", integer, {0, 1}, 1},
+    // clang-format off
+    {L"AUNITS", integer, {0, 4}, 0},
+    {L"AUPREC", integer, {0, 8}, 0},
+    {L"ELEVATION", real, anyShort, 0.0},
+    {L"INSUNITS", integer, {0, 24}, 4},
+    {L"LTSCALE", positive, anyShort, 1.0},
+    {L"LUNITS", integer, {1, 5}, 2},
+    {L"LUPREC", integer, {0, 8}, 4},
+    {L"MEASUREMENT", integer, {0, 1}, 1},
+    {L"ORTHOMODE", integer, {0, 1}, 0},
+    {L"TEXTSIZE", positive, anyShort, 2.5},
+    {L"THICKNESS", real, anyShort, 0.0},
+    {L"WORLDVIEW", integer, {0, 1}, 1},
+    // clang-format on
 };
 }  // namespace
 

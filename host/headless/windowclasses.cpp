@@ -12,9 +12,14 @@ namespace
 {
 // List boxes and scroll bars answer as a text does, because no dialog uses their messages yet.
 const WindowClass controlClasses[] = {
-    {0x80, L"Button", buttonMessage}, {0x81, L"Edit", editMessage},
-    {0x82, L"Static", anyMessage},    {0x83, L"ListBox", anyMessage},
-    {0x84, L"ScrollBar", anyMessage}, {0x85, L"ComboBox", comboBoxMessage},
+    // clang-format off
+    {0x80, L"Button", buttonMessage},
+    {0x81, L"Edit", editMessage},
+    {0x82, L"Static", anyMessage},
+    {0x83, L"ListBox", anyMessage},
+    {0x84, L"ScrollBar", anyMessage},
+    {0x85, L"ComboBox", comboBoxMessage},
+    // clang-format on
 };
 }  // namespace
 

@@ -23,10 +23,24 @@ struct LocaleName
 };
 
 constexpr LocaleName localeNames[] = {
-    {0x0404, L"zh-TW"}, {0x0405, L"cs-CZ"}, {0x0407, L"de-DE"}, {0x0409, L"en-US"},
-    {0x040C, L"fr-FR"}, {0x040E, L"hu-HU"}, {0x0410, L"it-IT"}, {0x0411, L"ja-JP"},
-    {0x0412, L"ko-KR"}, {0x0415, L"pl-PL"}, {0x0416, L"pt-BR"}, {0x0419, L"ru-RU"},
-    {0x0422, L"uk-UA"}, {0x0804, L"zh-CN"}, {0x0809, L"en-GB"}, {0x0C0A, L"es-ES"},
+    // clang-format off
+    {0x0404, L"zh-TW"},
+    {0x0405, L"cs-CZ"},
+    {0x0407, L"de-DE"},
+    {0x0409, L"en-US"},
+    {0x040C, L"fr-FR"},
+    {0x040E, L"hu-HU"},
+    {0x0410, L"it-IT"},
+    {0x0411, L"ja-JP"},
+    {0x0412, L"ko-KR"},
+    {0x0415, L"pl-PL"},
+    {0x0416, L"pt-BR"},
+    {0x0419, L"ru-RU"},
+    {0x0422, L"uk-UA"},
+    {0x0804, L"zh-CN"},
+    {0x0809, L"en-GB"},
+    {0x0C0A, L"es-ES"},
+    // clang-format on
 };
 }  // namespace
 
