@@ -51,8 +51,8 @@ Slots<Entry> slotsOf(Entry* const (&table)[count])
     return slots;
 }
 
-// These functions return the slots of this module's own tables. The slots are [borrowed] as long as
-// the module is loaded.
+// Return the slots of this module's own tables. The slots are [borrowed] as long as the module is
+// loaded.
 Slots<const CommandEntry> commandSlots();
 Slots<CustomClassEntry> customClassSlots();
 Slots<const LispEntry> lispSlots();

@@ -41,8 +41,8 @@ struct Rows
     const Row* end;
 };
 
-// These functions return the rows of the options with whole numbers, real numbers and texts. The
-// rows are [borrowed] as long as the module is loaded.
+// Return the rows of the options with whole numbers, real numbers and texts. The rows are
+// [borrowed] as long as the module is loaded.
 Rows<IntOption> intOptions();
 Rows<RealOption> realOptions();
 Rows<TextOption> textOptions();

@@ -94,7 +94,7 @@ Record* DatabaseCore::addLoadedRecord(AcDbStub* table, const std::wstring& name,
     return record;
 }
 
-// Each returns the core [borrowed] of a database, or of the database that holds a stub.
+// Return the core [borrowed] of a database, or of the database that holds a stub.
 DatabaseCore& coreOf(const AcDbDatabase& database);
 
 inline DatabaseCore& coreOf(const AcDbStub* stub)

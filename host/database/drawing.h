@@ -5,7 +5,7 @@
 
 namespace host
 {
-// Each returns a part of the drawing [borrowed].
+// Return a part of the drawing [borrowed].
 inline DrawingState& stateOf(AcDbDatabase& database)
 {
     return coreOf(database).state();

@@ -9,7 +9,7 @@
 
 namespace host::dxf
 {
-// Checks, before a Replacement is made, whether `path` can be written. Throws the Error that the
+// Checks whether `path` can be written, before a Replacement is created. Throws the Error that the
 // Replacement would throw: the folder does not exist or takes no files, or the file is not
 // writable. Changes nothing.
 void requireReplaceable(const std::string& path);

@@ -13,7 +13,7 @@ public:
     // ' must follow its last byte. The views in tags are [borrowed] from the file.
     explicit TagReader(const TagFile& file);
 
-    // Advance to the next tag. They throw an Error if the file has no further tag.
+    // Advance to the next tag. Throw an Error if the file has no further tag.
     void next();
     void nextButComments();
     void skipTo(Code code);  // starts with the current tag

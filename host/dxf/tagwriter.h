@@ -52,7 +52,7 @@ public:
     TagWriter(const TagWriter&) = delete;
     TagWriter& operator=(const TagWriter&) = delete;
 
-    // Each writes one tag. Group codes are 0 to 1071.
+    // Write one tag. Group codes are 0 to 1071.
     void text(Code code, std::string_view encoded);  // one line in the file's code page
     void integer(Code code, std::int64_t value);
     void handle(Code code, std::uint64_t value);          // in hexadecimal capitals

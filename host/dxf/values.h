@@ -10,7 +10,7 @@
 
 namespace host::dxf
 {
-// Each writes an attribute. `Out` has the functions of a TagWriter.
+// Write an attribute. `Out` has the functions of a TagWriter.
 template <class Out>
 void putValue(Out& out, Code code, const std::wstring& value, const CodePage& codePage)
 {
@@ -78,8 +78,8 @@ struct TagSource
     const CodePage& codePage;
 };
 
-// Each reads `tag` into `value` if the tag belongs to the attribute that begins with `code`. All
-// throw an Error if the value has another type.
+// Read `tag` into `value` if the tag belongs to the attribute that begins with `code`. Throw an
+// Error if the value has another type.
 void takeValue(const TagSource& source, const Tag& tag, Code code, std::wstring& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, int& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, double& value);

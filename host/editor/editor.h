@@ -34,7 +34,8 @@ struct PromptInput
 class Editor
 {
 public:
-    // The front end [borrowed] outlives the editor. `trace` makes traceLine print.
+    // Creates the editor for a front end [borrowed] that outlives it. `trace` makes traceLine
+    // print.
     Editor(FrontEnd& frontEnd, bool trace);
     ~Editor();
     Editor(const Editor&) = delete;

@@ -80,7 +80,7 @@ struct LineOutput
 class LineFrontEnd : public FrontEnd
 {
 public:
-    // The reader [borrowed] outlives the front end.
+    // Creates a front end for a reader [borrowed] that outlives it.
     LineFrontEnd(AnswerReader& reader, LineOutput output);
 
     void print(std::string_view text) override;

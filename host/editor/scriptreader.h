@@ -15,7 +15,7 @@ namespace host
 class ScriptReader : public AnswerReader
 {
 public:
-    // `text` is the whole script in UTF-8, as scriptText returns it.
+    // Creates a reader of a whole script in UTF-8, as scriptText returns it.
     explicit ScriptReader(std::string text);
 
     Answer next(const Question& question) override;

@@ -25,7 +25,7 @@ struct Window
 class Paper : public Sink
 {
 public:
-    // `toView` maps [wcs] to the view.
+    // Opens a sheet. `toView` maps [wcs] to the view.
     Paper(FileKind kind, const AcGeMatrix3d& toView, const Window& window);
 
     void path(const Points& points, bool closed, Color color) override;

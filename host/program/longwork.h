@@ -20,7 +20,7 @@ class LongWork
 public:
     using Show = std::function<void(const std::optional<Meter>&)>;
 
-    // `show` gets the meter, or no value to remove it.
+    // Passes the meter to `show`, or no value to remove it.
     LongWork(std::wstring label, Show show);
     // Shows the meter of work outside commands. The front end is [borrowed].
     LongWork(OwnText label, FrontEnd& frontEnd);

@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <utility>
 
-// These end the run when an array is misused. The message on standard error names the call.
+// End the run when an array is misused. The message on standard error names the call.
 [[noreturn]] void acArrayIndexBreach(const char* call, int index, int length);
 [[noreturn]] void acArrayMemoryBreach();
 

@@ -50,8 +50,8 @@ public:
     // unless it is null, and the document is locked for write unless ACRX_CMD_SESSION is set.
     // UIContext and fcode have no effect. When cmdPtrRet is not null, it is set to the command
     // [borrowed]. A module removes its commands in kUnloadAppMsg; a command that is left behind
-    // ends the run. Returns eInvalidInput for an empty name or a null function, and eDuplicateKey
-    // when the group holds the global or the local name already.
+    // ends the run. Returns eInvalidInput for an empty or null name and for a null function, and
+    // eDuplicateKey when the group holds the global or the local name already.
     virtual Acad::ErrorStatus addCommand(const ACHAR* cmdGroupName, const ACHAR* cmdGlobalName,
                                          const ACHAR* cmdLocalName, Adesk::Int32 commandFlags,
                                          AcRxFunctionPtr functionAddr,
@@ -61,7 +61,7 @@ public:
 
     // Remove a command, or a group with all its commands. A group is removed with its last command.
     // A command that is running may remove itself and ends as usual. Return eInvalidInput for an
-    // empty name and eKeyNotFound for an unknown command or group.
+    // empty or null name and eKeyNotFound for an unknown command or group.
     virtual Acad::ErrorStatus removeCmd(const ACHAR* cmdGroupName, const ACHAR* cmdGlobalName) = 0;
     virtual Acad::ErrorStatus removeGroup(const ACHAR* groupName) = 0;
 

@@ -74,7 +74,7 @@ public:
                                          AcAp::DocLockMode, const ACHAR*)
     {
     }
-    // Called when the document becomes the one that calls act on.
+    // Called when later calls begin to act on the document.
     virtual void documentBecameCurrent(AcApDocument*) {}
     // Called before the document gets the input, before it loses it, and when it has it.
     // documentCreated is followed by documentToBeActivated, documentBecameCurrent and

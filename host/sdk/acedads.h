@@ -4,9 +4,9 @@
 // RTERROR when it could not, unless its comment says otherwise.
 //
 // Every prompt returns RTCAN for Esc and at the end of the input, and RTERROR when no user can be
-// asked. A prompt changes its result only when it returns RTNORM. It complains about a refused
-// answer on the command line and asks again. A prompt under a dialog that has not stepped aside
-// (CAcUiDialog::BeginEditorCommand) ends the run.
+// asked. A prompt changes its result only when it returns RTNORM, unless its comment says
+// otherwise. It complains about a refused answer on the command line and asks again. A prompt under
+// a dialog that has not stepped aside (CAcUiDialog::BeginEditorCommand) ends the run.
 #pragma once
 
 #include "adscodes.h"
@@ -43,6 +43,7 @@ int acedGetKword(const ACHAR* prompt, ACHAR* result);
 
 // Copies the keyword or other text that the last prompt accepted. The call asks no question and
 // keeps the options of the next prompt. str needs room for 133 characters; a longer text is cut.
+// Returns RTERROR for a null str.
 int acedGetInput(ACHAR* str);
 
 // Reads a system variable; the letter case of sym does not matter. Sets result to a single value
@@ -54,8 +55,9 @@ int acedGetVar(const ACHAR* sym, struct resbuf* result);
 
 // Sets a system variable; the letter case of sym does not matter. The value that acedGetVar
 // returned may be set again unchanged. A text is copied. The new value takes effect at once.
-// Returns RTERROR and sets the variable ERRNO for an unknown or read-only variable, a value of
-// another type or out of range, or the name of a record that the drawing does not have.
+// Returns RTERROR and sets the variable ERRNO for a null argument, an unknown or read-only
+// variable, a value of another type or out of range, or the name of a record that the drawing does
+// not have.
 int acedSetVar(const ACHAR* sym, const struct resbuf* val);
 
 // Shows a warning that the user has to see [prints]. While a dialog is on the screen, the warning

@@ -14,9 +14,9 @@ public:
     explicit CAcUiDialog(UINT templateId, CWnd* parent = nullptr, HINSTANCE resources = nullptr);
     virtual ~CAcUiDialog();
 
-    // Hides the dialog so that prompts may run. The dialog must be on the screen. Each call needs
-    // exactly one CompleteEditorCommand or CancelEditorCommand; a second Begin before that ends the
-    // run.
+    // Hides the dialog so that prompts may run. A dialog without a window ends the run. Each call
+    // needs exactly one CompleteEditorCommand or CancelEditorCommand; a second Begin before that
+    // ends the run.
     virtual void BeginEditorCommand();
     // Shows the dialog again, whatever the prompts returned; with FALSE the dialog stays hidden.
     // From then on a prompt ends the run again. A call without its Begin ends the run.

@@ -30,7 +30,8 @@ public:
     BOOL GetAutoSizeToBitmap() const;
     void SetAutoSizeToBitmap(BOOL size);
 
-    // For the host only. Both are null before AutoLoad.
+    // Return the bitmap and the module that holds it. Both are null before AutoLoad. Only the host
+    // calls these functions.
     HRSRC bitmap() const { return m_bitmap; }
     HINSTANCE bitmapModule() const { return m_bitmapModule; }
 

@@ -22,8 +22,8 @@ public:
     // null value, eInvalidKey for an empty or null key, and eAlreadyInDb; id is null then, and the
     // object still belongs to the caller.
     Acad::ErrorStatus setAt(const ACHAR* key, AcDbObject* value, AcDbObjectId& id);
-    // Sets id to the entry under that key [read]. Returns eKeyNotFound for an unknown key and for
-    // an erased entry; id is null then.
+    // Sets id to the entry under that key [read]. Returns eKeyNotFound for an unknown or null key
+    // and for an erased entry; id is null then.
     Acad::ErrorStatus getAt(const ACHAR* key, AcDbObjectId& id) const;
     // Tells whether getAt finds the key [read].
     bool has(const ACHAR* key) const;

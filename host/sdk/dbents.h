@@ -25,7 +25,7 @@ public:
     Acad::ErrorStatus setStartPoint(const AcGePoint3d& point);
     Acad::ErrorStatus setEndPoint(const AcGePoint3d& point);
 
-    // These do what the base classes describe. The stretch points are the start and the end.
+    // Do what the base classes describe. The stretch points are the start and the end.
     Acad::ErrorStatus transformBy(const AcGeMatrix3d& matrix) override;
     Acad::ErrorStatus getStretchPoints(AcGePoint3dArray& points) const override;
     Acad::ErrorStatus intersectWith(const AcDbEntity* other, AcDb::Intersect type,
@@ -117,7 +117,7 @@ public:
     // vertex while the polyline is in no database.
     AcDbObjectIterator* vertexIterator() const;
 
-    // These do what AcDbEntity describes. The vertices get the property only when doSubents is set.
+    // Do what AcDbEntity describes. The vertices get the property only when doSubents is set.
     Acad::ErrorStatus setColorIndex(Adesk::UInt16 color,
                                     Adesk::Boolean doSubents = Adesk::kTrue) override;
     using AcDbEntity::setLayer;

@@ -27,12 +27,12 @@ public:
     // Returns the drawing that holds the object [borrowed], or null for a null id.
     AcDbDatabase* database() const;
 
-    // Two ids are equal when they name the same object.
+    // Compare ids. Two ids are equal when they name the same object.
     bool operator==(const AcDbObjectId& other) const { return m_stub == other.m_stub; }
     bool operator!=(const AcDbObjectId& other) const { return m_stub != other.m_stub; }
     bool operator<(const AcDbObjectId& other) const { return m_stub < other.m_stub; }
 
-    // For the host only.
+    // Create an id from the host's own record, and return that record. Only the host calls them.
     explicit AcDbObjectId(AcDbStub* stub) : m_stub(stub) {}
     AcDbStub* stub() const { return m_stub; }
 

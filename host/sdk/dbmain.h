@@ -201,9 +201,10 @@ public:
     // also when the entities do not meet. If the other entity is in a database, it must be open.
     // Only a line can be asked, and the other entity must be a line or a 2D polyline. The points
     // come in decreasing order along this line, from its far end on. Points within
-    // AcGeContext::gTol of each other count as one. Entities in different planes do not meet. The
-    // markers have no effect. Returns eNullObjectPointer for a null `other` and eNotImplementedYet
-    // for any other pair of entities.
+    // AcGeContext::gTol of each other count as one. Entities that pass each other in space do not
+    // meet, and parts that overlap along their length give no points. The markers have no effect.
+    // Returns eNullObjectPointer for a null `other` and eNotImplementedYet for any other pair of
+    // entities.
     virtual Acad::ErrorStatus intersectWith(const AcDbEntity* other, AcDb::Intersect type,
                                             AcGePoint3dArray& points,
                                             Adesk::GsMarker thisMarker = 0,

@@ -31,16 +31,16 @@ public:
     virtual bool loadApp(const ACHAR* appName, AcadApp::LoadReasons al, bool printit,
                          bool asCmd = false) = 0;
 
-    // lockApplication, unlockApplication and registerAppMDIAware act on the module whose packet of
-    // kInitAppMsg is pkt. For any other pointer they return false and change nothing. A module is
-    // locked when it is loaded, and a locked module cannot be unloaded. registerAppMDIAware states
-    // that the module supports several drawings.
+    // Lock and unlock the module whose packet of kInitAppMsg is pkt. For any other pointer they
+    // return false and change nothing. A module is locked when it is loaded, and a locked module
+    // cannot be unloaded.
     virtual bool lockApplication(void* pkt) const = 0;
     virtual bool unlockApplication(void* pkt) const = 0;
-    // Returns false also when no such module is loaded.
+    // Tells whether the module is locked. Returns false when no such module is loaded.
     virtual bool isApplicationLocked(const ACHAR* name) const = 0;
-    // See lockApplication.
+    // States that the module whose packet is pkt supports several drawings. For any other pointer
+    // the call returns false and changes nothing.
     virtual bool registerAppMDIAware(void* pkt) const = 0;
-    // Returns false also when no such module is loaded.
+    // Tells whether the module has stated that. Returns false when no such module is loaded.
     virtual bool isAppMDIAware(const ACHAR* name) const = 0;
 };

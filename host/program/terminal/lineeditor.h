@@ -20,7 +20,7 @@ namespace host
 class LineEditor : public AnswerReader
 {
 public:
-    // The screen [borrowed] outlives the editor.
+    // Creates an editor on a screen [borrowed] that outlives it.
     explicit LineEditor(Screen& screen);
     ~LineEditor() override;
     LineEditor(const LineEditor&) = delete;
