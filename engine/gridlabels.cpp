@@ -24,14 +24,17 @@ AcGePoint3dArray labelPoints(const GridRequest& request, const std::vector<doubl
     line.start.z = clipper.elevation;
     line.end.z = clipper.elevation;
     AcGePoint3dArray pairs;
+    KnownPoints known(clipper.toWorld(axis == 0 ? AcGeVector3d::kXAxis : AcGeVector3d::kYAxis));
     for (std::size_t i = 0; i < positions.size(); ++i)
     {
         line.start[axis] = positions[i];
         line.end[axis] = positions[i];
         AcGePoint3dArray ends;
         clipper.intersectOutline(line, AcDb::kExtendThis, ends);
-        if (ends.length() == 2 && !containsPoint(pairs, ends[0]))
+        if (ends.length() == 2 && !known.contain(ends[0]))
         {
+            known.add(ends[0]);
+            known.add(ends[1]);
             pairs.append(ends);
         }
     }

@@ -45,6 +45,9 @@ public:
     // Returns false when the host cannot compute them.
     bool intersectOutline(const Piece& piece, AcDb::Intersect mode, AcGePoint3dArray& points) const;
 
+    // Returns the direction [wcs] of a direction in the system of the pieces.
+    AcGeVector3d toWorld(const AcGeVector3d& direction) const { return m_toWorld * direction; }
+
     const bool isInUcs;      // true: pieces are [ucs]; false: pieces are [wcs]
     const double elevation;  // z of all nodes
 

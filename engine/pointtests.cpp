@@ -84,12 +84,39 @@ int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve)
     return CurveArea(curve).locate(P);
 }
 
-bool containsPoint(const AcGePoint3dArray& list, const AcGePoint3d& P)
+namespace
 {
-    const BorrowedTolerance tolerance(atLeastRounding(listTolerance, largestCoordinate(P)));
-    for (int i = 0; i < list.length(); ++i)
+// Returns the index of the coordinate that changes most along the direction.
+int mainAxis(const AcGeVector3d& direction)
+{
+    const double x = std::fabs(direction.x);
+    const double y = std::fabs(direction.y);
+    const double z = std::fabs(direction.z);
+    return x >= y && x >= z ? 0 : y >= z ? 1 : 2;
+}
+}  // namespace
+
+KnownPoints::KnownPoints(const AcGeVector3d& direction) : m_axis(mainAxis(direction)) {}
+
+void KnownPoints::add(const AcGePoint3d& P)
+{
+    const double at = P[m_axis];
+    // NaN has no place in the order, and no point lies near it.
+    if (at == at)
     {
-        if (list[i].distanceTo(P) < AcGeContext::gTol.equalPoint())
+        m_points.insert(std::make_pair(at, P));
+    }
+}
+
+// No coordinate differs by more than the distance. Twice the distance leaves room for rounding.
+bool KnownPoints::contain(const AcGePoint3d& P) const
+{
+    const double distance = atLeastRounding(listTolerance, largestCoordinate(P));
+    const double last = P[m_axis] + 2 * distance;
+    auto known = m_points.lower_bound(P[m_axis] - 2 * distance);
+    for (; known != m_points.end() && known->first <= last; ++known)
+    {
+        if (known->second.distanceTo(P) < distance)
         {
             return true;
         }

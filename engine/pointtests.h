@@ -4,6 +4,8 @@
 // coordinates the caller raises equalPoint to the rounding of the coordinates (output/tolerance.h).
 #pragma once
 
+#include <map>
+
 #include "hostapi/host.h"
 
 // Returns the largest of the tolerances that the tests below use, in drawing units.
@@ -54,7 +56,22 @@ private:
 // is 0 on the curve and -99 elsewhere.
 int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve);
 
-// Returns whether a point of the list lies closer to P than 1e-6 drawing units. At survey
-// coordinates the distance is the rounding of the coordinates if that is coarser. The function
-// searches the list from its beginning, because lists are short.
-bool containsPoint(const AcGePoint3dArray& list, const AcGePoint3d& P);
+// Points that are searched for near ones. They are kept in the order of one coordinate, so a search
+// takes as long for many points as for few.
+class KnownPoints
+{
+public:
+    // The direction is the one along which the points lie apart, in their system. It makes the
+    // search quick and does not change its result.
+    explicit KnownPoints(const AcGeVector3d& direction);
+
+    void add(const AcGePoint3d& P);
+
+    // Returns whether one of the points lies closer to P than 1e-6 drawing units. At survey
+    // coordinates the distance is the rounding of the coordinates of P if that is coarser.
+    bool contain(const AcGePoint3d& P) const;
+
+private:
+    const int m_axis;
+    std::multimap<double, AcGePoint3d> m_points;  // by their coordinate along m_axis
+};

@@ -185,23 +185,29 @@ TEST(PointInCurve, refusesACurveThatTheHostCannotMeasure)
     EXPECT_EQ(pointInCurve({0, 0, 0}, Unmeasurable()), -99);
 }
 
-TEST(ContainsPoint, findsAPointThatLiesCloserThanAMillionth)
+TEST(KnownPoints, areFoundCloserThanAMillionth)
 {
-    const AcGePoint3dArray list = points({{0, 0, 0}, {10, 20, 30}});
-    EXPECT_TRUE(containsPoint(list, {10, 20, 30}));
-    EXPECT_TRUE(containsPoint(list, {0, 0, 9e-7}));
-    EXPECT_FALSE(containsPoint(list, {0, 0, 1e-6}));  // strictly closer
-    EXPECT_FALSE(containsPoint(list, {5, 5, 5}));
-    EXPECT_FALSE(containsPoint(points({}), {0, 0, 0}));
+    KnownPoints known(AcGeVector3d::kYAxis);
+    EXPECT_FALSE(known.contain({0, 0, 0}));
+    known.add({0, 0, 0});
+    known.add({10, 20, 30});
+    EXPECT_TRUE(known.contain({10, 20, 30}));
+    EXPECT_TRUE(known.contain({10, 20 + 9e-7, 30}));
+    EXPECT_TRUE(known.contain({0, 0, 9e-7}));
+    EXPECT_FALSE(known.contain({0, 0, 1e-6}));  // strictly closer
+    EXPECT_FALSE(known.contain({0, 1e-6, 0}));
+    EXPECT_FALSE(known.contain({5, 5, 5}));
 }
 
-TEST(ContainsPoint, givesTheGlobalToleranceBack)
+TEST(KnownPoints, areFoundAsQuicklyInALongRow)
 {
-    const BorrowedTolerance tolerance(0.125);
-    const AcGePoint3dArray list = points({{0, 0, 0}});
-    EXPECT_TRUE(containsPoint(list, {0, 0, 0}));
-    EXPECT_EQ(AcGeContext::gTol.equalPoint(), 0.125);
-    EXPECT_FALSE(containsPoint(list, {1, 0, 0}));
-    EXPECT_EQ(AcGeContext::gTol.equalPoint(), 0.125);
+    KnownPoints known({0.1, 0.2, -1});
+    for (int i = 0; i < 200000; ++i)  // a list would be searched for minutes
+    {
+        const AcGePoint3d P(i * 0.1, 7, -i);
+        ASSERT_FALSE(known.contain(P));
+        known.add(P);
+    }
+    EXPECT_TRUE(known.contain({10000, 7, -100000}));
 }
 }  // namespace
