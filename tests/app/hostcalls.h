@@ -1,4 +1,4 @@
-// The host as the application object sees it, with every call written down.
+// Records the calls that the application object makes to the host.
 #pragma once
 
 #include <map>
@@ -7,7 +7,8 @@
 
 #include "hostapi/host.h"
 
-// While it lives, the calls below go to it instead of the host; one at a time.
+// Receives the application's calls in place of the host while it lives. Only one object may exist
+// at a time.
 class HostCalls
 {
 public:
@@ -16,14 +17,15 @@ public:
     HostCalls(const HostCalls&) = delete;
     HostCalls& operator=(const HostCalls&) = delete;
 
-    // The calls since the last take, each as "name argument argument...".
+    // Returns the calls since the last take, each as "name argument argument...".
     std::vector<std::wstring> take();
     void note(const std::wstring& call) { m_calls.push_back(call); }
 
     bool registryIsEmpty = false;
-    int functionCode = -1;                         // answer of acedGetFunCode
-    std::map<unsigned, std::wstring> strings;      // of LoadStringW
-    std::vector<AcApDocManagerReactor*> reactors;  // of the document manager
+    int functionCode = -1;                     // the answer of acedGetFunCode
+    std::map<unsigned, std::wstring> strings;  // the texts that LoadStringW returns
+    std::vector<AcApDocManagerReactor*>
+        reactors;  // the reactors that were added to the document manager
     bool documentManagerIsMissing = false;
     bool extensionModulesAreRefused = false;
 

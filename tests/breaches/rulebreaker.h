@@ -1,4 +1,4 @@
-// What the modules here share: a command for each rule that it breaks.
+// Shared by the modules here: a command for each rule that a module breaks.
 #pragma once
 
 #include "acdocman.h"
@@ -29,7 +29,7 @@ inline void takeBack()
     acedRegCmds->removeGroup(L"Rules");
 }
 
-// As every module joins and leaves the chain of resources.
+// Joins and leaves the chain of resources as every module does.
 inline BOOL join(AFX_EXTENSION_MODULE& state, HINSTANCE module, DWORD reason)
 {
     if (reason == DLL_PROCESS_DETACH)

@@ -1,4 +1,4 @@
-// A dialog with a control of every kind, whose handlers are given by the test.
+// A dialog with a control of every kind and with handlers that the test provides.
 #pragma once
 
 #include <functional>
@@ -8,7 +8,7 @@
 #include "acui.h"
 #include "tests/support/dialogtemplate.h"
 
-// The template stands while the dialog does, in a module of its own.
+// Keeps the template in a separate module as long as the dialog lives.
 struct PanelResources
 {
     explicit PanelResources(const support::TemplateBuilder& made);
@@ -38,12 +38,13 @@ public:
         color,
         rule = 40,
         frame,
-        hidden = 50  // from the start of the dialog
+        hidden = 50  // hidden from the start of the dialog
     };
 
     explicit Panel(const support::TemplateBuilder& made = all(), CWnd* parent = nullptr);
 
-    // The controls from stepLabel to hidden, then OK, which is the default button, and Cancel.
+    // Returns a template with the controls from stepLabel to hidden, then OK, which is the default
+    // button, and Cancel.
     static support::TemplateBuilder all();
 
     std::wstring text(int id) const;
@@ -54,12 +55,12 @@ public:
 
     std::function<void()> onInit;
     std::function<void()> onPick;
-    std::function<bool()> mayOk;      // OK closes unless it says no
-    std::function<bool()> mayCancel;  // likewise
-    std::vector<std::string> told;    // "ID CODE" of what the controls told
+    std::function<bool()> mayOk;      // OK closes the dialog unless this function returns false
+    std::function<bool()> mayCancel;  // Cancel closes the dialog unless this function returns false
+    std::vector<std::string> told;    // "ID CODE" of each notification of a control
 
     CComboBox styles;           // "Standard", "Notes" and "Two words"
-    CAcUiColorComboBox colors;  // the fixed ones
+    CAcUiColorComboBox colors;  // the fixed colours
 
     virtual BOOL OnInitDialog() override;
 

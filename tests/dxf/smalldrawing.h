@@ -1,11 +1,12 @@
-// Drawing files small enough to be read in a test.
+// Builds drawing files that are small enough to be read in a test.
 #pragma once
 
 #include <string>
 
 #include "host/dxf/tagfile.h"
 
-// A drawing with these tags in section ENTITIES, written with "\n" and unpadded codes.
+// Returns a drawing with these tags in section ENTITIES, written with "
+// " and unpadded codes.
 inline std::string drawingWith(const std::string& entities, const std::string& version = "AC1027")
 {
     return "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\n" + version +
@@ -28,7 +29,7 @@ inline std::string withCrLf(const std::string& text)
     return replaced(text, "\n", "\r\n");
 }
 
-// Why the text is refused, "read" if it is not.
+// Returns the reason why the text is refused, or "read" if it is not.
 inline std::string refusal(const std::string& text)
 {
     try

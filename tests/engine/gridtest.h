@@ -1,4 +1,4 @@
-// A grid in an empty drawing, asked for as the command asks.
+// Draws a grid in an empty drawing, as the command does.
 #pragma once
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 
 namespace tests
 {
-// Continuous lines 10 apart both ways from the origin, labels off.
+// By default continuous lines 10 apart in both directions from the origin, without labels.
 struct GridOptions
 {
     double HorStep = 10;
@@ -50,7 +50,7 @@ struct LabelSeen
 class Grid : public OpenDrawing
 {
 protected:
-    // Two corners [ucs]: draws the outline through them.
+    // Draws the outline through two corners [ucs].
     void pick(const AcGePoint3d& first, const AcGePoint3d& other)
     {
         corner1 = toWcs(first);
@@ -63,7 +63,8 @@ protected:
         points.append(first);
         outline = addPolylineFrame(true, points, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
     }
-    // 30 x 20 from the origin, 10 apart: two lines up and one across lie inside.
+    // Picks 30 x 20 from the origin, with steps of 10: two vertical lines and one horizontal line
+    // are inside.
     void pickSheet() { pick({0, 0, 0}, {30, 20, 0}); }
 
     AcDbObjectIdArray build() const
@@ -84,7 +85,7 @@ protected:
                 options.bYLeftScribe = options.bYRightScribe = false;
     }
 
-    // In order of creation.
+    // Returns the labels in order of creation.
     std::vector<LabelSeen> labels() const
     {
         std::vector<LabelSeen> seen;

@@ -1,5 +1,5 @@
-// Memory and files that run out at a chosen moment, for our own code: what other libraries ask for
-// they get, and it does not count.
+// Makes memory and files run out at a chosen moment, but only for our own code: requests of other
+// libraries succeed and are not counted.
 #pragma once
 
 namespace scarcity
@@ -8,23 +8,22 @@ enum class Of
 {
     memory,      // every request for memory
     files,       // every call that opens, reads, writes, renames or closes a file
-    fileLength,  // likewise, but writes and reads do a part of their work instead of failing
+    fileLength,  // the same calls, but writes and reads do a part of their work instead of failing
     space,       // every call that makes a file or writes
 };
 
-// From the start on, requests are counted; number `first`, from 1, is refused, and with `forGood`
-// all after it.
+// Starts to count requests. Refuses number `first`, from 1, and with `forGood` all that follow.
 void start(Of what, long first, bool forGood, int error = 0);
-// Ends that. Whether a request was refused.
+// Stops the counting. Returns true if a request was refused.
 bool stop();
-// How many there were since the start, as far as they were counted.
+// Returns the number of requests since the start, as far as they were counted.
 long requests();
 
 struct Refused
 {
-    char last[256];  // the call on a file, and which; empty for none
+    char last[256];  // the call on a file and its name; empty if there was none
     bool deletion;   // whether a file could not be deleted
 };
-// Where to write that; null for nowhere.
+// Sets where to record the refused request; null records nothing.
 void noteRefusedIn(Refused* note);
 }  // namespace scarcity

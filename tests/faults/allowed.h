@@ -1,7 +1,7 @@
-// What a run may leave behind after a fault, and why.
+// Lists what a run may leave behind after a fault, and why.
 //
-// Runs are processes of their own. What they make use of is told to all of them, so that in the
-// end those rows are known that no run has needed.
+// Each run is a separate process. The rows that a run uses are shared among all processes, so that
+// in the end the rows are known that no run has needed.
 #pragma once
 
 #include <set>
@@ -11,14 +11,15 @@
 
 #include "tests/faults/blocks.h"
 
-// Before the first process is made.
+// Shares the record of used rows. It is called before the first process is created.
 void shareAllowances();
 std::vector<std::string> unusedAllowances();
 
-// `left` lists what differs: "UCS, UCSICON".
+// Tells whether a run may leave these differences, such as "UCS, UCSICON".
 bool mayLeave(const std::string& left);
 bool mayLeak(const faults::Leak& leak);
-// Whether the module may refuse to come or to go, with that word of the host.
+// Tells whether the module may refuse to be loaded or unloaded with that error of the host.
 bool mayStay(std::string_view error);
-// `report` is what the host said, `calls` those that failed.
+// Tells whether the host may end the run. `report` is the host's message, `calls` are the calls
+// that failed.
 bool mayStop(const std::string& report, const std::set<std::string>& calls);

@@ -1,5 +1,5 @@
-// The blocks of memory that the module has to give back: those that it asked for itself, by any
-// call, and texts that the host hands out.
+// Tracks the blocks of memory that the module must free: blocks that it requested itself, by any
+// call, and texts that the host returned to it.
 #pragma once
 
 #include <cstddef>
@@ -10,15 +10,15 @@ namespace faults
 struct Leak
 {
     std::size_t size;
-    int call;  // number of the host's call that came before it
+    int call;  // the number of the host's call before it
 };
 
-// Not where the address sanitizer has calls of its own in their place.
+// False where the address sanitizer replaces the same calls.
 extern const bool blocksAreNoted;
 
-// From here on blocks are noted, once a process; those of before do not count.
+// Starts to record blocks, once in a process. Earlier blocks are ignored.
 void noteBlocks();
 
-// What nobody has given back since. Ends the noting.
+// Returns the blocks that have not been freed since, and ends the recording.
 std::vector<Leak> leaks();
 }  // namespace faults

@@ -1,7 +1,7 @@
-// How a call that fails on purpose is written.
+// Defines calls that fail on purpose.
 //
-// A function of a class is written as the plain function that it is to the linker: the object comes
-// first. A failed call leaves everything as it was, but for what it promises to clear.
+// A member function is written as the plain function that the linker knows, with the object as its
+// first argument. A failed call leaves everything unchanged except what it promises to clear.
 #pragma once
 
 #include <iterator>
@@ -15,8 +15,9 @@ using faults::outcomeOf;
 
 #define CALLER __builtin_return_address(0)
 
-// RESULT NAME PARAMETERS, called SYMBOL by the linker and TITLE by people. CLEAR is done when it
-// fails; then it gives one of the outcomes. The last ONCE of these it gives once a run only.
+// Defines the function RESULT NAME PARAMETERS, which is SYMBOL to the linker and TITLE to people.
+// When it fails, it executes CLEAR and returns one of the outcomes. It returns each of the last
+// ONCE outcomes only once in a run.
 #define CALL_THAT_FAILS(RESULT, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ONCE, ...) \
     extern "C" __attribute__((visibility("default"))) RESULT NAME PARAMETERS __asm__(SYMBOL); \
     extern "C" RESULT NAME PARAMETERS                                                         \
@@ -37,14 +38,14 @@ using faults::outcomeOf;
 #define STATUS_CALL(NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, ...) \
     CALL_THAT_FAILS(ErrorStatus, NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, CLEAR, 0, __VA_ARGS__)
 
-// Why an object cannot be opened.
+// The reasons why an object cannot be opened.
 #define REFUSED_OPENINGS                                                                        \
     Acad::eNullObjectId, Acad::eWasErased, Acad::eNotImplementedYet, Acad::eNotThatKindOfClass, \
         Acad::eWasOpenForWrite, Acad::eWasOpenForRead, Acad::eAtMaxReaders, Acad::eOnLockedLayer
 
 #define NOTHING ((void)0)
 
-// One that gives nothing: it fails by doing nothing, or what INSTEAD says.
+// Defines a function without a result. It fails by doing nothing, or by executing INSTEAD.
 #define SILENT_CALL(NAME, SYMBOL, TITLE, PARAMETERS, ARGUMENTS, INSTEAD)                    \
     extern "C" __attribute__((visibility("default"))) void NAME PARAMETERS __asm__(SYMBOL); \
     extern "C" void NAME PARAMETERS                                                         \

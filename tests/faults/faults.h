@@ -1,7 +1,8 @@
-// Failing the host's calls on purpose.
+// Makes calls of the host fail on purpose.
 //
-// The program stands before the host's library, so its functions are what the module calls. Each
-// counts the call and either fails it or hands it on; the host's own calls always go on.
+// The linker finds the program before the host's library, so the module calls the program's
+// functions. Each one counts the call and either makes it fail or passes it on. Calls of the host
+// itself are always passed on.
 #pragma once
 
 #include <string>
@@ -9,44 +10,45 @@
 
 namespace faults
 {
-// Calls are numbered from 0, in the order of one run.
+// The calls that fail. Calls are numbered from 0 in the order of one run.
 struct Plan
 {
     int first = -1;               // this call fails
-    int second = -1;              // so does this one
-    bool fromFirst = false;       // and every one from the first on
+    int second = -1;              // this call fails, too
+    bool fromFirst = false;       // every call from the first on fails
     const char* every = nullptr;  // every call of this name fails
-    unsigned outcome = 0;         // which of the ways in which the call can fail
+    unsigned outcome = 0;         // selects one of the ways in which the call can fail
 };
 
-// A call of an unfailed run.
+// A call of a run without faults.
 struct Call
 {
     const char* name;
-    unsigned outcomes;  // in how many ways it can fail
-    unsigned onceOnly;  // the last so many of them only once in a run
+    unsigned outcomes;  // the number of ways in which it can fail
+    unsigned onceOnly;  // the number of outcomes, the last ones, that occur only once in a run
 };
 
 void begin(const Plan& plan);
-const std::vector<Call>& calls();  // since `begin`
-bool failed(const char* name);     // whether a call of that name was failed
-std::string failures();            // what was failed, with numbers
+const std::vector<Call>& calls();  // the calls since `begin`
+bool failed(const char* name);     // whether a call of that name has failed
+std::string failures();            // the failed calls with their numbers
 
-// A call that can be failed.
+// A call that can be made to fail.
 struct Row
 {
     const char* name;
-    const char* symbol;  // as the linker knows it
+    const char* symbol;  // the name in the linker
 };
 const std::vector<Row>& listed();
 
-// Adds one and gives true. Entities and services are called through their tables of virtual
-// functions: where these hold the host's function of that symbol, `own` takes its place.
+// Adds a call and returns true. The module calls entities and services through their tables of
+// virtual functions; where a table holds the host's function of that symbol, `own` replaces it.
 bool list(const char* name, const char* symbol, void* own);
 
-// For the functions that stand in place of the host's: the outcome to fail with, or -1.
+// Returns the outcome with which the call fails, or -1. The functions that replace the host's call
+// it.
 int outcomeOf(const char* name, unsigned outcomes, unsigned onceOnly, const void* caller);
 
-// Whether that address is the module's code.
+// Tells whether the address is in the module's code.
 bool isInModule(const void* address);
 }  // namespace faults

@@ -1,4 +1,4 @@
-// One run of a script, with calls that fail.
+// Runs a script while calls fail.
 #pragma once
 
 #include <string>
@@ -6,9 +6,11 @@
 #include "tests/faults/faults.h"
 #include "tests/faults/scripts.h"
 
-// Opens a drawing in which nothing stands as a run sets it.
+// Opens a drawing in which no value is the one that a run sets.
 void openDrawing();
-// Loads the module from the current folder; what the host has against it, empty for nothing.
+// Loads the module from the current folder. Returns the host's objection, or an empty text when it
+// has none.
 std::string loadModule();
-// Complaints of one run, a line each; empty when all is well. The drawing is closed after it.
+// Runs the script and closes the drawing. Returns the complaints about the run, one a line, or an
+// empty text when there are none.
 std::string runOnce(const Script& script, const faults::Plan& plan);

@@ -1,4 +1,4 @@
-// What is typed while calls fail.
+// The scripts that are typed while calls fail.
 #pragma once
 
 #include <deque>
@@ -11,19 +11,19 @@ struct Script
     enum class Kind
     {
         plain,
-        allPairs,  // short enough for all pairs of its calls to fail
-        loads      // the module, otherwise there, is loaded before and unloaded after
+        allPairs,  // short enough to let all pairs of its calls fail
+        loads      // loads and unloads the module, which is loaded already for the other kinds
     };
 
     const char* name;
-    const char* options;  // lines of properties.ini beside the steps, parted by blanks
-    const char* answers;  // parted by bars
+    const char* options;  // the lines of properties.ini beside the steps, separated by blanks
+    const char* answers;  // separated by bars
     Kind kind = Kind::plain;
 };
 
-// Those that load come first.
+// Returns the scripts; those that load the module come first.
 std::span<const Script> scripts();
 
 std::deque<std::string> parted(const std::string& text, char separator);
-// The module's options beside its file; every run finds them as the script has them.
+// Writes the module's options beside its file, so that every run finds the options of its script.
 void writeOptions(const std::filesystem::path& folder, const Script& script);

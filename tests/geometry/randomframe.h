@@ -1,4 +1,4 @@
-// Frames and numbers for the tests that try many.
+// Creates random frames and numbers for the tests that try many.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 
 #include "gemat3d.h"
 
-// The same numbers in every plain run; a shuffled run prints the seed that it uses.
+// Gives the same numbers in every plain run; a shuffled run prints the seed that it uses.
 class Dice
 {
 public:
@@ -17,7 +17,7 @@ public:
     {
         return std::uniform_real_distribution<double>(low, high)(m_engine);
     }
-    // As a surveyor writes it: three decimals.
+    // Returns a number with three decimals, as surveyors write them.
     double measured(double low, double high) { return std::round(between(low, high) * 1e3) / 1e3; }
 
     AcGeVector3d vector(double reach)

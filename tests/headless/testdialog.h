@@ -1,4 +1,4 @@
-// A dialog that writes down what it is told.
+// A dialog that records the messages that it receives.
 #pragma once
 
 #include <functional>
@@ -10,8 +10,8 @@
 struct Told
 {
     UINT message;
-    int id;    // of the control, for WM_COMMAND
-    int code;  // likewise
+    int id;    // the id of the control, for WM_COMMAND
+    int code;  // the notification code, for WM_COMMAND
     HWND control;
 
     bool operator==(const Told&) const = default;
@@ -22,7 +22,7 @@ class TestDialog
 public:
     typedef std::function<INT_PTR(HWND dialog, UINT message, WPARAM wParam)> Answer;
 
-    // The answer to every message; TRUE where there is none.
+    // Creates a dialog that answers every message with `answer`, or with TRUE without one.
     explicit TestDialog(const support::TemplateBuilder& made, Answer answer = {},
                         HWND owner = nullptr);
     ~TestDialog();
@@ -33,9 +33,9 @@ public:
     LRESULT send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     LRESULT send(int id, UINT message, WPARAM wParam, LPCWSTR text) const;
 
-    HWND window = nullptr;   // null when it was refused
-    std::vector<Told> told;  // not WM_INITDIALOG
-    WPARAM toldFocus = 0;    // by WM_INITDIALOG
+    HWND window = nullptr;   // null when the system refused the template
+    std::vector<Told> told;  // the messages except WM_INITDIALOG
+    WPARAM toldFocus = 0;    // the control that WM_INITDIALOG named
 
 private:
     static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);

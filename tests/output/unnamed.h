@@ -1,11 +1,12 @@
-// Records of symbol tables whose names the host does not tell.
+// Makes the host refuse to name the records of symbol tables.
 #pragma once
 
 #include "hostapi/host.h"
 
 namespace tests
 {
-// While it lives, the module gets no name of any record, and this status; one at a time.
+// While it lives, the module gets this status and no name for every record. Only one object may
+// exist at a time.
 class Unnamed
 {
 public:

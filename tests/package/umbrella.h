@@ -1,6 +1,6 @@
-// Stands in for the headers of the real host where they bring more than the module asks for:
-// classes under the names of its own, and Windows' macros that look like plain names. It comes
-// before each file of the module when check_objectarx.py compiles it.
+// Replaces the headers of the real host where they contain more than the module requests: classes
+// with the names of its own classes, and Windows' macros that look like plain names.
+// check_objectarx.py puts it before each file of the module when it compiles the file.
 #include <algorithm>
 #include <cmath>
 #include <cwchar>
@@ -11,7 +11,7 @@
 
 #include "hostapi/host.h"
 
-// Another frame for application objects, with other members.
+// Other base classes of application objects, with other members.
 class AcRxDbxApp
 {
 public:

@@ -1,4 +1,4 @@
-// A PNG file back as pixels, read by the system's drawing library.
+// Reads a PNG file as pixels with the system's drawing library.
 #pragma once
 
 #include <algorithm>
@@ -10,12 +10,13 @@ namespace tests
 class Picture
 {
 public:
-    // Of no size when the bytes are no picture.
+    // Reads the bytes of a file. The picture has no size when the bytes are not a picture.
     explicit Picture(const std::string& bytes);
 
     int width() const { return m_width; }
     int height() const { return m_height; }
-    // 0xRRGGBB. From the lower left corner, parts of the sheet from 0 to 1.
+    // Returns the colour 0xRRGGBB at a place, given from the lower left corner in parts of the
+    // sheet from 0 to 1.
     unsigned at(double x, double y) const
     {
         const int column = std::min(int(x * m_width), m_width - 1);

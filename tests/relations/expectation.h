@@ -1,5 +1,5 @@
-// What a grid has to look like, found in another way than the engine finds it: each whole line is
-// clipped once by the half-planes of the outline's edges. Nothing here is shared with the engine.
+// Computes what a grid must look like in another way than the engine: it clips each whole line once
+// by the half-planes of the outline's edges. It shares no code with the engine.
 #pragma once
 
 #include <optional>
@@ -19,23 +19,24 @@ public:
         double low;
         double high;
     };
-    // Part of the endless line within; none when it passes by or runs along an edge.
+    // Returns the part of the infinite line within the outline, or no value when the line passes by
+    // or runs along an edge.
     std::optional<Span> clip(Direction direction, double at) const;
 
-    // From the nearest edge, to the inside; negative outside.
+    // Returns the distance from the nearest edge, which is negative outside.
     double depth(const Spot& spot) const;
     double distanceTo(int edge, const Spot& spot) const { return m_edges[edge].distance(spot); }
 
     bool isConvex() const { return m_isConvex; }
     double size() const { return m_size; }
-    // Smallest sine between an edge and a line that is not along it.
+    // Returns the smallest sine between an edge and a line that is not along it.
     double flattest() const { return m_flattest; }
 
 private:
     struct Edge
     {
         Spot start;
-        Spot inwards;  // of length 1
+        Spot inwards;  // a unit vector
         double distance(const Spot& spot) const
         {
             return (spot.x - start.x) * inwards.x + (spot.y - start.y) * inwards.y;
@@ -50,11 +51,11 @@ private:
 
 struct Expectation
 {
-    Picture picture;   // labels with exact values
-    double tolerance;  // of the ends of parts and of values
+    Picture picture;   // the labels have exact values
+    double tolerance;  // the tolerance of the ends of parts and of values
 };
 
-// None for a case in which the tolerances of the point tests decide, see Clipper::isBeyond, or an
-// edge is all but parallel to the lines.
+// Returns the expectation, or no value for a case in which the tolerances of the point tests decide
+// (see Clipper::isBeyond) or an edge is almost parallel to the lines.
 std::optional<Expectation> expectationOf(const GridCase& asked);
 }  // namespace relations

@@ -1,4 +1,4 @@
-// Grids that chance asks for, and how they are drawn.
+// Chooses random grids and draws them.
 #pragma once
 
 #include <array>
@@ -16,15 +16,15 @@ namespace relations
 const double infinity = std::numeric_limits<double>::infinity();
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-// Everything that a grid is asked for with.
+// All parameters of a grid.
 struct GridCase
 {
-    AcGeMatrix3d ucs;  // to world
+    AcGeMatrix3d ucs;  // [ucs] to [wcs]
     bool alongUcs = false;
     std::array<AcGePoint3d, 4> outline;  // [wcs]; the first and the third are the picked corners
     AcGePoint3d base;                    // [wcs]
-    std::array<double, 2> steps = {};    // between vertical lines, between horizontal ones
-    std::optional<double> crossSize;     // none: continuous lines
+    std::array<double, 2> steps = {};    // between vertical lines and between horizontal lines
+    std::optional<double> crossSize;     // no value: continuous lines
     bool needText = true;
     double heightText = 1;
     int decimals = 3;
@@ -32,10 +32,11 @@ struct GridCase
     std::array<bool, 4> yEdges = {};
 };
 
-// For the trace of a failure, with every bit of every number.
+// Describes a case for the trace of a failure, with every bit of every number.
 std::string describe(const GridCase& asked);
 
-// Plain arithmetic on the engine's bits: the same cases come out of every library and compiler.
+// Uses plain arithmetic on the engine's bits, so that every library and compiler gives the same
+// cases.
 class Chance
 {
 public:
@@ -53,7 +54,8 @@ private:
     std::mt19937_64 m_engine;
 };
 
-// A turn of the plane without the C library's sine, whose last bit may differ between processors.
+// Returns a rotation of the plane without the C library's sine, whose last bit may differ between
+// processors.
 AcGeMatrix3d turnOfXY(double tangentOfHalf);
 AcGeMatrix3d turnInSpace(Chance& chance);
 
@@ -61,28 +63,30 @@ enum class Shape
 {
     rectangle,  // in the UCS, as the command draws it
     convex,     // any four corners, cut along the world's axes, without labels
-    concave,    // likewise
+    concave,    // four corners with a reflex angle, cut in the same way
 };
 
-// Three kinds in turn: whole numbers, so that lines run along edges and through corners; fractions;
-// survey coordinates. Up to some forty nodes.
+// Returns cases of three kinds in turn: whole numbers, so that lines run along edges and through
+// corners; fractions; survey coordinates. A case has up to some forty nodes.
 GridCase randomCase(Chance& chance, Shape shape);
 
-// How many cases a test takes: its own number, or what the environment says in NETRAX_CASES.
+// Returns the number of cases of a test: its own number, or the value of NETRAX_CASES in the
+// environment.
 int caseCount(int usual);
-// The seed of a test: a number of its own, moved by what the environment says in NETRAX_SEED.
+// Returns the seed of a test: its own number, moved by the value of NETRAX_SEED in the environment.
 std::uint64_t caseSeed(std::uint64_t own);
 
-// A drawing to draw grids in.
+// A drawing in which grids are drawn.
 class Sheet : public tests::OpenDrawing
 {
 protected:
-    // Makes the case's UCS current and draws its outline. What earlier calls gave may be gone then:
-    // nothing is erased between them, but now and then the drawing is left for a new one.
+    // Makes the case's UCS current and draws its outline. Ids from earlier calls may be invalid
+    // afterwards: entities are not erased between calls, but now and then a new drawing replaces
+    // the drawing.
     AcDbObjectId drawOutline(const GridCase& asked);
-    // None with a number that is not finite.
+    // Adds an outline. Returns a null id when a number is not finite.
     static AcDbObjectId addOutline(const AcGePoint3dArray& points);
-    // Everything that the grid made.
+    // Draws the grid and returns all its entities.
     static AcDbObjectIdArray drawGrid(const AcDbObjectId& outline, const GridCase& asked,
                                       decltype(buildGrid)* build = &buildGrid);
 

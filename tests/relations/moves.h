@@ -1,4 +1,4 @@
-// Grids shifted, turned and mirrored, and what becomes of their pictures.
+// Shifts, turns and mirrors grids, and tells how their pictures change.
 #pragma once
 
 #include "tests/relations/picture.h"
@@ -9,13 +9,13 @@ struct Move
 {
     const char* name;
     GridCase (*moved)(const GridCase& asked, Chance& chance);
-    // What the moved grid has to look like when the other looks so.
+    // Returns what the moved grid must look like when the other grid has this picture.
     Picture (*seen)(const Picture& picture, bool alongUcs);
 };
 
-// Everything goes to another place, up to 1000 or up to ten million units away.
-// Everything is turned: by a quarter where the grid runs along the world's axes, which do not turn
-// with it, by anything and in space along the UCS.
-// The X axis of the world is turned round; left and right of the UCS change places.
+// - The whole grid is shifted, by up to 1000 or up to ten million units.
+// - The whole grid is turned: by a quarter turn where it runs along the world's axes, which do not
+//   turn with it, and by any angle, also in space, along the UCS.
+// - The X axis of the world is reversed, so that left and right of the UCS are swapped.
 extern const Move moves[3];
 }  // namespace relations

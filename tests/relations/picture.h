@@ -1,5 +1,5 @@
-// A grid as its lines see it: everything relative to the base point, along the grid's own axes.
-// Shifted and turned grids have one picture, mirrored ones a mirrored picture.
+// A grid relative to its base point, along its own axes. Shifted and turned grids have the same
+// picture; mirrored grids have a mirrored picture.
 #pragma once
 
 #include <map>
@@ -26,7 +26,7 @@ struct Spot
     double across(Direction direction) const { return direction == vertical ? x : y; }
 };
 
-// Of the one direction, the n-th from the base point.
+// Names the n-th line of a direction, counted from the base point.
 using LineName = std::pair<Direction, long long>;
 
 struct Part
@@ -35,22 +35,23 @@ struct Part
     double high;
 };
 
-// At the higher end of the line or at the lower one.
+// Names the label at the higher or the lower end of a line.
 using LabelName = std::tuple<Direction, long long, bool>;
 
 struct Picture
 {
-    std::map<LineName, std::vector<Part>> lines;  // each from its low end to its high end
-    std::map<LabelName, double> labels;           // the numbers they show
+    std::map<LineName, std::vector<Part>>
+        lines;                           // the parts of each line, from its low end to its high end
+    std::map<LabelName, double> labels;  // the numbers that the labels show
 };
 
-// Corners and coordinates in the world, in the UCS and of its origin: none is rounded more
-// coarsely.
+// Returns the largest absolute coordinate of the corners in the world and in the UCS and of the
+// origin of the UCS: no coordinate is rounded more coarsely.
 double largestNumber(const GridCase& asked);
 
 Spot seenFromBase(const GridCase& asked, const AcGePoint3d& wcs);
 
-// Those of the entities that are of the class.
+// Calls the action for the entities that are of the class.
 template <class Entity, class Action>
 void forEach(const AcDbObjectIdArray& ids, Action action)
 {
@@ -64,7 +65,7 @@ void forEach(const AcDbObjectIdArray& ids, Action action)
     }
 }
 
-// What was drawn. Adds a failure for a line that is not where a step from the base point is, for a
-// label where no line ends and for two labels at one end.
+// Returns what was drawn. Adds a failure for a line that is not a step from the base point, for a
+// label without the end of a line, and for two labels at one end.
 Picture pictureOf(const GridCase& asked, const AcDbObjectIdArray& made);
 }  // namespace relations

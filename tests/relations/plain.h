@@ -1,4 +1,4 @@
-// The steps of the plain grid among themselves.
+// The steps of the plain grid.
 #pragma once
 
 #include "tests/relations/plaingrid.h"
@@ -11,7 +11,7 @@ struct Labels
     CString prefix;
 };
 
-// Everything that was asked for, and what is known of it so far.
+// The requested grid and the intermediate results.
 struct Grid
 {
     AcGePoint3d corner1, corner2, base;  // [ucs] in the UCS grid, once they are converted
@@ -26,8 +26,8 @@ struct Grid
     CarriedOn carriedOn;
 
     const AcDbEntity* boundary = nullptr;
-    AcGePoint3dArray outline{};             // of the world grid
-    const AcDbCurve* rectangle = nullptr;   // of the UCS grid
+    AcGePoint3dArray outline{};             // the outline of the world grid
+    const AcDbCurve* rectangle = nullptr;   // the rectangle of the UCS grid
     AcGePoint3dArray xPoints{}, yPoints{};  // label points [wcs], in pairs
     AcDbObjectIdArray made{};
 
@@ -40,13 +40,13 @@ struct Grid
     }
 };
 
-// Exchanges x and y, each by itself, so that corner1 holds the smaller and corner2 the larger.
+// Swaps x and y independently, so that corner1 holds the smaller and corner2 the larger values.
 void orderCorners(AcGePoint3d& corner1, AcGePoint3d& corner2);
 
-// Draws the pieces at each node and notes their label points.
+// Draws the pieces at each node and records their label points.
 void drawNodes(Grid& grid, double elevation);
 
-// Of the picked rectangle [wcs], top and left as the user sees them.
+// The edges of the picked rectangle [wcs], with top and left as the user sees them.
 struct Edges
 {
     AcGeLineSeg3d top, bottom, left, right;

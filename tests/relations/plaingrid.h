@@ -1,22 +1,23 @@
-// The grid once more, step by step as it is meant: every point is tested in full, every piece that
-// is drawn asks for the label points of its line, nothing is remembered from piece to piece. It
-// takes from the module what makes entities and writes numbers, and nothing of the engine.
+// The reference implementation of the grid, step by step: every point is tested in full, every
+// drawn piece computes the label points of its line, and no result is reused for the next piece. It
+// uses the module's functions that create entities and format numbers, but no code of the engine.
 //
-// Too slow for a drawing; the engine's own, with all its short cuts, must draw the very same.
+// It is too slow for real drawings. The engine with all its optimisations must draw exactly the
+// same grid.
 #pragma once
 
 #include "hostapi/host.h"
 
 namespace relations
 {
-// Which line is carried on to the outline for label points.
+// Selects the line that is extended to the outline for label points.
 enum class CarriedOn
 {
     wholeLine,  // the line of the piece, from end to end of the grid: the engine's way
     piece,      // the piece as the drawing keeps it; the same line but for rounding
 };
 
-// As buildGrid in engine/buildgrid.h.
+// Draws a grid as buildGrid in engine/buildgrid.h does.
 template <CarriedOn carriedOn>
 AcDbObjectIdArray buildPlainGrid(AcDbObjectId boundaryId, AcGePoint3d corner1, AcGePoint3d corner2,
                                  double HorStep, double VertStep, Adesk::UInt16 Color,

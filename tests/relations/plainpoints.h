@@ -1,14 +1,15 @@
-// Where a point lies, asked in full for every point: angles all round, no quick look, nothing kept.
-// Results and tolerances are those of engine/pointtests.h; nothing is shared with it.
+// Tests in full where each point lies: all angles are summed, without a shortcut and without a
+// stored result. Results and tolerances are those of engine/pointtests.h, but no code is shared
+// with it.
 #pragma once
 
 #include "hostapi/host.h"
 
 namespace relations::plain
 {
-// Only the first four points count; -99 for fewer.
+// Tells where P lies relative to the first four points. Returns -99 for fewer than four.
 int pointInOutlinePoints(const AcGePoint3d& P, const AcGePoint3dArray& points);
 int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve);
-// Closer than 1e-6 to one of the list.
+// Tells whether P is closer than 1e-6 to a point of the list.
 bool containsPoint(const AcGePoint3dArray& list, const AcGePoint3d& P);
 }  // namespace relations::plain

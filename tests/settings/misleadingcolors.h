@@ -1,7 +1,8 @@
-// A list of colours whose answer to a new recent colour is of no use.
+// Makes a list of colours return a useless answer for a new recent colour.
 #pragma once
 
-// While it lives, AddColorToMRU does its work and gives this answer; one at a time.
+// While it lives, AddColorToMRU does its work and returns this answer. Only one object may exist at
+// a time.
 class MisleadingColors
 {
 public:

@@ -1,9 +1,9 @@
-// Where the module seems to lie.
+// Sets the place where the module appears to be.
 #pragma once
 
 #include <string>
 
-// While it lives, every module has this path; one at a time.
+// While it lives, every module has this path. Only one object may exist at a time.
 class ModulePath
 {
 public:

@@ -1,4 +1,4 @@
-// Where the Tab key stops in the settings dialog, one stop after the other.
+// Lists the controls of the settings dialog at which the Tab key stops, in order.
 #pragma once
 
 #include <vector>
@@ -8,7 +8,7 @@
 
 using TabStops = std::vector<int>;
 
-// Of a group of radio buttons only the one that is on; nothing that is disabled.
+// In a group of radio buttons Tab stops only at the checked one. It passes over disabled controls.
 inline const TabStops stopsAtTheDefaults = {
     IDC_VERT_STEP, IDC_PICK_VERT_STEP, IDC_HOR_STEP, IDC_PICK_HOR_STEP,   IDC_COLOR,
     IDC_LINES,     IDC_ERASE_BOUNDARY, IDC_MODE_WCS, IDC_PICK_BASE_POINT, IDC_NEED_TEXT,

@@ -1,4 +1,4 @@
-// A settings file of a test's own.
+// A settings file for one test.
 #pragma once
 
 #include <filesystem>
@@ -9,7 +9,7 @@
 
 #include "hostapi/host.h"
 
-// In a new folder that goes with it.
+// The file is in a new folder, which is removed with it.
 class TemporaryFile
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     void write(const std::string& bytes) const { std::ofstream(file(), std::ios::binary) << bytes; }
 
-    // A folder takes its place, which nobody can write as a file.
+    // Replaces the file by a folder, so that the file cannot be written.
     void block() const
     {
         std::filesystem::remove(file());

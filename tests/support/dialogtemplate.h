@@ -1,4 +1,4 @@
-// Dialog templates and resource files as a resource compiler writes them, for tests.
+// Builds dialog templates and resource files as a resource compiler writes them, for tests.
 #pragma once
 
 #include <cstddef>
@@ -13,17 +13,17 @@ typedef std::vector<std::byte> Bytes;
 
 const DWORD plainDialog = DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU;
 
-// A template of the extended form. Positions and sizes are dialog units. A class and a picture may
-// be given by name or by number (MAKEINTRESOURCEW).
+// A template of the extended form. Positions and sizes are in dialog units. Classes and pictures
+// have a name or a number (MAKEINTRESOURCEW).
 class TemplateBuilder
 {
 public:
     TemplateBuilder(LPCWSTR caption, int width, int height, DWORD style = plainDialog);
 
-    // A visible child, whatever the style says besides.
+    // Adds a visible child, whatever else the style contains.
     TemplateBuilder& control(int id, LPCWSTR className, DWORD style, int x, int y, int width,
                              int height, LPCWSTR text = L"");
-    // Data that the last control gets when it is made.
+    // Adds data that the last control receives when it is created.
     TemplateBuilder& creationData(const Bytes& data);
 
     Bytes bytes() const;
@@ -49,8 +49,8 @@ private:
     Bytes m_bytes;
 };
 
-// Gives a module resources for as long as it lives. What the module had before is gone afterwards,
-// so take a handle that no module has: newModule().
+// Gives a module resources while it lives. The module's former resources are lost afterwards, so
+// use a handle that no module has: newModule().
 class GivenResources
 {
 public:
@@ -64,6 +64,6 @@ private:
     Bytes m_bytes;
 };
 
-// A handle that no module has.
+// Returns a handle that no module has.
 HINSTANCE newModule();
 }  // namespace support

@@ -21,7 +21,7 @@ public:
     AcDbDatabase* operator->() { return m_database.get(); }
     host::DatabaseCore& core() { return host::coreOf(*m_database); }
 
-    // Appends to model space and closes; the entity belongs to the drawing afterwards.
+    // Appends the entity [adopted] to model space and closes it. Returns its id.
     AcDbObjectId add(AcDbEntity* entity)
     {
         AcDbObjectId id;

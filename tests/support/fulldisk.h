@@ -1,4 +1,4 @@
-// A full disk for tests of Linux.
+// Simulates a full disk for tests of Linux.
 #pragma once
 
 #include <sys/resource.h>
@@ -7,7 +7,7 @@
 
 namespace tests
 {
-// A disk that is full for as long as one of these lives: no file grows.
+// Makes the disk full while it lives: no file grows.
 class FullDisk
 {
 public:

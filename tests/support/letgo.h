@@ -1,4 +1,4 @@
-// Objects that the module lets go on purpose, told to the leak checker.
+// Tells the leak checker which objects the module abandons on purpose.
 #pragma once
 
 #include "tests/support/sanitized.h"
@@ -9,7 +9,8 @@
 
 namespace tests
 {
-// What is allocated while it lives counts as no leak: an entity that the host refuses is nobody's.
+// An allocation while it lives does not count as a leak: an entity that the host refuses has no
+// owner.
 class LetGo
 {
 public:

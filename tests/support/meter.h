@@ -1,4 +1,4 @@
-// The progress meter of the status bar, written down.
+// Records the progress meter of the status bar.
 #pragma once
 
 #include <functional>
@@ -7,7 +7,8 @@
 
 namespace tests
 {
-// While it lives the meter is its own and nothing is printed; one at a time.
+// Replaces the meter while it lives, so that no meter is printed. Only one object may exist at a
+// time.
 class Meter
 {
 public:

@@ -1,4 +1,4 @@
-// An empty drawing that is open in the host, for tests of what draws into it.
+// An empty drawing that is open in the host, for tests of code that draws into it.
 #pragma once
 
 #include <string>
@@ -17,7 +17,8 @@ struct LineSeen
     AcGePoint3d end;
 };
 
-// Opens it, sees to it that nothing is left open and the global tolerance is back, and closes it.
+// Opens the drawing. Before it closes the drawing, it checks that no object is left open and that
+// the global tolerance is restored.
 class OpenDrawing : public testing::Test
 {
 protected:
@@ -29,16 +30,16 @@ protected:
 
     AcDbObjectId modelSpace() const;
 
-    // Turned about Z by an angle in degrees, with its origin there [wcs].
+    // Sets a UCS with this origin [wcs], turned about Z by an angle in degrees.
     void setUcs(const AcGePoint3d& origin, double degrees = 0);
     void setUcs(const AcGeMatrix3d& ucsToWorld) { state().ucs().toWorld = ucsToWorld; }
 
-    // Entities made since SetUp that are not erased, vertices not counted.
+    // Returns the entities made since SetUp that are not erased, without vertices.
     AcDbObjectIdArray entities() const;
     std::vector<LineSeen> lines() const;  // [wcs], in order of creation
     std::vector<std::wstring> texts() const;
 
-    // A test that leaves an object open on purpose says so.
+    // Closes an object that the test leaves open on purpose.
     void closeLeftOpen(const AcDbObjectId& id);
 
 private:
@@ -46,7 +47,7 @@ private:
     AcGeTol m_tolerance;
 };
 
-// What `read` finds in an object of that class.
+// Returns the result of `read` for an object of that class.
 template <class Object, class Read>
 auto inspect(const AcDbObjectId& id, Read read)
 {

@@ -1,4 +1,4 @@
-// Tells the tests whether the address sanitizer watches them; compilers say it in two ways.
+// Tells the tests whether the address sanitizer is active; compilers report it in two ways.
 #pragma once
 
 #ifdef __has_feature

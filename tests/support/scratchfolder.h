@@ -1,4 +1,4 @@
-// A folder of its own for a test that writes thousands of small files.
+// A separate folder for a test that writes thousands of small files.
 #pragma once
 
 #include <stdlib.h>
@@ -9,7 +9,7 @@
 
 namespace support
 {
-// New and empty; in memory where the system has such a place. Whoever asks takes it away.
+// Creates an empty folder, in memory where the system has such a place. The caller removes it.
 inline std::filesystem::path scratchFolder()
 {
     const char* const inMemory = "/dev/shm";

@@ -15,8 +15,8 @@
 
 namespace support
 {
-// A front end that answers from a list, on the command's own thread. A line stands for what a user
-// types: "" is Enter, "^C" is Esc. When the list is used up the input has ended.
+// A front end that answers from a list, on the command's own thread. A line is what a user types:
+// "" is Enter, "^C" is Esc. The input ends after the last line.
 class Typist : public host::FrontEnd
 {
 public:
@@ -30,8 +30,8 @@ public:
     std::vector<host::Question> questions;
 };
 
-// One drawing, open as the current document for as long as the session lives, with the host's
-// commands registered. A command line stands there during type and run only.
+// A drawing that is the current document while the session lives, with the host's commands
+// registered. A command line exists only during type and run.
 class Session
 {
 public:
@@ -40,7 +40,7 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    // Registers a command of the group TEST; it goes with the session.
+    // Registers a command of the group TEST, which is removed with the session.
     void define(const wchar_t* name, AcRxFunctionPtr function, int flags = ACRX_CMD_MODAL,
                 HINSTANCE resources = nullptr);
 
@@ -54,8 +54,8 @@ public:
     AcDbDatabase& drawing() const { return *document().database(); }
 
     bool trace = false;                     // print the meter's events
-    bool endedInsideCommand = false;        // the lines of the last type or run did not suffice
-    std::vector<std::string> reports;       // of the last type or run
-    std::vector<host::Question> questions;  // likewise
+    bool endedInsideCommand = false;        // the last type or run had too few lines
+    std::vector<std::string> reports;       // the reports of the last type or run
+    std::vector<host::Question> questions;  // the questions of the last type or run
 };
 }  // namespace support

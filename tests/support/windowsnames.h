@@ -1,4 +1,4 @@
-// Words that Windows' headers take for their own.
+// Removes macros of Windows' headers that are plain words.
 #pragma once
 
 #include <windows.h>

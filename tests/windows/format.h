@@ -1,4 +1,4 @@
-// The host's formatting with the arguments written out.
+// Formats as the host does, with the arguments given directly.
 #pragma once
 
 #include <cstdarg>

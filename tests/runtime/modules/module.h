@@ -1,4 +1,4 @@
-// What the modules here share: each tells the messages it gets at the command line.
+// Shared by the modules here: each prints the messages that it receives on the command line.
 #pragma once
 
 #include "accmd.h"

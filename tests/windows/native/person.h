@@ -1,4 +1,4 @@
-// A person who works the windows with a mouse and a keyboard while a console waits for a line.
+// Simulates a person who uses windows with a mouse and a keyboard while a console waits for a line.
 #pragma once
 
 #include <atomic>
@@ -10,20 +10,20 @@
 #include "host/editor/rendezvous.h"
 #include "windows.h"
 
-// Real keys and clicks, as if they came from the hardware.
+// Send keys and clicks as if they came from the hardware.
 void press(WORD key);
 void pressWithShift(WORD key);
 void moveTo(HWND control);
 void clickOn(HWND control);
 
-// The control that has the keyboard in the thread of the window; null for none.
+// Returns the control that has the focus in the window's thread, or null.
 HWND focusAt(HWND window);
 
-// Whether it came true within some seconds.
+// Waits some seconds and tells whether the condition became true.
 bool comesTrue(const std::function<bool()>& condition);
 
-// Answers each question on a thread of its own, with what `act` brings from the console; a click
-// that `act` makes may withdraw the question meanwhile.
+// Answers each question on a separate thread with what `act` returns from the console. A click that
+// `act` makes may withdraw the question meanwhile.
 class Person : public host::FrontEnd
 {
 public:
@@ -37,9 +37,9 @@ public:
     host::Answer ask(const host::Question& question) override;
     bool interactive() const override { return true; }
 
-    std::atomic<int> asked = 0;  // questions of the command
+    std::atomic<int> asked = 0;  // the number of questions of the command
     std::string transcript;
-    std::vector<host::Answer::Kind> answers;  // as the command was given them
+    std::vector<host::Answer::Kind> answers;  // the answers that the command received
 
 private:
     void sit();
