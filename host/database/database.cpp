@@ -1,5 +1,6 @@
 #include "dbapserv.h"
 #include "host/database/core.h"
+#include "host/database/packing.h"
 
 struct AcDbDatabase::Internals
 {
@@ -26,7 +27,12 @@ AcDbDatabase::~AcDbDatabase()
 
 Acad::ErrorStatus AcDbDatabase::getBlockTable(AcDbBlockTable*& table, AcDb::OpenMode mode)
 {
-    return acdbOpenObject(table, blockTableId(), mode);
+    // Every line that is drawn asks for this table. It is never erased, and its class is known.
+    AcDbStub* const stub = m_internals->core.roots()[host::Root::blockTable];
+    const Acad::ErrorStatus status =
+        stub != nullptr ? host::openUnpacked(stub, mode) : Acad::eNullObjectId;
+    table = status == Acad::eOk ? static_cast<AcDbBlockTable*>(stub->object) : nullptr;
+    return status;
 }
 
 Acad::ErrorStatus AcDbDatabase::getLayerTable(AcDbLayerTable*& table, AcDb::OpenMode mode)

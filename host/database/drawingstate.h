@@ -1,6 +1,7 @@
 // The state of a drawing beside its objects: view, coordinate systems and variables.
 #pragma once
 
+#include <cstring>
 #include <map>
 #include <string>
 #include <variant>
@@ -8,6 +9,7 @@
 #include "gemat3d.h"
 #include "gepnt3d.h"
 #include "gevec3d.h"
+#include "host/geometry/finite.h"
 
 namespace host
 {
@@ -27,10 +29,33 @@ struct View
     double aspect = 1.4;
 };
 
+// The matrix of a coordinate system. Every end of every line of a grid is converted, so the matrix
+// is compared with the identity only once.
+class Frame
+{
+public:
+    Frame() = default;
+    Frame(const AcGeMatrix3d& matrix)
+        : m_matrix(matrix),
+          m_isIdentity(std::memcmp(matrix.entry, AcGeMatrix3d().entry, sizeof matrix.entry) == 0)
+    {
+    }
+
+    operator const AcGeMatrix3d&() const { return m_matrix; }
+    const AcGeMatrix3d* operator->() const { return &m_matrix; }
+    // Tells whether the matrix is the identity to the last bit and the point is finite. The image
+    // of the point is the point itself then, except that a negative zero becomes positive.
+    bool leaves(const AcGePoint3d& point) const { return m_isIdentity && isFinite(point); }
+
+private:
+    AcGeMatrix3d m_matrix;
+    bool m_isIdentity = true;
+};
+
 struct Ucs
 {
-    AcGeMatrix3d toWorld;  // [ucs] to [wcs]; the columns are the axes X, Y, Z and the origin
-    std::wstring name;     // empty for an unnamed system and for the world
+    Frame toWorld;      // [ucs] to [wcs]; the columns are the axes X, Y, Z and the origin
+    std::wstring name;  // empty for an unnamed system and for the world
 };
 
 struct DrawingState

@@ -1,6 +1,9 @@
 #include "host/database/entitystyle.h"
 
+#include "host/database/objectstate.h"
+
 using host::LineStyle;
+using host::ObjectState;
 
 LineStyle AcDbEntity::Internals::styleOf(const AcDbEntity& entity)
 {
@@ -15,6 +18,17 @@ LineStyle AcDbEntity::Internals::styleOf(const AcDbEntity& entity)
     style.lineWeight = entity.m_lineWeight;
     style.invisible = entity.m_invisible;
     return style;
+}
+
+bool AcDbEntity::Internals::hasStyle(const AcDbEntity& entity, const LineStyle& style)
+{
+    const AcGeVector3d& normal = entity.m_normal;
+    return ObjectState::owner(entity) == style.owner && entity.m_layer == style.layer &&
+           entity.m_linetype == style.linetype && normal.x == style.normal.x &&
+           normal.y == style.normal.y && normal.z == style.normal.z &&
+           entity.m_linetypeScale == style.linetypeScale && entity.m_reactors == style.reactors &&
+           entity.m_color == style.color && entity.m_lineWeight == style.lineWeight &&
+           entity.m_invisible == style.invisible;
 }
 
 void AcDbEntity::Internals::setStyle(AcDbEntity& entity, const LineStyle& style)
@@ -34,6 +48,16 @@ void AcDbEntity::Internals::fill(AcDbEntity& entity, const host::CurrentProperti
 {
     if (entity.m_given == all)
     {
+        return;
+    }
+    if (entity.m_given == 0)
+    {
+        entity.m_layer = current.layer;
+        entity.m_linetype = current.linetype;
+        entity.m_color = current.color;
+        entity.m_lineWeight = current.lineWeight;
+        entity.m_linetypeScale = current.linetypeScale;
+        entity.m_given = all;
         return;
     }
     const auto isOpen = [&entity](Property property) { return (entity.m_given & property) == 0; };

@@ -22,6 +22,8 @@ struct AcDbEntity::Internals
 
     // Returns all properties of the entity.
     static host::LineStyle styleOf(const AcDbEntity& entity);
+    // Tells whether styleOf would return that style.
+    static bool hasStyle(const AcDbEntity& entity, const host::LineStyle& style);
     // Sets all properties of a style. They all count as set afterwards.
     static void setStyle(AcDbEntity& entity, const host::LineStyle& style);
     // Fills in the properties that were not set from the drawing's current properties.

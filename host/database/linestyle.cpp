@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <functional>
 
+#include "host/database/entitystyle.h"
+
 namespace host
 {
 std::size_t LineStyleHash::operator()(const LineStyle& style) const
@@ -19,7 +21,13 @@ std::size_t LineStyleHash::operator()(const LineStyle& style) const
     return hash;
 }
 
-std::uint32_t LineStyles::find(const LineStyle& style)
+std::uint32_t LineStyles::internStyleOf(const AcDbEntity& entity)
+{
+    const bool isLast = m_last < m_styles.size() && EntityStyle::hasStyle(entity, m_styles[m_last]);
+    return isLast ? m_last : find(EntityStyle::styleOf(entity));
+}
+
+[[gnu::noinline]] std::uint32_t LineStyles::find(const LineStyle& style)
 {
     const auto [found, isNew] = m_numbers.try_emplace(style, std::uint32_t(m_styles.size()));
     if (isNew)

@@ -47,6 +47,8 @@ public:
     {
         return m_last < m_styles.size() && m_styles[m_last] == style ? m_last : find(style);
     }
+    // Does the same for the style of an entity. A copy is made only of a new style.
+    std::uint32_t internStyleOf(const AcDbEntity& entity);
     const LineStyle& operator[](std::uint32_t number) const { return m_styles[number]; }
 
 private:

@@ -31,11 +31,28 @@ AcDbObject::AcDbObject()
 {
 }
 
+namespace
+{
+// Every line of a grid needs the calls below several times. The texts of a breach would make each
+// of them save registers and set up a large frame, so a breach is built in a function of its own
+// that is never inlined.
+[[noreturn, gnu::noinline]] void breachOf(const AcDbObject& object, const char* call,
+                                          const char* what)
+{
+    host::breach(call, "the " + host::describe(object) + what);
+}
+
+[[noreturn, gnu::noinline]] void breachOfOwner()
+{
+    host::breach("AcDbObject::~AcDbObject", "an object that belongs to a database was deleted");
+}
+}  // namespace
+
 AcDbObject::~AcDbObject()
 {
     if (m_stub != nullptr && !m_released)
     {
-        host::breach("AcDbObject::~AcDbObject", "an object that belongs to a database was deleted");
+        breachOfOwner();
     }
 }
 
@@ -68,7 +85,7 @@ void AcDbObject::assertReadEnabled(const char* call) const
 {
     if (!isReadEnabled())
     {
-        host::breach(call, "the " + host::describe(*this) + " is not open");
+        breachOf(*this, call, " is not open");
     }
 }
 
@@ -76,7 +93,7 @@ void AcDbObject::assertWriteEnabled(const char* call) const
 {
     if (!m_forWrite)
     {
-        host::breach(call, "the " + host::describe(*this) + " is not open for write");
+        breachOf(*this, call, " is not open for write");
     }
     m_changed = true;
 }
@@ -128,6 +145,17 @@ Acad::ErrorStatus AcDbObject::downgradeOpen()
     return Acad::eOk;
 }
 
+namespace
+{
+[[gnu::noinline]] void alignText(AcDbObject& object)
+{
+    if (AcDbText* text = AcDbText::cast(&object))
+    {
+        text->adjustAlignment();
+    }
+}
+}  // namespace
+
 Acad::ErrorStatus AcDbObject::close()
 {
     if (m_stub == nullptr)
@@ -138,8 +166,7 @@ Acad::ErrorStatus AcDbObject::close()
     {
         if (!m_forgiveClose)
         {
-            host::breach("AcDbObject::close",
-                         "the " + host::describe(*this) + " is already closed");
+            breachOf(*this, "AcDbObject::close", " is already closed");
         }
         m_forgiveClose = false;
         return Acad::eNotOpenForWrite;
@@ -150,10 +177,9 @@ Acad::ErrorStatus AcDbObject::close()
         return Acad::eOk;
     }
     const std::uint32_t kind = m_stub->flags & (AcDbStub::isEntity | AcDbStub::isLine);
-    const bool mayBeText = m_forWrite && kind == AcDbStub::isEntity;
-    if (AcDbText* text = mayBeText ? AcDbText::cast(this) : nullptr)
+    if (m_forWrite && kind == AcDbStub::isEntity)
     {
-        text->adjustAlignment();
+        alignText(*this);
     }
     m_readers = 0;
     m_forWrite = false;
@@ -190,8 +216,10 @@ namespace
 Acad::ErrorStatus mayOpen(const AcDbObject& object, AcDb::OpenMode mode, bool openOnLockedLayer)
 {
     const Acad::ErrorStatus status = host::ObjectState::mayOpen(object, mode);
-    const bool asksLayer = status == Acad::eOk && mode == AcDb::kForWrite && !openOnLockedLayer;
-    return asksLayer && onLockedLayer(object.objectId().stub()) ? Acad::eOnLockedLayer : status;
+    const AcDbStub* stub = object.objectId().stub();
+    const bool asksLayer = status == Acad::eOk && mode == AcDb::kForWrite && !openOnLockedLayer &&
+                           (stub->flags & AcDbStub::isEntity) != 0;
+    return asksLayer && onLockedLayer(stub) ? Acad::eOnLockedLayer : status;
 }
 
 void markOpen(AcDbObject& object, AcDb::OpenMode mode)
@@ -202,6 +230,16 @@ void markOpen(AcDbObject& object, AcDb::OpenMode mode)
     }
 }
 }  // namespace
+
+Acad::ErrorStatus host::openUnpacked(AcDbStub* stub, AcDb::OpenMode mode)
+{
+    const Acad::ErrorStatus status = mayOpen(*stub->object, mode, false);
+    if (status == Acad::eOk)
+    {
+        markOpen(*stub->object, mode);
+    }
+    return status;
+}
 
 Acad::ErrorStatus acdbOpenOfClass(AcDbObject*& object, AcDbObjectId id, AcRxClass* type,
                                   AcDb::OpenMode mode, bool openErased, bool openOnLockedLayer)

@@ -15,6 +15,9 @@ struct AcDbObject::Internals
     // Deletes an object of a drawing. No other code may do so.
     static void destroy(AcDbObject* object);
 
+    static AcDbStub* stub(const AcDbObject& object) { return object.m_stub; }
+    static AcDbStub* owner(const AcDbObject& object) { return object.m_owner; }
+
     // Returns eOk, eNotImplementedYet, eWasOpenForWrite, eWasOpenForRead or eAtMaxReaders. Does not
     // check whether the layer is locked.
     static Acad::ErrorStatus mayOpen(const AcDbObject& object, AcDb::OpenMode mode);

@@ -68,7 +68,7 @@ void ObjectStore::pack(AcDbLine* line)
         const AcGePoint3d end = line->endPoint();
         const double points[] = {start.x, start.y, start.z, end.x, end.y, end.z};
         std::copy(std::begin(points), std::end(points), stub->line);
-        stub->style = m_styles.intern(EntityStyle::styleOf(*line));
+        stub->style = m_styles.internStyleOf(*line);
     }
     m_retired.add(line);
 }

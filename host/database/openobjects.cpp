@@ -18,14 +18,8 @@ OpenObjects::~OpenObjects()
     }
 }
 
-void OpenObjects::remove(const AcDbObject& object)
+void OpenObjects::removeEarlier(const AcDbObject& object)
 {
-    // Usually the object opened last is closed first.
-    if (m_objects.back() == &object)
-    {
-        m_objects.pop_back();
-        return;
-    }
     const auto found = std::find(m_objects.rbegin(), m_objects.rend(), &object);
     m_objects.erase(std::next(found).base());
 }

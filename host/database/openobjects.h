@@ -21,12 +21,23 @@ public:
     // Adds an object [borrowed] that has just been opened.
     void add(AcDbObject& object) { m_objects.push_back(&object); }
     // Removes an object, which must have been added.
-    void remove(const AcDbObject& object);
+    void remove(const AcDbObject& object)
+    {
+        // Usually the object opened last is closed first.
+        if (m_objects.back() == &object)
+        {
+            m_objects.pop_back();
+            return;
+        }
+        removeEarlier(object);
+    }
 
     bool empty() const { return m_objects.empty(); }
     AcDbObject& last() const { return *m_objects.back(); }
 
 private:
+    void removeEarlier(const AcDbObject& object);
+
     std::vector<AcDbObject*> m_objects;
 };
 }  // namespace host

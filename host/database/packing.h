@@ -21,6 +21,9 @@ namespace host
 // Returns the object on the heap [borrowed]. Unpacks a packed line. Returns nullptr for a foreign
 // object, because such an object exists only in the file.
 AcDbObject* resolve(AcDbStub* stub);
+// Opens an object that is on the heap, whatever its class and erased or not. Returns the statuses
+// of acdbOpenAcDbObject that remain.
+Acad::ErrorStatus openUnpacked(AcDbStub* stub, AcDb::OpenMode mode);
 // Return a property without unpacking the object [borrowed]. typeOf and ownerOf return nullptr for
 // a foreign object; layerOf returns nullptr for anything except an entity made in this run.
 AcRxClass* typeOf(const AcDbStub* stub);

@@ -1,7 +1,5 @@
 #include "host/database/recordnames.h"
 
-#include <cwchar>
-
 #include "host/text/foldcase.h"
 
 const std::wstring& AcDbSymbolTable::Internals::add(const std::wstring& name, AcDbStub* record)
@@ -11,12 +9,8 @@ const std::wstring& AcDbSymbolTable::Internals::add(const std::wstring& name, Ac
     return m_names.emplace_back(name);
 }
 
-AcDbStub* AcDbSymbolTable::Internals::find(const wchar_t* name)
+[[gnu::noinline]] AcDbStub* AcDbSymbolTable::Internals::findOther(const wchar_t* name)
 {
-    if (m_last != nullptr && std::wcscmp(m_lastName.c_str(), name) == 0)
-    {
-        return m_last;
-    }
     const auto found = m_byFoldedName.find(host::foldCase(name));
     if (found == m_byFoldedName.end())
     {

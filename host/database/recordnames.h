@@ -1,6 +1,7 @@
 // Finds the records of one table by their names.
 #pragma once
 
+#include <cwchar>
 #include <deque>
 #include <string>
 #include <unordered_map>
@@ -20,11 +21,17 @@ public:
     // lives.
     const std::wstring& add(const std::wstring& name, AcDbStub* record);
     // Returns the record [borrowed], or nullptr if the table never had one of that name.
-    AcDbStub* find(const wchar_t* name);
+    AcDbStub* find(const wchar_t* name)
+    {
+        return m_last != nullptr && std::wcscmp(m_lastName.c_str(), name) == 0 ? m_last
+                                                                               : findOther(name);
+    }
     // Returns the records in the order in which they were added [borrowed].
     const std::vector<AcDbStub*>& inOrder() const { return m_order; }
 
 private:
+    AcDbStub* findOther(const wchar_t* name);
+
     std::vector<AcDbStub*> m_order;
     std::deque<std::wstring> m_names;
     std::unordered_map<std::wstring, AcDbStub*> m_byFoldedName;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "dbents.h"
+#include "host/database/objectmemory.h"
 #include "host/database/objectstate.h"
 
 namespace host
@@ -13,6 +14,7 @@ RetiredLines::~RetiredLines()
     {
         ObjectState::destroy(line);
     }
+    freeKeptMemory();
 }
 
 void RetiredLines::add(AcDbLine* line)

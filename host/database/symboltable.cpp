@@ -2,6 +2,7 @@
 
 #include "acutmem.h"
 #include "host/database/drawing.h"
+#include "host/database/packing.h"
 #include "host/database/recordnames.h"
 #include "host/database/tablerecords.h"
 
@@ -71,7 +72,9 @@ Acad::ErrorStatus AcDbSymbolTable::openAt(const ACHAR* name, AcDbObject*& record
     {
         return status == Acad::eDeletedEntry ? Acad::eWasErased : status;
     }
-    return acdbOpenAcDbObject(record, id, mode, openErased);
+    const Acad::ErrorStatus opened = host::openUnpacked(id.stub(), mode);
+    record = opened == Acad::eOk ? id.stub()->object : nullptr;
+    return opened;
 }
 
 void AcDbSymbolTable::fillIterator(AcDbSymbolTableIterator& iterator, bool atBeginning,

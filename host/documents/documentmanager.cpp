@@ -13,6 +13,16 @@ ACRX_DEFINE_MEMBERS(AcApDocManagerReactor, AcRxObject)
 
 namespace host
 {
+namespace
+{
+Document* openNow = nullptr;
+}  // namespace
+
+Document* openDocument()
+{
+    return openNow;
+}
+
 DocumentManager::DocumentManager()
 {
     linker().setListeners(
@@ -25,6 +35,7 @@ Document& DocumentManager::open(std::unique_ptr<AcDbDatabase> database, std::fil
     auto document = std::make_unique<Document>(std::move(database), std::move(path));
     notify([&](AcApDocManagerReactor& reactor) { reactor.documentCreateStarted(document.get()); });
     m_document = std::move(document);
+    openNow = m_document.get();
     acdbHostApplicationServices()->setWorkingDatabase(m_document->database());
 
     AcApDocument* const opened = m_document.get();
@@ -49,6 +60,7 @@ void DocumentManager::close()
 
     const std::wstring fileName = m_document->fileName();
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    openNow = nullptr;
     m_document.reset();
     notify([&](AcApDocManagerReactor& reactor) { reactor.documentDestroyed(fileName.c_str()); });
 }

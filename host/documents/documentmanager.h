@@ -60,4 +60,7 @@ private:
 
 // Returns the one document manager [borrowed], which lives as long as the program.
 DocumentManager& documents();
+// Returns the same as documents().document(), without a look whether the manager has been made yet.
+// Every line of a grid asks several times.
+Document* openDocument();
 }  // namespace host

@@ -53,7 +53,8 @@ Ucs ucsOf(const schema::UcsVariables& variables)
     // Directions so long that their length overflows do not make a coordinate system either.
     if (z.length() > 1e-6 && std::isfinite(x.length() + y.length() + z.length()))
     {
-        ucs.toWorld.setCoordSystem(variables.origin, x.normal(), y.normal(), z.normal());
+        ucs.toWorld =
+            AcGeMatrix3d().setCoordSystem(variables.origin, x.normal(), y.normal(), z.normal());
         ucs.name = variables.name;
     }
     return ucs;

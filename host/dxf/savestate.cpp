@@ -21,7 +21,7 @@ bool same(const Ucs& a, const Ucs& b)
     {
         for (int column = 0; column < 4; ++column)
         {
-            equal = equal && a.toWorld.entry[row][column] == b.toWorld.entry[row][column];
+            equal = equal && a.toWorld->entry[row][column] == b.toWorld->entry[row][column];
         }
     }
     return equal;
@@ -42,7 +42,7 @@ schema::UcsVariables variablesOf(const Ucs& ucs)
     schema::UcsVariables variables;
     variables.name = ucs.name;
     AcGeVector3d z;
-    ucs.toWorld.getCoordSystem(variables.origin, variables.x, variables.y, z);
+    ucs.toWorld->getCoordSystem(variables.origin, variables.x, variables.y, z);
     return variables;
 }
 
@@ -68,7 +68,7 @@ schema::viewport::Viewport viewportOf(const DrawingState& state,
         viewport.ucsIcon = state.ucsIcon;
     }
     AcGeVector3d z;
-    state.modelUcs.toWorld.getCoordSystem(viewport.ucsOrigin, viewport.ucsX, viewport.ucsY, z);
+    state.modelUcs.toWorld->getCoordSystem(viewport.ucsOrigin, viewport.ucsX, viewport.ucsY, z);
     return viewport;
 }
 

@@ -12,16 +12,16 @@
 namespace
 {
 // Returns the current UCS [borrowed]; null without a drawing.
-const AcGeMatrix3d* currentUcs()
+const host::Frame* currentUcs()
 {
-    const host::Document* document = host::documents().document();
+    const host::Document* document = host::openDocument();
     return document != nullptr ? &host::stateOf(*document->database()).ucs().toWorld : nullptr;
 }
 }  // namespace
 
 Acad::ErrorStatus acedGetCurrentUCS(AcGeMatrix3d& mat)
 {
-    const AcGeMatrix3d* const ucs = currentUcs();
+    const host::Frame* const ucs = currentUcs();
     if (ucs == nullptr)
     {
         return Acad::eNoDatabase;
@@ -48,7 +48,7 @@ bool acedRestorePreviousUCS()
 
 bool acdbWcs2Ucs(ads_point p, ads_point q, bool vec)
 {
-    const AcGeMatrix3d* const ucs = currentUcs();
+    const host::Frame* const ucs = currentUcs();
     if (p == nullptr || q == nullptr || ucs == nullptr)
     {
         return false;
@@ -58,13 +58,18 @@ bool acdbWcs2Ucs(ads_point p, ads_point q, bool vec)
         asVec3d(q) = host::worldToUcs(*ucs, asVec3d(p));
         return true;
     }
+    if (ucs->leaves(asPnt3d(p)))
+    {
+        asPnt3d(q) = asPnt3d(p) + AcGeVector3d();  // the sum removes a negative zero
+        return true;
+    }
     asPnt3d(q) = host::worldToUcs(*ucs, asPnt3d(p));
     return true;
 }
 
 bool acdbUcs2Wcs(ads_point p, ads_point q, bool vec)
 {
-    const AcGeMatrix3d* const ucs = currentUcs();
+    const host::Frame* const ucs = currentUcs();
     if (p == nullptr || q == nullptr || ucs == nullptr)
     {
         return false;

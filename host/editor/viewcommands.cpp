@@ -140,6 +140,6 @@ void planCommand()
         planOfNamedUcs(editor);
         return;
     }
-    usePlanOf(option == L"World" ? AcGeMatrix3d() : state().ucs().toWorld);
+    usePlanOf(option == L"World" ? Frame() : state().ucs().toWorld);
 }
 }  // namespace host

@@ -1,20 +1,20 @@
 // Tells whether the coordinates of points and vectors are finite: neither infinite nor NaN.
 #pragma once
 
-#include <cmath>
-
 #include "gepnt3d.h"
 #include "gevec3d.h"
 
 namespace host
 {
-inline bool isFinite(const AcGePoint3d& point)
-{
-    return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z);
-}
-
 inline bool isFinite(const AcGeVector3d& vector)
 {
-    return std::isfinite(vector.x) && std::isfinite(vector.y) && std::isfinite(vector.z);
+    // Zero times a number is zero unless the number is not finite. Every line of a drawing is
+    // asked.
+    return vector.x * 0 + vector.y * 0 + vector.z * 0 == 0;
+}
+
+inline bool isFinite(const AcGePoint3d& point)
+{
+    return isFinite(point.asVector());
 }
 }  // namespace host

@@ -1,6 +1,8 @@
 // The drawing database, its objects and entities, and the calls that open them.
 #pragma once
 
+#include <cstddef>
+
 #include "acdb.h"
 #include "dbid.h"
 #include "dbidar.h"
@@ -55,6 +57,17 @@ private:
     Internals* m_internals;
 };
 
+// Where every object that a drawing may hold gets its memory. The module makes such an object with
+// `new` and the host or the module deletes it, so both have to use one heap: the host's.
+class AcHeapOperators
+{
+public:
+    // Gives memory for an object of that many bytes. Throws std::bad_alloc.
+    static void* operator new(std::size_t size);
+    // Takes back what operator new gave for the same number of bytes. Null is allowed.
+    static void operator delete(void* memory, std::size_t size);
+};
+
 // An object that belongs to a database or will be added to one.
 //
 // A new object counts as open for write and belongs to its creator, who may delete it. After an
@@ -64,7 +77,7 @@ private:
 //
 // A call tagged [read] needs the object open, and one tagged [write] needs it open for write. Such
 // a call ends the run when the object is closed or open in the wrong mode.
-class AcDbObject : public AcRxObject
+class AcDbObject : public AcRxObject, public AcHeapOperators
 {
 public:
     ACRX_DECLARE_MEMBERS(AcDbObject)

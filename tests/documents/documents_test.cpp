@@ -49,13 +49,16 @@ TEST(Documents, reactorHearsOfADocumentFromItsStartToItsEnd)
 TEST(Documents, openDocumentIsTheCurrentOneAndItsDatabaseTheWorkingOne)
 {
     EXPECT_EQ(acDocManager->curDocument(), nullptr);
+    EXPECT_EQ(host::openDocument(), nullptr);
     {
         support::Session session;
         EXPECT_EQ(acDocManager->curDocument(), &session.document());
+        EXPECT_EQ(host::openDocument(), &session.document());
         EXPECT_EQ(acDocManager->mdiActiveDocument(), &session.document());
         EXPECT_EQ(acdbHostApplicationServices()->workingDatabase(), &session.drawing());
     }
     EXPECT_EQ(acDocManager->curDocument(), nullptr);
+    EXPECT_EQ(host::openDocument(), nullptr);
     EXPECT_EQ(acdbHostApplicationServices()->workingDatabase(), nullptr);
 }
 

@@ -261,7 +261,7 @@ TEST(Redo, doesWhatWasTakenBackUntilSomethingElseIsDone)
               "Command: redo\nGRID\nCommand: redo\nUCS\nCommand: redo\nNothing to redo.\n"
               "Command: \n");
     EXPECT_EQ(linesIn(session.drawing()), 2u);
-    EXPECT_NEAR(host::stateOf(session.drawing()).ucs().toWorld.entry[1][0], 0.5, 1e-15);
+    EXPECT_NEAR(host::stateOf(session.drawing()).ucs().toWorld->entry[1][0], 0.5, 1e-15);
     session.type({"U", "U", "grid"});
     EXPECT_EQ(session.type({"REDO"}), "Command: REDO\nNothing to redo.\nCommand: \n");
     EXPECT_EQ(linesIn(session.drawing()), 2u);
@@ -275,7 +275,7 @@ TEST(Undo, bringsBackTheUcsWithItsHistoryAndTheVariables)
     session.type({"SETVAR", "UCSICON", "0"});
     session.type({"U", "U"});
     EXPECT_EQ(host::stateOf(session.drawing()).ucsIcon, 3);
-    EXPECT_NEAR(host::stateOf(session.drawing()).ucs().toWorld.entry[1][0], 0.5, 1e-15);
+    EXPECT_NEAR(host::stateOf(session.drawing()).ucs().toWorld->entry[1][0], 0.5, 1e-15);
     // The list is as long as it was before the second command took from it.
     EXPECT_FALSE(has(session.type({"UCS", "P"}), "No previous"));
     EXPECT_TRUE(has(session.type({"UCS", "P"}), "No previous coordinate system saved."));

@@ -193,6 +193,38 @@ TEST(UcsConversion, pointFarFromTheOriginKeepsItsPlaceInATiltedUcs)
     EXPECT_EQ(host::worldToUcs(AcGeMatrix3d(), AcGePoint3d(1e7 + 0.1, 2, 3)).x, 1e7 + 0.1);
 }
 
+// The world's system takes a shorter way. A system that differs from it by less than any digit of
+// these points takes the long one, so both have to agree to the last bit.
+TEST(UcsConversion, ofTheWorldAgreesWithTheLongWayToTheLastBit)
+{
+    support::Session session;
+    const double infinity = std::numeric_limits<double>::infinity();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double values[] = {0.0, -0.0, 1.5, -2179123.375, 1e-310, infinity, -infinity, nan};
+    AcGeMatrix3d nearly;
+    nearly.entry[0][3] = -0.0;
+    for (const double x : values)
+    {
+        for (const double y : values)
+        {
+            for (const double z : values)
+            {
+                ads_point given = {x, y, z}, quick, slow;
+                host::stateOf(session.drawing()).modelUcs.toWorld = AcGeMatrix3d();
+                ASSERT_TRUE(acdbWcs2Ucs(given, quick, false));
+                host::stateOf(session.drawing()).modelUcs.toWorld = nearly;
+                ASSERT_TRUE(acdbWcs2Ucs(given, slow, false));
+                for (int i = 0; i < 3; ++i)
+                {
+                    EXPECT_EQ(std::signbit(quick[i]), std::signbit(slow[i])) << x << y << z << i;
+                    EXPECT_EQ(std::isnan(quick[i]), std::isnan(slow[i])) << x << y << z << i;
+                    EXPECT_TRUE(std::isnan(slow[i]) || quick[i] == slow[i]) << x << y << z << i;
+                }
+            }
+        }
+    }
+}
+
 TEST(UcsConversion, displacementIgnoresTheOrigin)
 {
     support::Session session;

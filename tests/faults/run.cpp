@@ -120,8 +120,8 @@ void openDrawing()
     host::documents().open(host::newDrawing());
     // Neither is what a run sets, so one that is not given back is seen.
     host::DrawingState& state = host::coreOf(*host::documents().document()->database()).state();
-    state.modelUcs.toWorld = AcGeMatrix3d::rotation(0.5, AcGeVector3d::kZAxis);
-    state.modelUcs.toWorld.setTranslation(AcGeVector3d(3, 4, 0));
+    state.modelUcs.toWorld =
+        AcGeMatrix3d::rotation(0.5, AcGeVector3d::kZAxis).setTranslation(AcGeVector3d(3, 4, 0));
     state.ucsFollow = 1;
 }
 

@@ -29,6 +29,7 @@ SYSTEM_FOLDERS = [Path("/usr/x86_64-w64-mingw32/include"), *Path("/usr/include/c
 # Imports of the module that no published header declares: what the embedded host's own macros and
 # templates call, and what compilers call by themselves.
 HOSTS_OWN = re.compile(r"""host::|acdbOpenOfClass\(|AcDbObjectId\ acdbTableIdFor<|acArray\w+Breach|acDocManagerPtr
+    |AcHeapOperators::operator\ new\(
     |.*::desc\(\)$|crt(Fgetwc|Fwprintf|Wctomb)$|AcDbSymbolTable(Iterator)?::(fillIterator|openAt|openRecord)\(""", re.X)
 # Bases of classes of the module or of the host's inline constructors, and MFC's message maps.
 COMPILERS_OWN = re.compile(r"""(vtable|typeinfo|VTT)\ for\ |.*::~|__|_ITM_|operator\ (new|delete)|AcDbEntity::AcDbEntity\(\)$
