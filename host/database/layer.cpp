@@ -4,7 +4,7 @@ ACRX_DEFINE_MEMBERS(AcDbLayerTableRecord, AcDbSymbolTableRecord)
 
 namespace
 {
-// So that the change can be taken back.
+// Records the layer, so that the change can be undone.
 void remember(AcDbLayerTableRecord& layer)
 {
     host::coreOf(layer.objectId().stub()).undoLog().noteLayer(layer);

@@ -67,7 +67,7 @@ void DocumentManager::close()
 
 void DocumentManager::notify(const Notice& notice) const
 {
-    // A copy: a reactor may take itself off the list while it is told.
+    // The loop runs over a copy, because a reactor may remove itself during a notification.
     for (AcApDocManagerReactor* reactor : std::vector(m_reactors))
     {
         if (std::ranges::find(m_reactors, reactor) != m_reactors.end())

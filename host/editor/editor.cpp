@@ -32,8 +32,8 @@ const char* callOf(Question::Kind kind)
     }
 }
 
-// Returns the text to echo. The end of the input at the command prompt echoes nothing, because
-// nobody pressed Esc.
+// Returns the text to echo. The end of the input at the command prompt echoes nothing, because the
+// user did not press Esc.
 std::wstring_view echoOf(const Question& question, const Answer& answer)
 {
     const bool normalEnd =
@@ -133,7 +133,7 @@ void Editor::echo(const Answer& answer, std::wstring_view text)
 }
 
 // Stops a module that asks at the command line while a dialog is shown. The dialog holds the user's
-// input, so that nobody could answer the prompt.
+// input, so the user could not answer the prompt.
 void Editor::requireNoDialog(const Question& question) const
 {
     const bool ownWindow =

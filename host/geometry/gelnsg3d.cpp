@@ -16,8 +16,8 @@ AcGePoint3d AcGeLineSeg3d::closestPointTo(const AcGePoint3d& p, const AcGeTol&) 
     {
         return m_end;
     }
-    // By cross products, not as a difference: along a level or upright segment the way from p to
-    // its foot is then exactly 0.
+    // Cross products are used instead of a difference: for a point on a horizontal or vertical
+    // segment the way from p to its foot is then exactly 0.
     const AcGeVector3d aside = fromStart.crossProduct(along).crossProduct(along) / whole;
     return host::steadyPoint(m_start, along * (reach / whole), p, aside);
 }

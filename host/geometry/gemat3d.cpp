@@ -11,9 +11,9 @@ const AcGeMatrix3d AcGeMatrix3d::kIdentity;
 
 namespace
 {
-// A transpose is off by as much as the axes are off; the general way by a few roundings. So axes
-// count as orthonormal only within the roundings that making them cost. A wider limit, say 1e-12,
-// would move a point at 1e7 by 1e-5.
+// A transpose has the error of the axes, while the general method has a few roundings. Axes
+// therefore count as orthonormal only within the roundings of their construction. A wider limit,
+// such as 1e-12, would move a point at 1e7 by 1e-5.
 const double orthonormalLimit = 1e-15;
 
 struct Axes
@@ -38,7 +38,7 @@ bool isOrthonormal(const Axes& axes)
                                [](double d) { return std::abs(d) <= orthonormalLimit; });
 }
 
-// The vectors whose dot products with a vector are its components along the axes.
+// Returns the vectors whose dot products with a vector are its components along the axes.
 Axes inverseRows(const Axes& axes)
 {
     if (isOrthonormal(axes))
@@ -51,8 +51,8 @@ Axes inverseRows(const Axes& axes)
             axes.x.crossProduct(axes.y) / volume};
 }
 
-// By the rule of Rodrigues. The part along the axis is taken out first, so that what lies on the
-// axis stays exactly where it is. Starting from zero keeps negative zeros out of the sum.
+// Uses the formula of Rodrigues. The part along the axis is removed first, so that a point on the
+// axis stays exactly where it is. A sum that starts from zero has no negative zeros.
 AcGeVector3d rotated(const AcGeVector3d& v, double angle, const AcGeVector3d& unitAxis)
 {
     const AcGeVector3d along = unitAxis * unitAxis.dotProduct(v);

@@ -18,7 +18,8 @@ double largestCoordinate(const StraightPiece& piece)
                      std::abs(piece.end.x), std::abs(piece.end.y), std::abs(piece.end.z)});
 }
 
-// How many times the ends' errors show at the parameter: once between the ends, more beyond.
+// Returns how many times the errors of the ends affect the point at the parameter: once between the
+// ends, more often beyond them.
 double leverage(double parameter)
 {
     return std::abs(parameter) + std::abs(1 - parameter);
@@ -40,8 +41,8 @@ std::optional<Crossing> crossing(const StraightPiece& asking, const StraightPiec
     const double otherLength = alongOther.length();
     const double largest = std::max(largestCoordinate(asking), largestCoordinate(other));
 
-    // Parallel: the directions differ by no more than the ends' errors can turn them. Asked so
-    // that what is not a number gives nothing.
+    // The pieces are parallel if their directions differ by no more than the errors of the ends can
+    // turn them. The condition is negated so that a NaN gives no crossing.
     if (!(square.length() > pointTolerance(largest) * (length + otherLength)))
     {
         return std::nullopt;

@@ -7,15 +7,15 @@ namespace host
 {
 namespace
 {
-// A sum that starts from zero has no negative zeros; they would reach files as "-0.0".
+// A sum that starts from zero has no negative zeros, which would be written to files as "-0.0".
 AcGeVector3d withoutNegativeZero(const AcGeVector3d& v)
 {
     return AcGeVector3d() + v;
 }
 
-// A normal of any length names a plane, so neither the shared tolerance nor the range of squares
-// may limit it. One that is of unit length but for rounding stays as it is: dividing it again
-// could carry a component over the limit of the rule and give a stored object other axes.
+// A normal of any length defines a plane, so neither the shared tolerance nor the range of squares
+// may limit it. A vector whose length is 1 apart from rounding stays unchanged: another division
+// could move a component across the limit of the rule and give a stored object other axes.
 AcGeVector3d unitNormal(const AcGeVector3d& normal)
 {
     const double size = std::hypot(normal.x, normal.y, normal.z);
@@ -27,7 +27,7 @@ AcGeVector3d unitNormal(const AcGeVector3d& normal)
     return withoutNegativeZero(isUnit ? normal : normal / size);
 }
 
-// The limit is a power of two so that every system decides alike.
+// The limit is a power of two, so that every system decides in the same way.
 bool isNearWorldZ(const AcGeVector3d& unit)
 {
     const double limit = 1.0 / 64.0;

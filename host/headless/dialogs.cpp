@@ -50,8 +50,8 @@ HWND firstToFocus(HWND dialog)
     return nullptr;
 }
 
-// Makes the windows of a dialog. The dialog stays hidden until it is initialised, so that nobody
-// sees it half filled.
+// Makes the windows of a dialog. The dialog stays hidden until it is initialised, so that the user
+// never sees it half filled.
 HWND makeWindows(DialogTemplate made, HWND owner, DLGPROC procedure)
 {
     made.dialog.put(WS_VISIBLE, false);
@@ -67,7 +67,7 @@ HWND makeWindows(DialogTemplate made, HWND owner, DLGPROC procedure)
 }
 
 // Initialises a dialog and sets the focus. The first control is searched for twice, because the
-// procedure may have disabled the control that it was told.
+// procedure may have disabled the control that it received.
 void initialise(HWND dialog, LPARAM parameter)
 {
     const auto first = reinterpret_cast<WPARAM>(firstToFocus(dialog));

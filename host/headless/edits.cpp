@@ -7,7 +7,7 @@ namespace host
 {
 namespace
 {
-// Sets the banner. The wParam of the message says whether the banner stays while the edit has the
+// Sets the banner. The wParam of the message tells whether the banner stays while the edit has the
 // focus; it does not matter here, because nothing is drawn.
 LRESULT setBanner(Window& edit, LPARAM text)
 {

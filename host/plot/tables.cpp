@@ -19,7 +19,7 @@ bool isDefpoints(std::string_view name)
     return equalNoCase(std::wstring(name.begin(), name.end()), L"Defpoints");
 }
 
-// Reads a record. A record with a value that should be a number and is not counts as missing.
+// Reads a record. A record whose number cannot be read counts as missing.
 template <class Read>
 void readable(const Read& read)
 {

@@ -181,7 +181,8 @@ bool runInputAndDraw(Editor& editor, const std::string& path)
     return ended && saved;
 }
 
-// Returns what a person at the terminal has to know, in one line of at most eighty letters.
+// Returns the information that a person at the terminal needs, in one line of at most eighty
+// letters.
 std::wstring welcome()
 {
     const std::wstring names = moduleCommandNames();

@@ -24,7 +24,7 @@ void printOut(std::string_view text)
 {
     lineIsOpen = text.empty() ? lineIsOpen : !text.ends_with('\n');
     write(stdout, text);
-    // A prompt has no line end, and the reader at the other end of a pipe has to see it.
+    // A prompt has no line end, but the reader at the other end of a pipe must see it.
     if (!text.ends_with('\n'))
     {
         std::fflush(stdout);

@@ -45,7 +45,7 @@ void requireCommandsRemoved(const ModuleFile& file)
     }
 }
 
-// Objects with virtual functions of this file.
+// Returns the objects whose virtual functions are in this file.
 std::vector<const void*> listenersOf(const Linker& linker, const ModuleFile& file)
 {
     std::vector<const void*> found = linker.listeners();
@@ -68,7 +68,7 @@ void requireGone(const Linker& linker, const std::vector<const void*>& gone, con
     }
 }
 
-// A file that is refused has been in the process for a moment: its static objects came and went.
+// A refused file was in the process for a moment: its static objects were created and destroyed.
 Result<std::unique_ptr<ModuleFile>> openFile(const Linker& linker, const fs::path& path)
 {
     const std::size_t before = linker.listeners().size();
@@ -198,7 +198,7 @@ void Linker::unloadAll()
 {
     while (!m_modules.empty())
     {
-        // The host is ending: there is nobody left to refuse it to.
+        // The host is ending, so a refusal has no effect.
         refuses(m_modules.back());
         remove(m_modules.back());
     }

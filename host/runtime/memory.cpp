@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <wchar.h>
 
-// One allocator for every text that the host hands out, and that of the C runtime: a caller may as
-// well free such a text by itself.
+// Every text that the host returns comes from the allocator of the C runtime, because a caller may
+// also free such a text directly.
 
 void acutDelString(ACHAR*& pString)
 {

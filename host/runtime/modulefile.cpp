@@ -15,7 +15,7 @@ Result<std::unique_ptr<ModuleFile>> ModuleFile::open(const std::filesystem::path
     }
     const LoadedFile loaded = [&]
     {
-        const NoThrowing loading;  // the module's static objects come, and go below
+        const NoThrowing loading;  // static objects are constructed here, and destroyed below
         return loadFile(path);
     }();
     if (loaded.handle == nullptr && !loaded.isRefused)

@@ -15,7 +15,7 @@ struct CStringW::Internals
 
 namespace
 {
-// iswspace of that platform, which knows the Unicode blanks in every locale.
+// The characters of that platform's iswspace, which knows the Unicode blanks in every locale.
 const wchar_t whiteSpace[] =
     L" \t\n\v\f\r\u0085\u00A0\u1680\u180E\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008"
     L"\u2009\u200A\u2028\u2029\u202F\u205F\u3000";
@@ -126,7 +126,7 @@ int CStringW::CompareNoCase(LPCWSTR text) const
     return _wcsicmp(m_internals->text.c_str(), orEmpty(text));
 }
 
-// A start below zero lies beyond every text when it is taken without its sign.
+// A negative start counts as an unsigned number, which lies beyond every text.
 int CStringW::Find(LPCWSTR text, int start) const
 {
     return text == nullptr ? -1 : position(m_internals->text.find(text, start));

@@ -8,7 +8,8 @@
 
 namespace
 {
-// Newest last. Never destroyed: modules leave while the process ends.
+// Returns the chain, the newest module last. It is never destroyed, because modules are unloaded
+// while the process ends.
 std::vector<CDynLinkLibrary*>& chain()
 {
     static std::vector<CDynLinkLibrary*>& libraries = *new std::vector<CDynLinkLibrary*>;
@@ -114,7 +115,7 @@ bool host::isDialogLibraryLinked()
     return dialogLibrary().hModule != nullptr;
 }
 
-// The library stays linked for good; the host offers no call to take it out.
+// The library stays in the chain: the host has no call that removes it.
 void InitAcUiDLL()
 {
     if (chain().empty())

@@ -27,7 +27,7 @@ bool isCharacter(char32_t code)
     return code <= 0x10FFFF && !isLead(code) && !isTrail(code);
 }
 
-// 0 for a byte that begins nothing.
+// Returns 0 for a byte that does not begin a sequence.
 std::size_t sequenceLength(unsigned char first)
 {
     if (first < 0x80)

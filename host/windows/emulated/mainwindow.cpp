@@ -2,7 +2,7 @@
 
 HWND adsw_acadMainWnd()
 {
-    // The handle is only compared and handed back. It does not stand for a real window.
+    // The handle is only compared and returned. No real window belongs to it.
     static char window;
     return reinterpret_cast<HWND>(&window);
 }

@@ -15,7 +15,7 @@ struct Answering
     HWND box = nullptr;  // the open box, which has been handled already
 };
 
-// Each thread that may show a box has its own.
+// Each thread may show a box, so each has a separate state.
 thread_local Answering s_answering;
 
 std::wstring textOf(HWND window)

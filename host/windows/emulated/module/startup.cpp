@@ -1,5 +1,6 @@
-// Linked into every module: what Windows' linker takes from the host's import library (the answer
-// to the host's version query) and from the C runtime (the way into DllMain and out).
+// This file is linked into every module. It provides what Windows' linker takes from the host's
+// import library (the answer to the host's version query) and from the C runtime (the calls of
+// DllMain).
 #include <cstdlib>
 #include <utility>
 
