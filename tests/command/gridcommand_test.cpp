@@ -113,7 +113,8 @@ TEST(GridCommand, tellsTheSettingsAsLoaded)
     }
 }
 
-// While the frame is still the user's own, so that nothing of it shows beside an odd icon or view.
+// The summary appears while the frame is still the user's own, so that no part of it is shown
+// beside an unfamiliar icon or view.
 TEST(GridCommand, tellsTheSettingsBeforeItBorrowsTheFrame)
 {
     ScriptedEditor editor;
@@ -241,7 +242,8 @@ TEST(GridCommand, anyOtherAnswerRebuildsTheGrid)
 TEST(GridCommand, theOldGridIsGoneBeforeTheNewOneIsBuilt)
 {
     ScriptedEditor editor;
-    std::vector<int> standing;  // lines in the drawing, at each entity of the second grid
+    std::vector<int>
+        standing;  // the number of lines in the drawing at each entity of the second grid
     const auto watch = [&]
     { editor.placing = [&] { standing.push_back(editor.contents().lines); }; };
     const auto stop = [&] { editor.placing = {}; };
@@ -261,7 +263,7 @@ TEST(GridCommand, onlyTheWholeKeywordOpensTheSettingsOfAGrid)
     };
     const Row rows[] = {
         {L"S", true},         {L"s", false},
-        {L"Settings", false},  // its first letter is enough at the first corner alone
+        {L"Settings", false},  // its first letter is enough only at the first corner
         {L"S ", false},       {L"", false},
         {L"AS", false},
     };
@@ -355,7 +357,7 @@ TEST(GridCommand, keepsTheGridWhenTheSettingsCannotBeSaved)
     }
 }
 
-// Whatever goes wrong later, the settings are kept; and the outline is no member of the group.
+// The settings are saved whatever fails later, and the outline is not a member of the group.
 TEST(GridCommand, acceptanceSavesThenErasesTheOutlineThenGroups)
 {
     const std::string wanted = "[GRID]\nHorStep=50\nVertStep=50\ndelCont=1\n";
@@ -385,7 +387,7 @@ TEST(GridCommand, acceptanceSavesThenErasesTheOutlineThenGroups)
     EXPECT_EQ(grouping.meter.started, 1);
 }
 
-// Without a person in between nothing will ever change.
+// Nothing ever changes if no person answers in between.
 TEST(GridCommand, aPromptThatFailsForGoodCountsAsCancelled)
 {
     const std::deque<ScriptedAnswer> failing(16, code(RTREJ));
@@ -405,7 +407,7 @@ TEST(GridCommand, aPromptThatFailsForGoodCountsAsCancelled)
     }
 }
 
-// Fifteen failures and what somebody types, and all begins anew.
+// A typed answer after fifteen failures resets the count.
 TEST(GridCommand, failuresOfAPromptCountInARowOnly)
 {
     std::deque<ScriptedAnswer> answers;
@@ -457,7 +459,7 @@ TEST(GridCommand, savesTheOtherSectionsOfItsFileToo)
     EXPECT_THAT(editor.settings.read(), HasSubstr("[mine]\r\nk=v\r\n"));
 }
 
-// What somebody else writes into the file meanwhile is lost, as it is in every editor.
+// Text that another program writes into the file meanwhile is lost, as in every editor.
 TEST(GridCommand, savesItsFileAsItWasWhenTheCommandBegan)
 {
     ScriptedEditor editor;
@@ -487,12 +489,12 @@ std::set<std::wstring> textStyles(const AcDbDatabase& database)
     return names;
 }
 
-// The command says the style by name, also where the drawing has none to be read.
+// The command passes the style by name, even where the drawing's style cannot be read.
 TEST(GridCommand, labelsAreDrawnInTheDrawingsTextStyle)
 {
     struct Row
     {
-        const wchar_t* currentStyle;  // null: none
+        const wchar_t* currentStyle;  // null: the drawing has no current style
         const wchar_t* labelStyle;
     };
     for (const Row& row : {Row{L"Sheet", L"Sheet"},

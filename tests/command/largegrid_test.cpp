@@ -13,7 +13,7 @@ const double notSet = std::numeric_limits<double>::max();
 struct Question
 {
     double width, height, HorStep, VertStep;
-    const wchar_t* asked;  // null for no question
+    const wchar_t* asked;  // null: no question
 };
 
 const wchar_t* const vertical = L"Large number of vertical lines in grid. Proceed?";
@@ -21,15 +21,15 @@ const wchar_t* const horizontal = L"Large number of horizontal lines in grid. Pr
 const wchar_t* const both = L"Large number of vertical and horizontal lines in grid. Proceed?";
 
 const Question questions[] = {
-    {5100, 100, 100, 100, horizontal},  // the width is said to be horizontal lines
+    {5100, 100, 100, 100, horizontal},  // the question about the width mentions horizontal lines
     {100, 5100, 100, 100, vertical},
     {5100, 5100, 100, 100, both},
-    {5000, 5000, 100, 100, nullptr},  // exactly 50 is not many
+    {5000, 5000, 100, 100, nullptr},  // exactly 50 steps are not many
     {5001, 5000, 100, 100, horizontal},
     {5100, 100, -100, 100, horizontal},
-    {100, 100, 0, 100, horizontal},  // no end of lines
+    {100, 100, 0, 100, horizontal},  // infinitely many lines
     {100, 100, 100, 0, vertical},
-    {0, 100, 0, 100, nullptr},  // no number at all
+    {0, 100, 0, 100, nullptr},  // 0/0 is not a number
     {0, 0, 0, 0, nullptr},
     {1e300, 1e9, notSet, notSet, nullptr},
 };

@@ -132,10 +132,11 @@ Contents ScriptedEditor::contents() const
     return contents;
 }
 
-// From here on: in the place of the host's functions. Without an editor they hand the call on.
+// The following functions replace the host's. Without an editor they pass the call on.
 
-// The dialog's own table of functions leads here. What the host's library calls within itself, such
-// as CDialog::DoModal, nobody outside can stand in for: the library is optimised as a whole.
+// The dialog's table of virtual functions points here. A program cannot replace a function that the
+// host's library calls within itself, such as CDialog::DoModal: the library is optimised as a
+// whole.
 INT_PTR CAdUiBaseDialog::DoModal()
 {
     if (current == nullptr)

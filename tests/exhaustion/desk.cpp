@@ -8,14 +8,14 @@
 #include <fstream>
 #include <iterator>
 
-// The program's own main, under this name.
+// The main function of the program, under this name.
 int arxhostMain(int count, char** arguments);
 
 namespace fs = std::filesystem;
 
 namespace
 {
-const unsigned secondsForARun = 60;  // only a broken program needs more than one
+const unsigned secondsForARun = 60;  // only a broken program needs longer
 
 const std::string oldSettings =
     "[GRID]\r\nHorStep=10.0000\r\nVertStep=10.0000\r\nColor=12\r\nneedText=1\r\nheightText=2."
@@ -29,12 +29,13 @@ std::string contents(const fs::path& path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// As while somebody installs fonts: the library that draws texts reads its files anew in every run.
+// Acts as the installation of a font does: the library that draws texts reads its files again in
+// every run.
 void changeFonts()
 {
-    if (std::getenv("NETRAX_ALONE") != nullptr)  // they are the test's own
+    if (std::getenv("NETRAX_ALONE") != nullptr)  // the fonts are the test's own
     {
-        utimes(std::getenv("FONTCONFIG_FILE"), nullptr);  // now
+        utimes(std::getenv("FONTCONFIG_FILE"), nullptr);  // null: the present time
     }
 }
 }  // namespace

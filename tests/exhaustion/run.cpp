@@ -23,7 +23,7 @@ namespace
 {
 const char* const settings = "properties.ini";
 
-// Each writes one file beside the settings: two that fail are told of in two lines.
+// Each job writes one file beside the settings. Two files that fail are reported in two lines.
 const Job jobs[] = {
     {"a grid from lines",
      "typed.txt",
@@ -47,14 +47,14 @@ const Job jobs[] = {
      {settings, "dialog.png"}},
 };
 
-// How things run out.
+// A way in which a resource runs out.
 struct Mode
 {
     const char* name;
     scarcity::Of what;
     bool forGood;
     int error;
-    long everyFewth = 1;  // of the requests is refused
+    long everyFewth = 1;  // one request in so many is refused
 };
 
 const Mode modes[] = {
@@ -69,17 +69,17 @@ const Mode modes[] = {
     {"all of them cut", scarcity::Of::fileLength, true, 0},
 };
 
-// What the files hold...
+// The expected contents of the files.
 struct Known
 {
     Results old;
-    Results wanted;           // after a run in which nothing was refused
-    Results withoutSettings;  // likewise, had there been none
+    Results wanted;           // after a run without refusals
+    Results withoutSettings;  // the same, if there had been no settings
     Results wantedButSettings;
 };
 
-// ... and what they may hold after a run that was refused a call on the settings and ended with
-// status 0 all the same. The module minds none of these: drawing goes on.
+// The contents that the files may have after a run that ended with status 0 although a call on the
+// settings was refused. The module ignores all these failures and goes on drawing.
 struct Allowed
 {
     const char* reason;
@@ -93,7 +93,7 @@ const Allowed allowed[] = {
     {"settings that cannot be written stay as they were", &Known::wantedButSettings},
 };
 
-// Shared by the processes.
+// The record that all processes share.
 struct Board
 {
     std::atomic<long> tried;
@@ -109,7 +109,7 @@ Shared* shared()
         mmap(nullptr, sizeof(Shared), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
 }
 
-// What a run tells its worker.
+// The report of a run to its worker.
 struct Told
 {
     scarcity::Refused refused;
@@ -123,7 +123,7 @@ void tellRequests()
     told->requests = scarcity::requests();
 }
 
-// One of the processes that share the work.
+// A process that does a part of the work.
 class Worker
 {
 public:
@@ -163,7 +163,7 @@ int Worker::statusOf(const Desk& desk, const std::function<void()>& beginScarcit
     return status;
 }
 
-// In a run that is refused nothing; 0 if that fails all the same.
+// Returns the number of requests in a run without refusals, or 0 if that run fails.
 long Worker::requestsOf(const Desk& desk, scarcity::Of what) const
 {
     desk.layOut();
@@ -224,7 +224,7 @@ bool isOneLine(const std::string& errors)
     return errors.starts_with("arxhost: ") && errors.find('\n') == errors.size() - 1;
 }
 
-// Empty when all is well.
+// Returns the complaint about the run, or an empty text when there is none.
 std::string Worker::complaint(const Desk& desk, const Mode& mode, int status) const
 {
     if (!WIFEXITED(status) || WEXITSTATUS(status) > 1)
@@ -314,7 +314,7 @@ void Worker::work()
     std::fflush(stdout);
 }
 
-// Each reason must be met, or it is none any more.
+// Returns the number of reasons that no run has met; such a reason is obsolete.
 long reasonsNotMet()
 {
     long count = 0;

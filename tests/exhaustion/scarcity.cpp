@@ -30,7 +30,7 @@ int reason;
 bool refusedOne;
 Refused* noteOfRefused;
 
-// Whether this request is to be refused: one for memory, one for space on the disk, or another call
+// Tells whether to refuse this request: one for memory, one for space on the disk, or another call
 // on files.
 bool refuse(Of what)
 {
@@ -45,8 +45,9 @@ bool refuse(Of what)
     return true;
 }
 
-// The other libraries ask too, and what they do without memory or a file is not ours to mend.
-// The C++ library opens, reads and renames files for us alone.
+// Tells whether our own code makes the request. Other libraries make requests, too, and we cannot
+// repair what they do without memory or a file. The C++ library opens, reads and renames files only
+// for us.
 bool isOurs(const void* caller)
 {
     dl_find_object found;
@@ -54,7 +55,7 @@ bool isOurs(const void* caller)
     {
         return false;
     }
-    const std::string_view path = found.dlfo_link_map->l_name;  // empty for the program
+    const std::string_view path = found.dlfo_link_map->l_name;  // the path is empty for the program
     const std::string_view file = path.substr(path.rfind('/') + 1);
     return file == "netrax.arx" || file.starts_with("libarxhost_") || file.empty() ||
            (scarce != Of::memory && file.starts_with("libstdc++.so"));
@@ -90,7 +91,8 @@ bool refuseOn(int file, const char* call, const void* caller, Of what = Of::file
     char link[32];
     char path[200] = "";
     std::snprintf(link, sizeof link, "/proc/self/fd/%d", file);
-    syscall(SYS_readlink, link, path, sizeof path - 1);  // not the one below
+    syscall(SYS_readlink, link, path,
+            sizeof path - 1);  // a system call, because readlink is replaced below
     return refuseOn(path, call, caller, what);
 }
 
@@ -158,7 +160,7 @@ IN_PLACE int open(const char* path, int flags, ...)
 CALL_THAT_OPENS(fopen)
 CALL_THAT_OPENS(fopen64)
 
-// Half of what was asked for, once, is no failure: whoever asked has to ask again.
+// Writes half of the bytes once. This is not a failure: the caller must write the rest.
 IN_PLACE ssize_t write(int file, const void* bytes, std::size_t size)
 {
     static auto* const next = original<ssize_t(int, const void*, std::size_t)>("write");
@@ -179,7 +181,7 @@ IN_PLACE ssize_t read(int file, void* bytes, std::size_t size)
     return scarce == scarcity::Of::fileLength ? next(file, bytes, (size + 1) / 2) : -1;
 }
 
-// `on` is the path or the number of the file.
+// Defines a call on files. `on` is the path or the number of the file.
 #define CALL_ON_FILES(NAME, PARAMETERS, ARGUMENTS, ON)                 \
     IN_PLACE int NAME PARAMETERS                                       \
     {                                                                  \
@@ -187,7 +189,7 @@ IN_PLACE ssize_t read(int file, void* bytes, std::size_t size)
         return refuseWholeOn(ON, #NAME, CALLER) ? -1 : next ARGUMENTS; \
     }
 
-// No power cut comes here: to wait for the disk thousands of times would only take time.
+// The test has no power failure, so waiting for the disk thousands of times would only cost time.
 IN_PLACE int fsync(int file)
 {
     return refuseWholeOn(file, "fsync", CALLER) ? -1 : 0;
@@ -213,7 +215,7 @@ IN_PLACE char* realpath(const char* path, char* resolved) noexcept
     return refuseWholeOn(path, "realpath", CALLER) ? nullptr : next(path, resolved);
 }
 
-// A file is closed all the same when that is told to have failed.
+// Closes the file even when the call reports a failure.
 IN_PLACE int close(int file)
 {
     static auto* const next = original<int(int)>("close");
@@ -224,7 +226,8 @@ IN_PLACE int close(int file)
     return refused ? -1 : result;
 }
 
-// What stands behind the library's own; going through these again would count twice.
+// The functions behind the library's own. Calling the functions of this file again would count a
+// request twice.
 extern "C" void* __libc_malloc(std::size_t size);
 extern "C" void* __libc_realloc(void* memory, std::size_t size);
 
@@ -246,7 +249,7 @@ IN_PLACE void* realloc(void* memory, std::size_t size) noexcept
 
 namespace
 {
-// As the library's own: whoever stands ready for it comes first.
+// Does what the library's own function does: a handler that is installed comes first.
 [[noreturn]] void giveUp()
 {
     if (const std::new_handler handler = std::get_new_handler())

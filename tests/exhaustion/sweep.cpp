@@ -1,4 +1,4 @@
-// Opens and saves drawings while memory or the disk runs out, at every moment there is: a drawing
+// Opens and saves drawings while memory or the disk runs out, at every possible moment. A drawing
 // is read or refused in one line, and the old file is whole until the new one has its name.
 #include <unistd.h>
 
@@ -52,7 +52,7 @@ bool isOneLineAbout(const std::string& line, const fs::path& path)
     return line.starts_with(path.string() + ": ") && line.find('\n') == line.npos;
 }
 
-// In its folder; how many there were.
+// Deletes the other files in the folder of the path and returns their number.
 int deleteOthers(const fs::path& path)
 {
     int count = 0;
@@ -65,7 +65,7 @@ int deleteOthers(const fs::path& path)
 
 scarcity::Refused refused;
 
-// How things run out.
+// A way in which a resource runs out.
 struct Mode
 {
     const char* name;
@@ -87,7 +87,7 @@ const Mode modes[] = {
     {"all of them cut", scarcity::Of::fileLength, true, 0, false},
 };
 
-// Calls `attempt` with every request refused in turn, until none is left to be.
+// Calls `attempt` with every request refused in turn, until a call makes no further request.
 void sweep(const Mode& mode, const std::string& job,
            const std::function<std::string(bool& done)>& attempt, const fs::path& path,
            const std::function<void(bool done)>& check)
@@ -102,7 +102,7 @@ void sweep(const Mode& mode, const std::string& job,
         {
             said = attempt(done);
         }
-        catch (const std::bad_alloc&)  // the program itself tells of it, in one line
+        catch (const std::bad_alloc&)  // the program itself reports it in one line
         {
             oneWas = scarcity::stop();
             said = path.string() + ": memory ran out while it was told";
@@ -116,7 +116,7 @@ void sweep(const Mode& mode, const std::string& job,
     }
 }
 
-// A drawing that is read is the whole drawing: saved elsewhere it is the same again.
+// Checks that a drawing that is read is the whole drawing: saved elsewhere it is the same again.
 void sweepOpening(const fs::path& path, const fs::path& elsewhere)
 {
     std::unique_ptr<AcDbDatabase> database;
@@ -143,7 +143,7 @@ void sweepOpening(const fs::path& path, const fs::path& elsewhere)
     }
 }
 
-// The drawing with one line more.
+// Returns the drawing with one more line.
 std::unique_ptr<AcDbDatabase> changed(const fs::path& path)
 {
     auto database = std::move(host::openDrawing(path.string())->database);
@@ -159,7 +159,7 @@ std::unique_ptr<AcDbDatabase> changed(const fs::path& path)
     return database;
 }
 
-// Over the old file, and once as a plot under a name that ends in .png.
+// Saves over the old file, and once as a plot under a name that ends in .png.
 void sweepSaving(const fs::path& original, const fs::path& target)
 {
     const std::string before = "an older file";
@@ -180,7 +180,8 @@ void sweepSaving(const fs::path& original, const fs::path& target)
     const std::string after = contents(target);
     for (const Mode& mode : modes)
     {
-        // Drawing itself asks for memory hundreds of thousands of times, in the library as well.
+        // Drawing alone makes hundreds of thousands of requests for memory, many of them in the
+        // library.
         if (plots && mode.what == scarcity::Of::memory)
         {
             continue;
@@ -208,7 +209,7 @@ void sweepSaving(const fs::path& original, const fs::path& target)
 }
 }  // namespace
 
-// Argument N: refuses only every Nth request of whole runs.
+// With the argument N it refuses only every Nth request of whole runs.
 int main(int count, char** arguments)
 {
     const int everyFewth = count > 1 ? std::atoi(arguments[1]) : 1;
@@ -218,13 +219,14 @@ int main(int count, char** arguments)
         return 2;
     }
     const fs::path folder = support::scratchFolder();
-    // The files of the fonts are not ours: a drawing with texts has them read before calls fail.
+    // The font files are not ours. A drawing with texts makes the library read them before calls
+    // fail.
     const fs::path drawings = fs::path(TESTS_DIR) / "golden" / "drawings";
     const std::string withTexts = (drawings / "r12-cyrillic.dxf").string();
     expect(bool(host::plotDrawing(*host::openDrawing(withTexts)->database,
                                   (folder / "plot.png").string())),
            "plotting without a fault");
-    const Tried runs = tryRuns(folder, everyFewth);  // early: a small process is copied quickly
+    const Tried runs = tryRuns(folder, everyFewth);  // first: a small process is copied quickly
     fs::remove_all(folder);
     fs::create_directory(folder);
     scarcity::noteRefusedIn(&refused);

@@ -14,10 +14,10 @@ namespace
 {
 enum class Kind
 {
-    state,    // something is not given back: its name
-    memory,   // an entity or a group that found no place
-    loading,  // the module does not come or go: how the host's word of it ends
-    stop      // the host is strict and ends the run: how its word of it begins
+    state,    // a value is not restored; the row has its name
+    memory,   // an entity or a group that was not added
+    loading,  // the module cannot be loaded or unloaded; the row has the end of the host's message
+    stop      // the host ends the run because of a rule; the row has the beginning of its message
 };
 
 struct Row
@@ -65,10 +65,10 @@ const Row rows[] = {
      "arxhost: removeReactor: ", "without the manager there is nobody to leave"},
 };
 
-// A byte a row.
+// One byte for each row.
 char* used = nullptr;
 
-// Needed is a row only where no other would do.
+// A row is needed only where no other row matches.
 template <class Holds>
 bool oneHolds(Kind kind, Holds holds)
 {

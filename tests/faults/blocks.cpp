@@ -29,13 +29,13 @@ namespace
 {
 struct Block
 {
-    const void* at;  // null where there is none
+    const void* at;  // null in a free place
     std::size_t size;
     int call;
 };
 
-// A block stands in the first free place from that of its address on. To ask for memory here would
-// come back here.
+// A block is stored in the first free place from the one of its address on. A request for memory
+// here would call this code again.
 Block blocks[1 << 14];
 std::size_t count = 0;
 bool noting = false;
@@ -115,7 +115,7 @@ using faults::forget;
 using faults::isInModule;
 using faults::note;
 
-// What stands behind the library's own.
+// The functions behind the library's own.
 extern "C" void* __libc_malloc(std::size_t size);
 extern "C" void* __libc_realloc(void* memory, std::size_t size);
 extern "C" void __libc_free(void* memory);
@@ -154,7 +154,7 @@ IN_PLACE void free(void* memory) noexcept
     __libc_free(memory);
 }
 
-// How the host makes each text that it hands out.
+// The host creates each text that it returns with this call.
 IN_PLACE wchar_t* wcsdup(const wchar_t* text) noexcept
 {
     const std::size_t size = (std::wcslen(text) + 1) * sizeof *text;

@@ -25,7 +25,7 @@ CALL_THAT_FAILS(HWND, failMainWindow, "_Z16adsw_acadMainWndv", "adsw_acadMainWnd
                 0, nullptr)
 CALL_THAT_FAILS(LCID, failLocale, "_Z15acrxProductLCIDv", "acrxProductLCID", (), (), NOTHING, 0, 0)
 
-// What a dialog's controls show and hold.
+// The contents of a dialog's controls.
 
 CALL_THAT_FAILS(CWnd*, failFromHandle, "_ZN4CWnd10FromHandleEP6HWND__", "CWnd::FromHandle",
                 (HWND window), (window), NOTHING, 0, nullptr)

@@ -12,8 +12,8 @@
 #include "rxregsvc.h"
 #include "tests/faults/callthatfails.h"
 
-// The editor. A prompt that is refused is asked again, as often as it takes: once only. Without its
-// options a prompt is refused as well.
+// The editor. The module repeats a refused prompt without a limit, so a prompt fails only once. A
+// prompt is refused without its options as well.
 
 CALL_THAT_FAILS(int, failInitGet, "_Z11acedInitGetiPKw", "acedInitGet",
                 (int bits, const ACHAR* keywords), (bits, keywords), NOTHING, 1, RTERROR)
@@ -53,7 +53,7 @@ CALL_THAT_FAILS(int, failMeterPosition, "_Z32acedSetStatusBarProgressMeterPosi",
 CALL_THAT_FAILS(int, failAlert, "_Z9acedAlertPKw", "acedAlert", (const ACHAR* text), (text),
                 NOTHING, 0, RTERROR)
 
-// Printing takes any number of arguments: what they make is handed on as one text.
+// A printing call takes any number of arguments; the formatted result is passed on as one text.
 #define PRINTING_CALL(NAME, SYMBOL, TITLE, FAILURE, PARAMETERS, ARGUMENTS)                 \
     extern "C" __attribute__((visibility("default"))) int NAME PARAMETERS __asm__(SYMBOL); \
     extern "C" int NAME PARAMETERS                                                         \
@@ -82,5 +82,5 @@ CALL_THAT_FAILS(wint_t, failReadChar, "crtFgetwc", "fgetwc", (FILE * stream), (s
                 WEOF)
 CALL_THAT_FAILS(int, failNarrow, "crtWctomb", "wctomb", (char* bytes, wchar_t unit), (bytes, unit),
                 NOTHING, 0, -1)
-// The file is closed all the same, but its last lines have found no room.
+// The file is closed, but its last lines were not written.
 CALL_THAT_FAILS(int, failCloseFile, "fclose", "fclose", (FILE * file), (file), next(file), 0, EOF)

@@ -14,7 +14,7 @@
 
 namespace faults
 {
-// Asked by address each time: a script that unloads the module may load it elsewhere.
+// Searches by address each time: a script that unloads the module may load it at another address.
 bool isInModule(const void* address)
 {
     dl_find_object found;
@@ -65,7 +65,7 @@ const std::vector<Row>& listed()
     return rows();
 }
 
-// A sanitizer counts the margin that it lays behind the table as a part of it.
+// A sanitizer treats the margin that it puts behind the table as a part of it.
 __attribute__((no_sanitize("address"))) static void replaceVirtual(const char* table, void* host,
                                                                    void* own)
 {

@@ -32,8 +32,8 @@ CALL_THAT_FAILS(AcDbObjectId, failStyle, "_ZNK12AcDbDatabase9textstyleEv",
                 "AcDbDatabase::textstyle", (const AcDbDatabase* self), (self), NOTHING, 0,
                 AcDbObjectId())
 
-// A lock that is refused. It stands in the caller's frame and is not ours to look into but by its
-// layout: the document, then the status.
+// A refused lock. It is in the caller's frame, and only its layout is known here: the document,
+// then the status.
 struct RefusedLock
 {
     AcApDocument* document;
@@ -45,8 +45,8 @@ SILENT_CALL(failLock, "_ZN11AcAxDocLockC1ENS_11DocLockTypeE", "AcAxDocLock",
             (RefusedLock * self, AcAxDocLock::DocLockType type), (self, type),
             (*self = RefusedLock{nullptr, Acad::eNoDatabase}))
 
-// Opening and closing. A close can be told to have failed; the object is closed all the same, for
-// a failure of the real host means that it was no longer open.
+// Opening and closing. A close that reports a failure closes the object, because a failure of the
+// real host means that the object was no longer open.
 
 STATUS_CALL(failClose, "_ZN10AcDbObject5closeEv", "AcDbObject::close", (AcDbObject * self), (self),
             next(self), Acad::eNotOpenForRead, Acad::eNotOpenForWrite, Acad::eNotInDatabase,

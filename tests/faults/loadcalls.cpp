@@ -31,8 +31,8 @@ STATUS_CALL(failRemoveCommand, "_ZN4host12CommandStack9removeCmdEPKwS2_",
 
 namespace
 {
-// The host's dictionary is a class of its own file, whose table of virtual functions has no name.
-// So the module gets another one that asks it.
+// The class of the host's dictionary is local to a file, so its table of virtual functions has no
+// name. The module therefore gets another dictionary that passes calls on.
 class Registry final : public AcRxDictionary
 {
 public:

@@ -33,7 +33,7 @@ struct State
     std::ptrdiff_t openFiles;
 };
 
-// How the run has begun, as long as its drawing is open.
+// The state at the start of the run, while its drawing is open.
 std::optional<State> atFirst;
 
 State stateNow()
@@ -49,7 +49,8 @@ State stateNow()
             std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {})};
 }
 
-// What the run has left otherwise than it found it, but for what it may.
+// Returns the differences between the states before and after the run, except those that are
+// allowed.
 std::string complaintsOfState()
 {
     const State& before = *atFirst;
@@ -71,7 +72,7 @@ std::string complaintsOfState()
     return list.empty() || mayLeave(list) ? "" : "left otherwise: " + list + "\n";
 }
 
-// Gives what still hangs on it to the host: the progress meter that is left.
+// Types the script's lines and returns the progress meter that is left.
 std::optional<host::Meter> type(const Script& script)
 {
     support::Typist typist;
@@ -106,7 +107,8 @@ std::string complaintsOfLeaks()
 }
 }  // namespace
 
-// How the host ends a run that breaks a rule of it: all else must be in order then as well.
+// The host calls this function to end a run that breaks a rule. Everything else must be in order
+// even then.
 extern "C" __attribute__((visibility("default"))) void _Exit(int status) noexcept
 {
     const std::string complaints = atFirst ? complaintsOfState() : "";
@@ -118,7 +120,7 @@ void openDrawing()
 {
     host::registerHostCommands();
     host::documents().open(host::newDrawing());
-    // Neither is what a run sets, so one that is not given back is seen.
+    // These values differ from those that a run sets, so a value that is not restored is noticed.
     host::DrawingState& state = host::coreOf(*host::documents().document()->database()).state();
     state.modelUcs.toWorld =
         AcGeMatrix3d::rotation(0.5, AcGeVector3d::kZAxis).setTranslation(AcGeVector3d(3, 4, 0));

@@ -10,7 +10,7 @@ namespace
     "needText=1 bXTopScribe=1 bXBottomScribe=1 bXLeftScribe=1 bXRightScribe=1 " \
     "bYTopScribe=1 bYBottomScribe=1 bYLeftScribe=1 bYRightScribe=1 "
 
-// Two columns and one row of cells, so that every call has its turn and a run is short.
+// The grid has two columns and one row of cells, so that every call occurs and a run is short.
 const Script all[] = {
     {"loaded and unloaded", "", "zv_netrax|^C", Script::Kind::loads},
     {"cancelled at the first corner", "", "zv_netrax|^C", Script::Kind::allPairs},
@@ -28,7 +28,7 @@ const Script all[] = {
      "zv_netrax|S|click 110|0,0|10,0|click 124|5,5|set 107 12|click 1|0,0|25,15|A"},
     {"a dialog that is cancelled", "", "zv_netrax|S|set 107 12|click 2|^C"},
     {"a dialog that refuses", "", "zv_netrax|S|set 107 0|click 1|click 2|^C"},
-    // Its second line lies so near to the edge that only the polygon tells.
+    // The second line is so near to the edge that only the polygon can decide.
     {"a line along the edge", "HorStep=13.999995 WCSBasePoint=1", GRID "A"},
 };
 }  // namespace
@@ -55,6 +55,6 @@ void writeOptions(const std::filesystem::path& folder, const Script& script)
     file << "[GRID]\r\nHorStep=10.0000\r\nVertStep=10.0000\r\nColor=12\r\nheightText=2.0000\r\n";
     for (const std::string& option : parted(script.options, ' '))
     {
-        file << option << "\r\n";  // the last of two counts
+        file << option << "\r\n";  // the last of two options with the same key is used
     }
 }

@@ -34,7 +34,7 @@ namespace
 {
 const unsigned secondsForARun = 5;
 
-// Shared by a worker and its runs.
+// The record that a worker and its runs share.
 struct Board
 {
     int callCount;
@@ -45,7 +45,7 @@ struct Board
 class Worker
 {
 public:
-    // Takes every so many of the plans, from that number on.
+    // Takes one in `step` of the plans, from plan `number` on.
     Worker(const fs::path& folder, unsigned number, unsigned step)
         : m_folder(folder / std::to_string(number)), m_number(number), m_step(step)
     {
@@ -75,12 +75,12 @@ private:
     unsigned m_number;
     unsigned m_step;
     long m_plan = 0;
-    std::set<std::string> m_seen;       // names of calls
-    std::vector<faults::Call> m_calls;  // of the script in hand, without a fault
+    std::set<std::string> m_seen;       // the names of calls
+    std::vector<faults::Call> m_calls;  // the calls of the current script without a fault
     Board* m_board;
 };
 
-// What the host says as it stops a run.
+// Returns the file with the host's message when it ends a run.
 fs::path reportOf(const fs::path& folder)
 {
     return folder / "report.txt";
@@ -92,7 +92,7 @@ std::string report(const fs::path& folder)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// In a process of its own, which ends with 0 when nothing is wrong.
+// Runs a separate process, which ends with 0 when nothing is wrong.
 void runInChild(const fs::path& folder, const Script& script, const faults::Plan& plan,
                 Board& board)
 {
@@ -119,14 +119,15 @@ std::string told(const fs::path& folder, int status)
     return "the host stops it: " + report(folder);
 }
 
-// Of the first call that fails.
+// Returns the name of the first call that fails.
 const char* Worker::nameOf(const faults::Plan& plan) const
 {
     const bool known = plan.first >= 0 && std::size_t(plan.first) < m_calls.size();
     return known ? m_calls[std::size_t(plan.first)].name : plan.every != nullptr ? plan.every : "";
 }
 
-// Names of the calls that the plan fails, as far as a run without a fault makes them.
+// Returns the names of the calls that the plan makes fail, as far as a run without a fault makes
+// them.
 std::set<std::string> Worker::failedBy(const faults::Plan& plan) const
 {
     std::set<std::string> names{nameOf(plan)};
@@ -206,7 +207,7 @@ void Worker::sweep(const Script& script)
         {
             attempt(script, {.first = i, .outcome = outcome});
         }
-        // The later ones fail even where this one cannot each time.
+        // The later calls fail even where this one cannot fail each time.
         for (unsigned outcome = 0; outcome < std::max(1u, call.outcomes - call.onceOnly); ++outcome)
         {
             attempt(script, {.first = i, .fromFirst = true, .outcome = outcome});
@@ -234,7 +235,8 @@ void Worker::sweep(const Script& script)
     }
 }
 
-// A call that no script makes is one that the module makes no more, or one that never came here.
+// Checks that the scripts make every call. A missing call is one that the module no longer makes,
+// or that this program never received.
 void Worker::requireAllSeen()
 {
     for (const faults::Row& row : faults::listed())
@@ -251,7 +253,7 @@ void Worker::requireAllSeen()
 
 int Worker::run()
 {
-    fs::current_path(m_folder);  // without its own path the module takes the current folder
+    fs::current_path(m_folder);  // without its own path the module uses the current folder
     openDrawing();
     bool loaded = false;
     for (const Script& script : scripts())

@@ -6,7 +6,7 @@
 
 namespace
 {
-// FNV-1a over whatever can be seen of a grid.
+// Computes FNV-1a over all visible properties of a grid.
 class Digest
 {
 public:
@@ -45,8 +45,8 @@ private:
         }
         add(text.alignmentPoint());
         add(static_cast<std::uint64_t>(text.horizontalMode()));
-        // To twelve decimals: the C library chooses its arc tangent by the processor, and the last
-        // bit with it.
+        // The angle is rounded to twelve decimals: the C library selects its arc tangent by the
+        // processor, and the last bit differs.
         add(static_cast<std::uint64_t>(std::llround(text.rotation() * 1e12)));
     }
 

@@ -7,7 +7,8 @@ namespace relations
 {
 namespace
 {
-// Lines that differ from an edge by less are along it: a turned frame is exact to 1e-15.
+// A line whose angle to an edge has a smaller sine is along the edge: a turned frame is exact to
+// 1e-15.
 const double parallelSine = 1e-9;
 
 double crossProduct(const Spot& origin, const Spot& a, const Spot& b)
@@ -15,7 +16,7 @@ double crossProduct(const Spot& origin, const Spot& a, const Spot& b)
     return (a.x - origin.x) * (b.y - origin.y) - (a.y - origin.y) * (b.x - origin.x);
 }
 
-// A point on the line.
+// Returns a point on the line.
 Spot spotOn(Direction direction, double at, double along)
 {
     return direction == vertical ? Spot{at, along} : Spot{along, at};
@@ -45,13 +46,14 @@ private:
 
     const GridCase& m_asked;
     const ConvexOutline m_outline;
-    const double m_unit;  // last place of the largest coordinate
+    const double m_unit;  // the unit in the last place of the largest coordinate
 };
 
-// Whether a point counts as inside. Coordinates are worth 16 units, or 1e-10 where that is more,
-// and what is closer to an edge lies on it. The point tests themselves are coarser: the sum of the
-// angles to the corners may lack 1e-6, which takes in points up to a few 1e-7 of the outline's size
-// outside it, and the area of a curve is known to 1e-6. Between those two nothing is promised.
+// Tells whether a point counts as inside. Coordinates have an error of 16 units, or 1e-10 where
+// that is larger, and a point closer to an edge lies on it. The point tests themselves are coarser:
+// the sum of the angles to the corners may lack 1e-6, which includes points up to a few 1e-7 of the
+// outline's size outside it, and the area of a curve has an error of 1e-6. Between these limits
+// nothing is promised.
 bool Clipper::isBeyond(double depth) const
 {
     const double tolerance = std::max(1e-10, 16 * m_unit);
@@ -63,9 +65,9 @@ bool Clipper::isBeyond(double depth) const
     return depth > tolerance;
 }
 
-// A part is one step of a line, or a bar, about a node. It is drawn where an end or, along the
-// world's axes, the node lies inside: an outline that reaches in between them, a corner mostly, is
-// not noticed.
+// Returns the parts of a line. A part is one step of a line, or a bar, around a node. It is drawn
+// where an end or, along the world's axes, the node is inside. An outline that enters only between
+// them, mostly with a corner, is not noticed.
 std::vector<Part> Clipper::partsOf(Direction direction, double at) const
 {
     std::vector<Part> parts;
@@ -92,7 +94,7 @@ std::vector<Part> Clipper::partsOf(Direction direction, double at) const
     return parts;
 }
 
-// Top, bottom, left or right, as the UCS has it.
+// Returns the index of top, bottom, left or right, as seen in the UCS.
 int Clipper::nameOfEdge(int edge) const
 {
     const auto& corners = m_asked.outline;
@@ -118,7 +120,7 @@ bool Clipper::isWantedAlongWorld(const std::array<bool, 4>& wanted, const Spot& 
     return isWanted;
 }
 
-// Along the UCS the ends have their names from the start, and only two of the four are asked.
+// Along the UCS the ends have fixed names, and only two of the four edges are considered.
 bool Clipper::isLabelled(Direction direction, bool atHighEnd, const Spot& end) const
 {
     const auto& wanted = direction == vertical ? m_asked.xEdges : m_asked.yEdges;
@@ -135,7 +137,8 @@ Expectation Clipper::expect() const
     {
         throw Doubt();
     }
-    // Where a line and an edge cross is known to the rounding of both, over the sine between them.
+    // The crossing of a line and an edge has the rounding error of both, divided by the sine of the
+    // angle between them.
     Expectation expected = {{}, 1e-13 + 64 * m_unit / m_outline.flattest()};
     for (const Direction direction : {vertical, horizontal})
     {

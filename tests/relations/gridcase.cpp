@@ -21,7 +21,7 @@ AcGeMatrix3d turnOfXY(double tangentOfHalf)
     return turn;
 }
 
-// About the X axis.
+// Returns a rotation about the X axis.
 static AcGeMatrix3d tilt(double tangentOfHalf)
 {
     const AcGeMatrix3d turn = turnOfXY(tangentOfHalf);
@@ -70,7 +70,8 @@ AcGeMatrix3d randomFrame(const Numbers& numbers, bool mayTilt)
     {
         frame = turnInSpace(chance);
     }
-    // In braces, which are read from the left; between parentheses each compiler has its own order.
+    // Braces are evaluated from left to right; the order between parentheses depends on the
+    // compiler.
     const AcGePoint3d origin{numbers.anywhere(), numbers.anywhere(), numbers.between(-200, 200)};
     return frame.setTranslation(origin.asVector());
 }
@@ -80,7 +81,7 @@ AcGePoint3d carried(const AcGeMatrix3d& frame, double x, double y)
     return AcGePoint3d(x, y, 0).transformBy(frame);
 }
 
-// From 0 to about four lines each way, now and then up to thirty.
+// Returns a step for 0 to about four lines in each direction, now and then up to thirty.
 double randomStep(const Numbers& numbers, double size)
 {
     const double most = numbers.chance.oneIn(50) ? 30 : 4.5;
@@ -106,8 +107,8 @@ void shakeCorners(const Numbers& numbers, Shape shape, double width, double heig
 
 GridCase randomCase(Chance& chance, Shape shape)
 {
-    // No whole numbers in a concave outline: the angles to its corners make a full turn on the
-    // diagonal that closes the notch too, where whole numbers put nodes.
+    // A concave outline has no whole numbers: on the diagonal that closes the notch, the angles to
+    // its corners make a full turn, too, and whole numbers put nodes there.
     const Numbers numbers{chance, shape == Shape::concave ? 1 + chance.below(2) : chance.below(3)};
     GridCase asked;
     asked.alongUcs = shape == Shape::rectangle && chance.oneIn(2);
@@ -136,8 +137,8 @@ GridCase randomCase(Chance& chance, Shape shape)
     asked.steps = {randomStep(numbers, width), randomStep(numbers, height)};
     if (chance.oneIn(3))
     {
-        // Within two steps: a longer bar reaches in from nodes further out than one step, and of
-        // those more are looked at on one side than on the other.
+        // A bar is at most two steps long: a longer one would enter from nodes further than one
+        // step outside, and the engine considers more of these on one side than on the other.
         asked.crossSize = std::min(asked.steps[0], asked.steps[1]) * chance.between(0.1, 1.9);
     }
     for (int edge = 0; edge < 4 && shape == Shape::rectangle; ++edge)
@@ -196,7 +197,7 @@ std::uint64_t caseSeed(std::uint64_t own)
 
 AcDbObjectId Sheet::drawOutline(const GridCase& asked)
 {
-    // A drawing keeps what was in it, also what nobody looks at any more.
+    // A drawing keeps everything that was in it, even when it is not used any more.
     if (++m_drawn % 2000 == 0)
     {
         TearDown();
@@ -213,7 +214,7 @@ AcDbObjectId Sheet::drawOutline(const GridCase& asked)
 
 AcDbObjectId Sheet::addOutline(const AcGePoint3dArray& points)
 {
-    const tests::LetGo letGo;  // the one that is refused is nobody's
+    const tests::LetGo letGo;  // a refused entity has no owner
     return addPolylineFrame(false, points, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
 }
 

@@ -35,8 +35,8 @@ double anyNumber(relations::Chance& chance)
     return chance.oneIn(4) ? std::nextafter(number, chance.oneIn(2) ? infinity : 0) : number;
 }
 
-// One to three times in a case something is hostile; a case of nothing else would be refused at the
-// first number.
+// Makes one to three numbers of a case hostile. A case of only hostile numbers would be refused at
+// the first one.
 void spoil(relations::Chance& chance, GridCase& asked)
 {
     const auto point = [&]() -> double*
@@ -71,7 +71,7 @@ void spoil(relations::Chance& chance, GridCase& asked)
     }
 }
 
-// What the lines of a case have to cover, along the grid's own axes.
+// The extent that the lines of a case must cover, along the grid's own axes.
 struct Extent
 {
     explicit Extent(const GridCase& asked, const AcGePoint3dArray& drawn)
@@ -87,7 +87,7 @@ struct Extent
     }
 
     double size(unsigned axis) const { return high[axis] - low[axis]; }
-    // With the two on either side and two for rounding.
+    // The count includes one line on either side and two for rounding.
     double lines(const GridCase& asked, unsigned axis) const
     {
         return size(axis) / asked.steps[axis] + 4;
@@ -107,8 +107,8 @@ private:
     }
 };
 
-// Millions of lines that a sheet really asks for are no hostile case but a large drawing, which
-// takes its time.
+// Millions of lines that a sheet really requests are not a hostile case but a large drawing, which
+// takes time.
 void coarsen(GridCase& asked, const Extent& extent)
 {
     for (const unsigned axis : {0u, 1u})
@@ -126,10 +126,10 @@ double mostResults(const GridCase& asked, const Extent& extent)
     const double x = extent.lines(asked, 0);
     const double y = extent.lines(asked, 1);
     const bool isGrid = x >= 0 && y >= 0 && x <= 40 && y <= 40;
-    return isGrid ? 2 * x * y + 2 * (x + y) : 1;  // the one text of a tilted sheet
+    return isGrid ? 2 * x * y + 2 * (x + y) : 1;  // the single text of a tilted sheet
 }
 
-// Ends the run when a case takes three seconds of the processor, and says which it was.
+// Ends the run and names the case when a case takes three seconds of processor time.
 class Patience
 {
 public:
@@ -177,8 +177,8 @@ double processorSeconds()
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-// Ten times what the slowest of a million took, also with the sanitizers built in.
-const double longest = 0.5;  // seconds of the processor
+// Ten times the longest of a million cases, also with the sanitizers.
+const double longest = 0.5;  // seconds of processor time
 
 class HostileInput : public relations::Sheet
 {
@@ -196,7 +196,7 @@ TEST_F(HostileInput, endsSoonWithNoMoreThanTheSheetHolds)
     {
         const auto shape = static_cast<relations::Shape>(chance.oneIn(4) ? 1 + chance.below(2) : 0);
         GridCase asked = randomCase(chance, shape);
-        // Few lines, so that a million cases fit into the time.
+        // The grid has few lines, so that a million cases fit into the time.
         asked.steps = {2 * asked.steps[0], 2 * asked.steps[1]};
         spoil(chance, asked);
         patience.begin(i);

@@ -1,4 +1,4 @@
-// The points that are kept in order and the list that is searched from its beginning.
+// Compares the points that are kept in order with the list that is searched from its beginning.
 #include <cmath>
 
 #include "engine/pointtests.h"
@@ -11,7 +11,8 @@ namespace
 using relations::Chance;
 using relations::infinity;
 
-// Offsets of the length that decides and of the next shorter and longer ones, and of all others.
+// Returns offsets of the deciding length, of the next shorter and longer lengths, and of any other
+// length.
 double offset(Chance& chance, double distance)
 {
     switch (chance.below(6))
@@ -39,7 +40,7 @@ double coordinate(Chance& chance)
                             : chance.between(-1, 1) * sizes[chance.below(5)];
 }
 
-// A new point, or one that lies near a former one.
+// Returns a new point, or one near a former point.
 AcGePoint3d point(Chance& chance, const AcGePoint3dArray& list)
 {
     if (list.isEmpty() || chance.oneIn(4))

@@ -50,8 +50,8 @@ std::vector<Part> reversed(const std::vector<Part>& parts)
     return turned;
 }
 
-// A quarter turn makes horizontal lines of the vertical ones, from the other end, and vertical
-// lines on the other side of the base point of the horizontal ones.
+// Returns the picture after a quarter turn. Vertical lines become horizontal lines with reversed
+// ends. Horizontal lines become vertical lines on the other side of the base point.
 Picture seenTurned(const Picture& picture, bool alongUcs)
 {
     if (alongUcs)
@@ -79,7 +79,7 @@ GridCase mirrored(const GridCase& asked, Chance&)
     AcGeMatrix3d mirror;
     mirror.entry[0][0] = -1;
     GridCase moved = carried(asked, mirror);
-    // A UCS is never left-handed: its X axis is turned round once more.
+    // A UCS is never left-handed, so its X axis is reversed once more.
     moved.ucs = moved.ucs * mirror;
     std::swap(moved.xEdges[2], moved.xEdges[3]);
     std::swap(moved.yEdges[2], moved.yEdges[3]);

@@ -81,7 +81,8 @@ Picture pictureOf(const GridCase& asked, const AcDbObjectIdArray& made)
     forEach<AcDbLine>(made, [&](const AcDbLine& line) { addLine(asked, line, picture); });
     for (auto& [name, parts] : picture.lines)
     {
-        // By their middles: of overlapping bars several are cut at the same end.
+        // The parts are sorted by their middles, because several of the overlapping bars are cut at
+        // the same end.
         std::ranges::sort(parts, {}, [](const Part& part) { return part.low + part.high; });
     }
     forEach<AcDbText>(made, [&](const AcDbText& text) { addLabel(asked, text, picture); });

@@ -1,4 +1,4 @@
-// The engine and the plain grid draw the same.
+// Checks that the engine and the plain grid draw the same.
 #include "tests/relations/plaingrid.h"
 
 #include <algorithm>
@@ -15,11 +15,11 @@ namespace
 {
 using namespace relations;
 
-// Everything that a drawing keeps of a line or a text, number by number.
+// All numbers that a drawing keeps of a line or a text.
 struct Drawn
 {
     std::wstring text;
-    AcGePoint3d anchor;  // of the text
+    AcGePoint3d anchor;  // the anchor of the text
     std::vector<double> numbers;
     std::vector<AcDbObjectId> ids;
 
@@ -92,13 +92,14 @@ double oneOf(Chance& chance, std::initializer_list<double> numbers)
     return numbers.begin()[chance.below(static_cast<int>(numbers.size()))];
 }
 
-// Around the tolerances and the quick looks: from far below the one to far above the other.
+// Returns a small number around the tolerances and the limits of the shortcuts, from far below the
+// smallest to far above the largest.
 double hair(Chance& chance)
 {
     return std::pow(10, chance.between(-14, -3)) * (chance.oneIn(2) ? 1 : -1);
 }
 
-// So near each other that the ends of one line are those of its neighbour too.
+// Makes lines so near each other that the ends of one line are those of its neighbour, too.
 void shrink(GridCase& asked, double scale)
 {
     const auto shrunk = [&](AcGePoint3d& point)
@@ -133,7 +134,7 @@ void degenerate(Chance& chance, GridCase& asked)
             outline[3] = outline[2];
             break;
         case 2:
-            std::swap(outline[1], outline[2]);  // its edges cross
+            std::swap(outline[1], outline[2]);  // the edges of the outline cross
             break;
         case 3:
             outline[2].z += oneOf(chance, {1, hair(chance)});
@@ -156,7 +157,7 @@ void degenerate(Chance& chance, GridCase& asked)
     }
 }
 
-// Thousands of lines take their time and tell no more; from 2^25 on none is drawn.
+// Thousands of lines take time and prove no more; from 2^25 nodes on no line is drawn.
 void coarsen(GridCase& asked)
 {
     const AcGeMatrix3d toUcs = asked.ucs.inverse();
@@ -224,7 +225,7 @@ private:
 class PlainGrid : public Sheet
 {
 protected:
-    // Of other outlines than the four corners now and then.
+    // Sometimes draws outlines other than the four corners.
     AcDbObjectId drawAnyOutline(Chance& chance, const GridCase& asked)
     {
         const AcDbObjectId outline = drawOutline(asked);
@@ -274,13 +275,13 @@ std::vector<Drawn> textsOf(std::vector<Drawn> all)
     return all;
 }
 
-// Along the UCS nought has the sign that rounding gave it.
+// Along the UCS the sign of zero depends on rounding.
 std::wstring unsignedNought(const std::wstring& text)
 {
     return text.substr(2) == L"-0.000" ? text.substr(0, 2) + L"0.000" : text;
 }
 
-// Which end of a line comes first is another matter of rounding where both are as high.
+// The order of the ends of a line depends on rounding where both are equally high.
 double distanceToNearest(const AcGePoint3d& anchor, const std::vector<Drawn>& texts)
 {
     double nearest = infinity;
@@ -291,7 +292,7 @@ double distanceToNearest(const AcGePoint3d& anchor, const std::vector<Drawn>& te
     return nearest;
 }
 
-// Which line is carried on is a matter of rounding.
+// Which line is extended makes a difference of rounding only.
 TEST_F(PlainGrid, hasTheSameLabelsWhenEveryPieceIsCarriedOn)
 {
     Chance chance(caseSeed(7));

@@ -14,7 +14,7 @@ const double pi = 3.14159265359;
 struct Place
 {
     AcGePoint3d anchor;  // [ucs]
-    double angle;        // towards the other point of the pair
+    double angle;        // the angle towards the other point of the pair
 };
 
 Place placeOf(const AcGePoint3dArray& pairs, int i)
@@ -117,7 +117,7 @@ void labelInWorld(Grid& grid, const Edges& edges)
 
 void labelInUcs(Grid& grid)
 {
-    // The upper and the right end come first.
+    // The upper end and the right end come first.
     labelInUcs(grid, grid.x, grid.xPoints, 0, grid.x.top, grid.x.bottom);
     labelInUcs(grid, grid.y, grid.yPoints, 1, grid.y.right, grid.y.left);
 }

@@ -35,7 +35,7 @@ std::vector<double> positions(double low, double high, double base, double step,
     return found;
 }
 
-// Appends where the line meets the outline.
+// Appends the points where the line meets the outline.
 bool meet(const Grid& grid, AcDbLine& line, AcDb::Intersect mode, AcGePoint3dArray& points)
 {
     if (grid.inUcs)
@@ -118,7 +118,8 @@ void noteEnds(const Grid& grid, AcGePoint3dArray pair, unsigned along, AcGePoint
     {
         return;
     }
-    // In the UCS grid they stay as the host gives them, and where rounding alone would tell.
+    // In the UCS grid, and where only rounding would decide, the points keep the order in which the
+    // host returned them.
     const double ahead = toUcs(pair[0])[along] - toUcs(pair[1])[along];
     if (!grid.inUcs && ahead > AcGeContext::gTol.equalPoint())
     {

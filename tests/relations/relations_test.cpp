@@ -34,7 +34,7 @@ void expectSameNames(const Picture& drawn, const Picture& expected)
     EXPECT_EQ(names(drawn.labels), names(expected.labels));
 }
 
-// As long as the outline allows, in as many pieces as there are nodes.
+// Checks that each line is as long as the outline allows, in as many pieces as there are nodes.
 void expectSameLengths(const Picture& drawn, const Expectation& expected)
 {
     for (const auto& [name, parts] : expected.picture.lines)
@@ -66,7 +66,7 @@ void expectJoined(const Picture& drawn, double tolerance)
     }
 }
 
-// Nearest distance to the outline's area, 0 inside.
+// Returns the distance to the outline's area, which is 0 inside.
 double distanceOutside(const std::array<Spot, 4>& corners, const Spot& spot)
 {
     bool isInside = false;
@@ -106,7 +106,8 @@ double farthestOutside(const GridCase& asked, const AcDbObjectIdArray& made)
     return farthest;
 }
 
-// Rounding of coordinates, one unit of the last place, times how often it can add up.
+// Returns the rounding error of coordinates: one unit in the last place, times the number of times
+// that it can add up.
 double rounding(const GridCase& asked)
 {
     return 1e-13 + 64 * 0x1p-52 * largestNumber(asked);
@@ -142,14 +143,15 @@ void expectSame(const Picture& left, const Picture& right, double tolerance)
     }
     for (const auto& [name, value] : left.labels)
     {
-        EXPECT_NEAR(value, right.labels.at(name), 0.001 + tolerance);  // of three decimals
+        EXPECT_NEAR(value, right.labels.at(name),
+                    0.001 + tolerance);  // the labels have three decimals
     }
 }
 
 struct Seen
 {
     Picture picture;
-    double tolerance;  // of its numbers
+    double tolerance;  // the tolerance of the grid's numbers
 };
 
 struct Tally
@@ -172,7 +174,7 @@ struct Tally
     {
         std::printf("%d grids of %lld pieces with %lld labels, %d more left out as doubtful\n",
                     drawn, pieces, labels, doubtful);
-        // Or the relations would hold for want of cases.
+        // Otherwise the relations would hold only because there are no cases.
         EXPECT_LT(doubtful, drawn / 20 + 1);
     }
 };
@@ -180,7 +182,7 @@ struct Tally
 class Relations : public Sheet
 {
 protected:
-    // Draws one; no end may lie outside.
+    // Draws a case and checks that no end lies outside.
     Picture drawn(const GridCase& asked)
     {
         m_asked = asked;
@@ -188,7 +190,7 @@ protected:
         EXPECT_LE(farthestOutside(asked, made), rounding(asked));
         return pictureOf(asked, made);
     }
-    // Only of the first failure, since writing it takes longer than the grid.
+    // Writes only the first failure, because writing it takes longer than the grid.
     void TearDown() override
     {
         if (HasFailure())
@@ -197,7 +199,7 @@ protected:
         }
         Sheet::TearDown();
     }
-    // Draws one, and whatever can be said of it alone is checked.
+    // Draws a case and checks everything that holds for it alone.
     std::optional<Seen> check(const GridCase& asked, Tally& tally)
     {
         const auto expected = expectationOf(asked);
@@ -235,7 +237,8 @@ class MovedGrid : public Relations, public testing::WithParamInterface<Move>
 {
 };
 
-// Moving rounds every number anew, so each grid is a few units of the last place off the other.
+// Moving rounds every number again, so each grid differs by a few units in the last place from the
+// other.
 TEST_P(MovedGrid, followsWhatItIsDrawnIn)
 {
     Chance chance(caseSeed(5));
@@ -256,8 +259,8 @@ TEST_P(MovedGrid, followsWhatItIsDrawnIn)
 INSTANTIATE_TEST_SUITE_P(Each, MovedGrid, testing::ValuesIn(moves),
                          [](const auto& info) { return info.param.name; });
 
-// Which pieces of a line are drawn is another matter there: the point test takes in only what sees
-// all corners in turn, and a piece is cut at its farthest crossing. The command draws no such
+// A concave outline may draw other pieces of a line: the point test accepts only points that see
+// all corners in turn, and a piece is cut at its farthest crossing. The command never draws such an
 // outline.
 TEST_F(Relations, noEndLiesOutsideAConcaveOutlineEither)
 {

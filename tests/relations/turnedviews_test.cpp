@@ -9,7 +9,8 @@ namespace
 {
 using namespace relations;
 
-// Twists as DVIEW and the host's own frame leave them: a rounding beside the quarter turn.
+// Returns twists as DVIEW and the host's own frame leave them: a rounding error beside the quarter
+// turn.
 double quarterTurn(Chance& chance)
 {
     const double degrees = 90 * (chance.below(9) - 4);
@@ -19,7 +20,8 @@ double quarterTurn(Chance& chance)
 class TurnedView : public Sheet
 {
 protected:
-    // A case of chance, picked in a plan view with that twist. [ucs] coordinates stay as they were.
+    // Returns a random case that is picked in a plan view with that twist. [ucs] coordinates stay
+    // unchanged.
     GridCase seenTwisted(GridCase asked, double twist)
     {
         const AcGeMatrix3d toUcs = asked.ucs.inverse();
@@ -45,7 +47,7 @@ protected:
     }
 };
 
-// The widest angle between labels that begin like this, and how many there are.
+// The widest angle between labels that begin with the same text, and their number.
 struct Spread
 {
     double angle = 0;  // [rad]

@@ -65,7 +65,7 @@ void putFont(Bytes& bytes)
     putText(bytes, L"MS Shell Dlg");
 }
 
-const std::size_t countOffset = 16;  // of the number of controls
+const std::size_t countOffset = 16;  // the offset of the number of controls
 }  // namespace
 
 TemplateBuilder::TemplateBuilder(LPCWSTR caption, int width, int height, DWORD style)
@@ -168,7 +168,7 @@ GivenResources::~GivenResources()
     host::setModuleResources(m_module, {});
 }
 
-// Numbers that are no address of memory.
+// Returns numbers that are not addresses of memory.
 HINSTANCE newModule()
 {
     static UINT_PTR last = 0;

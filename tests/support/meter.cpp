@@ -3,8 +3,8 @@
 #include "rxmfcapi.h"
 #include "tests/app/original.h"
 
-// The functions at the end take the place of the host's in the test program; without a Meter they
-// hand each call on.
+// The functions at the end replace the host's in the test program. Without a Meter they pass each
+// call on.
 namespace
 {
 tests::Meter* current = nullptr;
