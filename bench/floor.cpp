@@ -174,7 +174,7 @@ bool isHandle(int code)
     return code == 5 || code == 105 || (code >= 320 && code < 370);
 }
 
-// A sum of everything, so that nothing can be left out.
+// The sum of all values keeps the compiler from removing the work.
 double convert(int code, std::string_view value)
 {
     while (value.starts_with(' '))

@@ -26,8 +26,8 @@ TEST(DocumentData, isHeardByTheDocumentManagerAsLongAsItLives)
     EXPECT_THAT(host.reactors, IsEmpty());
 }
 
-// It is the only listener of the module, and a static one: no message has to come before it is
-// there, and none takes it away.
+// The manager of the records is the module's only listener, and it is static: it exists before any
+// message, and no call removes it.
 TEST(DocumentData, comesAndGoesWithTheModule)
 {
     support::Session session;

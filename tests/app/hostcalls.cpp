@@ -6,8 +6,8 @@
 
 #include "tests/app/original.h"
 
-// The functions at the end take the place of the host's in the whole test program, for the program
-// comes before the host's library; without a HostCalls they hand each call on.
+// The functions at the end replace the host's in the whole test program, because the program comes
+// before the host's library. Without a HostCalls they pass each call on.
 namespace
 {
 HostCalls* current = nullptr;

@@ -128,7 +128,7 @@ void openByHand()
     dlopen((own.substr(0, own.rfind('/')) + "/refusesattach.arx").c_str(), RTLD_NOW);
 }
 
-// Once it is told to, does what needs a document when there is none any more.
+// After it has been switched on, makes a call that needs a document when no document is open.
 class Late : public AcApDocManagerReactor
 {
 public:

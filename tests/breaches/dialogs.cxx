@@ -66,7 +66,7 @@ void cancelNothing()
     atThePick([](Panel& panel) { panel.CancelEditorCommand(); });
 }
 
-// The dialog ends before it is ever shown, and so nobody but its end can notice.
+// The dialog ends before it is shown, so only its end can notice the breach.
 void endAside()
 {
     Panel panel;
@@ -113,7 +113,7 @@ void attachTaken()
 
 std::unique_ptr<Panel> lastPanel;
 
-// The module then leaves with the process, when nobody is there to answer any more.
+// The module is then unloaded at the end of the process, when no user can answer any more.
 void showAtTheEnd()
 {
     lastPanel = std::make_unique<Panel>();

@@ -1,4 +1,4 @@
-// Does not want to be attached, though nobody asked who could give it up.
+// Refuses to be attached, although no loader that could give it up has asked.
 #include "rulebreaker.h"
 
 extern "C" BOOL APIENTRY DllMain(HINSTANCE, DWORD, LPVOID)

@@ -322,7 +322,7 @@ TEST(MPolygon, takesNoOpenOrCrossingLoop)
     EXPECT_EQ(area.appendLoopFromBoundary(crossing.get(), false), Acad::eOk);
 }
 
-// What no drawing could be saved with.
+// Values with which no drawing could be saved.
 struct Unfit
 {
     const char* what;

@@ -59,7 +59,7 @@ TEST(Extents, ofAnOpenLineAreWhereItIsBeingMoved)
     line->close();
 }
 
-// What lies in a layout is not in model space.
+// Entities of a layout are not in model space.
 TEST(Extents, leaveTheLayoutsOut)
 {
     EmptyDrawing drawing;

@@ -89,7 +89,7 @@ TEST(Open, theSameHoldsForAnEntityThatIsNotALine)
     }
 }
 
-// The host makes one object of another; nothing of the former line may show.
+// The host reuses the object of one line for another; no trace of the former line may be visible.
 TEST(Open, amongManyLinesEachOneThatIsOpenedIsItself)
 {
     EmptyDrawing drawing;
@@ -249,7 +249,7 @@ TEST(Open, anEntityOnALockedLayerIsNotOpenedForWrite)
     }
     ASSERT_EQ(acdbOpenAcDbEntity(entity, id, AcDb::kForRead), Acad::eOk);
     EXPECT_EQ(entity->upgradeOpen(), Acad::eOnLockedLayer);
-    // What the host refused may stay open: the command ends without a word.
+    // An object that the host refused may stay open: the command ends without a message.
     host::requireNothingOpen(drawing.database(), "test");
 }
 

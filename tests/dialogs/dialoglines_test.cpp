@@ -1,4 +1,4 @@
-// What a script writes to a dialog, and what it gets to read.
+// Tests the lines that a script writes to a dialog and the lines that it reads.
 #include <gtest/gtest.h>
 
 #include "tests/dialogs/panel.h"
@@ -8,7 +8,7 @@ namespace
 {
 using Lines = std::vector<std::string>;
 
-// What was printed between opening and closing; `look` sees the dialog after the lines.
+// Returns the text printed between opening and closing; `look` sees the dialog after the lines.
 std::string said(Panel& panel, Lines lines, const std::function<void()>& look = {})
 {
     lines.push_back("click 1");

@@ -13,7 +13,7 @@ namespace
 {
 using Lines = std::vector<std::string>;
 
-// What was printed; lines that are left over or missing fail the test.
+// Returns the printed text. Lines that are left over or missing fail the test.
 std::string show(CDialog& dialog, INT_PTR& result, const Lines& lines)
 {
     support::Session session;

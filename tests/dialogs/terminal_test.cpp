@@ -39,7 +39,7 @@ const std::string help =
     "set ID TEXT, check ID on|off, click ID, select ID TEXT or #N, color ID N, show, close; "
     "Enter presses OK, ^C cancels\n";
 
-// What a user reads of the panel.
+// Returns the text of the panel that a user reads.
 std::string view(const std::string& step)
 {
     return "    11  Step: [" + step +

@@ -56,8 +56,8 @@ struct Telling
 {
     int id;
     int code;
-    const char* plain;    // who answers in the base; empty for nobody
-    const char* special;  // in the class derived from it
+    const char* plain;    // the answer of the base class; empty if it does not answer
+    const char* special;  // the answer of the derived class
 };
 
 const Telling tellings[] = {

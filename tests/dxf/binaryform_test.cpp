@@ -161,7 +161,7 @@ TEST(BinaryForm, aTextWithLineFeedsIsReadPlottedAndWrittenBack)
     }
 }
 
-// In pieces of any size, as the writer of tags gives them.
+// The tags arrive in pieces of any size, as the writer of tags drains them.
 TEST(BinaryForm, whatFollowsTheEndMarkStaysAsItIs)
 {
     for (const std::string& end : {std::string(), std::string(100, '\0'), std::string("\r\n\x1a")})

@@ -54,7 +54,7 @@ TEST(CodePage, textsAreReadAndWrittenInTheFilesCodePage)
 TEST(CodePage, whatReadsAlikeNeedNotBeWrittenAlike)
 {
     const Row rows[] = {
-        {"AC1027", "", "\\U+0424", L"Ф"},  // an escape where none is needed
+        {"AC1027", "", "\\U+0424", L"Ф"},  // an unnecessary escape
         {"AC1027", "", "\\u+0424", L"\\u+0424"},
         {"AC1027", "", "\\U+0424\\U+d83d\\U+de00", L"Ф\U0001F600"},
         {"AC1027", "", "^", L"^"},

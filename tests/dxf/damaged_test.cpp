@@ -1,4 +1,4 @@
-// Files that are no drawings, and drawings that are not as they should be.
+// Tests files that are not drawings, and damaged drawings.
 #include <gtest/gtest.h>
 
 #include "host/dxf/filesource.h"
@@ -17,7 +17,7 @@ struct Row
     std::string message;
 };
 
-// What is said when it is opened, "read" if nothing.
+// Returns the message when the file is opened, or "read" if there is none.
 std::string opening(const std::string& bytes)
 {
     try
@@ -164,8 +164,8 @@ TEST(DamagedDrawings, aTextWhereANumberShouldBeIsRefusedWithItsLine)
     }
 }
 
-// No length in a binary drawing takes more than a byte, so none can ask for memory that is not
-// there.
+// A length in a binary drawing takes only one byte, so it can never request memory that does not
+// exist.
 TEST(DamagedDrawings, aBinaryFileThatPromisesMoreThanItHoldsIsRefusedWithItsOffset)
 {
     const std::string whole = ": expected a whole value, found the end of the file";
@@ -195,7 +195,7 @@ TEST(DamagedDrawings, handlesThatLeaveNoRoomAreRefused)
               "others");
 }
 
-// Unusual, but nothing is lost by reading them.
+// These files are unusual, but no information is lost by reading them.
 TEST(DamagedDrawings, whatCanBeUnderstoodIsReadKeptAndAddedTo)
 {
     const std::string layers = table("LAYER", "0\nLAYER\n2\n0\n0\nLAYER\n2\n0\n");

@@ -381,7 +381,7 @@ void addLine(AcDbDatabase& database, const AcGePoint3d& start, const AcGePoint3d
     space->close();
 }
 
-// Which the ASCII form has no room for.
+// The ASCII form has no room for it.
 TEST_F(Drawing, aTextOfSeveralLinesStaysInABinaryDrawing)
 {
     const std::string mark = "  2\nENTITIES\n";

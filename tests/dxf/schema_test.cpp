@@ -1,4 +1,4 @@
-// What a table of host/dxf/schema writes, it reads back.
+// Tests that what a table of host/dxf/schema writes can be read back by it.
 #include <gtest/gtest.h>
 
 #include <cmath>

@@ -45,7 +45,7 @@ std::string bytesOf(const fs::path& path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// ASCII drawings of R2000 and later, by the names the folder gives them.
+// The ASCII drawings of R2000 and later, by their names in the folder.
 bool shouldBeRead(const std::string& path)
 {
     return path.find("bad_r12_no_sections") == path.npos;

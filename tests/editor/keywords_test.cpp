@@ -86,7 +86,7 @@ TEST(Keywords, globalFormIsGivenBackAndTypedWithAnUnderscore)
     const Row rows[] = {
         {L"Да Нет _ Yes No", L"д", L"Yes"},   {L"Да Нет _ Yes No", L"_no", L"No"},
         {L"Да Нет _ Yes No", L"no", nullptr}, {L"Да Нет _ Yes No", L"_нет", nullptr},
-        {L"Yes No", L"_Y", L"Yes"},  // no other form: its own
+        {L"Yes No", L"_Y", L"Yes"},  // the keyword has only its own form
         {L"Yes No", L"_", nullptr},
     };
     expectRows(rows);

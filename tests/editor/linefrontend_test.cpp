@@ -50,7 +50,7 @@ TEST(LineReader, typingAtATerminalIsSeenAlready)
     EXPECT_TRUE(reader.next({}).visible);
     EXPECT_TRUE(reader.next({}).visible);
     EXPECT_TRUE(reader.next({}).visible);
-    EXPECT_FALSE(reader.next({}).visible);  // nobody typed the end
+    EXPECT_FALSE(reader.next({}).visible);  // no user typed the end
 }
 
 TEST(LineFrontEnd, questionsMeetTheThreadThatOwnsTheInput)

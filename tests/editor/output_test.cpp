@@ -50,7 +50,7 @@ TEST(Meter, isTracedWhenAsked)
     Session session;
     const auto body = []
     {
-        EXPECT_EQ(acedSetStatusBarProgressMeterPos(1), -1);  // none stands yet
+        EXPECT_EQ(acedSetStatusBarProgressMeterPos(1), -1);  // no command line exists yet
         EXPECT_EQ(acedSetStatusBarProgressMeter(L"Grouping", 0, 10), 0);
         EXPECT_EQ(acedSetStatusBarProgressMeterPos(4), 0);
         EXPECT_EQ(acedSetStatusBarProgressMeterPos(-3), 0);  // a step

@@ -18,7 +18,7 @@ enum class Ask
     keyword
 };
 
-// What one prompt came to.
+// The result of one prompt.
 struct Result
 {
     int code = 0;
@@ -78,13 +78,13 @@ TEST(Prompts, oneAnswerIsWhatTheOptionsMakeOfIt)
     const Row rows[] = {
         {Ask::point, 0, nullptr, "", RTNONE, L""},
         {Ask::point, 128, L"S", "", RTNONE, L""},
-        {Ask::point, 129, L"S", "", RTKWORD, L""},    // any text, but not none
+        {Ask::point, 129, L"S", "", RTKWORD, L""},    // any text except the empty one
         {Ask::point, 128, L"S", "   ", RTNONE, L""},  // a blank is Enter
         {Ask::point, 128, L"S", "s", RTKWORD, L"S"},
         {Ask::point, 128, L"S", "settings", RTKWORD, L"settings"},  // as typed, no keyword
         {Ask::point, 128, L"S", "Settings", RTKWORD, L"Settings"},
         {Ask::point, 128, L"Н", "н", RTKWORD, L"Н"},
-        {Ask::point, 128, L"S", "5", RTKWORD, L"5"},  // a number is no point
+        {Ask::point, 128, L"S", "5", RTKWORD, L"5"},  // a number is not a point
         {Ask::point, 128, L"S", "1,2", RTNORM, L""},
         {Ask::point, 0, nullptr, "^C", RTCAN, L""},
         {Ask::point, 129, L"S", "^C", RTCAN, L""},

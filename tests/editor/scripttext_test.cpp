@@ -17,14 +17,14 @@ struct Row
     std::string wanted;
 };
 
-// The text, or why there is none.
+// Returns the text, or the reason why there is none.
 std::string read(const std::string& bytes)
 {
     const host::Result<std::string> text = host::scriptText(bytes, "s.txt");
     return text ? *text : text.failure().line;
 }
 
-// The last answer of a reader, or why there is none.
+// Returns the last answer of a reader, or the reason why there is none.
 std::string lastOf(host::AnswerReader& reader)
 {
     std::wstring last;

@@ -66,32 +66,19 @@ TEST(SystemVariables, newDrawingHasItsInitialValues)
         const wchar_t* text;
     };
     const Row rows[] = {
-        {L"UCSICON", RTSHORT, L"3"},
-        {L"ucsfollow", RTSHORT, L"0"},  // letter case does not count
-        {L"UCSORG", RT3DPOINT, L"0,0,0"},
-        {L"UCSXDIR", RT3DPOINT, L"1,0,0"},
-        {L"UCSYDIR", RT3DPOINT, L"0,1,0"},
-        {L"UCSNAME", RTSTR, L""},
-        {L"VIEWDIR", RT3DPOINT, L"0,0,1"},
-        {L"VIEWTWIST", RTREAL, L"0"},
-        {L"TARGET", RT3DPOINT, L"0,0,0"},
-        {L"ELEVATION", RTREAL, L"0"},
-        {L"TILEMODE", RTSHORT, L"1"},
-        {L"CVPORT", RTSHORT, L"2"},
-        {L"CLAYER", RTSTR, L"0"},
-        {L"TEXTSTYLE", RTSTR, L"Standard"},
-        {L"CECOLOR", RTSTR, L"BYLAYER"},
-        {L"CELTYPE", RTSTR, L"ByLayer"},
-        {L"CELTSCALE", RTREAL, L"1"},
-        {L"CELWEIGHT", RTSHORT, L"-1"},
-        {L"WORLDUCS", RTSHORT, L"1"},
-        {L"WORLDVIEW", RTSHORT, L"1"},
-        {L"BLOCKEDITOR", RTSHORT, L"0"},
-        {L"CMDACTIVE", RTSHORT, L"0"},
-        {L"DWGTITLED", RTSHORT, L"0"},
-        {L"DWGNAME", RTSTR, L"Drawing1.dwg"},
-        {L"LOCALE", RTSTR, L"ENU"},
-        {L"ACADVER", RTSTR, L"19.1s (LMS Tech)"},
+        {L"UCSICON", RTSHORT, L"3"},       {L"ucsfollow", RTSHORT, L"0"},  // letter case is ignored
+        {L"UCSORG", RT3DPOINT, L"0,0,0"},  {L"UCSXDIR", RT3DPOINT, L"1,0,0"},
+        {L"UCSYDIR", RT3DPOINT, L"0,1,0"}, {L"UCSNAME", RTSTR, L""},
+        {L"VIEWDIR", RT3DPOINT, L"0,0,1"}, {L"VIEWTWIST", RTREAL, L"0"},
+        {L"TARGET", RT3DPOINT, L"0,0,0"},  {L"ELEVATION", RTREAL, L"0"},
+        {L"TILEMODE", RTSHORT, L"1"},      {L"CVPORT", RTSHORT, L"2"},
+        {L"CLAYER", RTSTR, L"0"},          {L"TEXTSTYLE", RTSTR, L"Standard"},
+        {L"CECOLOR", RTSTR, L"BYLAYER"},   {L"CELTYPE", RTSTR, L"ByLayer"},
+        {L"CELTSCALE", RTREAL, L"1"},      {L"CELWEIGHT", RTSHORT, L"-1"},
+        {L"WORLDUCS", RTSHORT, L"1"},      {L"WORLDVIEW", RTSHORT, L"1"},
+        {L"BLOCKEDITOR", RTSHORT, L"0"},   {L"CMDACTIVE", RTSHORT, L"0"},
+        {L"DWGTITLED", RTSHORT, L"0"},     {L"DWGNAME", RTSTR, L"Drawing1.dwg"},
+        {L"LOCALE", RTSTR, L"ENU"},        {L"ACADVER", RTSTR, L"19.1s (LMS Tech)"},
     };
     support::Session session;
     for (const Row& row : rows)
@@ -118,7 +105,7 @@ TEST(SystemVariables, valuesThatDoNotFitAreRefusedAndErrnoTells)
     const Row rows[] = {
         {L"NOSUCHVAR", shortValue(0), 18},
         {L"UCSICON", realValue(0), 19},
-        {L"ELEVATION", shortValue(1), 19},  // a whole number is no real
+        {L"ELEVATION", shortValue(1), 19},  // a whole number is not a real
         {L"CLAYER", shortValue(0), 19},
         {L"VIEWTWIST", realValue(0), 20},
         {L"UCSORG", realValue(0), 20},

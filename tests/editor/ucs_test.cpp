@@ -188,13 +188,13 @@ TEST(UcsConversion, pointFarFromTheOriginKeepsItsPlaceInATiltedUcs)
         const AcGePoint3d local = dice.point(100);
         worst = std::max(worst, host::worldToUcs(ucs, ucs * local).distanceTo(local));
     }
-    // What storing the world point at 1e7 costs, and no more.
+    // The error of storing the world point at 1e7, and no more.
     EXPECT_LE(worst, 6e-9);
     EXPECT_EQ(host::worldToUcs(AcGeMatrix3d(), AcGePoint3d(1e7 + 0.1, 2, 3)).x, 1e7 + 0.1);
 }
 
-// The world's system takes a shorter way. A system that differs from it by less than any digit of
-// these points takes the long one, so both have to agree to the last bit.
+// The world's system has a shorter computation. A system that differs from it by less than any
+// digit of these points uses the long one, so both must agree to the last bit.
 TEST(UcsConversion, ofTheWorldAgreesWithTheLongWayToTheLastBit)
 {
     support::Session session;

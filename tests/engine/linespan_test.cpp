@@ -25,8 +25,8 @@ AcGePoint3d turned(const AcGePoint3d& p)
     return {0.6 * p.x - 0.8 * p.y, 0.8 * p.x + 0.6 * p.y, p.z};
 }
 
-// The answer for the corners as they come; it has to be the same along X and along Y, from
-// whichever corner they begin and whichever way they turn.
+// Returns the answer for the corners in the given order. It must be the same along X and along Y,
+// from whichever corner they begin and in whichever direction they turn.
 int locate(const Quad& quad, const AcGePoint3d& point)
 {
     const AcGePoint3d(&q)[4] = quad.corners;

@@ -17,9 +17,9 @@ struct Drawn
 class Pieces : public tests::Grid
 {
 protected:
-    // One node in the middle of the sheet.
+    // Sets one node in the middle of the sheet.
     Drawn draw() const { return draw({10}); }
-    // One node at each of these x.
+    // Sets one node at each of these x.
     Drawn draw(const std::vector<double>& x) const
     {
         GridRequest request = GridRequest();

@@ -127,7 +127,7 @@ TEST(PointInCurve, tellsInsideOnAndOutside)
     const AcDb2dPolyline frame(AcDb::k2dSimplePoly, corners, 0, true);
     EXPECT_EQ(pointInCurve({50, 25, 0}, frame), 1);
     EXPECT_EQ(pointInCurve({50, 0, 0}, frame), 0);
-    EXPECT_EQ(pointInCurve({0, 0, 0}, frame), 0);  // corners are no case of their own here
+    EXPECT_EQ(pointInCurve({0, 0, 0}, frame), 0);  // corners are not a separate case here
     EXPECT_EQ(pointInCurve({50, 5e-11, 0}, frame), 0);
     EXPECT_EQ(pointInCurve({-1, 25, 0}, frame), -1);
     EXPECT_EQ(pointInCurve({150, 50, 0}, frame), -1);

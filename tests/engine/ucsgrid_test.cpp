@@ -313,7 +313,7 @@ TEST_F(UcsGrid, anyFlagButNoughtMeansTheUcs)
     }
 }
 
-// Cut against an outline that is elsewhere: there is nothing to cut it at.
+// The outline is elsewhere, so there is no edge to cut the piece at.
 TEST_F(UcsGrid, aPieceThatMeetsNoOutlineStaysWhole)
 {
     pickSheet();

@@ -259,8 +259,8 @@ TEST_F(WorldGrid, theFirstFourCornersOfAnOutlineCutIt)
     corner2 = {30, 20, 0};
     outline = addPolylineFrame(true, points, 250, nullptr, nullptr, ACDB_MODEL_SPACE);
     build();
-    // The piece at 0,10 leaves through an edge that the entity has not: it meets nothing there
-    // and keeps its end.
+    // The piece at 0,10 leaves through an edge that the entity lacks, so it meets no edge there and
+    // keeps its end.
     EXPECT_TRUE(hasLine({-5, 10, 0}, {5, 10, 0}));
     EXPECT_FALSE(hasLine({-15, 10, 0}, {-5, 10, 0}));
 }
@@ -328,7 +328,7 @@ TEST_F(WorldGrid, aLineThatTheOutlineCutsMoreThanTwiceHasNoLabels)
 
 TEST_F(WorldGrid, aBoundaryThatCannotBeReadGivesNothing)
 {
-    EXPECT_EQ(build().length(), 0);  // none at all
+    EXPECT_EQ(build().length(), 0);  // there is no outline
     pickSheet();
     {
         AcDbObjectPointer<AcDbEntity> writer(outline, AcDb::kForWrite);

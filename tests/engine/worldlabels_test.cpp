@@ -305,7 +305,7 @@ TEST_F(WorldLabels, turnOverUnderATwistInTheFirstAndThirdQuarterOnly)
     }
 }
 
-// Where a twisted view turns a label over, and back the one that was turned over already.
+// A twisted view turns a label over, and turns a label back that was turned over already.
 TEST_F(WorldLabels, halfTurnsOfLabelsHaveTwelveDigitsAndGoBackByAsMuch)
 {
     pickSheet();

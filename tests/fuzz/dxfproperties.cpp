@@ -96,7 +96,7 @@ std::unique_ptr<AcDbDatabase> opened(std::string_view bytes)
     return database;
 }
 
-// Why the bytes are no drawing; empty if they are one.
+// Returns the reason why the bytes are not a drawing, or an empty text if they are one.
 std::string refusal(std::string_view bytes)
 {
     try

@@ -23,7 +23,8 @@ struct Box
     StraightPiece edges[4];
 };
 
-// As a drawing keeps it: in the coordinates of its own plane, at one elevation.
+// Returns the outline as a drawing stores it: in the coordinates of its own plane, at one
+// elevation.
 Box rectangleIn(const AcGeMatrix3d& frame, double width, double height)
 {
     const host::Ocs ocs(frame * AcGeVector3d::kZAxis);

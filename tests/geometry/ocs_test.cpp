@@ -45,7 +45,7 @@ TEST(ObjectSystem, hasTheAxesOfTheArbitraryAxisRule)
         {{0, 0.6, 0.8}, {-1, 0, 0}, {0, -0.8, 0.6}},
         {{0, 0, 1e-30}, {1, 0, 0}, {0, 1, 0}},   // short, but it points somewhere
         {{0, 0, 1e-200}, {1, 0, 0}, {0, 1, 0}},  // its square is zero
-        {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}},       // none in the file
+        {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}},       // the file has no normal
     };
     for (const Row& row : rows)
     {

@@ -72,8 +72,8 @@ TEST(Segments, levelOrUprightHoldTheirPointsExactlyHoweverLong)
 
 TEST(Segments, keepSmallDistancesAtSurveyCoordinates)
 {
-    // Half a millimetre beside an oblique 5 km line; the coordinates are whole, so nothing but the
-    // arithmetic can spoil the result.
+    // The point is half a millimetre beside an oblique 5 km line. The coordinates are whole
+    // numbers, so only the arithmetic can spoil the result.
     const AcGePoint3d start(6'000'000, 7'000'000, 0);
     const AcGeLineSeg3d segment(start, start + AcGeVector3d(3000, 4000, 0));
     const AcGePoint3d beside = start + AcGeVector3d(1500 + 4.0 / 8192, 2000 - 3.0 / 8192, 0);

@@ -1,4 +1,4 @@
-// What all controls have in common, and edits.
+// Tests the behaviour that all controls share, and edits.
 #include <gtest/gtest.h>
 
 #include "commctrl.h"
@@ -37,7 +37,7 @@ TEST(Controls, aTextIsCutToTheBuffer)
         int copied;
         LPCWSTR text;
     } rows[] = {
-        {4, 3, L"100"}, {3, 2, L"10"}, {1, 0, L""}, {0, 0, L"?"},  // nothing is touched
+        {4, 3, L"100"}, {3, 2, L"10"}, {1, 0, L""}, {0, 0, L"?"},  // the buffer stays unchanged
         {-1, 0, L"?"},
     };
     for (const auto& row : rows)
@@ -66,7 +66,7 @@ TEST(Controls, everyWindowTakesAText)
 TEST(Controls, anEditTellsThatItsTextHasChanged)
 {
     const TestDialog dialog(form());
-    EXPECT_TRUE(dialog.told.empty());  // the text of the template is no change
+    EXPECT_TRUE(dialog.told.empty());  // the text of the template is not a change
     EXPECT_TRUE(SetWindowTextW(dialog.control(edit), L"12,5"));
     EXPECT_EQ(textOf(dialog.control(edit)), L"12,5");
     EXPECT_EQ(dialog.told,

@@ -29,7 +29,7 @@ TemplateBuilder everyKind()
         .control(1, L"BUTTON", BS_DEFPUSHBUTTON, 7, 50, 50, 14, MAKEINTRESOURCEW(12));
 }
 
-// In memory of its own, so that a read beyond the end is one beyond the memory.
+// The bytes are in separate memory, so that a read beyond the end is one beyond the memory.
 bool isRead(const Bytes& bytes, std::size_t size)
 {
     const Bytes cut(bytes.begin(), bytes.begin() + std::ptrdiff_t(size));

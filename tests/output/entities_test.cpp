@@ -312,7 +312,7 @@ TEST_F(Entities, anAppendedEntityIsClosedAndARefusedOneIsNot)
     EXPECT_TRUE(refused.isWriteEnabled());
 }
 
-// A preview that came to the screen only at the end of the command would be none.
+// A preview that appeared only at the end of the command would be useless.
 TEST_F(Entities, everythingIsShownAtOnce)
 {
     addPlainLine();

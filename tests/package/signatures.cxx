@@ -27,7 +27,7 @@ struct Constructed
 };
 #define CONSTRUCTED(...) template struct Constructed<__VA_ARGS__>
 
-// What the headers give as a macro, an inline function or a template has no symbol of its own.
+// Macros, inline functions and templates of the headers have no symbols.
 #define GIVES(TYPE, ...) \
     static_assert(std::is_same<TYPE, decltype(__VA_ARGS__)>::value, #__VA_ARGS__)
 
@@ -235,7 +235,7 @@ DECLARED(CComboBox::GetCurSel, int (CComboBox::*)() const);
 DECLARED(CComboBox::FindStringExact, int (CComboBox::*)(int, LPCTSTR) const);
 DECLARED(CComboBox::GetLBText, void (CComboBox::*)(int, CString&) const);
 
-// Texts. Some members give a reference to the text itself, which nobody here needs.
+// Texts. Some members return a reference to the text itself, which is not needed here.
 CONSTRUCTED(CString);
 CONSTRUCTED(CString, LPCTSTR);
 CONSTRUCTED(CString, const CString&);

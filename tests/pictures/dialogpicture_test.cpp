@@ -57,7 +57,7 @@ std::vector<Placed> controlsOf(HWND dialog)
     return controls;
 }
 
-// What the text needs besides its own width.
+// Returns the width that the control needs beside its text.
 int roomBeside(ControlKind kind)
 {
     switch (kind)

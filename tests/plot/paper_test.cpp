@@ -131,7 +131,7 @@ const Shape shapes[] = {
 };
 }  // namespace
 
-// In a drawing of vectors a way from the text's end to the shape is seen, even as thin as nothing.
+// In a vector drawing a line from the text's end to the shape would be visible, even with width 0.
 TEST(Paper, whatFollowsATextBeginsAtItsOwnPlace)
 {
     if (!canWrite(FileKind::svg))

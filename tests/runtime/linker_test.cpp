@@ -18,7 +18,7 @@ fs::path moduleFile(const char* name)
     return fs::path(TEST_MODULES_DIR) / name;
 }
 
-// A folder of its own that goes with the test.
+// A separate folder, which is removed with the test.
 struct Folder
 {
     fs::path path =

@@ -11,7 +11,7 @@
 
 namespace
 {
-wchar_t refused = 0;         // a character that no code page holds, 0 for none
+wchar_t refused = 0;         // a character that no code page holds; 0 if there is none
 int linesThatFit = INT_MAX;  // on the disk
 }  // namespace
 
@@ -45,7 +45,7 @@ std::wstring wide(const CString& text)
     return static_cast<const wchar_t*>(text);
 }
 
-// What the store holds, as it would write it.
+// Returns the contents of the store as it would write them.
 std::string written(const IniStore& store)
 {
     const TemporaryFile file;
@@ -53,7 +53,7 @@ std::string written(const IniStore& store)
     return file.read();
 }
 
-// The keys of a section as "name=value;", null for none.
+// Returns the keys of a section as "name=value;", or null for an unknown section.
 std::wstring keysOf(const IniStore& store, const wchar_t* name)
 {
     const IniSection* section = store.findSection(name);

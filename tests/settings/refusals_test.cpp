@@ -1,4 +1,4 @@
-// What the user meets after a value was refused, and how the dialog is laid out.
+// Tests what follows after a value was refused, and the layout of the dialog.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -47,7 +47,8 @@ RECT placeOf(HWND dialog, int control)
     return place;
 }
 
-// Of pixels, which round what the template says.
+// Tells whether the values differ by at most one pixel, because the units of the template are
+// rounded to pixels.
 bool isNear(LONG one, LONG other)
 {
     return std::abs(one - other) <= 1;

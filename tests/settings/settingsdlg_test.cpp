@@ -524,7 +524,7 @@ const Large larges[] = {
      "vertical:yes | horizontal:yes | ok"},
     {1000, 1000, "set 107 19 | click 1 | no | ^C", "vertical:no | cancel"},
     {1000, 1000, "set 107 19 | click 1 | no | click 1 | yes",
-     "vertical:no | vertical:yes | ok"},  // a No is no answer for good
+     "vertical:no | vertical:yes | ok"},  // the question is asked again after a No
     {1000, 1000, "set 107 19 | set 109  | click 1 | yes | set 109 100 | click 1",
      "vertical:yes | alert | ok"},  // a Yes is
     {1000, 1000, "set 107 19 | set 109 19 | click 1 | yes | no | click 1 | yes",

@@ -102,7 +102,7 @@ TEST(SettingsFile, withoutFileOrSectionTheDefaultsStand)
     SettingsFile(TemporaryFile().path()).load(settings);
     expectDefaults(settings);
     expectDefaults(loaded("[OTHER]\nColor=3\n"));
-    expectDefaults(loaded("Color=3\n[GRID]"));  // a header without its line feed is no header
+    expectDefaults(loaded("Color=3\n[GRID]"));  // a header without its line feed is not a header
 }
 
 TEST(SettingsFile, missingKeyReadsAsZeroNotAsTheDefault)
@@ -181,7 +181,7 @@ TEST(SettingsFile, wholeNumbersAreReadLoosely)
         {"", 0},
         {" 3", 0},
         {"2147483647", 2147483647},
-        {"65548", 65548},  // nothing is range-checked
+        {"65548", 65548},  // values are not range-checked
     };
     for (const Row& row : rows)
     {

@@ -23,7 +23,7 @@ struct Pick
 {
     const char* button;
     int edit;
-    const char* prompt;  // with the length as it stands
+    const char* prompt;  // with the present length
     const char* promptRu;
     const char* zero;
     const char* zeroRu;
@@ -99,7 +99,7 @@ struct Outcome
     const char* shown;  // in the edit afterwards
 };
 
-// Of a vertical step, in a grid 1000 wide and 1000 high.
+// The outcomes of picking the vertical step in a grid 1000 wide and 1000 high.
 const Outcome outcomes[] = {
     {"20", "20\n", "\"20.0000\""},
     {"0,0 | 3,4", "0,0\n", "\"5.0000\""},  // two points; asks, see below
@@ -286,7 +286,11 @@ const Base bases[] = {
      "(-1980.0000, 990.0000)",
      {10, 20, 30}},
     {"picked in the view", 1, "click 124 | 5,7", "(5.0000, 7.0000)", {993, 2005, 0}},
-    {"picked in the world", 0, "click 124 | 5,7", "(5.0000, 7.0000)", {5, 7, 0}},  // as it stands
+    {"picked in the world",
+     0,
+     "click 124 | 5,7",
+     "(5.0000, 7.0000)",
+     {5, 7, 0}},  // the picked point is stored unchanged
     {"picked in the view, then world",
      1,
      "click 124 | 5,7 | click 120",

@@ -36,7 +36,7 @@ protected:
 TEST_F(TextStyles, areNamedInTheOrderOfTheirTable)
 {
     addStyle(L"Slanted");
-    addStyle(L"");  // of a shape file, which is no style to write with
+    addStyle(L"");  // the record of a shape file, which is not a style for texts
     addStyle(L"Narrow");
     EXPECT_THAT(names(), ElementsAre(L"Standard", L"Slanted", L"Narrow"));
 }

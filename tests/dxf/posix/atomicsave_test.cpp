@@ -38,7 +38,7 @@ protected:
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    // What went wrong, without the path; empty if nothing did.
+    // Returns the error without the path, or an empty text if the save succeeded.
     static std::string save(const fs::path& path, const std::string& text)
     {
         return save(path, [&](TagWriter& w) { w.raw(text); });

@@ -1,4 +1,4 @@
-// What Windows reads in its own way (docs/windows.md).
+// Tests the code pages that Windows reads in its own way (docs/windows.md).
 #include "host/dxf/codepage.h"
 
 #include <gtest/gtest.h>

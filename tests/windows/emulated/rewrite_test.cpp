@@ -115,7 +115,7 @@ TEST_F(Rewriting, isSeenUnderEveryNameOfTheFile)
     EXPECT_EQ(contents(m_file), "short");
 }
 
-// Another run may have left its own there.
+// Another run may have left its file there.
 TEST_F(Rewriting, needsNoSecondFile)
 {
     const fs::path beside = m_file.string() + ".arxhost-" + std::to_string(getpid()) + ".tmp";

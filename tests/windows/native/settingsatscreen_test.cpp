@@ -67,7 +67,7 @@ int focusedId(HWND dialog)
     return GetDlgCtrlID(focusAt(dialog));
 }
 
-// Where the key goes next.
+// Presses a key and returns the id of the control that then has the focus.
 int idAfter(HWND dialog, void (*pressed)(WORD), WORD key)
 {
     const HWND before = focusAt(dialog);
@@ -307,7 +307,7 @@ TEST(AtTheScreen, aPickButtonThatIsClickedAsksAtTheConsole)
 
 const wchar_t* const attention = L"Attention";
 
-// Of the text's own caption; nothing else on the screen has it.
+// Returns the number of boxes with the text's caption, which no other window on the screen has.
 int openBoxes()
 {
     int count = 0;
@@ -331,7 +331,7 @@ Shown shownWithManyLines(const std::function<void(HWND dialog)>& work)
     return {result, dialog.settings(), person.transcript, person.answers};
 }
 
-// Presses OK and puts the box that comes where it hides nothing of the dialog.
+// Presses OK and moves the box that appears to a place where it hides no part of the dialog.
 HWND boxAfter(const std::function<void()>& ok)
 {
     ok();
