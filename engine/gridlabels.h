@@ -31,7 +31,7 @@ WantedEdges wantedEdges(const GridSettings& options, int axis);
 AcGePoint3dArray labelPoints(const GridRequest& request, const std::vector<double>& positions,
                              int axis, const PieceClipper& clipper);
 
-// Where one label stands.
+// The place of one label.
 struct LabelPlace
 {
     AcGePoint3d anchor;  // [ucs]

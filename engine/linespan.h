@@ -13,7 +13,7 @@ struct LineSpan
     double innerHigh;
     double outerHigh;
 
-    // Returns 1 inside, -1 outside and 0 where the point test has to decide.
+    // Returns 1 inside, -1 outside and 0 where the point test must decide.
     int locate(double at) const
     {
         return at > innerLow && at < innerHigh ? 1 : at < outerLow || at > outerHigh ? -1 : 0;

@@ -7,7 +7,7 @@
 
 #include "settings/gridsettings.h"
 
-// How a control of the dialog shows an option.
+// The ways in which a control of the dialog shows an option.
 enum ControlKind
 {
     editControl,     // an edit that shows text

@@ -7,8 +7,8 @@
 
 namespace host
 {
-// Why an operation failed: one line in UTF-8, without a line ending. A line about a file begins
-// with the file's name.
+// The reason why an operation failed: one line in UTF-8, without a line ending. A line about a file
+// begins with the file's name.
 struct Failure
 {
     std::string line;

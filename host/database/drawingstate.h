@@ -30,7 +30,7 @@ struct View
 };
 
 // The matrix of a coordinate system. Every end of every line of a grid is converted, so the matrix
-// is compared with the identity only once.
+// is compared with the identity only once. The matrix is [borrowed] as long as this object lives.
 class Frame
 {
 public:

@@ -1,9 +1,9 @@
-// The memory of objects, which the module makes with `new`.
+// Manages the memory of objects, which the module creates with `new`.
 #pragma once
 
 namespace host
 {
-// Each line of a grid is made, packed into its stub and deleted, so the memory of a few deleted
-// lines is kept for the next ones. Frees what is kept.
+// Frees the memory that is kept. Each line of a grid is created, packed into its stub and deleted,
+// so the memory of a few deleted lines is kept for the next ones.
 void freeKeptMemory();
 }  // namespace host

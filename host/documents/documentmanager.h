@@ -60,7 +60,7 @@ private:
 
 // Returns the one document manager [borrowed], which lives as long as the program.
 DocumentManager& documents();
-// Returns the same as documents().document(), without a look whether the manager has been made yet.
-// Every line of a grid asks several times.
+// Returns documents().document() [borrowed] without a check whether the manager has been created.
+// Drawing a line of a grid calls it several times.
 Document* openDocument();
 }  // namespace host

@@ -1,4 +1,4 @@
-// What a database keeps of the file from which it was read.
+// The data that a database keeps about the file from which it was read.
 #pragma once
 
 #include <functional>

@@ -8,8 +8,8 @@ namespace host
 {
 inline bool isFinite(const AcGeVector3d& vector)
 {
-    // Zero times a number is zero unless the number is not finite. Every line of a drawing is
-    // asked.
+    // Zero times a number is zero unless the number is not finite. The test runs for every line of
+    // a drawing.
     return vector.x * 0 + vector.y * 0 + vector.z * 0 == 0;
 }
 

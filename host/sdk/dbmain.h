@@ -57,14 +57,14 @@ private:
     Internals* m_internals;
 };
 
-// Where every object that a drawing may hold gets its memory. The module makes such an object with
-// `new` and the host or the module deletes it, so both have to use one heap: the host's.
+// The memory of every object that a drawing may hold. The module creates such an object with `new`,
+// and the host or the module deletes it, so both must use one heap: the host's.
 class AcHeapOperators
 {
 public:
-    // Gives memory for an object of that many bytes. Throws std::bad_alloc.
+    // Returns memory for an object of that many bytes. Throws std::bad_alloc when there is none.
     static void* operator new(std::size_t size);
-    // Takes back what operator new gave for the same number of bytes. Null is allowed.
+    // Frees memory that operator new returned for the same number of bytes. memory may be null.
     static void operator delete(void* memory, std::size_t size);
 };
 

@@ -17,7 +17,7 @@ namespace AcRx
 // messages, so a module answers kRetOK to every number that it does not know. The host sends
 // kInitAppMsg once after it has loaded the module, and then kLoadDwgMsg when a drawing is open. It
 // sends kUnloadDwgMsg and kUnloadAppMsg before it unloads the module. Only a module with LISP
-// functions is told of later drawings.
+// functions is notified of later drawings.
 enum AppMsgCode : int
 {
     kNullMsg = 0,
