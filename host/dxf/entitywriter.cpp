@@ -40,7 +40,7 @@ void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDb
 {
     // Many consecutive lines share one style. A style of another owner has no form here.
     std::uint32_t style = UINT32_MAX;
-    const RecordForm* form = nullptr;
+    const LineForms* forms = nullptr;
     for (std::size_t i = 0; i < m_core.objects().size(); ++i)
     {
         const AcDbStub& stub = m_core.objects()[i];
@@ -57,11 +57,13 @@ void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDb
         if (stub.style != style)
         {
             style = stub.style;
-            form = m_core.objects().style(style).owner == owner ? &lineForm(style) : nullptr;
+            forms = m_core.objects().style(style).owner == owner ? &lineForms(stub) : nullptr;
         }
-        if (form != nullptr)
+        if (forms != nullptr)
         {
-            writer.record(*form, stub.handle, stub.line);
+            const double z = forms->elevation;
+            const bool isFlat = stub.line[2] == z && stub.line[5] == z;
+            writer.record(isFlat ? forms->flat : forms->any, stub.handle, stub.line);
         }
     }
 }
@@ -86,21 +88,24 @@ void EntityWriter::writeUnpacked(const AcDbStub& stub, const AcDbStub* owner, Ta
     }
 }
 
-const RecordForm& EntityWriter::lineForm(std::uint32_t style)
+const EntityWriter::LineForms& EntityWriter::lineForms(const AcDbStub& stub)
 {
-    const auto found = m_lineForms.find(style);
+    const auto found = m_lineForms.find(stub.style);
     return found != m_lineForms.end()
                ? found->second
-               : m_lineForms.emplace(style, makeLineForm(m_core.objects().style(style)))
+               : m_lineForms
+                     .emplace(stub.style,
+                              makeLineForms(m_core.objects().style(stub.style), stub.line[2]))
                      .first->second;
 }
 
-RecordForm EntityWriter::makeLineForm(const LineStyle& style)
+EntityWriter::LineForms EntityWriter::makeLineForms(const LineStyle& style, double elevation)
 {
     schema::line::Line line;
     fillCommon(line, style, 0);
     line.normal = style.normal;
-    return lineFormOf(line, m_form, m_style, m_handles);
+    return {elevation, lineFormOf(line, m_form, m_style, m_handles, elevation),
+            lineFormOf(line, m_form, m_style, m_handles)};
 }
 
 std::wstring EntityWriter::nameOf(const AcDbStub* record)

@@ -33,8 +33,16 @@ private:
     void writePolyline(const AcDb2dPolyline& polyline, TagWriter& writer);
     void writeVertex(const AcDb2dVertex& vertex, TagWriter& writer);
 
-    const RecordForm& lineForm(std::uint32_t style);
-    RecordForm makeLineForm(const LineStyle& style);
+    // The forms of the lines of one style. Most lines lie at one elevation.
+    struct LineForms
+    {
+        double elevation;  // [wcs]
+        RecordForm flat;   // of lines at this elevation
+        RecordForm any;
+    };
+
+    const LineForms& lineForms(const AcDbStub& stub);
+    LineForms makeLineForms(const LineStyle& style, double elevation);
     void fillCommon(schema::entity::Entity& entity, const LineStyle& style,
                     std::uint64_t handle) const;
     void fillCommon(schema::entity::Entity& entity, const AcDbEntity& from) const;
@@ -44,6 +52,6 @@ private:
     const FileForm m_form;
     const TagStyle m_style;
     bool m_handles;
-    std::unordered_map<std::uint32_t, RecordForm> m_lineForms;
+    std::unordered_map<std::uint32_t, LineForms> m_lineForms;
 };
 }  // namespace host::dxf

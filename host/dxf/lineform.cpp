@@ -10,8 +10,9 @@ namespace
 class FormWriter
 {
 public:
-    explicit FormWriter(const TagStyle& style)
-        : m_writer([this](std::string_view bytes) { m_bytes += bytes; }, style)
+    FormWriter(const TagStyle& style, std::optional<double> elevation)
+        : m_writer([this](std::string_view bytes) { m_bytes += bytes; }, style),
+          m_elevation(elevation)
     {
     }
 
@@ -24,12 +25,17 @@ public:
 
 private:
     std::string cutBefore(Code code);
-    void coordinate(Code code);
+    void cutOut(Code code, unsigned number);
+    void closeGap(std::string_view bytes);
 
     std::string m_bytes;
     TagWriter m_writer;
-    RecordForm m_form{};
-    int m_coordinates = 0;
+    std::optional<double> m_elevation;  // of both points
+    std::string m_head;
+    bool m_hasHandle = false;
+    std::string m_common;
+    std::vector<RecordForm::Gap> m_gaps;
+    std::optional<unsigned> m_number;  // the coordinate cut out last
 };
 
 void FormWriter::point(Code code, double x, double y, double z)
@@ -39,9 +45,10 @@ void FormWriter::point(Code code, double x, double y, double z)
         m_writer.point(code, x, y, z);
         return;
     }
-    coordinate(code);
-    coordinate(code.y());
-    coordinate(code.z());
+    const unsigned first = code == schema::line::start ? 0 : 3;
+    cutOut(code, first);
+    cutOut(code.y(), first + 1);
+    m_elevation ? m_writer.real(code.z(), *m_elevation) : cutOut(code.z(), first + 2);
 }
 
 void FormWriter::handle(Code code, schema::Handle value)
@@ -51,24 +58,27 @@ void FormWriter::handle(Code code, schema::Handle value)
         m_writer.handle(code, value);
         return;
     }
-    m_form.head = cutBefore(code);
-    m_form.hasHandle = true;
+    m_head = cutBefore(code);
+    m_hasHandle = true;
 }
 
-// Closes the part of the form before a coordinate. The first coordinate follows the common part;
-// each of the others follows a gap.
-void FormWriter::coordinate(Code code)
+// Leaves a coordinate open. The bytes before it follow the coordinate before, if there is one.
+void FormWriter::cutOut(Code code, unsigned number)
 {
-    const std::string bytes = cutBefore(code);
-    if (m_coordinates == 0)
+    closeGap(cutBefore(code));
+    m_number = number;
+}
+
+void FormWriter::closeGap(std::string_view bytes)
+{
+    if (m_number)
     {
-        m_form.common = bytes;
+        m_gaps.push_back({*m_number, SharedBytes(bytes)});
     }
     else
     {
-        m_form.gaps[m_coordinates - 1] = RecordForm::Gap(bytes);
+        m_common = bytes;
     }
-    ++m_coordinates;
 }
 
 std::string FormWriter::cutBefore(Code code)
@@ -83,17 +93,17 @@ std::string FormWriter::cutBefore(Code code)
 RecordForm FormWriter::finish()
 {
     m_writer.flush();
-    m_form.tail = std::move(m_bytes);
-    return std::move(m_form);
+    closeGap(m_bytes);
+    return {m_head, m_hasHandle, m_common, std::move(m_gaps)};
 }
 }  // namespace
 
 RecordForm lineFormOf(const schema::line::Line& line, const FileForm& form, const TagStyle& style,
-                      bool hasHandle)
+                      bool hasHandle, std::optional<double> elevation)
 {
     schema::line::Line sample = line;
     sample.handle = hasHandle ? 1 : 0;  // any but 0 has its tag
-    FormWriter writer(style);
+    FormWriter writer(style, elevation);
     writeRecord(writer, schema::line::table, sample, form);
     return writer.finish();
 }

@@ -130,14 +130,15 @@ void writeGroup(const DictionaryEntries::Entry& entry, std::uint64_t dictionary,
     group.description = members.description;
     group.unnamed = members.anonymous ? 1 : 0;
     group.selectable = members.selectable ? 1 : 0;
+    writeRecord(writer, schema::group::table, group, formOf(source));
+    // Written one by one, so that a million handles are not held in memory once more.
     for (const AcDbStub* member : members.inOrder())
     {
         if (!member->erased())
         {
-            group.members.push_back(member->handle);
+            writer.handle(schema::group::member, member->handle);
         }
     }
-    writeRecord(writer, schema::group::table, group, formOf(source));
 }
 
 typedef std::vector<DictionaryEntries::Entry> NewGroups;

@@ -4,6 +4,7 @@
 #include <bit>
 #include <charconv>
 #include <cmath>
+#include <new>
 #include <stdexcept>
 
 #include "host/dxf/schema/code.h"
@@ -14,8 +15,6 @@ namespace
 {
 // Room for any tag except a text: the code's line, a number and a line ending.
 constexpr std::size_t slack = 64;
-// Room for the six numbers of a record and the bytes between them.
-constexpr std::size_t numbersSlack = 6 * slack;
 
 // Returns the width of a padded integer. The width shows how many bytes a reader needs for it.
 unsigned char integerWidth(Code code)
@@ -77,7 +76,7 @@ char* appendDigits(char* at, std::uint32_t value, int count)
 }
 
 // Appends the value in hexadecimal capitals.
-char* appendHandle(char* at, std::uint64_t value)
+char* appendHexadecimal(char* at, std::uint64_t value)
 {
     const int count = (std::bit_width(value | 1) + 3) / 4;
     if (count <= 8) [[likely]]
@@ -110,7 +109,7 @@ inline char* TagWriter::appendKnownReal(char* at, double value)
 {
     const auto bits = std::bit_cast<std::uint64_t>(value);
     RealText& known = m_realTexts[(bits * 0x9E3779B97F4A7C15u) >> (64 - realTextBits)];
-    if (known.bits != bits)
+    if (known.bits != bits) [[unlikely]]
     {
         return appendNewReal(at, value, known);
     }
@@ -118,34 +117,71 @@ inline char* TagWriter::appendKnownReal(char* at, double value)
     return at + known.length;
 }
 
-RecordForm::Gap::Gap(std::string_view bytes)
-    : length(static_cast<unsigned char>(bytes.copy(text, sizeof text)))
+// The last digit counts on unless it is the last of the decimal or of all digits.
+inline char* TagWriter::appendHandle(char* at, std::uint64_t handle)
 {
+    const unsigned digit = handle & 0xF;
+    if (handle != m_handle + 1 || digit == 0 || digit == 0xA) [[unlikely]]
+    {
+        return appendNewHandle(at, handle);
+    }
+    m_handle = handle;
+    std::memcpy(at, m_handleText, sizeof m_handleText);
+    at += m_handleLength;
+    at[-1] = char(digit < 0xA ? '0' + digit : 'A' - 0xA + digit);
+    return at;
+}
+
+SharedBytes::SharedBytes(std::string_view bytes) : m_padded(bytes), m_length(bytes.size())
+{
+    m_padded.resize(bytes.size() + blockSize);
+}
+
+RecordForm::RecordForm(std::string_view head, bool hasHandle, std::string_view common,
+                       std::vector<Gap> gaps)
+    : m_head(head),
+      m_hasHandle(hasHandle),
+      m_common(common),
+      m_gaps(std::move(gaps)),
+      m_room(head.size() + common.size() + slack)
+{
+    for (const Gap& gap : m_gaps)
+    {
+        m_room += slack + gap.after.length();
+    }
 }
 
 TagWriter::TagWriter(Drain drain, const TagStyle& style)
     : m_drain(std::move(drain)),
+      m_codeWidth(style.codeWidth),
+      m_padIntegers(style.padIntegers),
       m_newlineLength(style.newline.copy(m_newline, sizeof m_newline)),
-      m_buffer(std::make_unique_for_overwrite<char[]>(bufferSize + numbersSlack)),
+      m_buffer(std::make_unique_for_overwrite<char[]>(bufferSize + slack)),
       m_at(m_buffer.get()),
       m_full(m_at + bufferSize),
-      m_realTexts(std::size_t(1) << realTextBits)
+      m_realTexts(
+          static_cast<RealText*>(std::calloc(std::size_t(1) << realTextBits, sizeof(RealText))))
 {
+    if (m_realTexts == nullptr)
+    {
+        throw std::bad_alloc();
+    }
     // The bits of 0 belong to the first place. An empty entry in any other place therefore never
     // matches.
     appendNewReal(m_at, 0, m_realTexts[0]);
-    for (std::size_t code = 0; code < m_codes.size(); ++code)
+}
+
+void TagWriter::setCode(int code)
+{
+    CodeLine& made = m_codes[std::size_t(code)];
+    std::string line = std::to_string(code);
+    if (line.size() < static_cast<std::size_t>(m_codeWidth))
     {
-        std::string line = std::to_string(code);
-        if (line.size() < static_cast<std::size_t>(style.codeWidth))
-        {
-            line.insert(0, style.codeWidth - line.size(), ' ');
-        }
-        line += style.newline;
-        std::copy(line.begin(), line.end(), m_codes[code].text);
-        m_codes[code].length = line.size();
-        m_codes[code].integerWidth = style.padIntegers ? integerWidth(Code(int(code))) : 0;
+        line.insert(0, m_codeWidth - line.size(), ' ');
     }
+    line.append(m_newline, m_newlineLength);
+    made.length = line.copy(made.text, sizeof made.text);
+    made.integerWidth = m_padIntegers ? integerWidth(Code(code)) : 0;
 }
 
 void TagWriter::text(Code code, std::string_view encoded)
@@ -175,6 +211,15 @@ void TagWriter::integer(Code code, std::int64_t value)
 void TagWriter::handle(Code code, std::uint64_t value)
 {
     end(appendHandle(begin(code), value));
+}
+
+char* TagWriter::appendNewHandle(char* at, std::uint64_t handle)
+{
+    char* const last = appendHexadecimal(at, handle);
+    m_handle = handle;
+    m_handleLength = unsigned(last - at);
+    std::copy(at, last, m_handleText);
+    return last;
 }
 
 void TagWriter::real(Code code, double value)
@@ -213,20 +258,21 @@ void TagWriter::raw(std::string_view bytes)
 
 void TagWriter::record(const RecordForm& form, std::uint64_t handle, const double (&numbers)[6])
 {
-    copy(form.head);
-    if (form.hasHandle)
+    if (m_full - m_at < static_cast<std::ptrdiff_t>(form.m_room)) [[unlikely]]
     {
-        m_at = appendHandle(m_at, handle);
+        makeRoom(form.m_room);
     }
-    copy(form.common);
-    char* at = appendKnownReal(m_at, numbers[0]);
-    for (int i = 0; i < 5; ++i)
+    char* at = form.m_head.copyTo(m_at);
+    if (form.m_hasHandle)
     {
-        std::memcpy(at, form.gaps[i].text, sizeof form.gaps[i].text);
-        at = appendKnownReal(at + form.gaps[i].length, numbers[i + 1]);
+        at = appendHandle(at, handle);
+    }
+    at = form.m_common.copyTo(at);
+    for (const RecordForm::Gap& gap : form.m_gaps)
+    {
+        at = gap.after.copyTo(appendKnownReal(at, numbers[gap.number]));
     }
     m_at = at;
-    copy(form.tail);
 }
 
 void TagWriter::codeLine(Code code)
@@ -257,6 +303,10 @@ char* TagWriter::begin(Code code)
         flush();
     }
     const CodeLine& line = m_codes.at(std::size_t(code.number()));
+    if (line.length == 0) [[unlikely]]
+    {
+        setCode(code.number());
+    }
     std::memcpy(m_at, line.text, sizeof line.text);
     return m_at + line.length;
 }
@@ -265,6 +315,17 @@ void TagWriter::end(char* at)
 {
     std::memcpy(at, m_newline, sizeof m_newline);
     m_at = at + m_newlineLength;
+}
+
+void TagWriter::makeRoom(std::size_t size)
+{
+    flush();
+    if (size > bufferSize)
+    {
+        m_buffer = std::make_unique_for_overwrite<char[]>(size + slack);
+        m_at = m_buffer.get();
+        m_full = m_at + size;
+    }
 }
 
 void TagWriter::copyLong(std::string_view bytes)

@@ -3,6 +3,8 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <string>
@@ -19,24 +21,59 @@ namespace host::dxf
 // number is not finite.
 std::string realText(double value);
 
+// Bytes that many records share, with room behind them, so that they can be copied in whole blocks.
+class SharedBytes
+{
+public:
+    // More bytes than this are never written beyond the end.
+    static constexpr std::size_t blockSize = 64;
+
+    explicit SharedBytes(std::string_view bytes = {});
+
+    std::size_t length() const { return m_length; }
+    // Writes the bytes and returns their end. Writes up to `blockSize` bytes more.
+    char* copyTo(char* at) const
+    {
+        const char* const from = m_padded.data();
+        std::memcpy(at, from, firstBlock);
+        for (std::size_t done = firstBlock; done < m_length; done += blockSize)
+        {
+            std::memcpy(at + done, from + done, blockSize);
+        }
+        return at + m_length;
+    }
+
+private:
+    static constexpr std::size_t firstBlock = 16;  // most are no longer
+
+    std::string m_padded;
+    std::size_t m_length;
+};
+
 // The bytes of a record with six numbers, such as a line, except its handle and its numbers. Such
 // records are written a million times, so their common bytes are composed only once.
-struct RecordForm
+class RecordForm
 {
+public:
     struct Gap
     {
-        Gap() = default;
-        explicit Gap(std::string_view bytes);  // at most 15 bytes
-
-        unsigned char length;
-        char text[15];
+        unsigned number;    // one of the six
+        SharedBytes after;  // what follows it
     };
 
-    std::string head;    // up to the handle
-    bool hasHandle;      // if false, all common bytes are in `common`
-    std::string common;  // from the handle to the first number
-    Gap gaps[5];         // between the numbers
-    std::string tail;
+    // `head` goes up to the handle; without `hasHandle` it is empty. `common` goes up to the first
+    // number. Numbers that are the same in all records may be among the bytes.
+    RecordForm(std::string_view head, bool hasHandle, std::string_view common,
+               std::vector<Gap> gaps);
+
+private:
+    friend class TagWriter;
+
+    SharedBytes m_head;
+    bool m_hasHandle;
+    SharedBytes m_common;
+    std::vector<Gap> m_gaps;
+    std::size_t m_room;  // for a whole record
 };
 
 class TagWriter
@@ -84,27 +121,44 @@ private:
     // different numbers.
     struct RealText
     {
-        std::uint64_t bits = 0;
-        unsigned char length = 0;
-        char text[23] = {};
+        std::uint64_t bits;
+        char text[23];
+        unsigned char length;
+    };
+    struct Freeing
+    {
+        void operator()(RealText* texts) const { std::free(texts); }
     };
     static constexpr unsigned realTextBits = 13;
 
+    void makeRoom(std::size_t size);
+    void setCode(int code);
     char* begin(Code code);
     void end(char* at);
+    char* appendHandle(char* at, std::uint64_t handle);
+    char* appendNewHandle(char* at, std::uint64_t handle);
     char* appendKnownReal(char* at, double value);
     char* appendNewReal(char* at, double value, RealText& known);
     void copy(std::string_view bytes);
     void copyLong(std::string_view bytes);
 
     Drain m_drain;
+    int m_codeWidth;
+    bool m_padIntegers;
     char m_newline[2] = {};
     std::size_t m_newlineLength;
-    std::array<CodeLine, highestCode + 1> m_codes;
+    std::array<CodeLine, highestCode + 1> m_codes{};  // made when they are first used
     std::unique_ptr<char[]> m_buffer;
     char* m_at;
     // Beyond this, only the rest of the current tag is added before the buffer is drained.
     const char* m_full;
-    std::vector<RealText> m_realTexts;
+    // Zeros until they are used; most writers write a few numbers and touch little of the table.
+    std::unique_ptr<RealText[], Freeing> m_realTexts;
+
+    // The handle written last and its text. Handles mostly count up, which mostly changes the last
+    // digit alone.
+    std::uint64_t m_handle = 0;
+    char m_handleText[16] = {'0'};
+    unsigned m_handleLength = 1;
 };
 }  // namespace host::dxf

@@ -148,6 +148,27 @@ TEST(TagWriter, handlesOfAnyLengthAreHexadecimalCapitals)
     }
 }
 
+TEST(TagWriter, handlesThatCountUpAreWrittenLikeOthers)
+{
+    const std::uint64_t starts[] = {0, 0xF8, 0xFFFFFFF0, 0xFFFFFFFFFFFFFFF0, 0x7, 0x7};
+    std::string expected;
+    const auto count = [&](TagWriter& w)
+    {
+        for (const std::uint64_t start : starts)
+        {
+            for (std::uint64_t handle = start; handle != start + 300; ++handle)
+            {
+                char tag[40];
+                std::snprintf(tag, sizeof tag, "  5\n%llX\n",
+                              static_cast<unsigned long long>(handle));
+                expected += tag;
+                w.handle(Code(5), handle);
+            }
+        }
+    };
+    EXPECT_EQ(written({}, count), expected);
+}
+
 namespace
 {
 const double numbers[] = {0, -0.5, 123456.789, -2.2250738585072014e-308, 1e20, 0.1};
@@ -155,25 +176,24 @@ const double numbers[] = {0, -0.5, 123456.789, -2.2250738585072014e-308, 1e20, 0
 RecordForm formOf(const TagStyle& style, bool hasHandle, const std::string& layer)
 {
     const auto piece = [&](const auto& write) { return written(style, write); };
-    RecordForm form;
-    form.hasHandle = hasHandle;
-    form.head =
+    const std::string head =
         hasHandle ? piece([](TagWriter& w) { w.text(Code(0), "LINE"), w.codeLine(Code(5)); }) : "";
-    form.common = piece(
+    const std::string common = piece(
         [&](TagWriter& w)
         {
             hasHandle ? w.lineEnd() : w.text(Code(0), "LINE");
             w.text(Code(8), layer);
             w.codeLine(Code(10));
         });
-    const int codes[] = {20, 30, 11, 21, 31};
-    for (int i = 0; i < 5; ++i)
+    std::vector<RecordForm::Gap> gaps;
+    for (const int code : {20, 30, 11, 21, 31})
     {
-        form.gaps[i] =
-            RecordForm::Gap(piece([&](TagWriter& w) { w.lineEnd(), w.codeLine(Code(codes[i])); }));
+        const std::string gap = piece([&](TagWriter& w) { w.lineEnd(), w.codeLine(Code(code)); });
+        gaps.push_back({unsigned(gaps.size()), SharedBytes(gap)});
     }
-    form.tail = piece([](TagWriter& w) { w.lineEnd(), w.text(Code(210), "tail"); });
-    return form;
+    const std::string tail = piece([](TagWriter& w) { w.lineEnd(), w.text(Code(210), "tail"); });
+    gaps.push_back({5, SharedBytes(tail)});
+    return {head, hasHandle, common, std::move(gaps)};
 }
 
 std::string tagsOneByOne(const TagStyle& style, bool hasHandle, const std::string& layer,

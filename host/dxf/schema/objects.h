@@ -38,6 +38,8 @@ inline constexpr auto entry =
 
 namespace group
 {
+inline constexpr Code member{340};
+
 struct Group
 {
     Handle handle = 0;
@@ -46,13 +48,13 @@ struct Group
     std::wstring description;
     int unnamed = 0;
     int selectable = 1;
-    Handles members;
+    Handles members;  // last in the record
 };
 
 inline constexpr auto table = tableOf<Group>(
     "GROUP", row(handle, &Group::handle), listRow("{ACAD_REACTORS", owner, &Group::reactors),
     row(owner, &Group::owner, When::always, Since::r2000), subclassRow("AcDbGroup"),
     row(Code(300), &Group::description), row(Code(70), &Group::unnamed),
-    row(Code(71), &Group::selectable), row(Code(340), &Group::members));
+    row(Code(71), &Group::selectable), row(member, &Group::members));
 }  // namespace group
 }  // namespace host::dxf::schema
