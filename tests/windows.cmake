@@ -7,7 +7,7 @@ foreach(library gtest gmock gmock_main)
 endforeach()
 
 file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS *.cpp)
-list(FILTER test_sources EXCLUDE REGEX "/(readers|faults|relations|exhaustion|fuzz)/")
+list(FILTER test_sources EXCLUDE REGEX "/(readers|faults|relations|exhaustion|fuzz|program)/")
 list(FILTER test_sources EXCLUDE REGEX "/(headless|emulated|dialogs|pictures|cairo|posix)/")
 list(FILTER test_sources EXCLUDE REGEX "/windows/(calls|format|numbers|streams)_test[.]cpp")
 list(FILTER test_sources EXCLUDE REGEX "/(inistore_test|dialogtemplate|damaged_test)[.]cpp")
