@@ -18,7 +18,8 @@ struct FileForm
 inline bool has(const Release& release, schema::Since since)
 {
     return since == schema::Since::r12 || (since == schema::Since::r13 && release.objects) ||
-           (since == schema::Since::r2000 && release.ownership);
+           (since == schema::Since::r2000 && release.ownership) ||
+           (since == schema::Since::r2004 && release.trueColors);
 }
 
 // Returns a record with all defaults [borrowed], which lives as long as the program.

@@ -9,9 +9,10 @@ struct Release
 {
     std::string_view version;  // as in $ACADVER
     std::string_view name;
-    bool objects;    // records name classes; there are dictionaries, groups and handles
-    bool ownership;  // every object names its owner; entities have line weights
-    bool utf8;       // texts are UTF-8 even if the header names a code page
+    bool objects;     // records name classes; there are dictionaries, groups and handles
+    bool ownership;   // every object names its owner; entities have line weights
+    bool trueColors;  // entities and layers have colours beside those of the palette
+    bool utf8;        // texts are UTF-8 even if the header names a code page
 };
 
 // Returns the release of a version, R12 to R2018 [borrowed], which lives as long as the program.

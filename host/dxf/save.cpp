@@ -69,7 +69,7 @@ std::size_t placeFor(const FileSource& source, const AcDbStub* owner)
         {
             return record.begin;
         }
-        if (type == schema::block::type)
+        if (type == schema::block::table.type)
         {
             for (const Tag& tag : source.file.tags(record))
             {

@@ -27,6 +27,14 @@ void takeValue(const TagSource& source, const Tag& tag, Code code, std::wstring&
     }
 }
 
+void takeValue(const TagSource&, const Tag& tag, Code code, std::string_view& value)
+{
+    if (tag.code == code)
+    {
+        value = tag.value;
+    }
+}
+
 void takeValue(const TagSource& source, const Tag& tag, Code code, int& value)
 {
     if (tag.code == code)
@@ -48,14 +56,6 @@ void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handl
     if (tag.code == code)
     {
         value = source.file.handle(tag);
-    }
-}
-
-void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handles& values)
-{
-    if (tag.code == code)
-    {
-        values.push_back(source.file.handle(tag));
     }
 }
 

@@ -1,8 +1,10 @@
 // Writes attributes as tags, reads them from tags and compares them, for each type.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/dxf/codepage.h"
 #include "host/dxf/schema/table.h"
@@ -15,6 +17,12 @@ template <class Out>
 void putValue(Out& out, Code code, const std::wstring& value, const CodePage& codePage)
 {
     out.text(code, codePage.encode(value));
+}
+
+template <class Out>
+void putValue(Out& out, Code code, std::string_view value, const CodePage&)
+{
+    out.text(code, value);
 }
 
 template <class Out>
@@ -33,15 +41,6 @@ template <class Out>
 void putValue(Out& out, Code code, schema::Handle value, const CodePage&)
 {
     out.handle(code, value);
-}
-
-template <class Out>
-void putValue(Out& out, Code code, const schema::Handles& values, const CodePage&)
-{
-    for (const schema::Handle value : values)
-    {
-        out.handle(code, value);
-    }
 }
 
 template <class Out>
@@ -71,6 +70,15 @@ void putValue(Out& out, Code code, const std::optional<Value>& value, const Code
     }
 }
 
+template <class Out, class Value>
+void putValue(Out& out, Code code, const std::vector<Value>& values, const CodePage& codePage)
+{
+    for (const Value& value : values)
+    {
+        putValue(out, code, value, codePage);
+    }
+}
+
 // The file and the code page from which tags are read.
 struct TagSource
 {
@@ -81,10 +89,10 @@ struct TagSource
 // Read `tag` into `value` if the tag belongs to the attribute that begins with `code`. Throw an
 // Error if the value has another type.
 void takeValue(const TagSource& source, const Tag& tag, Code code, std::wstring& value);
+void takeValue(const TagSource& source, const Tag& tag, Code code, std::string_view& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, int& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, double& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handle& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handles& values);
 void takeValue(const TagSource& source, const Tag& tag, Code code, schema::PlanePoint& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, AcGePoint3d& value);
 void takeValue(const TagSource& source, const Tag& tag, Code code, AcGeVector3d& value);
@@ -98,6 +106,18 @@ void takeValue(const TagSource& source, const Tag& tag, Code code, std::optional
     if (value)
     {
         takeValue(source, tag, code, *value);
+    }
+}
+template <class Value>
+void takeValue(const TagSource& source, const Tag& tag, Code code, std::vector<Value>& values)
+{
+    if (tag.code == code)
+    {
+        values.emplace_back();
+    }
+    if (!values.empty())
+    {
+        takeValue(source, tag, code, values.back());
     }
 }
 
@@ -115,5 +135,10 @@ template <class Value>
 bool same(const std::optional<Value>& a, const std::optional<Value>& b)
 {
     return a && b ? same(*a, *b) : a.has_value() == b.has_value();
+}
+template <class Value>
+bool same(const std::vector<Value>& a, const std::vector<Value>& b)
+{
+    return std::ranges::equal(a, b, [](const Value& x, const Value& y) { return same(x, y); });
 }
 }  // namespace host::dxf

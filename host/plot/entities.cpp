@@ -3,151 +3,131 @@
 #include <array>
 #include <numbers>
 
+#include "host/basics/angle.h"
 #include "host/dxf/schema/curves.h"
-#include "host/dxf/schema/entities.h"
+#include "host/dxf/schema/hatch.h"
+#include "host/dxf/schema/references.h"
 
 #include "host/geometry/ocs.h"
 #include "host/plot/curves.h"
+#include "host/plot/tagcursor.h"
 
 namespace host::plot
 {
 namespace
 {
-void drawLine(const EntityTags& line, const Pen& pen)
+void drawLine(const EntityTags& entity, const Pen& pen)
 {
-    pen.path({line.point(schema::line::start), line.point(schema::line::end)});
+    const schema::line::Ends line = entity.read(schema::line::ends);
+    pen.path({line.start, line.end});
 }
 
-void drawCircle(const EntityTags& circle, const Pen& pen)
+void drawCircle(const EntityTags& entity, const Pen& pen)
 {
-    pen.withinPlane(circle.normal())
-        .path(arc(circle.point(schema::circle::centre), circle.real(schema::circle::radius), 0,
-                  2 * std::numbers::pi),
-              true);
+    const schema::circle::Circle circle = entity.read(schema::circle::table);
+    pen.withinPlane(circle.normal)
+        .path(arc(circle.centre, circle.radius, 0, 2 * std::numbers::pi), true);
 }
 
-void drawArc(const EntityTags& curve, const Pen& pen)
+void drawArc(const EntityTags& entity, const Pen& pen)
 {
-    pen.withinPlane(curve.normal())
-        .path(arc(curve.point(schema::circle::centre), curve.real(schema::circle::radius),
-                  curve.radians(schema::circle::startAngle),
-                  curve.radians(schema::circle::endAngle)));
+    const schema::arc::Arc curve = entity.read(schema::arc::table);
+    pen.withinPlane(curve.normal)
+        .path(arc(curve.centre, curve.radius, toRadians(curve.startAngle),
+                  toRadians(curve.endAngle)));
 }
 
 // Draws an ellipse. Its points are stored in the coordinates of its space or block, unlike those of
 // circles and arcs, which are stored in the coordinates of their plane.
-void drawEllipse(const EntityTags& curve, const Pen& pen)
+void drawEllipse(const EntityTags& entity, const Pen& pen)
 {
-    const AcGeVector3d major = curve.point(schema::ellipse::majorAxis).asVector();
+    const schema::ellipse::Ellipse curve = entity.read(schema::ellipse::table);
     const AcGeVector3d minor =
-        Ocs(curve.normal()).normal().crossProduct(major) * curve.real(schema::ellipse::ratio, 1);
-    pen.path(ellipse(curve.point(schema::ellipse::centre), major, minor,
-                     curve.real(schema::ellipse::start),
-                     curve.real(schema::ellipse::end, 2 * std::numbers::pi)));
+        Ocs(curve.normal).normal().crossProduct(curve.majorAxis) * curve.ratio;
+    pen.path(ellipse(curve.centre, curve.majorAxis, minor, curve.start, curve.end));
 }
 
-void drawPoint(const EntityTags& point, const Pen& pen)
+void drawPoint(const EntityTags& entity, const Pen& pen)
 {
-    pen.dot(point.point(schema::point::position));
+    pen.dot(entity.read(schema::point::table).position);
 }
 
 // Draws a SOLID, whose corners are stored in zigzag order, so that the last two are swapped here.
-void drawSolid(const EntityTags& solid, const Pen& pen)
+void drawSolid(const EntityTags& entity, const Pen& pen)
 {
-    Points corners{solid.point(schema::solid::corners[0]), solid.point(schema::solid::corners[1]),
-                   solid.point(schema::solid::corners[2])};
-    if (solid.has(schema::solid::corners[3]))
+    const schema::solid::Solid solid = entity.read(schema::solid::table);
+    Points corners{solid.first, solid.second, solid.third};
+    if (solid.fourth)
     {
-        corners.insert(corners.begin() + 2, solid.point(schema::solid::corners[3]));
+        corners.insert(corners.begin() + 2, *solid.fourth);
     }
-    pen.withinPlane(solid.normal()).area({corners});
+    pen.withinPlane(solid.normal).area({corners});
 }
 
-void drawFace(const EntityTags& face, const Pen& pen)
+void drawFace(const EntityTags& entity, const Pen& pen)
 {
-    const std::array corners{
-        face.point(schema::solid::corners[0]), face.point(schema::solid::corners[1]),
-        face.point(schema::solid::corners[2]),
-        face.has(schema::solid::corners[3]) ? face.point(schema::solid::corners[3])
-                                            : face.point(schema::solid::corners[2])};
-    const int hidden = face.integer(schema::solid::hiddenEdges);
+    const schema::solid::Face face = entity.read(schema::solid::face);
+    const std::array corners{face.first, face.second, face.third, face.fourth.value_or(face.third)};
     for (std::size_t i = 0; i < corners.size(); ++i)
     {
-        if ((hidden >> i & 1) == 0)
+        if ((face.hiddenEdges >> i & 1) == 0)
         {
             pen.path({corners[i], corners[(i + 1) % corners.size()]});
         }
     }
 }
 
-std::vector<double> reals(const EntityTags& entity, Code code)
+void drawSpline(const EntityTags& entity, const Pen& pen)
 {
-    std::vector<double> values;
-    for (const dxf::Tag& tag : entity.all())
+    const schema::spline::Spline spline = entity.read(schema::spline::table);
+    const Points curve = bspline(spline.degree, spline.knots, spline.poles, spline.weights);
+    pen.path(curve.empty() ? spline.fitPoints : curve);
+}
+
+void drawXline(const EntityTags& entity, const Pen& pen)
+{
+    const schema::ray::Ray line = entity.read(schema::ray::xline);
+    pen.ray(line.start, line.direction, true);
+}
+
+void drawRay(const EntityTags& entity, const Pen& pen)
+{
+    const schema::ray::Ray line = entity.read(schema::ray::table);
+    pen.ray(line.start, line.direction, false);
+}
+
+void drawLeader(const EntityTags& entity, const Pen& pen)
+{
+    pen.path(entity.read(schema::leader::table).vertices);
+}
+
+// Adds the points of a vertex, whose elements follow, to the lines of a multiline.
+void addVertex(const schema::multiline::Vertex& vertex, TagCursor& cursor,
+               std::vector<Points>& lines)
+{
+    for (std::size_t i = 0; cursor.seek(schema::multiline::element, schema::multiline::vertex);)
     {
-        if (tag.code == code)
+        const schema::multiline::Element element = cursor.read(schema::multiline::element);
+        if (element.distance && vertex.miter)
         {
-            values.push_back(entity.real(tag));
+            lines.resize(std::max(lines.size(), i + 1));
+            lines[i++].push_back(vertex.point + *vertex.miter * *element.distance);
         }
     }
-    return values;
 }
 
-void drawSpline(const EntityTags& spline, const Pen& pen)
+void drawMultiline(const EntityTags& entity, const Pen& pen)
 {
-    const Points curve =
-        bspline(spline.integer(schema::spline::degree), reals(spline, schema::spline::knot),
-                spline.points(schema::spline::pole), reals(spline, schema::spline::weight));
-    pen.path(curve.empty() ? spline.points(schema::spline::fitPoint) : curve);
-}
-
-void drawXline(const EntityTags& line, const Pen& pen)
-{
-    pen.ray(line.point(schema::ray::start), line.point(schema::ray::direction).asVector(), true);
-}
-
-void drawRay(const EntityTags& line, const Pen& pen)
-{
-    pen.ray(line.point(schema::ray::start), line.point(schema::ray::direction).asVector(), false);
-}
-
-void drawLeader(const EntityTags& leader, const Pen& pen)
-{
-    pen.path(leader.points(schema::leader::vertex));
-}
-
-// Draws an MLINE. Each vertex states the distance along its miter to each element.
-void drawMultiline(const EntityTags& multiline, const Pen& pen)
-{
-    const Points vertices = multiline.points(schema::multiline::vertex);
-    const Points miters = multiline.points(schema::multiline::miter);
-    std::vector<Points> elements;
-    std::size_t vertex = 0, element = 0;
-    bool distanceNext = false;
-    for (const dxf::Tag& tag : multiline.all())
+    const schema::multiline::Multiline multiline = entity.read(schema::multiline::table);
+    std::vector<Points> lines;
+    for (TagCursor cursor(entity); cursor.seek(schema::multiline::vertex);)
     {
-        if (tag.code == schema::multiline::vertex)
-        {
-            ++vertex;
-            element = 0;
-        }
-        distanceNext |= tag.code == schema::multiline::parameterCount;
-        if (tag.code != schema::multiline::parameter || !distanceNext || vertex == 0 ||
-            vertex > miters.size())
-        {
-            continue;
-        }
-        distanceNext = false;
-        if (element == elements.size())
-        {
-            elements.emplace_back();
-        }
-        elements[element++].push_back(vertices[vertex - 1] +
-                                      miters[vertex - 1].asVector() * multiline.real(tag));
+        const schema::multiline::Vertex vertex = cursor.read(schema::multiline::vertex);
+        addVertex(vertex, cursor, lines);
     }
-    for (const Points& line : elements)
+    for (const Points& line : lines)
     {
-        pen.path(line, (multiline.integer(schema::multiline::flags) & 2) != 0);
+        pen.path(line, (multiline.flags & schema::multiline::closedFlag) != 0);
     }
 }
 
@@ -157,49 +137,39 @@ struct Kind
     void (*draw)(const EntityTags&, const Pen&);
 };
 
+// clang-format off
 const Kind kinds[] = {
-    {"LINE", drawLine},       {"CIRCLE", drawCircle},
-    {"ARC", drawArc},         {"ELLIPSE", drawEllipse},
-    {"POINT", drawPoint},     {"SOLID", drawSolid},
-    {"TRACE", drawSolid},     {"3DFACE", drawFace},
-    {"SPLINE", drawSpline},   {"XLINE", drawXline},
-    {"RAY", drawRay},         {"LEADER", drawLeader},
-    {"MLINE", drawMultiline}, {"LWPOLYLINE", drawLightPolyline},
-    {"HATCH", drawHatch},
+    {schema::line::table.type, drawLine},
+    {schema::circle::table.type, drawCircle},
+    {schema::arc::table.type, drawArc},
+    {schema::ellipse::table.type, drawEllipse},
+    {schema::point::table.type, drawPoint},
+    {schema::solid::table.type, drawSolid},
+    {schema::solid::trace.type, drawSolid},
+    {schema::solid::face.type, drawFace},
+    {schema::spline::table.type, drawSpline},
+    {schema::ray::xline.type, drawXline},
+    {schema::ray::table.type, drawRay},
+    {schema::leader::table.type, drawLeader},
+    {schema::multiline::table.type, drawMultiline},
+    {schema::lightpolyline::table.type, drawLightPolyline},
+    {schema::hatch::table.type, drawHatch},
+    {schema::text::table.type, drawText},
+    {schema::attribute::table.type, drawAttribute},
+    {schema::attribute::definition.type, drawAttributeDefinition},
+    {schema::paragraphs::table.type, drawParagraphs},
 };
-
-struct TextKind
-{
-    std::string_view type;
-    void (*draw)(const EntityTags&, const dxf::CodePage&, const Pen&);
-};
-
-const TextKind textKinds[] = {
-    {"TEXT", drawText},
-    {"ATTRIB", drawText},
-    {"ATTDEF", drawAttributeDefinition},
-    {"MTEXT", drawParagraphs},
-};
+// clang-format on
 }  // namespace
 
-bool drawEntity(const EntityTags& entity, const dxf::CodePage& codePage, const Pen& pen)
+bool drawEntity(const EntityTags& entity, const Pen& pen)
 {
-    for (const Kind& kind : kinds)
+    const auto* kind = std::ranges::find(kinds, entity.type(), &Kind::type);
+    if (kind == std::end(kinds))
     {
-        if (kind.type == entity.type())
-        {
-            kind.draw(entity, pen);
-            return true;
-        }
+        return false;
     }
-    for (const TextKind& kind : textKinds)
-    {
-        if (kind.type == entity.type())
-        {
-            kind.draw(entity, codePage, pen);
-            return true;
-        }
-    }
-    return false;
+    kind->draw(entity, pen);
+    return true;
 }
 }  // namespace host::plot

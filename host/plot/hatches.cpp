@@ -5,193 +5,118 @@
 #include "host/dxf/schema/hatch.h"
 #include "host/plot/curves.h"
 #include "host/plot/entities.h"
+#include "host/plot/tagcursor.h"
 
 namespace host::plot
 {
 namespace
 {
-// Walks through the tags of a hatch, in which the place of a code decides what it means.
-class Cursor
+AcGePoint3d flat(const schema::PlanePoint& point)
 {
-public:
-    explicit Cursor(const EntityTags& hatch) : m_hatch(hatch), m_tags(hatch.all()) {}
+    return {point.x, point.y, 0};
+}
 
-    bool atEnd() const { return m_at == m_tags.size(); }
-    bool at(Code code) const { return !atEnd() && m_tags[m_at].code == code; }
-    void skip() { ++m_at; }
-
-    // Moves forward to the first tag with the code. Returns false and stays when no such tag
-    // follows.
-    bool seek(Code code)
-    {
-        const auto found = std::ranges::find(m_tags.subspan(m_at), code, &dxf::Tag::code);
-        if (found == m_tags.end())
-        {
-            return false;
-        }
-        m_at = std::size_t(found - m_tags.begin());
-        return true;
-    }
-
-    // Takes the value of the current tag if the tag has the code, otherwise the fallback.
-    double real(Code code, double fallback = 0)
-    {
-        return at(code) ? m_hatch.real(m_tags[m_at++]) : fallback;
-    }
-    int integer(Code code, int fallback = 0)
-    {
-        return at(code) ? m_hatch.integer(m_tags[m_at++]) : fallback;
-    }
-    AcGePoint3d point(Code code)
-    {
-        const double x = real(code);
-        return {x, real(code.y()), 0};
-    }
-    double radians(Code code) { return toRadians(real(code)); }
-
-private:
-    const EntityTags& m_hatch;
-    std::span<const dxf::Tag> m_tags;
-    std::size_t m_at = 0;
-};
-
-Points polylineLoop(Cursor& cursor)
+Points polylineLoop(TagCursor& cursor)
 {
-    const bool bulges = cursor.integer(schema::hatch::hasBulges) != 0;
-    cursor.integer(schema::hatch::isClosed);  // not needed: every loop of a hatch is closed
-    const int count = cursor.integer(schema::hatch::partCount);
+    const auto loop = cursor.read(schema::hatch::polylineLoop);
     std::vector<Vertex> vertices;
-    for (int i = 0; i < count && cursor.at(schema::hatch::vertex); ++i)
+    for (int i = 0; i < loop.vertices && cursor.at(schema::hatch::vertex); ++i)
     {
-        vertices.push_back({cursor.point(schema::hatch::vertex)});
-        vertices.back().bulge = bulges ? cursor.real(schema::hatch::bulge) : 0;
+        const auto vertex = loop.hasBulges != 0 ? cursor.read(schema::hatch::bulgedVertex)
+                                                : cursor.read(schema::hatch::vertex);
+        vertices.push_back({flat(vertex.point), vertex.bulge});
     }
     return chain(vertices, true);
 }
 
-// Returns an arc of an edge. The angles of a clockwise edge are measured clockwise.
-Points turned(bool counterClockwise, double start, double end, const AcGePoint3d& centre,
-              const AcGeVector3d& major, const AcGeVector3d& minor)
+// Returns the arc between the axes of an edge. The angles of a clockwise edge are measured
+// clockwise.
+Points arcOfEdge(const schema::hatch::Turn& turn, const AcGePoint3d& centre,
+                 const AcGeVector3d& major, const AcGeVector3d& minor)
 {
-    if (counterClockwise)
-    {
-        return ellipse(centre, major, minor, start, end);
-    }
-    return ellipse(centre, major, -minor, start, end);
+    return ellipse(centre, major, turn.isCounterClockwise != 0 ? minor : -minor,
+                   toRadians(turn.start), toRadians(turn.end));
 }
 
-Points arcEdge(Cursor& cursor)
+Points arcEdge(TagCursor& cursor)
 {
-    const AcGePoint3d centre = cursor.point(schema::hatch::centre);
-    const double radius = cursor.real(schema::hatch::radius);
-    const double start = cursor.radians(schema::hatch::startAngle);
-    const double end = cursor.radians(schema::hatch::endAngle);
-    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, centre,
-                  {radius, 0, 0}, {0, radius, 0});
+    const auto edge = cursor.read(schema::hatch::arcEdge);
+    return arcOfEdge(edge, flat(edge.centre), {edge.radius, 0, 0}, {0, edge.radius, 0});
 }
 
-Points ellipseEdge(Cursor& cursor)
+Points ellipseEdge(TagCursor& cursor)
 {
-    const AcGePoint3d centre = cursor.point(schema::hatch::centre);
-    const AcGeVector3d major = cursor.point(schema::hatch::majorAxis).asVector();
-    const double ratio = cursor.real(schema::hatch::ratio, 1);
-    const double start = cursor.radians(schema::hatch::startAngle);
-    const double end = cursor.radians(schema::hatch::endAngle);
-    return turned(cursor.integer(schema::hatch::isCounterClockwise, 1) != 0, start, end, centre,
-                  major, AcGeVector3d(-major.y, major.x, 0) * ratio);
+    const auto edge = cursor.read(schema::hatch::ellipseEdge);
+    const AcGeVector3d major = flat(edge.majorAxis).asVector();
+    return arcOfEdge(edge, flat(edge.centre), major,
+                     AcGeVector3d(-major.y, major.x, 0) * edge.ratio);
 }
 
-Points splineEdge(Cursor& cursor)
+Points splineEdge(TagCursor& cursor)
 {
-    const int degree = cursor.integer(schema::hatch::degree);
-    cursor.integer(
-        schema::hatch::isRational);  // not needed: the weights beside the poles say the same
-    cursor.integer(schema::hatch::isPeriodic);
-    const int knotCount = cursor.integer(schema::hatch::knotCount);
-    const int poleCount = cursor.integer(schema::hatch::poleCount);
+    const auto edge = cursor.read(schema::hatch::splineEdge);
     std::vector<double> knots, weights;
-    for (int i = 0; i < knotCount && cursor.at(schema::hatch::knot); ++i)
+    for (int i = 0; i < edge.knots && cursor.at(schema::hatch::knot); ++i)
     {
-        knots.push_back(cursor.real(schema::hatch::knot));
+        knots.push_back(cursor.read(schema::hatch::knot).value);
     }
     Points poles;
-    for (int i = 0; i < poleCount && cursor.at(schema::hatch::pole); ++i)
+    for (int i = 0; i < edge.poles && cursor.at(schema::hatch::pole); ++i)
     {
-        poles.push_back(cursor.point(schema::hatch::pole));
-        if (cursor.at(schema::hatch::weight))
+        const auto pole = cursor.read(schema::hatch::pole);
+        poles.push_back(flat(pole.point));
+        if (pole.weight)
         {
-            weights.push_back(cursor.real(schema::hatch::weight));
+            weights.push_back(*pole.weight);
         }
     }
-    return bspline(degree, knots, poles, weights);
+    return bspline(edge.degree, knots, poles, weights);
 }
 
-Points edge(Cursor& cursor)
+Points edgePoints(TagCursor& cursor)
 {
-    switch (cursor.integer(schema::hatch::edgeKind))
+    switch (cursor.read(schema::hatch::edge).kind)
     {
-        case 1:
+        case schema::hatch::lineKind:
         {
-            const AcGePoint3d start = cursor.point(schema::hatch::start);
-            return {start, cursor.point(schema::hatch::end)};
+            const auto edge = cursor.read(schema::hatch::lineEdge);
+            return {flat(edge.start), flat(edge.end)};
         }
-        case 2:
+        case schema::hatch::arcKind:
             return arcEdge(cursor);
-        case 3:
+        case schema::hatch::ellipseKind:
             return ellipseEdge(cursor);
-        case 4:
+        case schema::hatch::splineKind:
             return splineEdge(cursor);
         default:
             return {};
     }
 }
 
-Points edgeLoop(Cursor& cursor)
+Points edgeLoop(TagCursor& cursor)
 {
     Points loop;
-    const int count = cursor.integer(schema::hatch::partCount);
-    for (int i = 0; i < count && cursor.seek(schema::hatch::edgeKind); ++i)
+    const int count = cursor.read(schema::hatch::edgeCount).value;
+    for (int i = 0; i < count && cursor.seek(schema::hatch::edge); ++i)
     {
-        const Points part = edge(cursor);
+        const Points part = edgePoints(cursor);
         loop.insert(loop.end(), part.begin(), part.end());
     }
     return loop;
 }
 
-std::vector<Points> readLoops(Cursor& cursor)
+std::vector<Points> readLoops(TagCursor& cursor)
 {
-    const int polylineFlag = 2;
     std::vector<Points> loops;
-    if (!cursor.seek(schema::hatch::loopCount))
+    cursor.seek(schema::hatch::loopCount);
+    const int count = cursor.read(schema::hatch::loopCount).value;
+    for (int i = 0; i < count && cursor.seek(schema::hatch::loop); ++i)
     {
-        return loops;
-    }
-    const int count = cursor.integer(schema::hatch::loopCount);
-    for (int i = 0; i < count && cursor.seek(schema::hatch::loopFlags); ++i)
-    {
-        const bool polyline = (cursor.integer(schema::hatch::loopFlags) & polylineFlag) != 0;
-        loops.push_back(polyline ? polylineLoop(cursor) : edgeLoop(cursor));
+        const int flags = cursor.read(schema::hatch::loop).flags;
+        const bool isPolyline = (flags & schema::hatch::polylineFlag) != 0;
+        loops.push_back(isPolyline ? polylineLoop(cursor) : edgeLoop(cursor));
     }
     return loops;
-}
-
-// A family of parallel lines in a pattern.
-struct PatternLine
-{
-    double angle;
-    AcGePoint3d base;
-    AcGeVector3d offset;  // from one line to the next
-};
-
-PatternLine readPatternLine(Cursor& cursor)
-{
-    PatternLine line{};
-    line.angle = cursor.radians(schema::hatch::lineAngle);
-    line.base.x = cursor.real(schema::hatch::lineBaseX);
-    line.base.y = cursor.real(schema::hatch::lineBaseY);
-    line.offset.x = cursor.real(schema::hatch::lineOffsetX);
-    line.offset.y = cursor.real(schema::hatch::lineOffsetY);
-    return line;
 }
 
 // Returns the places where the line through `base` crosses the loops, as sorted distances along the
@@ -220,18 +145,22 @@ std::vector<double> crossings(const std::vector<Points>& loops, const AcGePoint3
 
 // Draws the lines of a family as solid strokes, because the gaps of dashed patterns are too fine
 // for a plot of the whole drawing.
-void drawFamily(const std::vector<Points>& loops, const PatternLine& line, const Pen& pen)
+void drawFamily(const std::vector<Points>& loops, const schema::hatch::PatternLine& family,
+                const Pen& pen)
 {
     const int mostLines = 2000;
-    const AcGeVector3d along(std::cos(line.angle), std::sin(line.angle), 0);
+    const AcGePoint3d first(family.baseX, family.baseY, 0);
+    const AcGeVector3d offset(family.offsetX, family.offsetY, 0);
+    const double angle = toRadians(family.angle);
+    const AcGeVector3d along(std::cos(angle), std::sin(angle), 0);
     const AcGeVector3d across(-along.y, along.x, 0);
-    const double spacing = line.offset.dotProduct(across);
+    const double spacing = offset.dotProduct(across);
     double low = INFINITY, high = -INFINITY;
     for (const Points& loop : loops)
     {
         for (const AcGePoint3d& point : loop)
         {
-            const double place = (point - line.base).dotProduct(across) / spacing;
+            const double place = (point - first).dotProduct(across) / spacing;
             low = std::min(low, place);
             high = std::max(high, place);
         }
@@ -243,7 +172,7 @@ void drawFamily(const std::vector<Points>& loops, const PatternLine& line, const
     }
     for (int i = 0; i <= int(high - low); ++i)
     {
-        const AcGePoint3d base = line.base + line.offset * (std::ceil(low) + i);
+        const AcGePoint3d base = first + offset * (std::ceil(low) + i);
         const std::vector<double> places = crossings(loops, base, along);
         for (std::size_t k = 0; k + 1 < places.size(); k += 2)
         {
@@ -253,24 +182,23 @@ void drawFamily(const std::vector<Points>& loops, const PatternLine& line, const
 }
 }  // namespace
 
-void drawHatch(const EntityTags& hatch, const Pen& pen)
+void drawHatch(const EntityTags& entity, const Pen& pen)
 {
-    Cursor cursor(hatch);
-    std::vector<Points> loops = readLoops(cursor);
-    const double elevation = hatch.point(schema::hatch::elevation).z;
-    const Pen plane =
-        pen.withinPlane(hatch.normal()).within(AcGeMatrix3d::translation({0, 0, elevation}));
-    if (hatch.integer(schema::hatch::isSolid) != 0)
+    const schema::hatch::Hatch hatch = entity.read(schema::hatch::table);
+    TagCursor cursor(entity);
+    const std::vector<Points> loops = readLoops(cursor);
+    const AcGeVector3d elevation(0, 0, hatch.elevation.z);
+    const Pen plane = pen.withinPlane(hatch.normal).within(AcGeMatrix3d::translation(elevation));
+    if (hatch.isSolid != 0)
     {
         plane.area(loops);
         return;
     }
-    const int count = cursor.seek(schema::hatch::patternLineCount)
-                          ? cursor.integer(schema::hatch::patternLineCount)
-                          : 0;
-    for (int i = 0; i < count && cursor.seek(schema::hatch::lineAngle); ++i)
+    cursor.seek(schema::hatch::patternLineCount);
+    const int count = cursor.read(schema::hatch::patternLineCount).value;
+    for (int i = 0; i < count && cursor.seek(schema::hatch::patternLine); ++i)
     {
-        drawFamily(loops, readPatternLine(cursor), plane);
+        drawFamily(loops, cursor.read(schema::hatch::patternLine), plane);
     }
 }
 }  // namespace host::plot

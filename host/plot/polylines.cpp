@@ -52,19 +52,15 @@ void drawFlat(const std::vector<Vertex>& vertices, bool closed, const Pen& pen)
 }
 
 // The file stores the points of a mesh row by row.
-void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
+void drawMesh(const schema::polyline::Shape& mesh, const Points& points, const Pen& pen)
 {
-    const int flags = mesh.integer(schema::entity::flags);
-    const auto rows = std::size_t(std::max(mesh.integer(schema::polyline::smoothRows)
-                                               ? mesh.integer(schema::polyline::smoothRows)
-                                               : mesh.integer(schema::polyline::meshRows),
-                                           1));
+    const auto rows = std::size_t(std::max(mesh.smoothRows ? mesh.smoothRows : mesh.meshRows, 1));
     const std::size_t across = points.size() / rows;
     for (std::size_t row = 0; row < rows && across > 0; ++row)
     {
         const auto first = points.begin() + std::ptrdiff_t(row * across);
         pen.path(Points(first, first + std::ptrdiff_t(across)),
-                 (flags & schema::polyline::closedAcrossFlag) != 0);
+                 (mesh.flags & schema::polyline::closedAcrossFlag) != 0);
     }
     for (std::size_t column = 0; column < across; ++column)
     {
@@ -73,18 +69,16 @@ void drawMesh(const EntityTags& mesh, const Points& points, const Pen& pen)
         {
             line.push_back(points[row * across + column]);
         }
-        pen.path(line, (flags & schema::polyline::closedFlag) != 0);
+        pen.path(line, (mesh.flags & schema::polyline::closedFlag) != 0);
     }
 }
 
-// Draws a face of a mesh. A face names up to four vertices by numbers from 1. A number is negative
-// if the edge that begins at its vertex is hidden.
-void drawFaceOf(const EntityTags& face, const Points& points, const Pen& pen)
+// Draws a face of a mesh by its corners; leaves out those that are no vertices of the mesh.
+void drawFaceOf(const schema::vertex::Shape& face, const Points& points, const Pen& pen)
 {
     std::vector<int> corners;
-    for (const Code code : schema::vertex::corners)
+    for (const int corner : {face.corner1, face.corner2, face.corner3, face.corner4})
     {
-        const int corner = face.integer(code);
         if (corner != 0 && std::size_t(std::abs(corner)) <= points.size())
         {
             corners.push_back(corner);
@@ -101,101 +95,79 @@ void drawFaceOf(const EntityTags& face, const Points& points, const Pen& pen)
     }
 }
 
-void drawFaces(std::span<const EntityTags> vertices, const Pen& pen)
+void drawFaces(std::span<const schema::vertex::Shape> vertices, const Pen& pen)
 {
     Points points;
-    for (const EntityTags& vertex : vertices)
+    for (const schema::vertex::Shape& vertex : vertices)
     {
-        const int flags = vertex.integer(schema::entity::flags);
-        if ((flags & schema::vertex::faceFlag) == 0 || (flags & schema::vertex::meshFlag) != 0)
-        {
-            points.push_back(vertex.point(schema::vertex::position));
-        }
-        else
+        const bool isFace = (vertex.flags & schema::vertex::faceFlag) != 0;
+        if (isFace && (vertex.flags & schema::vertex::meshFlag) == 0)
         {
             drawFaceOf(vertex, points, pen);
         }
+        else
+        {
+            points.push_back(vertex.position);
+        }
     }
 }
 
-bool isOfFrame(const EntityTags& vertex)
+bool isOfFrame(const schema::vertex::Shape& vertex)
 {
-    return (vertex.integer(schema::entity::flags) & schema::vertex::splineFrameFlag) != 0;
+    return (vertex.flags & schema::vertex::splineFrameFlag) != 0;
 }
 }  // namespace
 
-void drawLightPolyline(const EntityTags& polyline, const Pen& pen)
+void drawLightPolyline(const EntityTags& entity, const Pen& pen)
 {
-    const double elevation = polyline.real(schema::lightpolyline::elevation);
-    const double width = polyline.real(schema::lightpolyline::width);
+    const auto polyline = entity.read(schema::lightpolyline::table);
     std::vector<Vertex> vertices;
-    for (const dxf::Tag& tag : polyline.all())
+    for (const auto& vertex : entity.readAll(schema::lightpolyline::vertex))
     {
-        if (tag.code == schema::lightpolyline::vertex)
-        {
-            vertices.push_back({{polyline.real(tag), 0, elevation}, 0, width, width});
-            continue;
-        }
-        if (vertices.empty())
-        {
-            continue;
-        }
-        Vertex& vertex = vertices.back();
-        double* const field = tag.code == schema::lightpolyline::vertex.y()   ? &vertex.point.y
-                              : tag.code == schema::lightpolyline::startWidth ? &vertex.startWidth
-                              : tag.code == schema::lightpolyline::endWidth   ? &vertex.endWidth
-                              : tag.code == schema::lightpolyline::bulge      ? &vertex.bulge
-                                                                              : nullptr;
-        if (field != nullptr)
-        {
-            *field = polyline.real(tag);
-        }
+        vertices.push_back({{vertex.point.x, vertex.point.y, polyline.elevation},
+                            vertex.bulge,
+                            vertex.startWidth.value_or(polyline.width),
+                            vertex.endWidth.value_or(polyline.width)});
     }
-    const bool closed =
-        (polyline.integer(schema::entity::flags) & schema::polyline::closedFlag) != 0;
-    drawFlat(vertices, closed, pen.withinPlane(polyline.normal()));
+    const bool closed = (polyline.flags & schema::polyline::closedFlag) != 0;
+    drawFlat(vertices, closed, pen.withinPlane(polyline.normal));
 }
 
-void drawPolyline(const EntityTags& polyline, std::span<const EntityTags> vertices, const Pen& pen)
+void drawPolyline(const EntityTags& entity, std::span<const schema::vertex::Shape> vertices,
+                  const Pen& pen)
 {
-    const int flags = polyline.integer(schema::entity::flags);
-    if ((flags & schema::polyline::facesFlag) != 0)
+    const schema::polyline::Shape polyline = entity.read(schema::polyline::shape);
+    if ((polyline.flags & schema::polyline::facesFlag) != 0)
     {
         drawFaces(vertices, pen);
         return;
     }
-    const bool spatial =
-        (flags & (schema::polyline::spatialFlag | schema::polyline::meshFlag)) != 0;
-    const double elevation = polyline.point(schema::polyline::elevation).z;
-    const double startWidth = polyline.real(schema::polyline::startWidth);
-    const double endWidth = polyline.real(schema::polyline::endWidth);
     std::vector<Vertex> flat;
     Points points;
-    for (const EntityTags& vertex : vertices)
+    for (const schema::vertex::Shape& vertex : vertices)
     {
         if (isOfFrame(vertex))
         {
             continue;
         }
-        const AcGePoint3d point = vertex.point(schema::vertex::position);
-        points.push_back(point);
-        flat.push_back({{point.x, point.y, elevation},
-                        vertex.real(schema::vertex::bulge),
-                        vertex.real(schema::vertex::startWidth, startWidth),
-                        vertex.real(schema::vertex::endWidth, endWidth)});
+        points.push_back(vertex.position);
+        flat.push_back({{vertex.position.x, vertex.position.y, polyline.elevation.z},
+                        vertex.bulge,
+                        vertex.startWidth.value_or(polyline.startWidth),
+                        vertex.endWidth.value_or(polyline.endWidth)});
     }
-    const bool closed = (flags & schema::polyline::closedFlag) != 0;
-    if ((flags & schema::polyline::meshFlag) != 0)
+    const bool closed = (polyline.flags & schema::polyline::closedFlag) != 0;
+    if ((polyline.flags & schema::polyline::meshFlag) != 0)
     {
         drawMesh(polyline, points, pen);
     }
-    else if (spatial)
+    else if ((polyline.flags & schema::polyline::spatialFlag) != 0)
     {
         pen.path(points, closed);
     }
     else
     {
-        drawFlat(flat, closed, pen.withinPlane(polyline.normal()));
+        drawFlat(flat, closed, pen.withinPlane(polyline.normal));
     }
 }
 }  // namespace host::plot

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/basics/angle.h"
 #include "host/dxf/schema/entities.h"
 #include "host/dxf/schema/references.h"
 #include "host/geometry/ocs.h"
@@ -15,22 +16,17 @@ namespace
 {
 const int deepestBlock = 64;
 
-enum AttributeFlag
-{
-    invisibleFlag = 1,
-    constantFlag = 2
-};
-
 // Tells whether entities of that kind show nothing in model space.
 bool isSilent(std::string_view type)
 {
-    return type == "SEQEND" || type == "VERTEX" || type == "VIEWPORT";
+    return type == schema::sequenceend::table.type || type == schema::vertex::table.type ||
+           type == schema::paperViewport;
 }
 
 // Tells whether the CAD program stores the look of such an entity in a block of its own.
 bool hasOwnBlock(std::string_view type)
 {
-    return type.ends_with("DIMENSION");
+    return type.ends_with(schema::dimension::table.type);
 }
 
 AcGeMatrix3d scaling(double x, double y, double z)
@@ -46,7 +42,7 @@ AcGeMatrix3d scaling(double x, double y, double z)
 Scene::Scene(const dxf::TagFile& file, long mostFromBlocks)
     : m_file(file),
       m_codePage(file.release(), file.codePageName()),
-      m_tables(file, m_codePage),
+      m_tables(m_source),
       m_mostEntities(mostFromBlocks + long(file.records(schema::section::entities).size()))
 {
 }
@@ -88,12 +84,13 @@ bool Scene::spend()
 
 std::size_t Scene::followersOf(Records records) const
 {
-    if (m_file.typeName(records[0]) != "POLYLINE")
+    if (m_file.typeName(records[0]) != schema::polyline::table.type)
     {
         return 0;
     }
     std::size_t count = 0;
-    while (count + 1 < records.size() && m_file.typeName(records[count + 1]) == "VERTEX")
+    while (count + 1 < records.size() &&
+           m_file.typeName(records[count + 1]) == schema::vertex::table.type)
     {
         ++count;
     }
@@ -107,12 +104,12 @@ std::size_t Scene::drawOne(Records records, const Place& place, Sink& sink)
     bool drawn = true;
     try
     {
-        const EntityTags entity(m_file, records[0]);
-        const bool elsewhere =
-            place.depth == 0 && entity.integer(schema::entity::inPaperSpace) != 0;
-        if (!isSilent(type) && !elsewhere && entity.integer(schema::entity::invisible) == 0)
+        const EntityTags entity(m_source, records[0]);
+        const Look look = entity.read(schema::entity::look);
+        const bool elsewhere = place.depth == 0 && look.inPaperSpace != 0;
+        if (!isSilent(type) && !elsewhere && look.invisible == 0)
         {
-            drawn = drawSeen(entity, records.subspan(1, followers), place, sink);
+            drawn = drawSeen(entity, look, records.subspan(1, followers), place, sink);
         }
     }
     catch (const dxf::Error&)
@@ -126,105 +123,88 @@ std::size_t Scene::drawOne(Records records, const Place& place, Sink& sink)
     return 1 + followers;
 }
 
-const Layer& Scene::layerOf(const EntityTags& entity, const Place& place) const
+const Layer& Scene::layerOf(const Look& look, const Place& place) const
 {
-    const std::string_view name = entity.text(schema::entity::layer);
+    const std::string_view name = trimmed(look.layer);
     return place.layer != nullptr && (name == "0" || name.empty()) ? *place.layer
                                                                    : m_tables.layer(name);
 }
 
-Color Scene::colorOf(const EntityTags& entity, const Place& place) const
+Color Scene::colorOf(const Look& look, const Place& place) const
 {
-    const OwnColor own =
-        ownColor(entity.integer(schema::entity::color, schema::entity::colorByLayer),
-                 entity.has(schema::entity::trueColor)
-                     ? std::optional(entity.integer(schema::entity::trueColor))
-                     : std::nullopt);
-    return own.byLayer ? layerOf(entity, place).color : own.byBlock ? place.color : own.color;
+    const OwnColor own = ownColor(look.color, look.trueColor);
+    return own.byLayer ? layerOf(look, place).color : own.byBlock ? place.color : own.color;
 }
 
 // Draws an entity unless its layer hides it. A layer that is off hides its entities, but only a
 // frozen layer hides the whole contents of a block.
-bool Scene::drawSeen(const EntityTags& entity, Records followers, const Place& place, Sink& sink)
+bool Scene::drawSeen(const EntityTags& entity, const Look& look, Records followers,
+                     const Place& place, Sink& sink)
 {
-    const Layer& layer = layerOf(entity, place);
+    const Layer& layer = layerOf(look, place);
     if (layer.frozen)
     {
         return true;
     }
-    if (entity.type() == "INSERT" || hasOwnBlock(entity.type()))
+    const bool isInsert = entity.type() == schema::insert::table.type;
+    if (isInsert || hasOwnBlock(entity.type()))
     {
-        return drawReference(entity, place, sink);
+        const Place inside{place.toWorld, &layer, colorOf(look, place), place.depth + 1};
+        return isInsert ? drawInsert(entity, inside, sink) : drawDimension(entity, inside, sink);
     }
     if (!layer.shown)
     {
         return true;
     }
-    const Pen pen(sink, place.toWorld, colorOf(entity, place));
-    if (entity.type() == "POLYLINE")
+    const Pen pen(sink, place.toWorld, colorOf(look, place));
+    if (entity.type() == schema::polyline::table.type)
     {
-        std::vector<EntityTags> vertices;
+        std::vector<schema::vertex::Shape> vertices;
         for (const dxf::Record& record : followers)
         {
-            vertices.emplace_back(m_file, record);
+            vertices.push_back(EntityTags(m_source, record).read(schema::vertex::shape));
         }
         drawPolyline(entity, vertices, pen);
         return true;
     }
-    if (entity.type() == "ATTDEF" && place.depth > 0)
+    if (entity.type() == schema::attribute::definition.type && place.depth > 0)
     {
-        if ((entity.integer(schema::attribute::flags) & (invisibleFlag | constantFlag)) ==
-            constantFlag)
-        {
-            drawText(entity, m_codePage, pen);
-        }
+        drawConstantAttribute(entity, pen);
         return true;
     }
-    return drawEntity(entity, m_codePage, pen);
+    return drawEntity(entity, pen);
 }
 
-bool Scene::drawReference(const EntityTags& entity, const Place& place, Sink& sink)
+bool Scene::drawDimension(const EntityTags& entity, const Place& place, Sink& sink)
 {
-    Place inside = place;
-    inside.layer = &layerOf(entity, place);
-    inside.color = colorOf(entity, place);
-    ++inside.depth;
-    if (entity.type() == "INSERT")
-    {
-        return drawInsert(entity, inside, sink);
-    }
-    const Block* block = m_tables.block(entity.text(schema::insert::block));
-    return block != nullptr && drawBlock(*block, inside, sink);
+    const Block* block = m_tables.block(entity.read(schema::dimension::table).block);
+    return block != nullptr && drawBlock(*block, place, sink);
 }
 
-bool Scene::drawInsert(const EntityTags& insert, const Place& place, Sink& sink)
+bool Scene::drawInsert(const EntityTags& entity, const Place& place, Sink& sink)
 {
-    const Block* block = m_tables.block(insert.text(schema::insert::block));
+    const schema::insert::Insert insert = entity.read(schema::insert::table);
+    const Block* block = m_tables.block(insert.block);
     if (block == nullptr)
     {
         return false;
     }
     const AcGeMatrix3d start =
-        place.toWorld * Ocs(insert.normal()).matrix() *
-        AcGeMatrix3d::translation(insert.point(schema::insert::position).asVector()) *
-        AcGeMatrix3d::rotation(insert.radians(schema::insert::rotation), AcGeVector3d::kZAxis);
-    const AcGeMatrix3d end =
-        scaling(insert.real(schema::insert::scaleX, 1), insert.real(schema::insert::scaleY, 1),
-                insert.real(schema::insert::scaleZ, 1)) *
-        AcGeMatrix3d::translation(-block->base.asVector());
-    const int columns = std::max(insert.integer(schema::insert::columns, 1), 1);
-    const int rows = std::max(insert.integer(schema::insert::rows, 1), 1);
+        place.toWorld * Ocs(insert.normal).matrix() *
+        AcGeMatrix3d::translation(insert.position.asVector()) *
+        AcGeMatrix3d::rotation(toRadians(insert.rotation), AcGeVector3d::kZAxis);
+    const AcGeMatrix3d end = scaling(insert.scaleX, insert.scaleY, insert.scaleZ) *
+                             AcGeMatrix3d::translation(-block->base.asVector());
     bool drawn = true;
-    for (int row = 0; row < rows; ++row)
+    for (int row = 0; row < std::max(insert.rows, 1); ++row)
     {
-        for (int column = 0; column < columns; ++column)
+        for (int column = 0; column < std::max(insert.columns, 1); ++column)
         {
             if (!spend())
             {
                 return true;
             }
-            const AcGeVector3d shift(column * insert.real(schema::insert::columnSpacing),
-                                     row * insert.real(schema::insert::rowSpacing), 0);
+            const AcGeVector3d shift(column * insert.columnSpacing, row * insert.rowSpacing, 0);
             Place cell = place;
             cell.toWorld = start * AcGeMatrix3d::translation(shift) * end;
             drawn = drawBlock(*block, cell, sink) && drawn;

@@ -6,6 +6,7 @@
 
 #include "gemat3d.h"
 #include "host/dxf/progress.h"
+#include "host/dxf/schema/entities.h"
 #include "host/plot/entitytags.h"
 #include "host/plot/sink.h"
 #include "host/plot/tables.h"
@@ -39,22 +40,26 @@ private:
     };
 
     using Records = std::span<const dxf::Record>;
+    using Look = schema::entity::Look;
 
     bool spend();  // counts an entity; returns false when the budget is spent
     void drawAll(Records records, const Place& place, Sink& sink);
     // Draws one entity and returns the number of its records.
     std::size_t drawOne(Records records, const Place& place, Sink& sink);
-    bool drawSeen(const EntityTags& entity, Records followers, const Place& place, Sink& sink);
-    bool drawReference(const EntityTags& entity, const Place& place, Sink& sink);
-    bool drawInsert(const EntityTags& insert, const Place& place, Sink& sink);
+    bool drawSeen(const EntityTags& entity, const Look& look, Records followers, const Place& place,
+                  Sink& sink);
+    // Draw the block that the entity shows; `place` is that of the block's entities.
+    bool drawDimension(const EntityTags& entity, const Place& place, Sink& sink);
+    bool drawInsert(const EntityTags& entity, const Place& place, Sink& sink);
     bool drawBlock(const Block& block, const Place& place, Sink& sink);
 
-    const Layer& layerOf(const EntityTags& entity, const Place& place) const;
-    Color colorOf(const EntityTags& entity, const Place& place) const;
+    const Layer& layerOf(const Look& look, const Place& place) const;
+    Color colorOf(const Look& look, const Place& place) const;
     std::size_t followersOf(Records records) const;
 
     const dxf::TagFile& m_file;
     const dxf::CodePage m_codePage;
+    const dxf::TagSource m_source{m_file, m_codePage};
     const Tables m_tables;
     std::map<std::string, long, std::less<>> m_leftOut;
     long m_mostEntities;

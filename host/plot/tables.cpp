@@ -1,5 +1,6 @@
 #include "host/plot/tables.h"
 
+#include <array>
 #include <cstdlib>
 
 #include "host/dxf/schema/entities.h"
@@ -31,13 +32,6 @@ void readable(const Read& read)
     {
     }
 }
-
-std::optional<int> trueColor(const EntityTags& tags)
-{
-    return tags.has(schema::entity::trueColor)
-               ? std::optional(tags.integer(schema::entity::trueColor))
-               : std::nullopt;
-}
 }  // namespace
 
 OwnColor ownColor(int index, std::optional<int> rgb)
@@ -51,45 +45,48 @@ OwnColor ownColor(int index, std::optional<int> rgb)
             indexColor(std::abs(index))};
 }
 
-Tables::Tables(const dxf::TagFile& file, const dxf::CodePage& codePage) : m_codePage(codePage)
+Tables::Tables(const dxf::TagSource& source) : m_source(source)
 {
-    for (const dxf::Record& record : file.records(schema::section::tables))
+    for (const dxf::Record& record : source.file.records(schema::section::tables))
     {
-        if (file.typeName(record) == schema::layer::table.type)
+        if (source.file.typeName(record) == schema::layer::table.type)
         {
-            readable([&] { readLayer(file, record); });
+            readable([&] { readLayer(record); });
         }
     }
-    readBlocks(file);
+    readBlocks();
 }
 
 std::wstring Tables::key(std::string_view name) const
 {
-    return foldCase(m_codePage.decode(trimmed(name)));
+    return foldCase(m_source.codePage.decode(trimmed(name)));
 }
 
-void Tables::readLayer(const dxf::TagFile& file, const dxf::Record& record)
+void Tables::readLayer(const dxf::Record& record)
 {
-    const EntityTags tags(file, record);
-    const int index = tags.integer(schema::layer::color, schema::layer::usualColor);
+    const std::array wanted{schema::symbolFlags, schema::layer::color, schema::layer::plots,
+                            schema::layer::trueColor};
+    const EntityTags tags(m_source, record);
+    const schema::layer::Layer read = tags.read(schema::layer::table, wanted);
+    const std::string_view name = tags.text(schema::name);
     Layer layer;
-    layer.color = ownColor(std::abs(index), trueColor(tags)).color;
-    layer.frozen = (tags.integer(schema::symbolFlags) & schema::layer::frozenFlag) != 0;
-    layer.shown = index >= 0 && tags.integer(schema::layer::plots, 1) != 0 &&
-                  !isDefpoints(tags.text(schema::name));
-    m_layers[key(tags.text(schema::name))] = layer;
+    layer.color = ownColor(std::abs(read.color), read.trueColor).color;
+    layer.frozen = (read.flags & schema::layer::frozenFlag) != 0;
+    layer.shown = read.color >= 0 && read.plots != 0 && !isDefpoints(name);
+    m_layers[key(name)] = layer;
 }
 
-void Tables::readBlocks(const dxf::TagFile& file)
+void Tables::readBlocks()
 {
+    const dxf::TagFile& file = m_source.file;
     const std::span<const dxf::Record> records = file.records(schema::section::blocks);
     for (std::size_t i = 0; i < records.size(); ++i)
     {
-        if (file.typeName(records[i]) != schema::block::type)
+        if (file.typeName(records[i]) != schema::block::table.type)
         {
             continue;
         }
-        const EntityTags head(file, records[i]);
+        const EntityTags head(m_source, records[i]);
         const std::size_t first = i + 1;
         while (i + 1 < records.size() && file.typeName(records[i + 1]) != schema::endOfBlock)
         {
@@ -97,7 +94,7 @@ void Tables::readBlocks(const dxf::TagFile& file)
         }
         Block& block = m_blocks[key(head.text(schema::name))];
         block.records = records.subspan(first, i + 1 - first);
-        readable([&] { block.base = head.point(schema::block::base); });
+        readable([&] { block.base = head.read(schema::block::table).base; });
     }
 }
 

@@ -8,8 +8,7 @@
 #include <unordered_map>
 
 #include "gepnt3d.h"
-#include "host/dxf/codepage.h"
-#include "host/dxf/tagfile.h"
+#include "host/dxf/values.h"
 #include "host/colors/color.h"
 
 namespace host::plot
@@ -34,7 +33,7 @@ struct Block
 class Tables
 {
 public:
-    Tables(const dxf::TagFile& file, const dxf::CodePage& codePage);
+    explicit Tables(const dxf::TagSource& source);
 
     // Returns the layer [borrowed], or a visible black layer for a name that the file lacks.
     const Layer& layer(std::string_view name) const;
@@ -43,10 +42,10 @@ public:
 
 private:
     std::wstring key(std::string_view name) const;
-    void readLayer(const dxf::TagFile& file, const dxf::Record& record);
-    void readBlocks(const dxf::TagFile& file);
+    void readLayer(const dxf::Record& record);
+    void readBlocks();
 
-    const dxf::CodePage& m_codePage;
+    const dxf::TagSource m_source;
     std::map<std::wstring, Layer> m_layers;
     std::map<std::wstring, Block> m_blocks;
     // The layers by their names in the file's encoding. A million entities then decode each name

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/basics/angle.h"
 #include "host/dxf/schema/entities.h"
 #include "host/dxf/schema/references.h"
 #include "host/geometry/ocs.h"
@@ -12,41 +13,18 @@ namespace host::plot
 {
 namespace
 {
-enum HorizontalMode
-{
-    leftMode,
-    centreMode,
-    rightMode,
-    alignedMode,
-    middleMode,
-    fitMode
-};
-
-enum VerticalMode
-{
-    baselineMode,
-    bottomMode,
-    middleVertically,
-    topMode
-};
-
-enum TextFlag
-{
-    invisibleAttribute = 1,
-    backwards = 2,
-    upsideDown = 4
-};
-
 const double descent = 0.3;  // the depth of letters below the line, in heights of a capital
 
 // Returns the height of the text's point above the line, in heights of a capital.
 double aboveLine(int horizontal, int vertical)
 {
-    if (horizontal == middleMode || vertical == middleVertically)
+    if (horizontal == schema::text::middleMode || vertical == schema::text::middleVertically)
     {
         return 0.5;
     }
-    return vertical == bottomMode ? -descent : vertical == topMode ? 1 : 0;
+    return vertical == schema::text::bottomMode ? -descent
+           : vertical == schema::text::topMode  ? 1
+                                                : 0;
 }
 
 // Stretches a text so that it fills the vector between its two points.
@@ -62,46 +40,40 @@ void stretch(TextLine& line, const AcGeVector3d& between, bool heightToo)
     line.up = AcGeVector3d(-between.y, between.x, 0) * (height / between.length());
 }
 
-void place(TextLine& line, const EntityTags& text)
+void place(TextLine& line, const schema::text::Words& words)
 {
-    const int horizontal = text.integer(schema::text::horizontalMode);
-    const int vertical =
-        text.integer(text.type() == schema::text::table.type ? schema::text::verticalMode
-                                                             : schema::attribute::verticalMode);
-    line.origin = text.point(schema::text::position);
-    if (horizontal == alignedMode || horizontal == fitMode)
+    const int mode = words.horizontalMode;
+    line.origin = words.position;
+    if (mode == schema::text::alignedMode || mode == schema::text::fitMode)
     {
-        stretch(line, text.point(schema::text::alignment) - text.point(schema::text::position),
-                horizontal == alignedMode);
+        stretch(line, words.alignment.value_or(AcGePoint3d()) - words.position,
+                mode == schema::text::alignedMode);
         return;
     }
-    if (horizontal != leftMode || vertical != baselineMode)
+    if (mode != schema::text::leftMode || words.verticalMode != schema::text::baselineMode)
     {
-        line.origin = text.has(schema::text::alignment) ? text.point(schema::text::alignment)
-                                                        : text.point(schema::text::position);
+        line.origin = words.alignment.value_or(words.position);
     }
-    line.across = horizontal == rightMode                                ? 1
-                  : horizontal == centreMode || horizontal == middleMode ? 0.5
-                                                                         : 0;
-    line.above = aboveLine(horizontal, vertical);
+    const bool isCentred = mode == schema::text::centreMode || mode == schema::text::middleMode;
+    line.across = mode == schema::text::rightMode ? 1 : isCentred ? 0.5 : 0;
+    line.above = aboveLine(mode, words.verticalMode);
 }
 
-void drawWords(const EntityTags& text, std::wstring words, const Pen& pen)
+void drawWords(const schema::text::Words& words, const std::wstring& contents, const Pen& pen)
 {
-    const double height = text.real(schema::text::height);
-    const double angle = text.radians(schema::text::rotation);
+    const double angle = toRadians(words.rotation);
     TextLine line;
-    line.text = withoutPercentCodes(words);
-    line.along = AcGeVector3d(std::cos(angle), std::sin(angle), 0) *
-                 (height * text.real(schema::text::widthFactor, 1));
-    line.up = AcGeVector3d(-std::sin(angle), std::cos(angle), 0) * height;
-    place(line, text);
-    line.up = line.up + line.along.normal() *
-                            (line.up.length() * std::tan(text.radians(schema::text::oblique)));
-    const int flags = text.integer(schema::text::generation);
-    line.along = (flags & backwards) != 0 ? -line.along : line.along;
-    line.up = (flags & upsideDown) != 0 ? -line.up : line.up;
-    pen.withinPlane(text.normal()).text(line);
+    line.text = withoutPercentCodes(contents);
+    line.along =
+        AcGeVector3d(std::cos(angle), std::sin(angle), 0) * (words.height * words.widthFactor);
+    line.up = AcGeVector3d(-std::sin(angle), std::cos(angle), 0) * words.height;
+    place(line, words);
+    line.up =
+        line.up + line.along.normal() * (line.up.length() * std::tan(toRadians(words.oblique)));
+    const int flags = words.generation;
+    line.along = (flags & schema::text::backwardsFlag) != 0 ? -line.along : line.along;
+    line.up = (flags & schema::text::upsideDownFlag) != 0 ? -line.up : line.up;
+    pen.withinPlane(words.normal).text(line);
 }
 
 // Breaks a text at blanks so that no line is wider than `width`, in heights of a capital. Only a
@@ -127,76 +99,84 @@ std::vector<std::wstring> wrapped(const std::wstring& text, double width)
     return lines;
 }
 
-std::wstring contents(const EntityTags& text, const dxf::CodePage& codePage)
+// A long text comes in pieces, whose ends may cut a character.
+std::wstring contents(const schema::paragraphs::Paragraphs& text, const dxf::CodePage& codePage)
 {
-    std::string bytes;  // a long text comes in pieces, whose ends may cut a character
-    for (const dxf::Tag& tag : text.all())
+    std::string bytes;
+    for (const std::string_view part : text.parts)
     {
-        bytes += tag.code == schema::paragraphs::part ? tag.value : std::string_view();
+        bytes += part;
     }
-    for (const dxf::Tag& tag : text.all())
-    {
-        bytes += tag.code == schema::paragraphs::lastPart ? tag.value : std::string_view();
-    }
+    bytes += text.lastPart;
     return codePage.decode(bytes);
 }
 
 // Returns the direction of a text [wcs]. Its angle counts only if it has no direction vector.
-AcGeVector3d directionOf(const EntityTags& text)
+AcGeVector3d directionOf(const schema::paragraphs::Paragraphs& text)
 {
-    const AcGeVector3d direction = text.point(schema::paragraphs::direction).asVector();
-    return text.has(schema::paragraphs::direction) && direction.lengthSqrd() > 0
-               ? direction / direction.length()
-               : Ocs(text.normal()).directionWcs(text.radians(schema::paragraphs::rotation));
+    return text.direction && text.direction->lengthSqrd() > 0
+               ? *text.direction / text.direction->length()
+               : Ocs(text.normal).directionWcs(toRadians(text.rotation));
 }
 }  // namespace
 
-void drawText(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
+void drawText(const EntityTags& entity, const Pen& pen)
 {
-    if (text.type() == "ATTRIB" &&
-        (text.integer(schema::attribute::flags) & invisibleAttribute) != 0)
+    if (entity.has(schema::text::contents))
     {
-        return;
+        const schema::text::Words words = entity.read(schema::text::words);
+        drawWords(words, words.contents, pen);
     }
-    for (const dxf::Tag& tag : text.all())
+}
+
+void drawAttribute(const EntityTags& entity, const Pen& pen)
+{
+    const schema::attribute::Attribute attribute = entity.read(schema::attribute::table);
+    if ((attribute.flags & schema::attribute::invisibleFlag) == 0 &&
+        entity.has(schema::text::contents))
     {
-        if (tag.code == schema::text::contents)
-        {
-            drawWords(text, codePage.decode(tag.value), pen);
-            return;
-        }
+        drawWords(attribute, attribute.contents, pen);
+    }
+}
+
+void drawConstantAttribute(const EntityTags& entity, const Pen& pen)
+{
+    const int flags = entity.read(schema::attribute::definition).flags;
+    if ((flags & schema::attribute::constantFlag) != 0)
+    {
+        drawAttribute(entity, pen);
     }
 }
 
 // Draws an attribute definition outside of blocks, where it shows its tag.
-void drawAttributeDefinition(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
+void drawAttributeDefinition(const EntityTags& entity, const Pen& pen)
 {
-    drawWords(text, codePage.decode(text.text(schema::attribute::tag)), pen);
+    const schema::attribute::Attribute attribute = entity.read(schema::attribute::definition);
+    drawWords(attribute, entity.source().codePage.decode(trimmed(attribute.tag)), pen);
 }
 
-void drawParagraphs(const EntityTags& text, const dxf::CodePage& codePage, const Pen& pen)
+void drawParagraphs(const EntityTags& entity, const Pen& pen)
 {
-    const double height = text.real(schema::paragraphs::height);
-    const double width = height > 0 ? text.real(schema::paragraphs::width) / height : 0;
+    const schema::paragraphs::Paragraphs text = entity.read(schema::paragraphs::table);
+    const double width = text.height > 0 ? text.width / text.height : 0;
     std::vector<std::wstring> lines;
-    for (const std::wstring& paragraph : paragraphs(contents(text, codePage)))
+    for (const std::wstring& paragraph : paragraphs(contents(text, entity.source().codePage)))
     {
         std::ranges::move(wrapped(paragraph, width), std::back_inserter(lines));
     }
-    const int attachment = std::clamp(text.integer(schema::paragraphs::attachment, 1), 1, 9) - 1;
-    const double spacing =
-        5.0 / 3.0 * text.real(schema::paragraphs::lineSpacing, 1);  // from line to line, in heights
+    const int attachment = std::clamp(text.attachment, 1, 9) - 1;
+    const double spacing = 5.0 / 3.0 * text.lineSpacing;  // from line to line, in heights
     const double all = spacing * double(lines.size() - 1) + 1;
     TextLine line;
-    line.along = directionOf(text) * height;
-    line.up = Ocs(text.normal()).normal().crossProduct(line.along);
+    line.along = directionOf(text) * text.height;
+    line.up = Ocs(text.normal).normal().crossProduct(line.along);
     line.across = attachment % 3 / 2.0;
     const int row = attachment / 3;
     double down = 1 - all * row / 2.0;  // from the given point down to the first line
     for (const std::wstring& words : lines)
     {
         line.text = words;
-        line.origin = text.point(schema::paragraphs::position) - line.up * down;
+        line.origin = text.position - line.up * down;
         down += spacing;
         pen.text(line);
     }

@@ -17,8 +17,13 @@
 #include "host/dxf/headervariables.h"
 #include "host/dxf/lineform.h"
 #include "host/dxf/recordreader.h"
+#include "host/dxf/schema/curves.h"
+#include "host/dxf/schema/hatch.h"
 #include "host/dxf/schema/objects.h"
+#include "host/dxf/schema/references.h"
 #include "host/dxf/schema/tablerecords.h"
+#include "host/plot/entitytags.h"
+#include "host/plot/tagcursor.h"
 #include "tests/dxf/smalldrawing.h"
 
 using namespace host::dxf;
@@ -60,12 +65,18 @@ public:
     {
         handle = 1 + std::uniform_int_distribution<schema::Handle>()(m_random) / 4;
     }
-    void fill(Code code, schema::Handles& handles)
+    void fill(Code, std::string_view& text)
     {
-        handles.resize(std::size_t(below(4)));
-        for (schema::Handle& handle : handles)
+        const std::string_view texts[] = {"", "0", "Walls", " A b ", "*D1"};
+        text = texts[below(int(std::size(texts)))];
+    }
+    template <class Value>
+    void fill(Code code, std::vector<Value>& values)
+    {
+        values.resize(std::size_t(below(4)));
+        for (Value& value : values)
         {
-            fill(code, handle);
+            fill(code, value);
         }
     }
     void fill(Code code, schema::PlanePoint& point)
@@ -157,6 +168,35 @@ std::string drawingOf(const Release& release, const std::string& record)
     return drawingWith(record, std::string(release.version));
 }
 
+template <class Row>
+constexpr bool isList = !isAttribute<Row> ? false : !requires(const Row& row)
+{
+    row.when;
+};
+
+template <class Table>
+constexpr bool hasList(const Table& table)
+{
+    bool found = false;
+    schema::forEachRow(table.rows, [&found]<class Row>(const Row&) { found |= isList<Row>; });
+    return found;
+}
+
+// The plot reads what the loader does not; it takes no lists.
+template <class Table>
+void expectPlotReads(const Table& table, const typename Table::RecordType& written,
+                     const TagSource& source, const Record& record)
+{
+    const host::plot::EntityTags entity(source, record);
+    expectSame(table, entity.read(table), written, source.file.release());
+    if constexpr (requires(host::plot::TagCursor cursor) { cursor.read(table); })
+    {
+        host::plot::TagCursor cursor(entity);
+        EXPECT_TRUE(cursor.seek(table));
+        expectSame(table, cursor.read(table), written, source.file.release());
+    }
+}
+
 template <class Table>
 void expectReadBack(const Table& table, Values& values, const Release& release)
 {
@@ -178,15 +218,37 @@ void expectReadBack(const Table& table, Values& values, const Release& release)
         const TagFile file = TagFile::fromText(drawing, "FILE");
         const Record& record = file.records("ENTITIES")[0];
         EXPECT_EQ(file.typeName(record), table.type.empty() ? "PART" : table.type);
-        expectSame(table, readRecord(table, TagSource{file, codePage}, record), written, release);
+        const TagSource source{file, codePage};
+        expectSame(table, readRecord(table, source, record), written, release);
+        if (!hasList(table))
+        {
+            expectPlotReads(table, written, source, record);
+        }
     }
 }
 
-template <class... Table>
-void expectAllReadBack(Values& values, const Release& release, const Table&... tables)
-{
-    (expectReadBack(tables, values, release), ...);
-}
+// A new table is to be named here.
+constexpr std::tuple allTables(
+    schema::symbolTable, schema::linetype::table, schema::layer::table, schema::textstyle::table,
+    schema::blockrecord::table, schema::viewport::table, schema::dictionary::table,
+    schema::dictionary::entry, schema::group::table,
+    // Entities that the host creates.
+    schema::entity::look, schema::line::ends, schema::line::table, schema::text::words,
+    schema::text::table, schema::polyline::shape, schema::polyline::table, schema::vertex::shape,
+    schema::vertex::table, schema::sequenceend::table,
+    // Records that it only reads.
+    schema::block::table, schema::point::table, schema::circle::table, schema::arc::table,
+    schema::ellipse::table, schema::solid::table, schema::solid::trace, schema::solid::face,
+    schema::spline::table, schema::ray::table, schema::ray::xline, schema::leader::table,
+    schema::multiline::table, schema::multiline::vertex, schema::multiline::element,
+    schema::lightpolyline::table, schema::lightpolyline::vertex, schema::insert::table,
+    schema::dimension::table, schema::attribute::table, schema::attribute::definition,
+    schema::paragraphs::table, schema::hatch::table, schema::hatch::loopCount,
+    schema::hatch::edgeCount, schema::hatch::patternLineCount, schema::hatch::loop,
+    schema::hatch::polylineLoop, schema::hatch::vertex, schema::hatch::bulgedVertex,
+    schema::hatch::edge, schema::hatch::lineEdge, schema::hatch::arcEdge,
+    schema::hatch::ellipseEdge, schema::hatch::splineEdge, schema::hatch::knot, schema::hatch::pole,
+    schema::hatch::patternLine);
 
 class EveryRelease : public testing::TestWithParam<const char*>
 {
@@ -199,17 +261,13 @@ INSTANTIATE_TEST_SUITE_P(Schema, EveryRelease,
                          testing::Values("AC1009", "AC1012", "AC1014", "AC1015", "AC1018", "AC1021",
                                          "AC1024", "AC1027", "AC1032"));
 
-// A new table is to be named here.
 TEST_P(EveryRelease, readsBackWhatEveryTableWrites)
 {
+    const auto readBack = [this](const auto&... tables)
+    { (expectReadBack(tables, values, release()), ...); };
     for (int i = 0; i < 50; ++i)
     {
-        expectAllReadBack(values, release(), schema::symbolTable, schema::linetype::table,
-                          schema::layer::table, schema::textstyle::table,
-                          schema::blockrecord::table, schema::viewport::table, schema::line::table,
-                          schema::text::table, schema::polyline::table, schema::vertex::table,
-                          schema::sequenceend::table, schema::dictionary::table,
-                          schema::dictionary::entry, schema::group::table);
+        std::apply(readBack, allTables);
     }
 }
 
@@ -290,16 +348,20 @@ int matchesIn(const std::string& text, const std::string& pattern)
     return int(std::distance(std::sregex_iterator(text.begin(), text.end(), expression), {}));
 }
 
-// No function takes a bare number for a code, so this is the one way left to write one down.
+// No function takes a bare number for a code: whoever makes one names the type. Outside of the
+// schema only those make one who have read its number from a file, and they call the number `code`.
 TEST(Schema, isTheOnlyPlaceThatNamesCodesByTheirNumbers)
 {
+    const std::string made =
+        "\\bCode( \\w+)?\\s*[({](?!\\)|(int\\()?code\\)|(const|Code) )|Code>\\s*[({]|"
+        "\\(Code\\)\\s*\\w|number\\(\\)\\s*[=!<>]=?\\s*\\d";
+    const std::string constant = "constexpr int code\\b";
     for (const auto& [path, text] : sourcesIn("host"))
     {
         if (path.find("/dxf/schema/") == path.npos)
         {
-            EXPECT_EQ(
-                matchesIn(text, "\\bCode( \\w+)?[({]\\s*\\d|code\\.number\\(\\) [=!<>]=? ?\\d"), 0)
-                << path;
+            EXPECT_EQ(matchesIn(text, made), 0) << path;
+            EXPECT_EQ(matchesIn(text, constant), 0) << path;
         }
     }
 }
@@ -310,10 +372,10 @@ TEST(Schema, hasNoTableThatIsNotReadBackHere)
     int variables = 0;
     for (const auto& [path, text] : sourcesIn("host/dxf/schema"))
     {
-        tables += matchesIn(text, "\ninline constexpr auto \\w+ =\\s+tableOf<");
+        tables += matchesIn(text, "\ninline constexpr auto \\w+ =\\s+(table|part|sequence)Of<");
         variables += matchesIn(text, "\ninline constexpr auto \\w+ =\\s+rowsOf\\(\\s*variable\\(");
     }
-    EXPECT_EQ(tables, 14);
+    EXPECT_EQ(tables, int(std::tuple_size_v<decltype(allTables)>));
     EXPECT_EQ(variables, 5);
 }
 

@@ -13,24 +13,34 @@ inline constexpr Code linetype{6};
 inline constexpr Code color{62};
 inline constexpr int colorByLayer = 256;
 inline constexpr int colorByBlock = 0;
-inline constexpr Code trueColor{420};
-inline constexpr Code linetypeScale{48};
 inline constexpr Code invisible{60};
-inline constexpr Code lineWeight{370};
-inline constexpr Code inPaperSpace{67};
 inline constexpr Code normal{210};  // of the plane in which the entity lies
 inline constexpr Code flags{70};
 
-struct Entity
+// Whether and how an entity is seen, besides its layer.
+struct Appearance
+{
+    int inPaperSpace = 0;  // counts only outside of blocks
+    int color = colorByLayer;
+    int invisible = 0;
+    std::optional<int> trueColor;  // 0xRRGGBB; goes before `color`
+};
+
+inline constexpr auto inPaperSpaceRow = row(Code(67), &Appearance::inPaperSpace, When::unlessUsual);
+inline constexpr auto colorRow = row(color, &Appearance::color, When::unlessUsual);
+inline constexpr auto invisibleRow =
+    row(invisible, &Appearance::invisible, When::unlessUsual, Since::r13);
+inline constexpr auto trueColorRow =
+    row(Code(420), &Appearance::trueColor, When::unlessUsual, Since::r2004);
+
+struct Entity : Appearance
 {
     Handle handle = 0;
     Handles reactors;
     Handle owner = 0;
     std::wstring layer;
     std::wstring linetype = L"ByLayer";
-    int color = colorByLayer;
     double linetypeScale = 1;
-    int invisible = 0;
     int lineWeight = -1;
 };
 
@@ -40,52 +50,88 @@ inline constexpr auto rows =
     rowsOf(row(handle, &Entity::handle, When::unlessUsual),
            listRow("{ACAD_REACTORS", owner, &Entity::reactors),
            row(owner, &Entity::owner, When::unlessUsual, Since::r2000), subclassRow("AcDbEntity"),
-           row(layer, &Entity::layer), row(linetype, &Entity::linetype, When::unlessUsualInR12),
-           row(color, &Entity::color, When::unlessUsual),
-           row(linetypeScale, &Entity::linetypeScale, When::unlessUsual, Since::r13),
-           row(invisible, &Entity::invisible, When::unlessUsual, Since::r13),
-           row(lineWeight, &Entity::lineWeight, When::unlessUsual, Since::r2000));
+           inPaperSpaceRow, row(layer, &Entity::layer),
+           row(linetype, &Entity::linetype, When::unlessUsualInR12), colorRow,
+           row(Code(48), &Entity::linetypeScale, When::unlessUsual, Since::r13), invisibleRow,
+           row(Code(370), &Entity::lineWeight, When::unlessUsual, Since::r2000), trueColorRow);
+
+// What a plot needs of every entity.
+struct Look : Appearance
+{
+    std::string_view layer;
+};
+
+inline constexpr auto look =
+    partOf<Look>(inPaperSpaceRow, row(layer, &Look::layer), colorRow, invisibleRow, trueColorRow);
 }  // namespace entity
 
 namespace block
 {
-inline constexpr std::string_view type = "BLOCK";
-inline constexpr Code base{10};
+struct Block
+{
+    std::string_view name;
+    AcGePoint3d base;
+};
+
+inline constexpr auto table = tableOf<Block>("BLOCK", subclassRow("AcDbBlockBegin"),
+                                             row(name, &Block::name), row(Code(10), &Block::base));
 }  // namespace block
 inline constexpr std::string_view endOfBlock = "ENDBLK";
+
+// A viewport of paper space; those of model space are records of a table.
+inline constexpr std::string_view paperViewport = "VIEWPORT";
 
 namespace line
 {
 inline constexpr Code start{10};
 inline constexpr Code end{11};
 
-struct Line : entity::Entity
+struct Ends
 {
     AcGePoint3d start;
     AcGePoint3d end;
+};
+
+inline constexpr auto ends = partOf<Ends>(row(start, &Ends::start), row(end, &Ends::end));
+
+struct Line : entity::Entity, Ends
+{
     AcGeVector3d normal{0, 0, 1};
 };
 
 inline constexpr auto table =
-    tableOf<Line>("LINE", entity::rows, subclassRow("AcDbLine"), row(start, &Line::start),
-                  row(end, &Line::end), row(entity::normal, &Line::normal, When::unlessUsual));
+    tableOf<Line>("LINE", entity::rows, subclassRow("AcDbLine"), ends.rows,
+                  row(entity::normal, &Line::normal, When::unlessUsual));
 }  // namespace line
 
 namespace text
 {
-inline constexpr Code position{10};
-inline constexpr Code height{40};
-inline constexpr Code contents{1};
-inline constexpr Code rotation{50};
-inline constexpr Code widthFactor{41};
-inline constexpr Code oblique{51};
-inline constexpr Code style{7};
-inline constexpr Code generation{71};
-inline constexpr Code horizontalMode{72};
-inline constexpr Code verticalMode{73};
-inline constexpr Code alignment{11};
+enum HorizontalMode
+{
+    leftMode,
+    centreMode,
+    rightMode,
+    alignedMode,
+    middleMode,
+    fitMode
+};
 
-struct Text : entity::Entity
+enum VerticalMode
+{
+    baselineMode,
+    bottomMode,
+    middleVertically,
+    topMode
+};
+
+enum GenerationFlag
+{
+    backwardsFlag = 2,
+    upsideDownFlag = 4
+};
+
+// What texts and attributes share.
+struct Words
 {
     AcGePoint3d position;
     double height = 0;
@@ -94,23 +140,36 @@ struct Text : entity::Entity
     double widthFactor = 1;
     double oblique = 0;  // degrees
     std::wstring style;  // empty: the drawing's first style
-    int horizontalMode = 0;
+    int generation = 0;
+    int horizontalMode = leftMode;
     std::optional<AcGePoint3d> alignment;  // absent if both modes are 0
     AcGeVector3d normal{0, 0, 1};
-    int verticalMode = 0;
+    int verticalMode = baselineMode;  // has another code in attributes
 };
 
+inline constexpr Code contents{1};
+
+inline constexpr auto rows =
+    rowsOf(row(Code(10), &Words::position), row(Code(40), &Words::height),
+           row(contents, &Words::contents), row(Code(50), &Words::rotation, When::unlessUsual),
+           row(Code(41), &Words::widthFactor, When::unlessUsual),
+           row(Code(51), &Words::oblique, When::unlessUsual),
+           row(Code(7), &Words::style, When::unlessUsual),
+           row(Code(71), &Words::generation, When::unlessUsual),
+           row(Code(72), &Words::horizontalMode, When::unlessUsual),
+           row(Code(11), &Words::alignment, When::unlessUsual),
+           row(entity::normal, &Words::normal, When::unlessUsual));
+
 // Both halves of the record have the same subclass name.
-inline constexpr auto table = tableOf<Text>(
-    "TEXT", entity::rows, subclassRow("AcDbText"), row(position, &Text::position),
-    row(height, &Text::height), row(contents, &Text::contents),
-    row(rotation, &Text::rotation, When::unlessUsual),
-    row(widthFactor, &Text::widthFactor, When::unlessUsual),
-    row(oblique, &Text::oblique, When::unlessUsual), row(style, &Text::style, When::unlessUsual),
-    row(horizontalMode, &Text::horizontalMode, When::unlessUsual),
-    row(alignment, &Text::alignment, When::unlessUsual),
-    row(entity::normal, &Text::normal, When::unlessUsual), subclassRow("AcDbText"),
-    row(verticalMode, &Text::verticalMode, When::unlessUsual));
+inline constexpr auto words = partOf<Words>(rows, subclassRow("AcDbText"),
+                                            row(Code(73), &Words::verticalMode, When::unlessUsual));
+
+struct Text : entity::Entity, Words
+{
+};
+
+inline constexpr auto table =
+    tableOf<Text>("TEXT", entity::rows, subclassRow("AcDbText"), words.rows);
 }  // namespace text
 
 namespace polyline
@@ -125,29 +184,33 @@ enum Flag
     linetypeGenerationFlag = 128
 };
 
-inline constexpr Code verticesFollow{66};
-inline constexpr Code elevation{10};  // the Z of this point
-inline constexpr Code startWidth{40};
-inline constexpr Code endWidth{41};
-inline constexpr Code meshRows{71};
-inline constexpr Code smoothRows{73};
-
-struct Polyline : entity::Entity
+struct Shape
 {
-    int verticesFollow = 1;
-    AcGePoint3d elevation;
+    AcGePoint3d elevation;  // only its Z counts
     int flags = 0;
     double startWidth = 0;
     double endWidth = 0;
+    int meshRows = 0;
+    int smoothRows = 0;  // of a mesh that is made smooth
     AcGeVector3d normal{0, 0, 1};
 };
 
-inline constexpr auto table = tableOf<Polyline>(
-    "POLYLINE", entity::rows, subclassRow("AcDb2dPolyline"),
-    row(verticesFollow, &Polyline::verticesFollow), row(elevation, &Polyline::elevation),
-    row(entity::flags, &Polyline::flags), row(startWidth, &Polyline::startWidth, When::unlessUsual),
-    row(endWidth, &Polyline::endWidth, When::unlessUsual),
-    row(entity::normal, &Polyline::normal, When::unlessUsual));
+inline constexpr auto shape =
+    partOf<Shape>(row(Code(10), &Shape::elevation), row(entity::flags, &Shape::flags),
+                  row(Code(40), &Shape::startWidth, When::unlessUsual),
+                  row(Code(41), &Shape::endWidth, When::unlessUsual),
+                  row(Code(71), &Shape::meshRows, When::unlessUsual),
+                  row(Code(73), &Shape::smoothRows, When::unlessUsual),
+                  row(entity::normal, &Shape::normal, When::unlessUsual));
+
+struct Polyline : entity::Entity, Shape
+{
+    int verticesFollow = 1;
+};
+
+inline constexpr auto table =
+    tableOf<Polyline>("POLYLINE", entity::rows, subclassRow("AcDb2dPolyline"),
+                      row(Code(66), &Polyline::verticesFollow), shape.rows);
 }  // namespace polyline
 
 namespace vertex
@@ -159,21 +222,35 @@ enum Flag
     faceFlag = 128
 };
 
-inline constexpr Code position{10};
-inline constexpr Code startWidth{40};
-inline constexpr Code endWidth{41};
-inline constexpr Code bulge{42};
-inline constexpr Code corners[] = {Code(71), Code(72), Code(73), Code(74)};  // of a face
-
-struct Vertex : entity::Entity
+struct Shape
 {
     AcGePoint3d position;
+    std::optional<double> startWidth;  // absent: the polyline's width
+    std::optional<double> endWidth;
+    double bulge = 0;
     int flags = 0;
+    // Of a face: numbers of vertices from 1, negative if the edge that begins there is hidden, 0 if
+    // the face has fewer corners.
+    int corner1 = 0;
+    int corner2 = 0;
+    int corner3 = 0;
+    int corner4 = 0;
 };
 
-inline constexpr auto table =
-    tableOf<Vertex>("VERTEX", entity::rows, subclassRow("AcDbVertex"), subclassRow("AcDb2dVertex"),
-                    row(position, &Vertex::position), row(entity::flags, &Vertex::flags));
+inline constexpr auto shape = partOf<Shape>(
+    row(Code(10), &Shape::position), row(Code(40), &Shape::startWidth),
+    row(Code(41), &Shape::endWidth), row(Code(42), &Shape::bulge, When::unlessUsual),
+    row(entity::flags, &Shape::flags), row(Code(71), &Shape::corner1, When::unlessUsual),
+    row(Code(72), &Shape::corner2, When::unlessUsual),
+    row(Code(73), &Shape::corner3, When::unlessUsual),
+    row(Code(74), &Shape::corner4, When::unlessUsual));
+
+struct Vertex : entity::Entity, Shape
+{
+};
+
+inline constexpr auto table = tableOf<Vertex>("VERTEX", entity::rows, subclassRow("AcDbVertex"),
+                                              subclassRow("AcDb2dVertex"), shape.rows);
 }  // namespace vertex
 
 namespace sequenceend

@@ -32,8 +32,7 @@ struct Entry
     Handle object = 0;
 };
 
-inline constexpr auto entry =
-    tableOf<Entry>("", row(key, &Entry::key), row(softEntry, &Entry::object));
+inline constexpr auto entry = partOf<Entry>(row(key, &Entry::key), row(softEntry, &Entry::object));
 }  // namespace dictionary
 
 namespace group

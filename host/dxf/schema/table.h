@@ -13,7 +13,12 @@
 //                         row(centre, &Circle::centre),
 //                         row(radius, &Circle::radius));
 //
-// A row does not compile if its member cannot have the type of its code.
+// A row does not compile if its member cannot have the type of its code. A member that is a vector
+// has a tag for each value. A std::string_view holds the file's bytes with their blanks [borrowed].
+//
+// A table without a type describes a part of a record, which may stand there more than once; each
+// part begins at the code of the first row. The codes of some parts mean something else in other
+// places of the record: such a part is a sequence.
 #pragma once
 
 #include <concepts>
@@ -45,6 +50,7 @@ enum class Since : unsigned char
     r12,
     r13,
     r2000,
+    r2004,
 };
 
 enum class When : unsigned char
@@ -92,6 +98,12 @@ struct Table
     Rows rows;
 };
 
+// A part whose tags follow each other in exactly the order of the rows. Tags may be missing.
+template <class Record, class Rows>
+struct Sequence : Table<Record, Rows>
+{
+};
+
 template <class Value>
 struct Required
 {
@@ -104,15 +116,21 @@ struct Required<std::optional<Value>>
     using Type = Value;
 };
 
+template <class Value>
+struct Required<std::vector<Value>>
+{
+    using Type = Value;
+};
+
 template <class Member>
 constexpr bool fits(ValueType type)
 {
     using Value = typename Required<Member>::Type;
-    if constexpr (std::same_as<Value, std::wstring>)
+    if constexpr (std::same_as<Value, std::wstring> || std::same_as<Value, std::string_view>)
     {
         return type == ValueType::text;
     }
-    else if constexpr (std::same_as<Value, Handle> || std::same_as<Value, Handles>)
+    else if constexpr (std::same_as<Value, Handle>)
     {
         return type == ValueType::handle;
     }
@@ -156,6 +174,25 @@ template <class Record, class... Rows>
 consteval Table<Record, RowGroup<Rows...>> tableOf(std::string_view type, Rows... rows)
 {
     return {type, {{rows...}}};
+}
+
+template <class Record, class... Rows>
+consteval Table<Record, RowGroup<Rows...>> partOf(Rows... rows)
+{
+    return {{}, {{rows...}}};
+}
+
+template <class Record, class... Rows>
+consteval Sequence<Record, RowGroup<Rows...>> sequenceOf(Rows... rows)
+{
+    return {{{}, {{rows...}}}};
+}
+
+// Returns the code at which a part of a record begins.
+template <class Record, class One, class... Rows>
+constexpr Code firstCode(const Table<Record, RowGroup<One, Rows...>>& part)
+{
+    return std::get<0>(part.rows.rows).code;
 }
 
 // Calls visit(row) for every row in order, including the rows of groups.

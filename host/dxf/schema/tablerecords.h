@@ -71,11 +71,15 @@ struct Layer : SymbolRecord
 {
     int color = usualColor;
     std::wstring linetype = L"CONTINUOUS";
+    int plots = 1;
+    std::optional<int> trueColor;  // 0xRRGGBB; goes before `color`
 };
 
 inline constexpr auto table =
     tableOf<Layer>("LAYER", symbolRows, subclassRow("AcDbLayerTableRecord"), nameAndFlagRows,
-                   row(color, &Layer::color), row(linetype, &Layer::linetype));
+                   row(color, &Layer::color), row(linetype, &Layer::linetype),
+                   row(plots, &Layer::plots, When::unlessUsual, Since::r2000),
+                   row(trueColor, &Layer::trueColor, When::unlessUsual, Since::r2004));
 }  // namespace layer
 
 namespace textstyle
