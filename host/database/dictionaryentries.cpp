@@ -2,16 +2,17 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <utility>
 
 #include "host/text/foldcase.h"
 
 void AcDbDictionary::Internals::addLoaded(const std::wstring& key, AcDbStub* stub)
 {
-    m_entries.push_back({key, stub, true});
-    if (key.size() > 2 && key.compare(0, 2, L"*A") == 0)
+    add({key, stub, true});
+    if (key.starts_with(L"*A"))
     {
-        const unsigned long number = std::wcstoul(key.c_str() + 2, nullptr, 10);
-        m_lastAnonymous = std::max(m_lastAnonymous, unsigned(number));
+        const std::uint64_t number = std::wcstoull(key.c_str() + 2, nullptr, 10);
+        m_lastAnonymous = std::max(m_lastAnonymous, number);
     }
 }
 
@@ -29,7 +30,16 @@ AcDbStub* AcDbDictionary::Internals::find(const std::wstring& key) const
 
 std::wstring AcDbDictionary::Internals::keyFor(const std::wstring& asked)
 {
-    return asked[0] == L'*' ? L"*A" + std::to_wstring(++m_lastAnonymous) : asked;
+    if (asked[0] != L'*')
+    {
+        return asked;
+    }
+    std::wstring key;
+    do
+    {
+        key = L"*A" + std::to_wstring(++m_lastAnonymous);
+    } while (m_foldedKeys.contains(host::foldCase(key)));
+    return key;
 }
 
 void AcDbDictionary::Internals::put(const std::wstring& key, AcDbStub* stub)
@@ -38,5 +48,11 @@ void AcDbDictionary::Internals::put(const std::wstring& key, AcDbStub* stub)
     {
         former->setErased(true);
     }
-    m_entries.push_back({key, stub, false});
+    add({key, stub, false});
+}
+
+void AcDbDictionary::Internals::add(Entry entry)
+{
+    m_foldedKeys.insert(host::foldCase(entry.key));
+    m_entries.push_back(std::move(entry));
 }

@@ -1,15 +1,17 @@
 // The entries of a dictionary.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "dbdict.h"
 #include "host/database/stub.h"
 
-// At most one entry of each name is not erased. The numbers of anonymous entries only increase: the
-// number of an erased entry is not used again. Accessors return [borrowed] parts that live as long
-// as the dictionary.
+// At most one entry of each name is not erased. An anonymous entry gets a name that no entry has
+// had before, erased entries included. Accessors return [borrowed] parts that live as long as the
+// dictionary.
 struct AcDbDictionary::Internals
 {
 public:
@@ -28,7 +30,7 @@ public:
     // such entry or all are erased.
     AcDbStub* find(const std::wstring& key) const;
     // Returns the key under which an entry is stored: `asked`, or for an anonymous entry "*A" and
-    // the next number.
+    // the next number that makes a new key.
     std::wstring keyFor(const std::wstring& asked);
     // Stores an entry under the key. Erases the entry that had the key before.
     void put(const std::wstring& key, AcDbStub* stub);
@@ -36,8 +38,11 @@ public:
     const std::vector<Entry>& inOrder() const { return m_entries; }
 
 private:
+    void add(Entry entry);
+
     std::vector<Entry> m_entries;
-    unsigned m_lastAnonymous = 0;  // n of the newest "*An"
+    std::unordered_set<std::wstring> m_foldedKeys;  // of all entries
+    std::uint64_t m_lastAnonymous = 0;              // the largest n of "*An"; wraps around
 };
 
 namespace host
