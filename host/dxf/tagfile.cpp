@@ -28,15 +28,19 @@ std::string quoted(std::string_view value)
 // not change the drawing in memory.
 TagFile TagFile::read(const std::string& path, const Progress& progress)
 {
-    WholeFile file = readWholeFile(path);
-    return TagFile(path, std::move(file.bytes), file.size, progress);
+    return fromBytes(readWholeFile(path), path, progress);
+}
+
+TagFile TagFile::fromBytes(WholeFile file, std::string name, const Progress& progress)
+{
+    return TagFile(std::move(name), std::move(file.bytes), file.size, progress);
 }
 
 TagFile TagFile::fromText(std::string_view text, std::string name, const Progress& progress)
 {
-    auto bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
-    text.copy(bytes.get(), text.size());
-    return TagFile(std::move(name), std::move(bytes), text.size(), progress);
+    WholeFile file{std::make_unique_for_overwrite<char[]>(text.size() + 1), text.size()};
+    text.copy(file.bytes.get(), text.size());
+    return fromBytes(std::move(file), std::move(name), progress);
 }
 
 TagFile::TagFile(std::string name, std::unique_ptr<char[]> bytes, std::size_t size,

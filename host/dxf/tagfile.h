@@ -10,6 +10,7 @@
 #include "host/dxf/progress.h"
 #include "host/dxf/release.h"
 #include "host/dxf/tag.h"
+#include "host/dxf/wholefile.h"
 
 namespace host::dxf
 {
@@ -54,7 +55,8 @@ class TagFile
 public:
     // Reads the file at `path`. Throws an Error if the file is refused.
     static TagFile read(const std::string& path, const Progress& progress = {});
-    // Reads the text of a file. Messages use `name` for the file.
+    // Each reads the contents of a file. Messages use `name` for the file.
+    static TagFile fromBytes(WholeFile file, std::string name, const Progress& progress = {});
     static TagFile fromText(std::string_view text, std::string name, const Progress& progress = {});
 
     const std::string& name() const { return m_name; }

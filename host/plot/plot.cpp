@@ -8,6 +8,7 @@
 #include "host/dxf/filesource.h"
 #include "host/dxf/save.h"
 #include "host/dxf/outputfile.h"
+#include "host/dxf/wholefile.h"
 #include "host/plot/paper.h"
 #include "host/plot/scene.h"
 #include "host/windows/text.h"
@@ -37,19 +38,32 @@ std::optional<FileKind> kindOf(const std::string& path)
     return std::nullopt;
 }
 
-// Returns the drawing's file as saving would write it now.
+void write(const dxf::Edits& edits, const dxf::TagWriter::Drain& drain)
+{
+    dxf::TagWriter writer(drain, edits.file().style());
+    edits.write(writer);
+    writer.flush();
+}
+
+// Returns the drawing's file as saving would write it now. The first of two writes finds its size:
+// a text that grew would take the memory of the largest drawings twice.
 dxf::TagFile asSaved(AcDbDatabase& database, const Progress& progress)
 {
-    std::string text;
+    dxf::WholeFile file{};
+    const auto take = [&file](std::string_view bytes)
+    {
+        bytes.copy(file.bytes.get() + file.size, bytes.size());
+        file.size += bytes.size();
+    };
     dxf::withChanges(coreOf(database),
-                     [&text](const dxf::Edits& edits)
+                     [&](const dxf::Edits& edits)
                      {
-                         dxf::TagWriter writer([&text](std::string_view bytes) { text += bytes; },
-                                               edits.file().style());
-                         edits.write(writer);
-                         writer.flush();
+                         std::size_t size = 0;
+                         write(edits, [&size](std::string_view bytes) { size += bytes.size(); });
+                         file.bytes = std::make_unique_for_overwrite<char[]>(size + 1);
+                         write(edits, take);
                      });
-    return dxf::TagFile::fromText(text, "drawing", progress);
+    return dxf::TagFile::fromBytes(std::move(file), "drawing", progress);
 }
 
 Result<std::string> plotted(Scene& scene, const View& view, FileKind kind, const Progress& progress)

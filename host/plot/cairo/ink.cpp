@@ -14,6 +14,11 @@ namespace
 {
 const double pointsInMillimetre = 72 / 25.4;
 
+bool same(Color a, Color b)
+{
+    return a.red == b.red && a.green == b.green && a.blue == b.blue;
+}
+
 class CairoInk : public Ink
 {
 public:
@@ -33,6 +38,14 @@ private:
     void open(const Sheet& sheet);
     void follow(const Points& points, bool closed);
     void use(Color color);
+    void strokeWaiting();
+
+    // A page description keeps each stroke until its end, with several hundred bytes of its own.
+    // Strokes that look alike wait for each other and become one.
+    static constexpr int mostStrokes = 500;
+    int m_waiting = 0;  // strokes in the path
+    double m_width = 0;
+    Color m_color{};
 
     FileKind m_kind;
     std::string m_bytes;
@@ -80,6 +93,7 @@ CairoInk::~CairoInk()
 
 Result<std::string> CairoInk::finish()
 {
+    strokeWaiting();
     if (m_kind == FileKind::png)
     {
         Result<std::string> png = pngOf(m_surface);
@@ -118,14 +132,36 @@ void CairoInk::follow(const Points& points, bool closed)
 
 void CairoInk::stroke(const Points& points, bool closed, double width, Color color)
 {
+    if (m_waiting == mostStrokes || width != m_width || !same(color, m_color))
+    {
+        strokeWaiting();
+    }
     follow(points, closed);
-    use(color);
-    cairo_set_line_width(m_cairo, width);
+    m_width = width;
+    m_color = color;
+    ++m_waiting;
+    // In a picture of dots a stroke covers the ones before it; one path would not.
+    if (m_kind == FileKind::png)
+    {
+        strokeWaiting();
+    }
+}
+
+void CairoInk::strokeWaiting()
+{
+    if (m_waiting == 0)
+    {
+        return;
+    }
+    use(m_color);
+    cairo_set_line_width(m_cairo, m_width);
     cairo_stroke(m_cairo);
+    m_waiting = 0;
 }
 
 void CairoInk::fill(const std::vector<Points>& loops, Color color)
 {
+    strokeWaiting();
     for (const Points& loop : loops)
     {
         follow(loop, true);
@@ -136,6 +172,7 @@ void CairoInk::fill(const std::vector<Points>& loops, Color color)
 
 void CairoInk::disc(const AcGePoint3d& centre, double diameter, Color color)
 {
+    strokeWaiting();
     cairo_arc(m_cairo, centre.x, centre.y, diameter / 2, 0, 2 * M_PI);
     use(color);
     cairo_fill(m_cairo);
@@ -144,6 +181,7 @@ void CairoInk::disc(const AcGePoint3d& centre, double diameter, Color color)
 void CairoInk::text(const AcGePoint3d& start, const AcGeVector3d& along, const AcGeVector3d& up,
                     std::wstring_view text, Color color)
 {
+    strokeWaiting();
     const cairo_matrix_t matrix{along.x, along.y, up.x, up.y, start.x, start.y};
     cairo_save(m_cairo);
     cairo_transform(m_cairo, &matrix);
