@@ -2,34 +2,24 @@
 
 #include <algorithm>
 
-Adesk::UInt16 colorIndex(const GridRequest& request)
-{
-    return static_cast<Adesk::UInt16>(request.options.Color);
-}
-
 void addMade(AcDbObjectIdArray& made, AcDbObjectId id)
 {
-    if (id.isNull())
+    if (!id.isNull())
     {
-        return;
+        // The host may grow its arrays by no more than this, so appending a million ids would copy
+        // the array again and again.
+        made.setGrowLength(made.length() + 8);
+        made.append(id);
     }
-    // The host grows its arrays by a few entries at a time, so appending a million ids would copy
-    // the array again and again.
-    if (made.length() == made.physicalLength())
-    {
-        made.setPhysicalLength(made.length() * 2 + 8);
-    }
-    made.append(id);
 }
 
 void sortCorners(AcGePoint3d& corner1, AcGePoint3d& corner2)
 {
-    if (corner1.x > corner2.x)
+    for (int axis = 0; axis < 2; ++axis)
     {
-        std::swap(corner1.x, corner2.x);
-    }
-    if (corner1.y > corner2.y)
-    {
-        std::swap(corner1.y, corner2.y);
+        if (corner1[axis] > corner2[axis])
+        {
+            std::swap(corner1[axis], corner2[axis]);
+        }
     }
 }

@@ -1,102 +1,118 @@
 #include "engine/pointtests.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "output/tolerance.h"
 
 namespace
 {
 const double listTolerance = 1e-6;
 const double twoPi = 6.283185307179586;
-}  // namespace
 
-double largestPointTolerance()
+bool isRectangle(const AcGePoint3dArray& outline, double z)
+{
+    if (outline.length() < 4 || outline[0].z != z || outline[1].z != z || outline[2].z != z ||
+        outline[3].z != z)
+    {
+        return false;
+    }
+    const double tolerance = AcGeContext::gTol.equalPoint();
+    const AcGeVector3d along = outline[1] - outline[0];
+    const AcGeVector3d up = outline[3] - outline[0];
+    const double shorter = (std::min)(along.length(), up.length());
+    return shorter > 0 && outline[2].distanceTo(outline[1] + up) <= tolerance &&
+           std::fabs(along.dotProduct(up)) <= tolerance * shorter;
+}
+
+double guardBand(const AcGePoint3d& corner, const AcGePoint3d& opposite)
 {
     const double ofHost =
         (std::max)(AcGeContext::gTol.equalPoint(), AcGeContext::gTol.equalVector());
-    return (std::max)(ofHost, listTolerance);
+    const double largest = (std::max)(largestCoordinate(corner), largestCoordinate(opposite));
+    const double tolerance = atLeastRounding((std::max)(ofHost, listTolerance), largest);
+    return (std::max)(1e-6 * corner.distanceTo(opposite), 4 * tolerance);
 }
+}  // namespace
 
 int pointInQuad(const AcGePoint3d& P, const AcGePoint3d& Q0, const AcGePoint3d& Q1,
                 const AcGePoint3d& Q2, const AcGePoint3d& Q3)
 {
-    const AcGeVector3d toCorner[] = {Q0 - P, Q1 - P, Q2 - P, Q3 - P};
-    const AcGeLineSeg3d edges[] = {AcGeLineSeg3d(Q0, Q1), AcGeLineSeg3d(Q1, Q2),
-                                   AcGeLineSeg3d(Q2, Q3), AcGeLineSeg3d(Q3, Q0)};
+    const AcGePoint3d corners[] = {Q0, Q1, Q2, Q3, Q0};
     bool isOnEdge = false;
     double angleSum = 0;
     for (int i = 0; i < 4; ++i)
     {
-        if (toCorner[i].length() <= AcGeContext::gTol.equalVector())
+        const AcGeVector3d toCorner = corners[i] - P;
+        if (toCorner.length() <= AcGeContext::gTol.equalVector())
         {
             return 2;
         }
-        isOnEdge = isOnEdge || edges[i].distanceTo(P) <= AcGeContext::gTol.equalPoint();
-        angleSum += toCorner[i].angleTo(toCorner[(i + 1) % 4]);
-    }
-    if (isOnEdge)
-    {
-        return 0;
+        const AcGeLineSeg3d edge(corners[i], corners[i + 1]);
+        isOnEdge = isOnEdge || edge.distanceTo(P) <= AcGeContext::gTol.equalPoint();
+        angleSum += toCorner.angleTo(corners[i + 1] - P);
     }
     // The angle-sum test: the angles between the corners add up to a full turn only when they are
     // seen from a point inside.
-    return std::fabs(angleSum - twoPi) <= 1e-6 ? 1 : -1;
+    const bool isInside = std::fabs(angleSum - twoPi) <= 1e-6;
+    return isOnEdge ? 0 : isInside ? 1 : -1;
 }
 
 int pointInOutlinePoints(const AcGePoint3d& P, const AcGePoint3dArray& points)
 {
-    if (points.length() < 4)
-    {
-        return -99;
-    }
-    return pointInQuad(P, points[0], points[1], points[2], points[3]);
+    return points.length() < 4 ? -99 : pointInQuad(P, points[0], points[1], points[2], points[3]);
 }
 
-CurveArea::CurveArea(const AcDbCurve& curve) : m_curve(curve), m_isPolyline(false)
-{
-    const AcDb2dPolyline* polyline = AcDb2dPolyline::cast(&curve);
-    if (polyline != nullptr)
-    {
-        m_isPolyline = true;
-        m_polygon.appendLoopFromBoundary(polyline, true, listTolerance);
-    }
-}
-
-int CurveArea::locate(const AcGePoint3d& P) const
+int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve, const AcDbMPolygon& area)
 {
     AcGePoint3d closest;
-    if (m_curve.getClosestPointTo(P, closest) == Acad::eOk &&
+    if (curve.getClosestPointTo(P, closest) == Acad::eOk &&
         closest.distanceTo(P) <= AcGeContext::gTol.equalPoint())
     {
         return 0;
     }
-    if (!m_isPolyline)
-    {
-        return -99;
-    }
     AcGeIntArray loops;
-    return m_polygon.isPointInsideMPolygon(P, loops, listTolerance) < 1 ? -1 : 1;
+    const bool isInside = area.isPointInsideMPolygon(P, loops, listTolerance) >= 1;
+    return AcDb2dPolyline::cast(&curve) == nullptr ? -99 : isInside ? 1 : -1;
 }
 
-int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve)
+void areaWithin(const AcDbCurve* curve, AcDbMPolygon& area)
 {
-    return CurveArea(curve).locate(P);
+    area.appendLoopFromBoundary(AcDb2dPolyline::cast(curve), true, listTolerance);
 }
 
-namespace
+LineSpan lineSpan(const AcGePoint3dArray& outline, const AcGePoint3d& P, int axis)
 {
-// Returns the index of the coordinate that changes most along the direction.
-int mainAxis(const AcGeVector3d& direction)
+    const bool isKnown = isRectangle(outline, P.z);
+    LineSpan span = {axis, -HUGE_VAL, isKnown ? -HUGE_VAL : HUGE_VAL, HUGE_VAL, HUGE_VAL};
+    // The depth below either pair of opposite edges grows evenly along the line. Where it does not
+    // grow at all, the quotients are infinite. They are not numbers, and have no effect, only if
+    // the line runs on a bound of the band itself; the band has room for either answer there.
+    for (int i = 1; isKnown && i < 4; i += 2)
+    {
+        const AcGePoint3d& corner = outline[0];
+        const double guard = guardBand(corner, outline[2]);
+        AcGePoint3d start = P;
+        start[axis] = corner[axis];
+        const double length = (outline[i] - corner).length();
+        const AcGeVector3d across = (outline[i] - corner) / length;
+        const double slope = axis == 0 ? across.x : across.y;
+        const double fromCorner = (start - corner).dotProduct(across);
+        const double depth = slope < 0 ? length - fromCorner : fromCorner;
+        const auto where = [&](double depthThere)
+        { return corner[axis] + (depthThere - depth) / std::fabs(slope); };
+        span.outerLow = (std::max)(span.outerLow, where(-guard));
+        span.innerLow = (std::max)(span.innerLow, where(guard));
+        span.innerHigh = (std::min)(span.innerHigh, where(length - guard));
+        span.outerHigh = (std::min)(span.outerHigh, where(length + guard));
+    }
+    return span;
+}
+
+KnownPoints::KnownPoints(const AcGeVector3d& direction)
 {
     const double x = std::fabs(direction.x);
     const double y = std::fabs(direction.y);
     const double z = std::fabs(direction.z);
-    return x >= y && x >= z ? 0 : y >= z ? 1 : 2;
+    m_axis = x >= y && x >= z ? 0 : y >= z ? 1 : 2;
 }
-}  // namespace
-
-KnownPoints::KnownPoints(const AcGeVector3d& direction) : m_axis(mainAxis(direction)) {}
 
 void KnownPoints::add(const AcGePoint3d& P)
 {
@@ -109,7 +125,7 @@ void KnownPoints::add(const AcGePoint3d& P)
 }
 
 // No coordinate differs by more than the distance. Twice the distance leaves room for rounding.
-bool KnownPoints::contain(const AcGePoint3d& P) const
+bool KnownPoints::containsPoint(const AcGePoint3d& P) const
 {
     const double distance = atLeastRounding(listTolerance, largestCoordinate(P));
     const double last = P[m_axis] + 2 * distance;

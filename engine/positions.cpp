@@ -4,21 +4,14 @@
 
 #include "output/tolerance.h"
 
-namespace
-{
-bool fitsInt(double value)
-{
-    return std::fabs(value) < 2147483648.0;
-}
-}  // namespace
-
 std::vector<double> linePositions(double low, double high, double base, double step, int limit)
 {
     std::vector<double> positions;
     const double from = low - step;
     const double to = high + step;
     const double steps = (from - base) / step;
-    if (!(step > 0) || !isMeasurable(from) || !isMeasurable(to) || !fitsInt(steps))
+    if (!(step > 0) || !isMeasurable(from) || !isMeasurable(to) ||
+        !(std::fabs(steps) < 2147483648.0))
     {
         return positions;
     }
@@ -40,21 +33,19 @@ std::vector<double> linePositions(double low, double high, double base, double s
 
 GridLines gridLines(const GridRequest& request)
 {
-    const AcGePoint3d& low = request.corner1;
-    const AcGePoint3d& high = request.corner2;
-    const GridSettings& options = request.options;
+    const double steps[] = {request.options.HorStep, request.options.VertStep};
     GridLines lines;
-    lines.x = linePositions(low.x, high.x, options.basePoint.x, options.HorStep, maxNodes);
-    if (!lines.x.empty())
+    int limit = maxNodes;
+    for (int axis = 0; axis < 2; ++axis)
     {
-        const int left = maxNodes / static_cast<int>(lines.x.size());
-        lines.y = linePositions(low.y, high.y, options.basePoint.y, options.VertStep, left);
-    }
-    // Without lines across there are no nodes, and millions of positions would only fill the
-    // memory.
-    if (lines.y.empty())
-    {
-        lines.x.clear();
+        lines.at[axis] = linePositions(request.corner1[axis], request.corner2[axis],
+                                       request.options.basePoint[axis], steps[axis], limit);
+        // Millions of positions without lines across would only fill the memory.
+        if (lines.at[axis].empty())
+        {
+            return GridLines();
+        }
+        limit /= static_cast<int>(lines.at[axis].size());
     }
     return lines;
 }

@@ -14,8 +14,7 @@ const int maxNodes = 1 << 25;
 // The positions of the lines of a grid, in drawing units.
 struct GridLines
 {
-    std::vector<double> x;  // x of the vertical lines, ascending
-    std::vector<double> y;  // y of the horizontal lines, ascending
+    std::vector<double> at[2];  // x of the vertical lines and y of the horizontal ones, ascending
 };
 
 // Returns the positions base + n * step from one step below `low` to one step above `high`, in

@@ -1,4 +1,4 @@
-#include "engine/linespan.h"
+#include "engine/pointtests.h"
 
 #include <cmath>
 #include <limits>
@@ -37,7 +37,7 @@ int locate(const Quad& quad, const AcGePoint3d& point)
         {
             outline.append(q[(first + 4 + i * step) % 4]);
         }
-        return lineSpan(outline, point, axis).locate(point[static_cast<unsigned>(axis)]);
+        return lineSpan(outline, point, axis).locate(point);
     };
     const int place = placeIn(0, 1, 0);
     for (int i = 0; i < 4; ++i)

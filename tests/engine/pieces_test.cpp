@@ -1,6 +1,6 @@
 #include "engine/pieces.h"
 
-#include "engine/gridlabels.h"
+#include "engine/labels.h"
 #include "host/database/packing.h"
 #include "tests/engine/gridtest.h"
 #include "tests/support/letgo.h"
@@ -25,17 +25,18 @@ protected:
         GridRequest request = GridRequest();
         request.corner2 = corner2;
         request.options.HorStep = request.options.VertStep = 10;
+        request.options.needText = 1;
         GridLines lines;
-        lines.x = x;
-        lines.y.push_back(10);
+        lines.at[0] = x;
+        lines.at[1].push_back(10);
         Drawn drawn;
         AcDbObjectPointer<AcDbEntity> boundary(outline, AcDb::kForRead);
         AcGePoint3dArray corners;
         boundary->getStretchPoints(corners);
-        const PieceClipper clipper(*boundary.object(), corners, nullptr, 0, 1e-10);
+        const PieceClipper clipper(*boundary.object(), nullptr, corners, 1e-10);
         const GridLines drawnLines = drawPieces(request, lines, clipper, drawn.made);
-        drawn.xLabelPoints = labelPoints(request, drawnLines.x, 0, clipper);
-        drawn.yLabelPoints = labelPoints(request, drawnLines.y, 1, clipper);
+        drawn.xLabelPoints = labelPoints(request, drawnLines, 0, clipper);
+        drawn.yLabelPoints = labelPoints(request, drawnLines, 1, clipper);
         return drawn;
     }
 };

@@ -121,6 +121,13 @@ TEST(PointInOutlinePoints, refusesAnOutlineOfFewerThanFour)
     EXPECT_EQ(pointInOutlinePoints({1, 1, 0}, points({{0, 0, 0}, {9, 0, 0}, {0, 9, 0}})), -99);
 }
 
+int pointInCurve(const AcGePoint3d& P, const AcDbCurve& curve)
+{
+    AcDbMPolygon area;
+    areaWithin(&curve, area);
+    return pointInCurve(P, curve, area);
+}
+
 TEST(PointInCurve, tellsInsideOnAndOutside)
 {
     AcGePoint3dArray corners = sheet();
@@ -188,15 +195,15 @@ TEST(PointInCurve, refusesACurveThatTheHostCannotMeasure)
 TEST(KnownPoints, areFoundCloserThanAMillionth)
 {
     KnownPoints known(AcGeVector3d::kYAxis);
-    EXPECT_FALSE(known.contain({0, 0, 0}));
+    EXPECT_FALSE(known.containsPoint({0, 0, 0}));
     known.add({0, 0, 0});
     known.add({10, 20, 30});
-    EXPECT_TRUE(known.contain({10, 20, 30}));
-    EXPECT_TRUE(known.contain({10, 20 + 9e-7, 30}));
-    EXPECT_TRUE(known.contain({0, 0, 9e-7}));
-    EXPECT_FALSE(known.contain({0, 0, 1e-6}));  // strictly closer
-    EXPECT_FALSE(known.contain({0, 1e-6, 0}));
-    EXPECT_FALSE(known.contain({5, 5, 5}));
+    EXPECT_TRUE(known.containsPoint({10, 20, 30}));
+    EXPECT_TRUE(known.containsPoint({10, 20 + 9e-7, 30}));
+    EXPECT_TRUE(known.containsPoint({0, 0, 9e-7}));
+    EXPECT_FALSE(known.containsPoint({0, 0, 1e-6}));  // strictly closer
+    EXPECT_FALSE(known.containsPoint({0, 1e-6, 0}));
+    EXPECT_FALSE(known.containsPoint({5, 5, 5}));
 }
 
 TEST(KnownPoints, areFoundAsQuicklyInALongRow)
@@ -205,9 +212,9 @@ TEST(KnownPoints, areFoundAsQuicklyInALongRow)
     for (int i = 0; i < 200000; ++i)  // a list would be searched for minutes
     {
         const AcGePoint3d P(i * 0.1, 7, -i);
-        ASSERT_FALSE(known.contain(P));
+        ASSERT_FALSE(known.containsPoint(P));
         known.add(P);
     }
-    EXPECT_TRUE(known.contain({10000, 7, -100000}));
+    EXPECT_TRUE(known.containsPoint({10000, 7, -100000}));
 }
 }  // namespace

@@ -148,11 +148,11 @@ TEST(Positions, aDirectionWithoutLinesLeavesNoNodes)
     const AcGePoint3d low(0, 0, 0);
     const AcGePoint3d high(20, 20, 0);
     const GridLines both = gridLines(grid(low, high, 10, 20));
-    EXPECT_EQ(both.x, (Positions{-10, 0, 10, 20, 30}));
-    EXPECT_EQ(both.y, (Positions{-20, 0, 20, 40}));
-    EXPECT_TRUE(gridLines(grid(low, high, 0, 20)).y.empty());
-    EXPECT_TRUE(gridLines(grid(low, high, 10, 0)).y.empty());
-    EXPECT_TRUE(gridLines(grid(low, high, 10, 0)).x.empty());  // they may be millions
+    EXPECT_EQ(both.at[0], (Positions{-10, 0, 10, 20, 30}));
+    EXPECT_EQ(both.at[1], (Positions{-20, 0, 20, 40}));
+    EXPECT_TRUE(gridLines(grid(low, high, 0, 20)).at[1].empty());
+    EXPECT_TRUE(gridLines(grid(low, high, 10, 0)).at[1].empty());
+    EXPECT_TRUE(gridLines(grid(low, high, 10, 0)).at[0].empty());  // they may be millions
 }
 
 TEST(Positions, thereAreNeverMoreNodesThanAMachineCanHold)
@@ -160,9 +160,9 @@ TEST(Positions, thereAreNeverMoreNodesThanAMachineCanHold)
     const AcGePoint3d low(0, 0, 0);
     const AcGePoint3d high(5788, 5788, 0);  // 5791 positions each way are just below the bound
     const GridLines most = gridLines(grid(low, high, 1, 1));
-    EXPECT_EQ(most.x.size() * most.y.size(), 5791u * 5791u);
+    EXPECT_EQ(most.at[0].size() * most.at[1].size(), 5791u * 5791u);
     const AcGePoint3d higher(5790, 5790, 0);
-    EXPECT_TRUE(gridLines(grid(low, higher, 1, 1)).y.empty());
+    EXPECT_TRUE(gridLines(grid(low, higher, 1, 1)).at[1].empty());
 }
 
 // Numbers as a damaged settings file may hold them, and every other kind of double.

@@ -75,7 +75,7 @@ TEST(KnownPoints, areFoundExactlyWhereAListFindsThem)
         {
             const AcGePoint3d P = point(chance, list);
             const bool isInList = relations::plain::containsPoint(list, P);
-            EXPECT_EQ(known.contain(P), isInList)
+            EXPECT_EQ(known.containsPoint(P), isInList)
                 << std::hexfloat << P.x << ' ' << P.y << ' ' << P.z;
             found += isInList;
             ++asked;
