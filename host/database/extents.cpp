@@ -73,9 +73,8 @@ void addUnpacked(WorldExtents& extents, const AcDbObject& object)
 WorldExtents madeExtents(const DatabaseCore& core)
 {
     WorldExtents extents;
-    for (std::size_t i = 0; i < core.objects().size(); ++i)
+    for (const AcDbStub& stub : core.objects())
     {
-        const AcDbStub& stub = core.objects()[i];
         if (stub.erased() || ownerOf(&stub) != core.roots()[Root::modelSpace])
         {
             continue;
@@ -85,8 +84,9 @@ WorldExtents madeExtents(const DatabaseCore& core)
             addUnpacked(extents, *stub.object);
             continue;
         }
-        extents.add(AcGePoint3d(stub.line[0], stub.line[1], stub.line[2]));
-        extents.add(AcGePoint3d(stub.line[3], stub.line[4], stub.line[5]));
+        const LineEnds ends = StubArena::endsOf(&stub);
+        extents.add(ends.start);
+        extents.add(ends.end);
     }
     return extents;
 }

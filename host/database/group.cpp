@@ -61,13 +61,14 @@ Adesk::UInt32 AcDbGroup::allEntityIds(AcDbObjectIdArray& ids) const
 {
     assertReadEnabled("AcDbGroup::allEntityIds");
     Adesk::UInt32 count = 0;
-    for (AcDbStub* stub : m_internals->inOrder())
-    {
-        if (!stub->erased())
+    m_internals->forEach(
+        [&](AcDbStub& stub)
         {
-            ids.append(AcDbObjectId(stub));
-            ++count;
-        }
-    }
+            if (!stub.erased())
+            {
+                ids.append(AcDbObjectId(&stub));
+                ++count;
+            }
+        });
     return count;
 }

@@ -15,7 +15,7 @@ bool AcDbGroup::Internals::add(AcDbStub* member, AcDbStub* group)
     }
     const std::uint32_t before = member->style;
     objects.addReactor(member, group);
-    m_members.push_back(member);
+    join(member);
     if (member->packed())
     {
         m_styleBefore = before;
@@ -31,6 +31,6 @@ bool AcDbGroup::Internals::addLikeTheLast(AcDbStub* member)
         return false;
     }
     member->style = m_styleWithin;
-    m_members.push_back(member);
+    join(member);
     return true;
 }

@@ -29,12 +29,19 @@ std::uint32_t LineStyles::internStyleOf(const AcDbEntity& entity)
 
 [[gnu::noinline]] std::uint32_t LineStyles::find(const LineStyle& style)
 {
-    const auto [found, isNew] = m_numbers.try_emplace(style, std::uint32_t(m_styles.size()));
-    if (isNew)
+    const auto found = m_numbers.find(style);
+    if (found != m_numbers.end())
     {
-        m_styles.push_back(style);
+        m_last = found->second;
+        return m_last;
     }
-    m_last = found->second;
+    if (m_styles.size() >= m_most)
+    {
+        return none;
+    }
+    m_last = std::uint32_t(m_styles.size());
+    m_numbers.emplace(style, m_last);
+    m_styles.push_back(style);
     return m_last;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "dbmain.h"
+#include "host/database/stub.h"
 
 namespace host
 {
@@ -43,20 +44,27 @@ struct LineStyleHash
 class LineStyles
 {
 public:
+    static constexpr std::uint32_t none = UINT32_MAX;
+
+    // Return the number of a style, or of that of an entity, of which a copy is made only when it
+    // is new. Return `none` for a new style when there are too many.
     std::uint32_t intern(const LineStyle& style)
     {
         return m_last < m_styles.size() && m_styles[m_last] == style ? m_last : find(style);
     }
-    // Does the same for the style of an entity. A copy is made only of a new style.
     std::uint32_t internStyleOf(const AcDbEntity& entity);
     const LineStyle& operator[](std::uint32_t number) const { return m_styles[number]; }
+
+    // Sets how many styles there may be.
+    void limit(std::uint32_t most) { m_most = most; }
 
 private:
     std::uint32_t find(const LineStyle& style);
 
     std::vector<LineStyle> m_styles;
     std::unordered_map<LineStyle, std::uint32_t, LineStyleHash> m_numbers;
-    std::uint32_t m_last = UINT32_MAX;
+    std::uint32_t m_most = AcDbStub::mostStyles;
+    std::uint32_t m_last = none;
 };
 
 // Numbers the lists of persistent reactors; the number 0 is the empty list. A list is [borrowed]

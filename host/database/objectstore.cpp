@@ -1,7 +1,6 @@
 #include "host/database/objectstore.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "host/database/entitystyle.h"
 #include "host/database/objectstate.h"
@@ -27,29 +26,36 @@ std::uint32_t kindOf(const AcDbObject& object)
     }
     return type->isDerivedFrom(AcDbEntity::desc()) ? std::uint32_t(AcDbStub::isEntity) : 0;
 }
+
+LineEnds endsOf(const AcDbLine& line)
+{
+    return {line.startPoint(), line.endPoint()};
+}
 }  // namespace
 
 AcDbStub* ObjectStore::add(AcDbObject* object, std::uint64_t handle)
 {
-    AcDbStub* stub = m_stubs.add(handle);
-    stub->object = object;
-    stub->flags = kindOf(*object);
-    if ((stub->flags & AcDbStub::isLine) == 0)
+    const std::uint32_t kind = kindOf(*object);
+    const bool isLine = (kind & AcDbStub::isLine) != 0;
+    AcDbStub* stub = isLine ? m_stubs.addLine(handle, endsOf(*static_cast<AcDbLine*>(object)))
+                            : m_stubs.add(handle);
+    if (!isLine)
     {
         m_objects.push_back(object);
     }
+    stub->object = object;
+    stub->flags |= kind;
     return stub;
 }
 
 AcDbLine* ObjectStore::unpack(AcDbStub* stub)
 {
-    const double* at = stub->line;
+    const LineEnds ends = StubArena::endsOf(stub);
     const LineStyle& style = m_styles[stub->style];
     AcDbLine* const retired = m_retired.take();
     AcDbLine* const line = retired != nullptr ? retired : new AcDbLine();
     ObjectState::joinClosed(*line, stub, style.owner);
-    AcDbLine::Internals::place(*line, AcGePoint3d(at[0], at[1], at[2]),
-                               AcGePoint3d(at[3], at[4], at[5]));
+    AcDbLine::Internals::place(*line, ends);
     EntityStyle::setStyle(*line, style);
     ObjectState::noteUnchanged(*line);
     stub->flags &= ~AcDbStub::isPacked;
@@ -59,31 +65,61 @@ AcDbLine* ObjectStore::unpack(AcDbStub* stub)
 
 void ObjectStore::pack(AcDbLine* line)
 {
-    AcDbStub* stub = line->objectId().stub();
-    stub->flags |= AcDbStub::isPacked;
-    stub->line[0] = line->startPoint().x;  // overwrites the object's address
-    if (ObjectState::hasChanged(*line))
+    AcDbStub* stub = ObjectState::stub(*line);
+    if (!ObjectState::hasChanged(*line) && (stub->flags & AcDbStub::isLoose) == 0)
     {
-        const AcGePoint3d start = line->startPoint();
-        const AcGePoint3d end = line->endPoint();
-        const double points[] = {start.x, start.y, start.z, end.x, end.y, end.z};
-        std::copy(std::begin(points), std::end(points), stub->line);
-        stub->style = m_styles.internStyleOf(*line);
+        StubArena::restore(stub, line->startPoint().x);
     }
+    else if (!write(stub, *line))
+    {
+        keepOnHeap(stub, line);
+        return;
+    }
+    stub->flags |= AcDbStub::isPacked;
     m_retired.add(line);
+}
+
+// Writes a line into its stub. Returns false and changes nothing if the stub cannot hold it.
+bool ObjectStore::write(AcDbStub* stub, const AcDbLine& line)
+{
+    if ((stub->flags & AcDbStub::isLoose) != 0)
+    {
+        return false;
+    }
+    const std::uint32_t style = m_styles.internStyleOf(line);
+    if (style == LineStyles::none || !StubArena::store(stub, endsOf(line)))
+    {
+        return false;
+    }
+    stub->style = style;
+    return true;
+}
+
+[[gnu::noinline]] void ObjectStore::keepOnHeap(AcDbStub* stub, AcDbLine* line)
+{
+    if ((stub->flags & AcDbStub::isLoose) == 0)
+    {
+        m_objects.push_back(line);
+        stub->flags |= AcDbStub::isLoose;
+    }
 }
 
 void ObjectStore::addReactor(AcDbStub* entity, AcDbStub* reactor)
 {
     const std::uint32_t with = m_reactors.with(reactorsOf(entity), reactor);
-    if (!entity->packed())
+    if (entity->packed())
     {
-        ObjectState::noteChange(*entity->object);
-        EntityStyle::setReactors(*static_cast<AcDbEntity*>(entity->object), with);
-        return;
+        LineStyle style = m_styles[entity->style];
+        style.reactors = with;
+        const std::uint32_t number = m_styles.intern(style);
+        if (number != LineStyles::none)
+        {
+            entity->style = number;
+            return;
+        }
+        keepOnHeap(entity, unpack(entity));
     }
-    LineStyle style = m_styles[entity->style];
-    style.reactors = with;
-    entity->style = m_styles.intern(style);
+    ObjectState::noteChange(*entity->object);
+    EntityStyle::setReactors(*static_cast<AcDbEntity*>(entity->object), with);
 }
 }  // namespace host

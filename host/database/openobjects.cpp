@@ -4,6 +4,7 @@
 
 #include "dbents.h"
 #include "host/database/objectstate.h"
+#include "host/database/stub.h"
 
 namespace host
 {
@@ -11,7 +12,8 @@ OpenObjects::~OpenObjects()
 {
     for (AcDbObject* object : m_objects)
     {
-        if (AcDbLine::cast(object) != nullptr)
+        const std::uint32_t flags = ObjectState::stub(*object)->flags;
+        if ((flags & (AcDbStub::isLine | AcDbStub::isLoose)) == AcDbStub::isLine)
         {
             ObjectState::destroy(object);
         }

@@ -13,7 +13,8 @@ class OpenObjects
 {
 public:
     OpenObjects() = default;
-    // Deletes the lines that are still open, because an open line has no other owner.
+    // Deletes the lines that are still open, because such a line has no other owner unless it stays
+    // on the heap when it is closed.
     ~OpenObjects();
     OpenObjects(const OpenObjects&) = delete;
     OpenObjects& operator=(const OpenObjects&) = delete;

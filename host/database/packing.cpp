@@ -74,7 +74,7 @@ std::string describe(const AcDbStub& stub)
 {
     char handle[40];
     std::snprintf(handle, sizeof handle, " with handle %llX",
-                  static_cast<unsigned long long>(stub.handle));
+                  static_cast<unsigned long long>(stub.handle()));
     return nameOf(*typeOf(&stub)) + handle;
 }
 }  // namespace host

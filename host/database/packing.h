@@ -9,10 +9,10 @@
 // Sets the points of a line, whether it is open or not, when it is unpacked.
 struct AcDbLine::Internals
 {
-    static void place(AcDbLine& line, const AcGePoint3d& start, const AcGePoint3d& end)
+    static void place(AcDbLine& line, const host::LineEnds& ends)
     {
-        line.m_start = start;
-        line.m_end = end;
+        line.m_start = ends.start;
+        line.m_end = ends.end;
     }
 };
 

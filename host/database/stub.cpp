@@ -1,5 +1,6 @@
 #include "host/database/stub.h"
 
+#include <algorithm>
 #include <new>
 #ifdef __linux__
 #    include <sys/mman.h>
@@ -17,6 +18,11 @@ void askForLargePage([[maybe_unused]] void* block, [[maybe_unused]] std::size_t 
     ::madvise(block, bytes, MADV_HUGEPAGE);  // the program is only slower if the system refuses
 #endif
 }
+
+std::uint32_t highHalf(std::uint64_t handle)
+{
+    return std::uint32_t(handle >> 32);
+}
 }  // namespace
 
 StubArena::~StubArena()
@@ -27,38 +33,104 @@ StubArena::~StubArena()
     }
 }
 
-void StubArena::addBlock()
+void StubArena::addBlock(bool isFlat, std::uint64_t handle)
 {
-    auto* block = static_cast<Block*>(::operator new(blockBytes, std::align_val_t(blockBytes)));
+    void* memory = ::operator new(blockBytes, std::align_val_t(blockBytes));
     if (!m_blocks.empty())  // small drawings do not fill one block
     {
-        askForLargePage(block, blockBytes);
+        askForLargePage(memory, blockBytes);
     }
-    block->core = &m_core;
-    block->firstIndex = m_size;
-    m_blocks.push_back(block);
-    m_next = block->stubs;
-    m_end = block->stubs + perBlock;
+    const std::uint32_t stride = isFlat ? flatStride : fullStride;
+    m_blocks.push_back(new (memory) Block{this, m_size, 0, highHalf(handle), stride});
+    m_next = m_blocks.back()->stub(0);
+    m_end = m_blocks.back()->stub((blockBytes - sizeof(Block)) / stride);
+    m_linesOfBlock = 0;
+}
+
+AcDbStub* StubArena::make(std::uint64_t handle)
+{
+    Block& block = *m_blocks.back();
+    AcDbStub* stub = m_next;
+    m_next = after(stub, block.stride);
+    ++m_size;
+    stub->m_lowHandle = std::uint32_t(handle);
+    stub->flags = 0;
+    stub->style = 0;
+    stub->object = nullptr;
+    if (highHalf(handle) != block.highHandle)
+    {
+        setHandle(stub, handle);
+    }
+    return stub;
 }
 
 AcDbStub* StubArena::add(std::uint64_t handle)
 {
     if (m_next == m_end)
     {
-        addBlock();
+        addBlock(m_linesAlike >= m_linesOfBlock, handle);
     }
-    AcDbStub& stub = *m_next++;
-    ++m_size;
-    stub.handle = handle;
-    stub.style = 0;
-    stub.flags = 0;
-    stub.object = nullptr;
-    return &stub;
+    return make(handle);
 }
 
-std::size_t StubArena::indexOf(const AcDbStub* stub)
+AcDbStub* StubArena::addLine(std::uint64_t handle, const LineEnds& ends)
 {
-    const Block* block = blockOf(stub);
-    return block->firstIndex + std::size_t(stub - block->stubs);
+    const bool isLevel = same(ends.start.z, ends.end.z);
+    const bool isLikeTheLast = isLevel && same(ends.start.z, m_elevation);
+    m_linesAlike = isLikeTheLast ? m_linesAlike + 1 : isLevel;
+    m_elevation = ends.start.z;
+
+    const bool isFlat = m_linesAlike > m_linesOfBlock;  // this line and all others of the block
+    if (m_next == m_end || (!isFlat && m_blocks.back()->stride == flatStride))
+    {
+        addBlock(isFlat, handle);
+    }
+    if (m_linesOfBlock++ == 0)
+    {
+        m_blocks.back()->elevation = m_elevation;
+    }
+    return make(handle);
+}
+
+[[gnu::noinline]] void StubArena::setHandle(AcDbStub* stub, std::uint64_t handle)
+{
+    stub->m_lowHandle = std::uint32_t(handle);
+    if (highHalf(handle) == blockOf(stub)->highHandle)
+    {
+        stub->flags &= ~AcDbStub::hasHandleApart;
+        m_handlesApart.erase(stub);
+        return;
+    }
+    m_handlesApart[stub] = handle;
+    stub->flags |= AcDbStub::hasHandleApart;
+}
+
+StubArena::Range StubArena::from(std::size_t index) const
+{
+    const auto isBehind = [](std::size_t at, const Block* block) { return at < block->firstIndex; };
+    const auto next = std::upper_bound(m_blocks.begin(), m_blocks.end(), index, isBehind);
+    const std::size_t block = std::size_t(next - m_blocks.begin());
+    return block == 0 ? Range{Iterator(*this, 0, 0)}
+                      : Range{Iterator(*this, block - 1, index - m_blocks[block - 1]->firstIndex)};
+}
+
+void StubArena::Iterator::enter(std::size_t block, std::size_t skipped)
+{
+    const std::vector<Block*>& blocks = m_arena.m_blocks;
+    if (block == blocks.size())
+    {
+        m_at = nullptr;
+        return;
+    }
+    const std::size_t next =
+        block + 1 < blocks.size() ? blocks[block + 1]->firstIndex : m_arena.m_size;
+    m_block = block;
+    m_stride = blocks[block]->stride;
+    m_end = blocks[block]->stub(next - blocks[block]->firstIndex);
+    m_at = blocks[block]->stub(skipped);
+    if (m_at == m_end)  // nothing follows what was skipped
+    {
+        m_at = nullptr;
+    }
 }
 }  // namespace host

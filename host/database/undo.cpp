@@ -11,16 +11,15 @@ UndoMark undoMark(const AcDbDatabase& database)
 UndoneChanges undoTo(AcDbDatabase& database, const UndoMark& mark)
 {
     DatabaseCore& core = coreOf(database);
-    const ObjectStore& objects = core.objects();
     UndoneChanges changes{mark, {}, {}, core.current()};
-    for (std::size_t i = mark.objects; i < objects.size(); ++i)
+    for (const AcDbStub& stub : core.objects().from(mark.objects))
     {
-        changes.erased.push_back(objects[i].erased());
+        changes.erased.push_back(stub.erased());
     }
     changes.log = core.undoLog().undoTo(mark.log);
-    for (std::size_t i = mark.objects; i < objects.size(); ++i)
+    for (AcDbStub& stub : core.objects().from(mark.objects))
     {
-        objects[i].setErased(true);
+        stub.setErased(true);
     }
     core.current() = mark.current;
     return changes;
@@ -30,9 +29,14 @@ void redo(AcDbDatabase& database, const UndoneChanges& changes)
 {
     DatabaseCore& core = coreOf(database);
     core.undoLog().redo(changes.log);
-    for (std::size_t i = 0; i < changes.erased.size(); ++i)
+    auto erased = changes.erased.begin();
+    for (AcDbStub& stub : core.objects().from(changes.mark.objects))
     {
-        core.objects()[changes.mark.objects + i].setErased(changes.erased[i]);
+        if (erased == changes.erased.end())
+        {
+            break;
+        }
+        stub.setErased(*erased++);
     }
     core.current() = changes.current;
 }

@@ -41,9 +41,8 @@ void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDb
     // Many consecutive lines share one style. A style of another owner has no form here.
     std::uint32_t style = UINT32_MAX;
     const LineForms* forms = nullptr;
-    for (std::size_t i = 0; i < m_core.objects().size(); ++i)
+    for (const AcDbStub& stub : m_core.objects())
     {
-        const AcDbStub& stub = m_core.objects()[i];
         if (stub.erased())
         {
             continue;
@@ -61,9 +60,10 @@ void EntityWriter::writeAll(const AcDbStub* owner, TagWriter& writer, const AcDb
         }
         if (forms != nullptr)
         {
-            const double z = forms->elevation;
-            const bool isFlat = stub.line[2] == z && stub.line[5] == z;
-            writer.record(isFlat ? forms->flat : forms->any, stub.handle, stub.line);
+            const auto [start, end] = StubArena::endsOf(&stub);
+            const double ends[] = {start.x, start.y, start.z, end.x, end.y, end.z};
+            const bool isFlat = start.z == forms->elevation && end.z == forms->elevation;
+            writer.record(isFlat ? forms->flat : forms->any, stub.handle(), ends);
         }
     }
 }
@@ -94,8 +94,8 @@ const EntityWriter::LineForms& EntityWriter::lineForms(const AcDbStub& stub)
     return found != m_lineForms.end()
                ? found->second
                : m_lineForms
-                     .emplace(stub.style,
-                              makeLineForms(m_core.objects().style(stub.style), stub.line[2]))
+                     .emplace(stub.style, makeLineForms(m_core.objects().style(stub.style),
+                                                        StubArena::endsOf(&stub).start.z))
                      .first->second;
 }
 
@@ -121,10 +121,10 @@ void EntityWriter::fillCommon(schema::entity::Entity& entity, const LineStyle& s
     {
         if (!reactor->erased())
         {
-            entity.reactors.push_back(reactor->handle);
+            entity.reactors.push_back(reactor->handle());
         }
     }
-    entity.owner = style.owner->handle;
+    entity.owner = style.owner->handle();
     entity.layer = nameOf(style.layer);
     entity.linetype = nameOf(style.linetype);
     entity.color = style.color;
@@ -135,7 +135,7 @@ void EntityWriter::fillCommon(schema::entity::Entity& entity, const LineStyle& s
 
 void EntityWriter::fillCommon(schema::entity::Entity& entity, const AcDbEntity& from) const
 {
-    fillCommon(entity, EntityStyle::styleOf(from), from.objectId().stub()->handle);
+    fillCommon(entity, EntityStyle::styleOf(from), from.objectId().stub()->handle());
 }
 
 namespace
@@ -197,8 +197,8 @@ void EntityWriter::writePolyline(const AcDb2dPolyline& polyline, TagWriter& writ
         writeVertex(*vertex, writer);
     }
     schema::sequenceend::SequenceEnd end;
-    end.handle = m_handles ? vertices.sequenceEnd->handle : 0;
-    end.owner = polyline.objectId().stub()->handle;
+    end.handle = m_handles ? vertices.sequenceEnd->handle() : 0;
+    end.owner = polyline.objectId().stub()->handle();
     end.layer = made.layer;
     writeRecord(writer, schema::sequenceend::table, end, m_form);
 }

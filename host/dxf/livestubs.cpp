@@ -6,9 +6,8 @@ LiveStubs liveStubs(const DatabaseCore& core)
 {
     LiveStubs live;
     std::uint32_t lastStyle = UINT32_MAX;
-    for (std::size_t i = 0; i < core.objects().size(); ++i)
+    for (const AcDbStub& stub : core.objects())
     {
-        const AcDbStub& stub = core.objects()[i];
         if (stub.erased() || (stub.packed() && stub.style == lastStyle))
         {
             continue;

@@ -124,7 +124,7 @@ void writeGroup(const DictionaryEntries::Entry& entry, std::uint64_t dictionary,
 {
     const GroupMembers& members = GroupMembers::of(*static_cast<AcDbGroup*>(entry.stub->object));
     schema::group::Group group;
-    group.handle = entry.stub->handle;
+    group.handle = entry.stub->handle();
     group.reactors = {dictionary};
     group.owner = dictionary;
     group.description = members.description;
@@ -132,13 +132,14 @@ void writeGroup(const DictionaryEntries::Entry& entry, std::uint64_t dictionary,
     group.selectable = members.selectable ? 1 : 0;
     writeRecord(writer, schema::group::table, group, formOf(source));
     // Written one by one, so that a million handles are not held in memory once more.
-    for (const AcDbStub* member : members.inOrder())
-    {
-        if (!member->erased())
+    members.forEach(
+        [&writer](const AcDbStub& member)
         {
-            writer.handle(schema::group::member, member->handle);
-        }
-    }
+            if (!member.erased())
+            {
+                writer.handle(schema::group::member, member.handle());
+            }
+        });
 }
 
 typedef std::vector<DictionaryEntries::Entry> NewGroups;
@@ -190,16 +191,16 @@ void saveGroups(Edits& edits, DatabaseCore& core)
         return;
     }
     AcDbStub* dictionary = core.roots()[Root::groupDictionary];
-    if (dictionary->handle == 0)
+    if (dictionary->handle() == 0)
     {
-        dictionary->handle = core.handles().take();
+        core.objects().setHandle(dictionary, core.handles().take());
     }
-    const std::uint64_t own = dictionary->handle;
+    const std::uint64_t own = dictionary->handle();
     const Producer entries = [&source, groups](TagWriter& writer)
     {
         for (const auto& group : groups)
         {
-            writeEntry(group.key, group.stub->handle, source, writer);
+            writeEntry(group.key, group.stub->handle(), source, writer);
         }
     };
     const std::uint64_t root =

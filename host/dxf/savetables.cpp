@@ -160,8 +160,11 @@ std::vector<NewRecord> missingRecords(DatabaseCore& core, const Kind& kind, cons
         {
             continue;
         }
-        added.stub->handle = added.stub->handle != 0 ? added.stub->handle : core.handles().take();
-        records.push_back({file.hasHandles() ? added.stub->handle : 0, name});
+        if (added.stub->handle() == 0)
+        {
+            core.objects().setHandle(added.stub, core.handles().take());
+        }
+        records.push_back({file.hasHandles() ? added.stub->handle() : 0, name});
     }
     return records;
 }

@@ -48,18 +48,32 @@ TEST(ObjectStore, stubsStayWhereTheyAreAndInOrder)
 {
     EmptyDrawing drawing;
     const host::ObjectStore& objects = drawing.core().objects();
-    const std::size_t begin = objects.size();
     std::vector<AcDbStub*> made;
-    for (int i = 0; i < 40000; ++i)  // more than a block holds
+    for (AcDbStub& stub : objects)
     {
-        made.push_back(drawing.core().objects().addForeign(std::uint64_t(1000 + i)));
+        made.push_back(&stub);
     }
-    ASSERT_EQ(objects.size(), begin + made.size());
-    for (std::size_t i = 0; i < made.size(); ++i)
+    ASSERT_EQ(objects.size(), made.size());
+    for (int i = 0; i < 60000; ++i)  // more than a block holds
     {
-        ASSERT_EQ(&objects[begin + i], made[i]);
-        ASSERT_EQ(made[i]->handle, 1000 + i);
-        ASSERT_EQ(&host::coreOf(made[i]), &drawing.core());
+        made.push_back(drawing.core().objects().addForeign(std::uint64_t(1000000 + i)));
+        ASSERT_EQ(made.back()->handle(), 1000000 + i);
+        ASSERT_EQ(&host::coreOf(made.back()), &drawing.core());
+    }
+    ASSERT_EQ(objects.size(), made.size());
+    for (std::size_t first = 0; first <= made.size(); first += first < 52000 ? 5200 : 1)
+    {
+        auto expected = made.begin() + std::ptrdiff_t(first);
+        std::size_t left = 3;  // and one long way, from the start
+        for (AcDbStub& stub : objects.from(first))
+        {
+            ASSERT_EQ(&stub, *expected++) << first;
+            if (first != 0 && --left == 0)
+            {
+                break;
+            }
+        }
+        ASSERT_TRUE(left == 0 || expected == made.end()) << first;
     }
 }
 

@@ -132,7 +132,7 @@ TEST_F(Drawing, aGroupAndItsMembersNameEachOther)
     const std::string text = saved(drawing.database());
     char handle[20];
     std::snprintf(handle, sizeof handle, "%llX\n",
-                  static_cast<unsigned long long>(group->objectId().stub()->handle));
+                  static_cast<unsigned long long>(group->objectId().stub()->handle()));
     EXPECT_EQ(count(text, std::string("102\n{ACAD_REACTORS\n330\n") + handle), 2u);
     EXPECT_EQ(count(text, std::string("  3\n*A1\n350\n") + handle), 1u);
     EXPECT_EQ(count(text, "\n340\n"), count(host::dxf::emptyDrawing(), "\n340\n") + 2);
@@ -513,7 +513,7 @@ TEST_F(Drawing, anEntityThatCannotBeSavedIsNamed)
     AcDbLine* line = nullptr;
     ASSERT_EQ(acdbOpenObject(line, lines.addLine(0, 0, 1, 1), AcDb::kForWrite), Acad::eOk);
     line->setColorIndex(1);
-    AcDbLine::Internals::place(*line, AcGePoint3d(), AcGePoint3d(NAN, 0, 0));
+    AcDbLine::Internals::place(*line, {AcGePoint3d(), AcGePoint3d(NAN, 0, 0)});
     line->close();
     EXPECT_EQ(host::saveDrawing(lines.database(), path.string()).failure().line,
               path.string() + ": cannot be saved: the AcDbLine" + rest);

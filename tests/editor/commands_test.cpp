@@ -228,10 +228,9 @@ void drawALine()
 std::size_t linesIn(const AcDbDatabase& database)
 {
     std::size_t lines = 0;
-    const host::ObjectStore& stubs = host::coreOf(database).objects();
-    for (std::size_t i = 0; i < stubs.size(); ++i)
+    for (const AcDbStub& stub : host::coreOf(database).objects())
     {
-        lines += (stubs[i].flags & AcDbStub::isLine) != 0 && !stubs[i].erased();
+        lines += (stub.flags & AcDbStub::isLine) != 0 && !stub.erased();
     }
     return lines;
 }
