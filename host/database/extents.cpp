@@ -10,18 +10,27 @@
 
 namespace host
 {
-void WorldExtents::add(const AcGePoint3d& point)
+namespace
 {
-    if (!isFinite(point))
-    {
-        return;
-    }
-    if (empty())
+void addFinite(WorldExtents& extents, const AcGePoint3d& point)
+{
+    AcGePoint3d& low = extents.low;
+    AcGePoint3d& high = extents.high;
+    if (extents.empty())
     {
         low = high = point;
     }
     low.set(std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z));
     high.set(std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z));
+}
+}  // namespace
+
+void WorldExtents::add(const AcGePoint3d& point)
+{
+    if (isFinite(point))
+    {
+        addFinite(*this, point);
+    }
 }
 
 void WorldExtents::add(const WorldExtents& other)
@@ -73,20 +82,35 @@ void addUnpacked(WorldExtents& extents, const AcDbObject& object)
 WorldExtents madeExtents(const DatabaseCore& core)
 {
     WorldExtents extents;
+    const AcDbStub* const space = core.roots()[Root::modelSpace];
+    // Many consecutive lines share one style, and so one owner.
+    std::uint32_t style = LineStyles::none;
+    bool isInSpace = false;
     for (const AcDbStub& stub : core.objects())
     {
-        if (stub.erased() || ownerOf(&stub) != core.roots()[Root::modelSpace])
+        if (stub.erased())
         {
             continue;
         }
         if (!stub.packed())
         {
-            addUnpacked(extents, *stub.object);
+            if (ownerOf(&stub) == space)
+            {
+                addUnpacked(extents, *stub.object);
+            }
             continue;
         }
-        const LineEnds ends = StubArena::endsOf(&stub);
-        extents.add(ends.start);
-        extents.add(ends.end);
+        if (stub.style != style)
+        {
+            style = stub.style;
+            isInSpace = core.objects().style(style).owner == space;
+        }
+        if (isInSpace)
+        {
+            const LineEnds ends = StubArena::endsOf(&stub);
+            addFinite(extents, ends.start);  // every line of a drawing is finite
+            addFinite(extents, ends.end);
+        }
     }
     return extents;
 }
