@@ -257,7 +257,7 @@ Acad::ErrorStatus acdbOpenOfClass(AcDbObject*& object, AcDbObjectId id, AcRxClas
     const AcRxClass* actual = host::typeOf(stub);
     if (actual == nullptr)
     {
-        return Acad::eNotImplementedYet;
+        return host::StubArena::isGone(stub) ? Acad::ePermanentlyErased : Acad::eNotImplementedYet;
     }
     if (!actual->isDerivedFrom(type))
     {

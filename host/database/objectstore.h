@@ -35,6 +35,8 @@ public:
     StubArena::Range from(std::size_t index) const { return m_stubs.from(index); }
     AcDbStub& operator[](std::size_t index) const { return *from(index).begin(); }
 
+    // Begins a step of undo. An object that is made in a step and erased in it never comes back.
+    void beginStep() { m_stubs.beginStep(); }
     // Gives a stub another handle.
     void setHandle(AcDbStub* stub, std::uint64_t handle) { m_stubs.setHandle(stub, handle); }
 

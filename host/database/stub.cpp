@@ -4,6 +4,7 @@
 #include <new>
 #ifdef __linux__
 #    include <sys/mman.h>
+#    include <unistd.h>
 #endif
 
 namespace host
@@ -17,6 +18,17 @@ void askForLargePage([[maybe_unused]] void* block, [[maybe_unused]] std::size_t 
 #ifdef __linux__
     ::madvise(block, bytes, MADV_HUGEPAGE);  // the program is only slower if the system refuses
 #endif
+}
+
+// Sets all bytes of a block behind its head to zero. The system takes the memory back if it can.
+void discard(std::byte* block, std::size_t head, std::size_t bytes)
+{
+    std::size_t kept = bytes;
+#ifdef __linux__
+    const std::size_t page = std::size_t(::sysconf(_SC_PAGESIZE));
+    kept = ::madvise(block + page, bytes - page, MADV_DONTNEED) == 0 ? page : bytes;
+#endif
+    std::memset(block + head, 0, kept - head);
 }
 
 std::uint32_t highHalf(std::uint64_t handle)
@@ -43,7 +55,7 @@ void StubArena::addBlock(bool isFlat, std::uint64_t handle)
     const std::uint32_t stride = isFlat ? flatStride : fullStride;
     m_blocks.push_back(new (memory) Block{this, m_size, 0, highHalf(handle), stride});
     m_next = m_blocks.back()->stub(0);
-    m_end = m_blocks.back()->stub((blockBytes - sizeof(Block)) / stride);
+    m_end = m_blocks.back()->stub(roomOf(stride));
     m_linesOfBlock = 0;
 }
 
@@ -54,7 +66,7 @@ AcDbStub* StubArena::make(std::uint64_t handle)
     m_next = after(stub, block.stride);
     ++m_size;
     stub->m_lowHandle = std::uint32_t(handle);
-    stub->flags = 0;
+    stub->flags = AcDbStub::isLiving;
     stub->style = 0;
     stub->object = nullptr;
     if (highHalf(handle) != block.highHandle)
@@ -105,6 +117,49 @@ AcDbStub* StubArena::addLine(std::uint64_t handle, const LineEnds& ends)
     stub->flags |= AcDbStub::hasHandleApart;
 }
 
+// Returns the place behind the last stub of a block.
+std::size_t StubArena::endOf(std::size_t block) const
+{
+    return block + 1 < m_blocks.size() ? m_blocks[block + 1]->firstIndex : m_size;
+}
+
+void StubArena::beginStep()
+{
+    m_stepStart = m_size;
+}
+
+bool StubArena::isOfThisStep(const AcDbStub* stub)
+{
+    Block& block = *blockOf(stub);
+    const std::size_t stepStart = block.arena->m_stepStart;
+    return block.firstIndex >= stepStart ||
+           (stepStart - block.firstIndex) * block.stride <=
+               std::size_t(reinterpret_cast<const std::byte*>(stub) -
+                           reinterpret_cast<const std::byte*>(block.stub(0)));
+}
+
+void StubArena::noteErased(const AcDbStub* stub)
+{
+    Block& block = *blockOf(stub);
+    const std::size_t room = roomOf(block.stride);
+    // The block is looked through only when all of its lines may be erased, so that each line is
+    // looked at once.
+    if (++block.erasings < room || &block == m_blocks.back() || block.firstIndex < m_stepStart)
+    {
+        return;
+    }
+    block.erasings = 0;
+    for (std::size_t i = 0; i < room; ++i)
+    {
+        if (!block.stub(i)->packed() || !block.stub(i)->erased())
+        {
+            return;
+        }
+    }
+    block.isGone = true;
+    discard(reinterpret_cast<std::byte*>(&block), sizeof(Block), blockBytes);
+}
+
 StubArena::Range StubArena::from(std::size_t index) const
 {
     const auto isBehind = [](std::size_t at, const Block* block) { return at < block->firstIndex; };
@@ -117,16 +172,19 @@ StubArena::Range StubArena::from(std::size_t index) const
 void StubArena::Iterator::enter(std::size_t block, std::size_t skipped)
 {
     const std::vector<Block*>& blocks = m_arena.m_blocks;
+    while (block < blocks.size() && blocks[block]->isGone)
+    {
+        ++block;
+        skipped = 0;
+    }
     if (block == blocks.size())
     {
         m_at = nullptr;
         return;
     }
-    const std::size_t next =
-        block + 1 < blocks.size() ? blocks[block + 1]->firstIndex : m_arena.m_size;
     m_block = block;
     m_stride = blocks[block]->stride;
-    m_end = blocks[block]->stub(next - blocks[block]->firstIndex);
+    m_end = blocks[block]->stub(m_arena.endOf(block) - blocks[block]->firstIndex);
     m_at = blocks[block]->stub(skipped);
     if (m_at == m_end)  // nothing follows what was skipped
     {

@@ -32,8 +32,8 @@ public:
     enum Flag : std::uint32_t
     {
         isLine = 1,
-        isPacked = 2,  // the stub holds the line, which has no object on the heap
-        isErasedFlag = 4,
+        isPacked = 2,        // the stub holds the line, which has no object on the heap
+        isLiving = 4,        // not erased; a stub without any flag is erased
         isDrawn = 8,         // the module has asked to show the object
         isEntity = 16,       // made in this run; entities of the file have no AcDbObject
         isLoose = 32,        // a line that the stub cannot hold; its object stays on the heap
@@ -50,8 +50,8 @@ public:
 
     std::uint64_t handle() const;
     bool packed() const { return (flags & isPacked) != 0; }
-    bool erased() const { return (flags & isErasedFlag) != 0; }
-    void setErased(bool erased) { flags = erased ? flags | isErasedFlag : flags & ~isErasedFlag; }
+    bool erased() const { return (flags & isLiving) == 0; }
+    void setErased(bool erased) { flags = erased ? flags & ~isLiving : flags | isLiving; }
 };
 
 namespace host
@@ -69,6 +69,10 @@ struct LineEnds
 // A stub takes 40 bytes in a flat block, whose lines all lie at one elevation, and 56 bytes in any
 // other block. A line that does not fit into a flat block begins a block that is not flat. The next
 // flat block comes when the lines of a whole block lie at one elevation.
+//
+// A preview may make and erase a million lines many times in one step of undo. No undo brings such
+// a line back. So the memory of a block in which all lines are of the current step and erased is
+// given back. Its stubs stay erased for good.
 class StubArena
 {
 public:
@@ -106,7 +110,17 @@ public:
     // Returns the address behind a stub. The stub made next lies there unless it begins a block.
     static AcDbStub* behind(AcDbStub* stub) { return after(stub, blockOf(stub)->stride); }
 
-    // Goes through stubs in their order. None may be added meanwhile.
+    // Begins a step: the stubs made from now on are those of the current step.
+    void beginStep();
+    // Tells whether a stub was made in the current step.
+    static bool isOfThisStep(const AcDbStub* stub);
+    // Notes that an erased line has been packed. May give back the memory of its block.
+    void noteErased(const AcDbStub* stub);
+    // Tells whether the memory of a stub was given back.
+    static bool isGone(const AcDbStub* stub) { return blockOf(stub)->isGone; }
+
+    // Goes through stubs in their order, but not through those whose memory was given back. None
+    // may be added meanwhile.
     class Iterator
     {
     public:
@@ -151,7 +165,7 @@ private:
     static constexpr std::uint32_t headBytes = 8;                    // of a stub, before `object`
     static constexpr std::uint32_t flatStride = headBytes + 4 * sizeof(double);
     static constexpr std::uint32_t fullStride = headBytes + 6 * sizeof(double);
-    static_assert(sizeof(AcDbStub) == headBytes + sizeof(AcDbObject*));
+    static_assert(sizeof(AcDbStub) == headBytes + sizeof(void*));
 
     // A block is aligned to its own size, so that the address of a stub leads to its block, and so
     // to the database. The stubs follow this head.
@@ -162,6 +176,8 @@ private:
         double elevation;  // [wcs] of the lines of a flat block; to be compared bit by bit
         std::uint32_t highHandle;
         std::uint32_t stride;
+        std::uint32_t erasings = 0;  // so many times an erased line of the block was packed
+        bool isGone = false;         // only this head is left
 
         AcDbStub* stub(std::size_t index)
         {
@@ -188,6 +204,11 @@ private:
         return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
     }
 
+    static constexpr std::size_t roomOf(std::uint32_t stride)
+    {
+        return (blockBytes - sizeof(Block)) / stride;
+    }
+    std::size_t endOf(std::size_t block) const;
     AcDbStub* make(std::uint64_t handle);
     void addBlock(bool isFlat, std::uint64_t handle);
 
@@ -198,6 +219,7 @@ private:
     AcDbStub* m_end = nullptr;       // of the last block
     std::size_t m_linesOfBlock = 0;  // of the last block
     std::size_t m_linesAlike = 0;    // so many lines, up to the last, lie at one elevation
+    std::size_t m_stepStart = 0;     // place of the first stub of the current step
     double m_elevation = 0;          // of the start of the last line
     std::unordered_map<const AcDbStub*, std::uint64_t> m_handlesApart;
 };

@@ -2,9 +2,10 @@
 
 namespace host
 {
-UndoMark undoMark(const AcDbDatabase& database)
+UndoMark undoMark(AcDbDatabase& database)
 {
-    const DatabaseCore& core = coreOf(database);
+    DatabaseCore& core = coreOf(database);
+    core.objects().beginStep();
     return {core.objects().size(), core.undoLog().mark(), core.current()};
 }
 

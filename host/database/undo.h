@@ -12,14 +12,14 @@ struct UndoMark
     CurrentProperties current;
 };
 
-// Returns a mark for the current state of the drawing.
-UndoMark undoMark(const AcDbDatabase& database);
+// Begins a step. Returns a mark for the state of the drawing before it.
+UndoMark undoMark(AcDbDatabase& database);
 
 // The changes that an undo took back, for redo.
 struct UndoneChanges
 {
     UndoMark mark;
-    std::vector<bool> erased;  // of each object made since the mark, before the undo
+    std::vector<bool> erased;  // of each object made since the mark and not gone, before the undo
     UndoLog::Undone log;
     CurrentProperties current;
 };

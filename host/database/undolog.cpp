@@ -5,7 +5,7 @@ namespace host
 void UndoLog::erase(AcDbStub* stub, bool erasing)
 {
     stub->setErased(erasing);
-    if (erasing)
+    if (erasing && !StubArena::isOfThisStep(stub))
     {
         m_erased.push_back(stub);
     }

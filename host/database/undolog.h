@@ -15,8 +15,9 @@ struct ChangedLayer
     LayerFlags flags;
 };
 
-// Every erase and every change of a layer has a note here. The note of a layer is made before the
-// change. A note disappears only when it is undone, the newest first.
+// Every change of a layer has a note here, made before the change, and so has every erase of an
+// object that the current step did not make. A note disappears only when it is undone, the newest
+// first.
 class UndoLog
 {
 public:

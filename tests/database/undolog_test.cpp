@@ -20,13 +20,21 @@ protected:
         return layer->isOff();
     }
 
+    // Returns a line that an earlier step has made.
+    AcDbStub* addOldLine()
+    {
+        AcDbStub* const line = drawing.addLine(0, 0, 1, 1).stub();
+        drawing.core().objects().beginStep();
+        return line;
+    }
+
     EmptyDrawing drawing;
     host::UndoLog& log = drawing.core().undoLog();
 };
 
 TEST_F(UndoLogs, whatIsErasedIsNotedAndWhatComesBackIsNot)
 {
-    AcDbStub* const line = drawing.addLine(0, 0, 1, 1).stub();
+    AcDbStub* const line = addOldLine();
     log.erase(line, true);
     EXPECT_TRUE(line->erased());
     log.erase(line, false);
@@ -34,10 +42,20 @@ TEST_F(UndoLogs, whatIsErasedIsNotedAndWhatComesBackIsNot)
     EXPECT_EQ(log.erased(), std::vector<AcDbStub*>{line});
 }
 
+TEST_F(UndoLogs, whatTheStepMadeItselfNeedsNoNote)
+{
+    AcDbStub* const before = addOldLine();
+    AcDbStub* const after = drawing.addLine(0, 0, 2, 2).stub();
+    log.erase(after, true);
+    log.erase(before, true);
+    EXPECT_TRUE(after->erased());
+    EXPECT_EQ(log.erased(), std::vector<AcDbStub*>{before});
+}
+
 TEST_F(UndoLogs, whatWasErasedBeforeTheMarkStaysErased)
 {
-    AcDbStub* const before = drawing.addLine(0, 0, 1, 1).stub();
-    AcDbStub* const after = drawing.addLine(0, 0, 2, 2).stub();
+    AcDbStub* const before = addOldLine();
+    AcDbStub* const after = addOldLine();
     log.erase(before, true);
     const host::UndoLog::Mark mark = log.mark();
     log.erase(after, true);
@@ -74,6 +92,7 @@ TEST_F(UndoLogs, anErasedPolylineTakesItsVerticesAlongAndBack)
         points.append(AcGePoint3d(i, i * i, 0));
     }
     const AcDbObjectId id = drawing.add(new AcDb2dPolyline(AcDb::k2dSimplePoly, points));
+    drawing.core().objects().beginStep();
     const host::UndoLog::Mark mark = log.mark();
     {
         AcDbObjectPointer<AcDb2dPolyline> polyline(id, AcDb::kForWrite);
