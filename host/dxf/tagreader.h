@@ -9,8 +9,8 @@ namespace host::dxf
 class TagReader
 {
 public:
-    // Starts before the file's first tag. The file is [borrowed], and a '
-    // ' must follow its last byte. The views in tags are [borrowed] from the file.
+    // Starts before the file's first tag. The file is [borrowed], and a '\n' must follow
+    // its last byte. The views in tags are [borrowed] from the file.
     explicit TagReader(const TagFile& file);
 
     // Advance to the next tag. Throw an Error if the file has no further tag.
@@ -30,6 +30,7 @@ public:
 
 private:
     Code readCode();
+    Code readOtherCode();
     [[noreturn]] void refuseLine() const;
 
     const TagFile& m_file;

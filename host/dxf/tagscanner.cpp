@@ -269,24 +269,38 @@ void TagFileScanner::requireNothingAfterEof() const
     }
 }
 
+// Returns true if two records share a handle. Handles mostly ascend in a file, and only the others
+// have to be sorted.
+bool TagFileScanner::sharesHandles() const
+{
+    std::vector<std::uint64_t> ascending, others;
+    ascending.reserve(m_file.m_records.size());
+    std::uint64_t last = 0;
+    for (const Record& record : m_file.m_records)
+    {
+        if (record.handle > last)
+        {
+            last = record.handle;
+            ascending.push_back(last);
+        }
+        else if (record.handle != 0)
+        {
+            others.push_back(record.handle);
+        }
+    }
+    std::ranges::sort(others);
+    return std::ranges::adjacent_find(others) != others.end() ||
+           std::ranges::any_of(others, [&ascending](std::uint64_t handle)
+                               { return std::ranges::binary_search(ascending, handle); });
+}
+
 // Finds records that share a handle. The first of them keeps it.
 void TagFileScanner::findSharedHandles()
 {
-    std::vector<std::uint64_t> handles;
-    handles.reserve(m_file.m_records.size());
-    for (const Record& record : m_file.m_records)
-    {
-        if (record.handle != 0)
-        {
-            handles.push_back(record.handle);
-        }
-    }
-    std::ranges::sort(handles);
-    if (std::ranges::adjacent_find(handles) == handles.end())
+    if (!sharesHandles())
     {
         return;
     }
-
     std::unordered_set<std::uint64_t> taken;
     for (std::size_t i = 0; i < m_file.m_records.size(); ++i)
     {

@@ -30,6 +30,7 @@ private:
     void takeVersion();
     void requireKnownCodePage() const;
     void requireNothingAfterEof() const;
+    bool sharesHandles() const;
     void findSharedHandles();
     void repairHandles();
 
