@@ -15,9 +15,9 @@ const double margin = 10;
 const double lineWidth = 0.25;
 const double dotDiameter = 0.6;
 
-double scaleOf(const Window& window)
+double scaleOf(const ViewBox& box)
 {
-    const double longer = std::max(window.width(), window.height());
+    const double longer = std::max(box.width(), box.height());
     return longer > 0 ? (longSide - 2 * margin) / longer : 1;
 }
 
@@ -27,11 +27,11 @@ double sideOf(double size, double scale)
 }
 }  // namespace
 
-Paper::Paper(FileKind kind, const AcGeMatrix3d& toView, const Window& window)
+Paper::Paper(FileKind kind, const AcGeMatrix3d& toView, const ViewBox& box)
     : m_toView(toView),
-      m_window(window),
-      m_scale(scaleOf(window)),
-      m_sheet{kind, sideOf(window.width(), m_scale), sideOf(window.height(), m_scale)},
+      m_box(box),
+      m_scale(scaleOf(box)),
+      m_sheet{kind, sideOf(box.width(), m_scale), sideOf(box.height(), m_scale)},
       m_ink(openInk(m_sheet))
 {
 }
@@ -39,8 +39,8 @@ Paper::Paper(FileKind kind, const AcGeMatrix3d& toView, const Window& window)
 AcGePoint3d Paper::onSheet(const AcGePoint3d& world) const
 {
     const AcGePoint3d seen = m_toView * world;
-    const double middleX = (m_window.left + m_window.right) / 2;
-    const double middleY = (m_window.bottom + m_window.top) / 2;
+    const double middleX = (m_box.left + m_box.right) / 2;
+    const double middleY = (m_box.bottom + m_box.top) / 2;
     return {m_sheet.width / 2 + (seen.x - middleX) * m_scale,
             m_sheet.height / 2 - (seen.y - middleY) * m_scale, 0};
 }
@@ -120,49 +120,28 @@ void Paper::text(const TextLine& line, Color color)
     m_ink->text(start, along, up, line.text, color);
 }
 
-void Extents::add(const AcGePoint3d& world)
+void Extents::add(std::span<const AcGePoint3d> points)
 {
-    const AcGePoint3d at = m_toView * world;
-    if (m_empty)
+    for (const AcGePoint3d& point : points)
     {
-        m_window = {at.x, at.y, at.x, at.y};
-        m_empty = false;
+        const AcGePoint3d at = m_toView * point;
+        if (m_empty)
+        {
+            m_box = {at.x, at.y, at.x, at.y};
+            m_empty = false;
+        }
+        m_box = {std::min(m_box.left, at.x), std::min(m_box.bottom, at.y),
+                 std::max(m_box.right, at.x), std::max(m_box.top, at.y)};
     }
-    m_window = {std::min(m_window.left, at.x), std::min(m_window.bottom, at.y),
-                std::max(m_window.right, at.x), std::max(m_window.top, at.y)};
-}
-
-void Extents::path(const Points& points, bool, Color)
-{
-    std::ranges::for_each(points, [this](const AcGePoint3d& point) { add(point); });
-}
-
-void Extents::area(const std::vector<Points>& loops, Color color)
-{
-    for (const Points& loop : loops)
-    {
-        path(loop, true, color);
-    }
-}
-
-void Extents::dot(const AcGePoint3d& point, Color)
-{
-    add(point);
 }
 
 void Extents::ray(const AcGePoint3d& from, const AcGeVector3d&, bool, Color)
 {
-    add(from);
+    add({&from, 1});
 }
 
-void Extents::text(const TextLine& line, Color)
+double Extents::widthOf(std::wstring_view text) const
 {
-    const double width = textWidth(line.text);
-    const AcGePoint3d start =
-        line.origin - line.along * (line.across * width) - line.up * line.above;
-    add(start);
-    add(start + line.along * width);
-    add(start + line.up);
-    add(start + line.along * width + line.up);
+    return textWidth(text);
 }
 }  // namespace host::plot

@@ -5,12 +5,13 @@
 #include <string>
 
 #include "gemat3d.h"
+#include "host/plot/boxsink.h"
 #include "host/plot/ink.h"
 
 namespace host::plot
 {
 // A rectangle of the view: X points right, Y points up, drawing units.
-struct Window
+struct ViewBox
 {
     double left = 0;
     double bottom = 0;
@@ -21,12 +22,12 @@ struct Window
     double height() const { return top - bottom; }
 };
 
-// Shows the window of a view with a margin around it. The longer side of the sheet is that of A3.
+// Shows the box of a view with a margin around it. The longer side of the sheet is that of A3.
 class Paper : public Sink
 {
 public:
     // Opens a sheet. `toView` maps [wcs] to the view.
-    Paper(FileKind kind, const AcGeMatrix3d& toView, const Window& window);
+    Paper(FileKind kind, const AcGeMatrix3d& toView, const ViewBox& box);
 
     void path(const Points& points, bool closed, Color color) override;
     void area(const std::vector<Points>& loops, Color color) override;
@@ -45,34 +46,31 @@ private:
     AcGeVector3d onSheet(const AcGeVector3d& world) const;
 
     AcGeMatrix3d m_toView;
-    Window m_window;
+    ViewBox m_box;
     double m_scale;  // millimetres to a drawing unit
     Sheet m_sheet;
     std::unique_ptr<Ink> m_ink;
 };
 
-// Measures the window of a view that the shapes take. The window is [borrowed] as long as this
-// object lives.
-class Extents : public Sink
+// Measures the box of a view that the shapes take. The box is [borrowed] as long as this object
+// lives.
+class Extents : public BoxSink
 {
 public:
     explicit Extents(const AcGeMatrix3d& toView) : m_toView(toView) {}
 
     bool empty() const { return m_empty; }
-    const Window& window() const { return m_window; }
+    const ViewBox& box() const { return m_box; }
 
-    void path(const Points& points, bool closed, Color color) override;
-    void area(const std::vector<Points>& loops, Color color) override;
-    void dot(const AcGePoint3d& point, Color color) override;
     // Counts only the point where the ray begins, because a ray has no end.
     void ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both, Color color) override;
-    void text(const TextLine& line, Color color) override;
 
 private:
-    void add(const AcGePoint3d& world);
+    void add(std::span<const AcGePoint3d> points) override;
+    double widthOf(std::wstring_view text) const override;
 
     AcGeMatrix3d m_toView;
-    Window m_window;
+    ViewBox m_box;
     bool m_empty = true;
 };
 }  // namespace host::plot

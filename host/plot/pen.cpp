@@ -8,7 +8,7 @@ namespace host::plot
 {
 namespace
 {
-bool isFinite(double x, double y, double z)
+bool isDrawable(double x, double y, double z)
 {
     // Below this limit the squares of coordinates are finite as well.
     const double limit = 1e100;
@@ -16,9 +16,9 @@ bool isFinite(double x, double y, double z)
 }
 
 template <class T>
-bool isFinite(const T& value)
+bool isDrawable(const T& value)
 {
-    return isFinite(value.x, value.y, value.z);
+    return isDrawable(value.x, value.y, value.z);
 }
 }  // namespace
 
@@ -33,7 +33,7 @@ bool Pen::carry(const Points& points, Points& carried) const
     for (const AcGePoint3d& point : points)
     {
         carried.push_back(m_toWorld * point);
-        if (!isFinite(carried.back()))
+        if (!isDrawable(carried.back()))
         {
             return false;
         }
@@ -69,7 +69,7 @@ void Pen::area(const std::vector<Points>& loops) const
 void Pen::dot(const AcGePoint3d& point) const
 {
     const AcGePoint3d carried = m_toWorld * point;
-    if (isFinite(carried))
+    if (isDrawable(carried))
     {
         m_sink->dot(carried, m_color);
     }
@@ -79,7 +79,7 @@ void Pen::ray(const AcGePoint3d& from, const AcGeVector3d& along, bool both) con
 {
     const AcGePoint3d carried = m_toWorld * from;
     const AcGeVector3d direction = m_toWorld * along;
-    if (isFinite(carried) && isFinite(direction))
+    if (isDrawable(carried) && isDrawable(direction))
     {
         m_sink->ray(carried, direction, both, m_color);
     }
@@ -91,7 +91,7 @@ void Pen::text(const TextLine& line) const
     carried.origin = m_toWorld * line.origin;
     carried.along = m_toWorld * line.along;
     carried.up = m_toWorld * line.up;
-    if (isFinite(carried.origin) && isFinite(carried.along) && isFinite(carried.up))
+    if (isDrawable(carried.origin) && isDrawable(carried.along) && isDrawable(carried.up))
     {
         m_sink->text(carried, m_color);
     }

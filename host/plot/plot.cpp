@@ -71,7 +71,7 @@ Result<std::string> plotted(Scene& scene, const View& view, FileKind kind, const
     const AcGeMatrix3d toView = viewFrame(view).inverse();
     Extents extents(toView);
     scene.draw(extents, partOf(progress, 0, 0.4));
-    Paper paper(kind, toView, extents.window());
+    Paper paper(kind, toView, extents.box());
     scene.draw(paper, partOf(progress, 0.4, 1));
     return paper.finish();
 }

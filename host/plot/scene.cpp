@@ -49,7 +49,7 @@ Scene::Scene(const dxf::TagFile& file, long mostFromBlocks)
 
 void Scene::draw(Sink& sink, const Progress& progress)
 {
-    const Place world{AcGeMatrix3d(), nullptr, black, 0};
+    const Container world{AcGeMatrix3d(), nullptr, black, 0};
     const Records all = m_file.records(schema::section::entities);
     m_leftOut.clear();
     m_budget = m_mostEntities;
@@ -63,11 +63,11 @@ void Scene::draw(Sink& sink, const Progress& progress)
     }
 }
 
-void Scene::drawAll(Records records, const Place& place, Sink& sink)
+void Scene::drawAll(Records records, const Container& container, Sink& sink)
 {
     while (!records.empty() && spend())
     {
-        records = records.subspan(drawOne(records, place, sink));
+        records = records.subspan(drawOne(records, container, sink));
     }
 }
 
@@ -97,7 +97,7 @@ std::size_t Scene::followersOf(Records records) const
     return count;
 }
 
-std::size_t Scene::drawOne(Records records, const Place& place, Sink& sink)
+std::size_t Scene::drawOne(Records records, const Container& container, Sink& sink)
 {
     const std::size_t followers = followersOf(records);
     const std::string_view type = m_file.typeName(records[0]);
@@ -106,10 +106,10 @@ std::size_t Scene::drawOne(Records records, const Place& place, Sink& sink)
     {
         const EntityTags entity(m_source, records[0]);
         const Look look = entity.read(schema::entity::look);
-        const bool elsewhere = place.depth == 0 && look.inPaperSpace != 0;
+        const bool elsewhere = container.depth == 0 && look.inPaperSpace != 0;
         if (!isSilent(type) && !elsewhere && look.invisible == 0)
         {
-            drawn = drawSeen(entity, look, records.subspan(1, followers), place, sink);
+            drawn = drawSeen(entity, look, records.subspan(1, followers), container, sink);
         }
     }
     catch (const dxf::Error&)
@@ -123,25 +123,25 @@ std::size_t Scene::drawOne(Records records, const Place& place, Sink& sink)
     return 1 + followers;
 }
 
-const Layer& Scene::layerOf(const Look& look, const Place& place) const
+const Layer& Scene::layerOf(const Look& look, const Container& container) const
 {
     const std::string_view name = trimmed(look.layer);
-    return place.layer != nullptr && (name == "0" || name.empty()) ? *place.layer
-                                                                   : m_tables.layer(name);
+    return container.layer != nullptr && (name == "0" || name.empty()) ? *container.layer
+                                                                       : m_tables.layer(name);
 }
 
-Color Scene::colorOf(const Look& look, const Place& place) const
+Color Scene::colorOf(const Look& look, const Container& container) const
 {
     const OwnColor own = ownColor(look.color, look.trueColor);
-    return own.byLayer ? layerOf(look, place).color : own.byBlock ? place.color : own.color;
+    return own.byLayer ? layerOf(look, container).color : own.byBlock ? container.color : own.color;
 }
 
 // Draws an entity unless its layer hides it. A layer that is off hides its entities, but only a
 // frozen layer hides the whole contents of a block.
 bool Scene::drawSeen(const EntityTags& entity, const Look& look, Records followers,
-                     const Place& place, Sink& sink)
+                     const Container& container, Sink& sink)
 {
-    const Layer& layer = layerOf(look, place);
+    const Layer& layer = layerOf(look, container);
     if (layer.frozen)
     {
         return true;
@@ -149,14 +149,15 @@ bool Scene::drawSeen(const EntityTags& entity, const Look& look, Records followe
     const bool isInsert = entity.type() == schema::insert::table.type;
     if (isInsert || hasOwnBlock(entity.type()))
     {
-        const Place inside{place.toWorld, &layer, colorOf(look, place), place.depth + 1};
+        const Container inside{container.toWorld, &layer, colorOf(look, container),
+                               container.depth + 1};
         return isInsert ? drawInsert(entity, inside, sink) : drawDimension(entity, inside, sink);
     }
     if (!layer.shown)
     {
         return true;
     }
-    const Pen pen(sink, place.toWorld, colorOf(look, place));
+    const Pen pen(sink, container.toWorld, colorOf(look, container));
     if (entity.type() == schema::polyline::table.type)
     {
         std::vector<schema::vertex::Shape> vertices;
@@ -167,7 +168,7 @@ bool Scene::drawSeen(const EntityTags& entity, const Look& look, Records followe
         drawPolyline(entity, vertices, pen);
         return true;
     }
-    if (entity.type() == schema::attribute::definition.type && place.depth > 0)
+    if (entity.type() == schema::attribute::definition.type && container.depth > 0)
     {
         drawConstantAttribute(entity, pen);
         return true;
@@ -175,13 +176,13 @@ bool Scene::drawSeen(const EntityTags& entity, const Look& look, Records followe
     return drawEntity(entity, pen);
 }
 
-bool Scene::drawDimension(const EntityTags& entity, const Place& place, Sink& sink)
+bool Scene::drawDimension(const EntityTags& entity, const Container& container, Sink& sink)
 {
     const Block* block = m_tables.block(entity.read(schema::dimension::table).block);
-    return block != nullptr && drawBlock(*block, place, sink);
+    return block != nullptr && drawBlock(*block, container, sink);
 }
 
-bool Scene::drawInsert(const EntityTags& entity, const Place& place, Sink& sink)
+bool Scene::drawInsert(const EntityTags& entity, const Container& container, Sink& sink)
 {
     const schema::insert::Insert insert = entity.read(schema::insert::table);
     const Block* block = m_tables.block(insert.block);
@@ -190,7 +191,7 @@ bool Scene::drawInsert(const EntityTags& entity, const Place& place, Sink& sink)
         return false;
     }
     const AcGeMatrix3d start =
-        place.toWorld * Ocs(insert.normal).matrix() *
+        container.toWorld * Ocs(insert.normal).matrix() *
         AcGeMatrix3d::translation(insert.position.asVector()) *
         AcGeMatrix3d::rotation(toRadians(insert.rotation), AcGeVector3d::kZAxis);
     const AcGeMatrix3d end = scaling(insert.scaleX, insert.scaleY, insert.scaleZ) *
@@ -205,7 +206,7 @@ bool Scene::drawInsert(const EntityTags& entity, const Place& place, Sink& sink)
                 return true;
             }
             const AcGeVector3d shift(column * insert.columnSpacing, row * insert.rowSpacing, 0);
-            Place cell = place;
+            Container cell = container;
             cell.toWorld = start * AcGeMatrix3d::translation(shift) * end;
             drawn = drawBlock(*block, cell, sink) && drawn;
         }
@@ -213,13 +214,13 @@ bool Scene::drawInsert(const EntityTags& entity, const Place& place, Sink& sink)
     return drawn;
 }
 
-bool Scene::drawBlock(const Block& block, const Place& place, Sink& sink)
+bool Scene::drawBlock(const Block& block, const Container& container, Sink& sink)
 {
-    if (place.depth > deepestBlock)
+    if (container.depth > deepestBlock)
     {
         return false;
     }
-    drawAll(block.records, place, sink);
+    drawAll(block.records, container, sink);
     return true;
 }
 

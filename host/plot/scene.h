@@ -31,7 +31,7 @@ public:
 private:
     // Tells where and how the entities of a space or block are drawn. The layer is [borrowed] from
     // the tables.
-    struct Place
+    struct Container
     {
         AcGeMatrix3d toWorld;
         const Layer* layer;  // the layer of a block's entities on layer 0; null in model space
@@ -43,18 +43,18 @@ private:
     using Look = schema::entity::Look;
 
     bool spend();  // counts an entity; returns false when the budget is spent
-    void drawAll(Records records, const Place& place, Sink& sink);
+    void drawAll(Records records, const Container& container, Sink& sink);
     // Draws one entity and returns the number of its records.
-    std::size_t drawOne(Records records, const Place& place, Sink& sink);
-    bool drawSeen(const EntityTags& entity, const Look& look, Records followers, const Place& place,
-                  Sink& sink);
-    // Draw the block that the entity shows; `place` is that of the block's entities.
-    bool drawDimension(const EntityTags& entity, const Place& place, Sink& sink);
-    bool drawInsert(const EntityTags& entity, const Place& place, Sink& sink);
-    bool drawBlock(const Block& block, const Place& place, Sink& sink);
+    std::size_t drawOne(Records records, const Container& container, Sink& sink);
+    bool drawSeen(const EntityTags& entity, const Look& look, Records followers,
+                  const Container& container, Sink& sink);
+    // Draw the block that the entity shows; `container` is that of the block's entities.
+    bool drawDimension(const EntityTags& entity, const Container& container, Sink& sink);
+    bool drawInsert(const EntityTags& entity, const Container& container, Sink& sink);
+    bool drawBlock(const Block& block, const Container& container, Sink& sink);
 
-    const Layer& layerOf(const Look& look, const Place& place) const;
-    Color colorOf(const Look& look, const Place& place) const;
+    const Layer& layerOf(const Look& look, const Container& container) const;
+    Color colorOf(const Look& look, const Container& container) const;
     std::size_t followersOf(Records records) const;
 
     const dxf::TagFile& m_file;

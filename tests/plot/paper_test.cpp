@@ -38,9 +38,9 @@ TEST(Paper, theViewDecidesWhatIsUp)
     const AcGeMatrix3d quarter = AcGeMatrix3d::rotation(M_PI / 2, AcGeVector3d::kZAxis);
     Extents extents(quarter);
     extents.path({{0, 0, 0}, {30, 0, 0}, {30, 10, 0}}, false, red);
-    EXPECT_NEAR(extents.window().left, -10, 1e-9);
-    EXPECT_NEAR(extents.window().top, 30, 1e-9);
-    Paper paper(FileKind::png, quarter, extents.window());
+    EXPECT_NEAR(extents.box().left, -10, 1e-9);
+    EXPECT_NEAR(extents.box().top, 30, 1e-9);
+    Paper paper(FileKind::png, quarter, extents.box());
     paper.area({{{20, 0, 0}, {30, 0, 0}, {30, 10, 0}, {20, 10, 0}}}, red);
     const Picture picture(*paper.finish());
     EXPECT_LT(picture.width(), picture.height());
@@ -92,8 +92,8 @@ TEST(Paper, aTextIsAsHighAsItsCapitalsAndLiesOnItsLine)
     const TextLine line{{0, 0, 0}, {10, 0, 0}, {0, 10, 0}, 0, 0, L"H"};
     Extents extents(plan);
     extents.text(line, red);
-    EXPECT_NEAR(extents.window().height(), 10, 1e-9);
-    EXPECT_NEAR(extents.window().width(), textWidth(L"H") * 10, 1e-9);
+    EXPECT_NEAR(extents.box().height(), 10, 1e-9);
+    EXPECT_NEAR(extents.box().width(), textWidth(L"H") * 10, 1e-9);
     Paper paper(FileKind::png, plan, {0, 0, 10, 10});
     paper.text(line, red);
     const Picture picture(*paper.finish());
