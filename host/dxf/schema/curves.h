@@ -6,6 +6,8 @@
 
 #include "host/dxf/schema/entities.h"
 
+// A table has a row a line, which clang-format would pack.
+// clang-format off
 namespace host::dxf::schema
 {
 namespace point
@@ -15,8 +17,9 @@ struct Point
     AcGePoint3d position;
 };
 
-inline constexpr auto table =
-    tableOf<Point>("POINT", subclassRow("AcDbPoint"), row(Code(10), &Point::position));
+inline constexpr auto table = tableOf<Point>("POINT",
+    subclassRow("AcDbPoint"),
+    row(Code(10), &Point::position));
 }  // namespace point
 
 namespace circle
@@ -28,9 +31,11 @@ struct Circle
     AcGeVector3d normal{0, 0, 1};
 };
 
-inline constexpr auto rows =
-    rowsOf(subclassRow("AcDbCircle"), row(Code(10), &Circle::centre),
-           row(Code(40), &Circle::radius), row(entity::normal, &Circle::normal, When::unlessUsual));
+inline constexpr auto rows = rowsOf(
+    subclassRow("AcDbCircle"),
+    row(Code(10), &Circle::centre),
+    row(Code(40), &Circle::radius),
+    row(entity::normal, &Circle::normal, When::unlessUsual));
 inline constexpr auto table = tableOf<Circle>("CIRCLE", rows);
 }  // namespace circle
 
@@ -42,9 +47,11 @@ struct Arc : circle::Circle
     double endAngle = 0;    // degrees
 };
 
-inline constexpr auto table =
-    tableOf<Arc>("ARC", circle::rows, subclassRow("AcDbArc"), row(Code(50), &Arc::startAngle),
-                 row(Code(51), &Arc::endAngle));
+inline constexpr auto table = tableOf<Arc>("ARC",
+    circle::rows,
+    subclassRow("AcDbArc"),
+    row(Code(50), &Arc::startAngle),
+    row(Code(51), &Arc::endAngle));
 }  // namespace arc
 
 // From R13 on.
@@ -60,10 +67,14 @@ struct Ellipse
     double end = 2 * std::numbers::pi;
 };
 
-inline constexpr auto table = tableOf<Ellipse>(
-    "ELLIPSE", subclassRow("AcDbEllipse"), row(Code(10), &Ellipse::centre),
-    row(Code(11), &Ellipse::majorAxis), row(entity::normal, &Ellipse::normal, When::unlessUsual),
-    row(Code(40), &Ellipse::ratio), row(Code(41), &Ellipse::start), row(Code(42), &Ellipse::end));
+inline constexpr auto table = tableOf<Ellipse>("ELLIPSE",
+    subclassRow("AcDbEllipse"),
+    row(Code(10), &Ellipse::centre),
+    row(Code(11), &Ellipse::majorAxis),
+    row(entity::normal, &Ellipse::normal, When::unlessUsual),
+    row(Code(40), &Ellipse::ratio),
+    row(Code(41), &Ellipse::start),
+    row(Code(42), &Ellipse::end));
 }  // namespace ellipse
 
 namespace solid
@@ -76,17 +87,21 @@ struct Corners
     std::optional<AcGePoint3d> fourth;  // absent: a triangle
 };
 
-inline constexpr auto corners =
-    rowsOf(row(Code(10), &Corners::first), row(Code(11), &Corners::second),
-           row(Code(12), &Corners::third), row(Code(13), &Corners::fourth));
+inline constexpr auto corners = rowsOf(
+    row(Code(10), &Corners::first),
+    row(Code(11), &Corners::second),
+    row(Code(12), &Corners::third),
+    row(Code(13), &Corners::fourth));
 
 struct Solid : Corners
 {
     AcGeVector3d normal{0, 0, 1};
 };
 
-inline constexpr auto rows = rowsOf(subclassRow("AcDbTrace"), corners,
-                                    row(entity::normal, &Solid::normal, When::unlessUsual));
+inline constexpr auto rows = rowsOf(
+    subclassRow("AcDbTrace"),
+    corners,
+    row(entity::normal, &Solid::normal, When::unlessUsual));
 inline constexpr auto table = tableOf<Solid>("SOLID", rows);
 inline constexpr auto trace = tableOf<Solid>("TRACE", rows);
 
@@ -95,8 +110,10 @@ struct Face : Corners
     int hiddenEdges = 0;  // bit 0 for the edge that begins at the first corner, and so on
 };
 
-inline constexpr auto face = tableOf<Face>("3DFACE", subclassRow("AcDbFace"), corners,
-                                           row(Code(70), &Face::hiddenEdges, When::unlessUsual));
+inline constexpr auto face = tableOf<Face>("3DFACE",
+    subclassRow("AcDbFace"),
+    corners,
+    row(Code(70), &Face::hiddenEdges, When::unlessUsual));
 }  // namespace solid
 
 // From R13 on.
@@ -111,10 +128,13 @@ struct Spline
     std::vector<AcGePoint3d> fitPoints;
 };
 
-inline constexpr auto table =
-    tableOf<Spline>("SPLINE", subclassRow("AcDbSpline"), row(Code(71), &Spline::degree),
-                    row(Code(40), &Spline::knots), row(Code(41), &Spline::weights),
-                    row(Code(10), &Spline::poles), row(Code(11), &Spline::fitPoints));
+inline constexpr auto table = tableOf<Spline>("SPLINE",
+    subclassRow("AcDbSpline"),
+    row(Code(71), &Spline::degree),
+    row(Code(40), &Spline::knots),
+    row(Code(41), &Spline::weights),
+    row(Code(10), &Spline::poles),
+    row(Code(11), &Spline::fitPoints));
 }  // namespace spline
 
 // From R13 on.
@@ -127,8 +147,12 @@ struct Ray
 };
 
 inline constexpr auto rows = rowsOf(row(Code(10), &Ray::start), row(Code(11), &Ray::direction));
-inline constexpr auto table = tableOf<Ray>("RAY", subclassRow("AcDbRay"), rows);
-inline constexpr auto xline = tableOf<Ray>("XLINE", subclassRow("AcDbXline"), rows);
+inline constexpr auto table = tableOf<Ray>("RAY",
+    subclassRow("AcDbRay"),
+    rows);
+inline constexpr auto xline = tableOf<Ray>("XLINE",
+    subclassRow("AcDbXline"),
+    rows);
 }  // namespace ray
 
 // From R13 on.
@@ -139,8 +163,9 @@ struct Leader
     std::vector<AcGePoint3d> vertices;
 };
 
-inline constexpr auto table =
-    tableOf<Leader>("LEADER", subclassRow("AcDbLeader"), row(Code(10), &Leader::vertices));
+inline constexpr auto table = tableOf<Leader>("LEADER",
+    subclassRow("AcDbLeader"),
+    row(Code(10), &Leader::vertices));
 }  // namespace leader
 
 // From R13 on.
@@ -156,8 +181,9 @@ struct Multiline
     int flags = 0;
 };
 
-inline constexpr auto table =
-    tableOf<Multiline>("MLINE", subclassRow("AcDbMline"), row(Code(71), &Multiline::flags));
+inline constexpr auto table = tableOf<Multiline>("MLINE",
+    subclassRow("AcDbMline"),
+    row(Code(71), &Multiline::flags));
 
 // Each vertex is followed by an element for each line of the multiline.
 struct Vertex
@@ -167,9 +193,10 @@ struct Vertex
     std::optional<AcGeVector3d> miter;
 };
 
-inline constexpr auto vertex =
-    sequenceOf<Vertex>(row(Code(11), &Vertex::point), row(Code(12), &Vertex::direction),
-                       row(Code(13), &Vertex::miter));
+inline constexpr auto vertex = sequenceOf<Vertex>(
+    row(Code(11), &Vertex::point),
+    row(Code(12), &Vertex::direction),
+    row(Code(13), &Vertex::miter));
 
 // An element has more parameters, which say where the line is broken.
 struct Element
@@ -178,8 +205,9 @@ struct Element
     std::optional<double> distance;  // along the miter
 };
 
-inline constexpr auto element =
-    sequenceOf<Element>(row(Code(74), &Element::parameters), row(Code(41), &Element::distance));
+inline constexpr auto element = sequenceOf<Element>(
+    row(Code(74), &Element::parameters),
+    row(Code(41), &Element::distance));
 }  // namespace multiline
 
 // From R14 on.
@@ -193,8 +221,9 @@ struct LightPolyline
     AcGeVector3d normal{0, 0, 1};
 };
 
-inline constexpr auto table = tableOf<LightPolyline>(
-    "LWPOLYLINE", subclassRow("AcDbPolyline"), row(entity::flags, &LightPolyline::flags),
+inline constexpr auto table = tableOf<LightPolyline>("LWPOLYLINE",
+    subclassRow("AcDbPolyline"),
+    row(entity::flags, &LightPolyline::flags),
     row(Code(43), &LightPolyline::width, When::unlessUsual),
     row(Code(38), &LightPolyline::elevation, When::unlessUsual),
     row(entity::normal, &LightPolyline::normal, When::unlessUsual));
@@ -208,7 +237,10 @@ struct Vertex
 };
 
 inline constexpr auto vertex = partOf<Vertex>(
-    row(Code(10), &Vertex::point), row(Code(40), &Vertex::startWidth),
-    row(Code(41), &Vertex::endWidth), row(Code(42), &Vertex::bulge, When::unlessUsual));
+    row(Code(10), &Vertex::point),
+    row(Code(40), &Vertex::startWidth),
+    row(Code(41), &Vertex::endWidth),
+    row(Code(42), &Vertex::bulge, When::unlessUsual));
 }  // namespace lightpolyline
 }  // namespace host::dxf::schema
+// clang-format on

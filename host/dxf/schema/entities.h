@@ -4,6 +4,8 @@
 #include "host/dxf/schema/structure.h"
 #include "host/dxf/schema/table.h"
 
+// A table has a row a line, which clang-format would pack.
+// clang-format off
 namespace host::dxf::schema
 {
 namespace entity
@@ -46,14 +48,19 @@ struct Entity : Appearance
 
 // R12 has no record for the linetype ByLayer, so R12 files leave it out. A space that the file does
 // not name as an object cannot be an owner, so its entities have no owner tag.
-inline constexpr auto rows =
-    rowsOf(row(handle, &Entity::handle, When::unlessUsual),
-           listRow("{ACAD_REACTORS", owner, &Entity::reactors),
-           row(owner, &Entity::owner, When::unlessUsual, Since::r2000), subclassRow("AcDbEntity"),
-           inPaperSpaceRow, row(layer, &Entity::layer),
-           row(linetype, &Entity::linetype, When::unlessUsualInR12), colorRow,
-           row(Code(48), &Entity::linetypeScale, When::unlessUsual, Since::r13), invisibleRow,
-           row(Code(370), &Entity::lineWeight, When::unlessUsual, Since::r2000), trueColorRow);
+inline constexpr auto rows = rowsOf(
+    row(handle, &Entity::handle, When::unlessUsual),
+    listRow("{ACAD_REACTORS", owner, &Entity::reactors),
+    row(owner, &Entity::owner, When::unlessUsual, Since::r2000),
+    subclassRow("AcDbEntity"),
+    inPaperSpaceRow,
+    row(layer, &Entity::layer),
+    row(linetype, &Entity::linetype, When::unlessUsualInR12),
+    colorRow,
+    row(Code(48), &Entity::linetypeScale, When::unlessUsual, Since::r13),
+    invisibleRow,
+    row(Code(370), &Entity::lineWeight, When::unlessUsual, Since::r2000),
+    trueColorRow);
 
 // What a plot needs of every entity.
 struct Look : Appearance
@@ -61,8 +68,12 @@ struct Look : Appearance
     std::string_view layer;
 };
 
-inline constexpr auto look =
-    partOf<Look>(inPaperSpaceRow, row(layer, &Look::layer), colorRow, invisibleRow, trueColorRow);
+inline constexpr auto look = partOf<Look>(
+    inPaperSpaceRow,
+    row(layer, &Look::layer),
+    colorRow,
+    invisibleRow,
+    trueColorRow);
 }  // namespace entity
 
 namespace block
@@ -73,8 +84,10 @@ struct Block
     AcGePoint3d base;
 };
 
-inline constexpr auto table = tableOf<Block>("BLOCK", subclassRow("AcDbBlockBegin"),
-                                             row(name, &Block::name), row(Code(10), &Block::base));
+inline constexpr auto table = tableOf<Block>("BLOCK",
+    subclassRow("AcDbBlockBegin"),
+    row(name, &Block::name),
+    row(Code(10), &Block::base));
 }  // namespace block
 inline constexpr std::string_view endOfBlock = "ENDBLK";
 
@@ -99,9 +112,11 @@ struct Line : entity::Entity, Ends
     AcGeVector3d normal{0, 0, 1};
 };
 
-inline constexpr auto table =
-    tableOf<Line>("LINE", entity::rows, subclassRow("AcDbLine"), ends.rows,
-                  row(entity::normal, &Line::normal, When::unlessUsual));
+inline constexpr auto table = tableOf<Line>("LINE",
+    entity::rows,
+    subclassRow("AcDbLine"),
+    ends.rows,
+    row(entity::normal, &Line::normal, When::unlessUsual));
 }  // namespace line
 
 namespace text
@@ -149,27 +164,33 @@ struct Words
 
 inline constexpr Code contents{1};
 
-inline constexpr auto rows =
-    rowsOf(row(Code(10), &Words::position), row(Code(40), &Words::height),
-           row(contents, &Words::contents), row(Code(50), &Words::rotation, When::unlessUsual),
-           row(Code(41), &Words::widthFactor, When::unlessUsual),
-           row(Code(51), &Words::oblique, When::unlessUsual),
-           row(Code(7), &Words::style, When::unlessUsual),
-           row(Code(71), &Words::generation, When::unlessUsual),
-           row(Code(72), &Words::horizontalMode, When::unlessUsual),
-           row(Code(11), &Words::alignment, When::unlessUsual),
-           row(entity::normal, &Words::normal, When::unlessUsual));
+inline constexpr auto rows = rowsOf(
+    row(Code(10), &Words::position),
+    row(Code(40), &Words::height),
+    row(contents, &Words::contents),
+    row(Code(50), &Words::rotation, When::unlessUsual),
+    row(Code(41), &Words::widthFactor, When::unlessUsual),
+    row(Code(51), &Words::oblique, When::unlessUsual),
+    row(Code(7), &Words::style, When::unlessUsual),
+    row(Code(71), &Words::generation, When::unlessUsual),
+    row(Code(72), &Words::horizontalMode, When::unlessUsual),
+    row(Code(11), &Words::alignment, When::unlessUsual),
+    row(entity::normal, &Words::normal, When::unlessUsual));
 
 // Both halves of the record have the same subclass name.
-inline constexpr auto words = partOf<Words>(rows, subclassRow("AcDbText"),
-                                            row(Code(73), &Words::verticalMode, When::unlessUsual));
+inline constexpr auto words = partOf<Words>(
+    rows,
+    subclassRow("AcDbText"),
+    row(Code(73), &Words::verticalMode, When::unlessUsual));
 
 struct Text : entity::Entity, Words
 {
 };
 
-inline constexpr auto table =
-    tableOf<Text>("TEXT", entity::rows, subclassRow("AcDbText"), words.rows);
+inline constexpr auto table = tableOf<Text>("TEXT",
+    entity::rows,
+    subclassRow("AcDbText"),
+    words.rows);
 }  // namespace text
 
 namespace polyline
@@ -195,22 +216,25 @@ struct Shape
     AcGeVector3d normal{0, 0, 1};
 };
 
-inline constexpr auto shape =
-    partOf<Shape>(row(Code(10), &Shape::elevation), row(entity::flags, &Shape::flags),
-                  row(Code(40), &Shape::startWidth, When::unlessUsual),
-                  row(Code(41), &Shape::endWidth, When::unlessUsual),
-                  row(Code(71), &Shape::meshRows, When::unlessUsual),
-                  row(Code(73), &Shape::smoothRows, When::unlessUsual),
-                  row(entity::normal, &Shape::normal, When::unlessUsual));
+inline constexpr auto shape = partOf<Shape>(
+    row(Code(10), &Shape::elevation),
+    row(entity::flags, &Shape::flags),
+    row(Code(40), &Shape::startWidth, When::unlessUsual),
+    row(Code(41), &Shape::endWidth, When::unlessUsual),
+    row(Code(71), &Shape::meshRows, When::unlessUsual),
+    row(Code(73), &Shape::smoothRows, When::unlessUsual),
+    row(entity::normal, &Shape::normal, When::unlessUsual));
 
 struct Polyline : entity::Entity, Shape
 {
     int verticesFollow = 1;
 };
 
-inline constexpr auto table =
-    tableOf<Polyline>("POLYLINE", entity::rows, subclassRow("AcDb2dPolyline"),
-                      row(Code(66), &Polyline::verticesFollow), shape.rows);
+inline constexpr auto table = tableOf<Polyline>("POLYLINE",
+    entity::rows,
+    subclassRow("AcDb2dPolyline"),
+    row(Code(66), &Polyline::verticesFollow),
+    shape.rows);
 }  // namespace polyline
 
 namespace vertex
@@ -238,9 +262,12 @@ struct Shape
 };
 
 inline constexpr auto shape = partOf<Shape>(
-    row(Code(10), &Shape::position), row(Code(40), &Shape::startWidth),
-    row(Code(41), &Shape::endWidth), row(Code(42), &Shape::bulge, When::unlessUsual),
-    row(entity::flags, &Shape::flags), row(Code(71), &Shape::corner1, When::unlessUsual),
+    row(Code(10), &Shape::position),
+    row(Code(40), &Shape::startWidth),
+    row(Code(41), &Shape::endWidth),
+    row(Code(42), &Shape::bulge, When::unlessUsual),
+    row(entity::flags, &Shape::flags),
+    row(Code(71), &Shape::corner1, When::unlessUsual),
     row(Code(72), &Shape::corner2, When::unlessUsual),
     row(Code(73), &Shape::corner3, When::unlessUsual),
     row(Code(74), &Shape::corner4, When::unlessUsual));
@@ -249,8 +276,11 @@ struct Vertex : entity::Entity, Shape
 {
 };
 
-inline constexpr auto table = tableOf<Vertex>("VERTEX", entity::rows, subclassRow("AcDbVertex"),
-                                              subclassRow("AcDb2dVertex"), shape.rows);
+inline constexpr auto table = tableOf<Vertex>("VERTEX",
+    entity::rows,
+    subclassRow("AcDbVertex"),
+    subclassRow("AcDb2dVertex"),
+    shape.rows);
 }  // namespace vertex
 
 namespace sequenceend
@@ -262,9 +292,11 @@ struct SequenceEnd
     std::wstring layer;
 };
 
-inline constexpr auto table =
-    tableOf<SequenceEnd>("SEQEND", row(handle, &SequenceEnd::handle, When::unlessUsual),
-                         row(owner, &SequenceEnd::owner, When::unlessUsual, Since::r2000),
-                         subclassRow("AcDbEntity"), row(entity::layer, &SequenceEnd::layer));
+inline constexpr auto table = tableOf<SequenceEnd>("SEQEND",
+    row(handle, &SequenceEnd::handle, When::unlessUsual),
+    row(owner, &SequenceEnd::owner, When::unlessUsual, Since::r2000),
+    subclassRow("AcDbEntity"),
+    row(entity::layer, &SequenceEnd::layer));
 }  // namespace sequenceend
 }  // namespace host::dxf::schema
+// clang-format on

@@ -3,6 +3,8 @@
 
 #include "host/dxf/schema/entities.h"
 
+// A table has a row a line, which clang-format would pack.
+// clang-format off
 namespace host::dxf::schema::hatch
 {
 struct Hatch
@@ -12,9 +14,11 @@ struct Hatch
     int isSolid = 0;
 };
 
-inline constexpr auto table = tableOf<Hatch>(
-    "HATCH", subclassRow("AcDbHatch"), row(Code(10), &Hatch::elevation),
-    row(entity::normal, &Hatch::normal, When::unlessUsual), row(Code(70), &Hatch::isSolid));
+inline constexpr auto table = tableOf<Hatch>("HATCH",
+    subclassRow("AcDbHatch"),
+    row(Code(10), &Hatch::elevation),
+    row(entity::normal, &Hatch::normal, When::unlessUsual),
+    row(Code(70), &Hatch::isSolid));
 
 // The rest is counted: a count and then so many parts. Each code means something else in each kind
 // of part.
@@ -48,7 +52,8 @@ struct PolylineLoop
 };
 
 inline constexpr auto polylineLoop = sequenceOf<PolylineLoop>(
-    row(Code(72), &PolylineLoop::hasBulges), row(Code(73), &PolylineLoop::isClosed),
+    row(Code(72), &PolylineLoop::hasBulges),
+    row(Code(73), &PolylineLoop::isClosed),
     row(Code(93), &PolylineLoop::vertices));
 
 struct Vertex
@@ -58,8 +63,9 @@ struct Vertex
 };
 
 inline constexpr auto vertex = sequenceOf<Vertex>(row(Code(10), &Vertex::point));
-inline constexpr auto bulgedVertex =
-    sequenceOf<Vertex>(row(Code(10), &Vertex::point), row(Code(42), &Vertex::bulge));
+inline constexpr auto bulgedVertex = sequenceOf<Vertex>(
+    row(Code(10), &Vertex::point),
+    row(Code(42), &Vertex::bulge));
 
 // Any other loop is made of edges.
 enum EdgeKind
@@ -83,8 +89,9 @@ struct LineEdge
     PlanePoint end;
 };
 
-inline constexpr auto lineEdge =
-    sequenceOf<LineEdge>(row(Code(10), &LineEdge::start), row(Code(11), &LineEdge::end));
+inline constexpr auto lineEdge = sequenceOf<LineEdge>(
+    row(Code(10), &LineEdge::start),
+    row(Code(11), &LineEdge::end));
 
 // The angles of a clockwise edge are measured clockwise.
 struct Turn
@@ -94,8 +101,10 @@ struct Turn
     int isCounterClockwise = 1;
 };
 
-inline constexpr auto turn = rowsOf(row(Code(50), &Turn::start), row(Code(51), &Turn::end),
-                                    row(Code(73), &Turn::isCounterClockwise));
+inline constexpr auto turn = rowsOf(
+    row(Code(50), &Turn::start),
+    row(Code(51), &Turn::end),
+    row(Code(73), &Turn::isCounterClockwise));
 
 struct ArcEdge : Turn
 {
@@ -103,8 +112,10 @@ struct ArcEdge : Turn
     double radius = 0;
 };
 
-inline constexpr auto arcEdge =
-    sequenceOf<ArcEdge>(row(Code(10), &ArcEdge::centre), row(Code(40), &ArcEdge::radius), turn);
+inline constexpr auto arcEdge = sequenceOf<ArcEdge>(
+    row(Code(10), &ArcEdge::centre),
+    row(Code(40), &ArcEdge::radius),
+    turn);
 
 struct EllipseEdge : Turn
 {
@@ -114,8 +125,10 @@ struct EllipseEdge : Turn
 };
 
 inline constexpr auto ellipseEdge = sequenceOf<EllipseEdge>(
-    row(Code(10), &EllipseEdge::centre), row(Code(11), &EllipseEdge::majorAxis),
-    row(Code(40), &EllipseEdge::ratio), turn);
+    row(Code(10), &EllipseEdge::centre),
+    row(Code(11), &EllipseEdge::majorAxis),
+    row(Code(40), &EllipseEdge::ratio),
+    turn);
 
 struct SplineEdge
 {
@@ -127,8 +140,10 @@ struct SplineEdge
 };
 
 inline constexpr auto splineEdge = sequenceOf<SplineEdge>(
-    row(Code(94), &SplineEdge::degree), row(Code(73), &SplineEdge::isRational),
-    row(Code(74), &SplineEdge::isPeriodic), row(Code(95), &SplineEdge::knots),
+    row(Code(94), &SplineEdge::degree),
+    row(Code(73), &SplineEdge::isRational),
+    row(Code(74), &SplineEdge::isPeriodic),
+    row(Code(95), &SplineEdge::knots),
     row(Code(96), &SplineEdge::poles));
 
 struct Knot
@@ -144,8 +159,9 @@ struct Pole
     std::optional<double> weight;
 };
 
-inline constexpr auto pole =
-    sequenceOf<Pole>(row(Code(10), &Pole::point), row(Code(42), &Pole::weight));
+inline constexpr auto pole = sequenceOf<Pole>(
+    row(Code(10), &Pole::point),
+    row(Code(42), &Pole::weight));
 
 // A family of parallel lines in a pattern.
 struct PatternLine
@@ -158,7 +174,10 @@ struct PatternLine
 };
 
 inline constexpr auto patternLine = sequenceOf<PatternLine>(
-    row(Code(53), &PatternLine::angle), row(Code(43), &PatternLine::baseX),
-    row(Code(44), &PatternLine::baseY), row(Code(45), &PatternLine::offsetX),
+    row(Code(53), &PatternLine::angle),
+    row(Code(43), &PatternLine::baseX),
+    row(Code(44), &PatternLine::baseY),
+    row(Code(45), &PatternLine::offsetX),
     row(Code(46), &PatternLine::offsetY));
 }  // namespace host::dxf::schema::hatch
+// clang-format on

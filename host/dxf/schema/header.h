@@ -4,6 +4,8 @@
 #include "host/dxf/schema/structure.h"
 #include "host/dxf/schema/table.h"
 
+// A table has a row a line, which clang-format would pack.
+// clang-format off
 namespace host::dxf::schema
 {
 // The usual codes, by type of value, for a variable that the tables below do not contain.
@@ -56,13 +58,13 @@ struct CurrentVariables
     double linetypeScale = 1;
 };
 
-inline constexpr auto currentVariables =
-    rowsOf(variable("CLAYER", 8, &CurrentVariables::layer),
-           variable("TEXTSTYLE", 7, &CurrentVariables::textStyle),
-           variable("CELTYPE", 6, &CurrentVariables::linetype),
-           variable("CECOLOR", 62, &CurrentVariables::color),
-           variable("CELWEIGHT", 370, &CurrentVariables::lineWeight),
-           variable("CELTSCALE", 40, &CurrentVariables::linetypeScale));
+inline constexpr auto currentVariables = rowsOf(
+    variable("CLAYER", 8, &CurrentVariables::layer),
+    variable("TEXTSTYLE", 7, &CurrentVariables::textStyle),
+    variable("CELTYPE", 6, &CurrentVariables::linetype),
+    variable("CECOLOR", 62, &CurrentVariables::color),
+    variable("CELWEIGHT", 370, &CurrentVariables::lineWeight),
+    variable("CELTSCALE", 40, &CurrentVariables::linetypeScale));
 
 // The variables of model space. The names of those of paper space begin with "P".
 struct UcsVariables
@@ -74,8 +76,10 @@ struct UcsVariables
 };
 
 inline constexpr auto ucsVariables = rowsOf(
-    variable("UCSNAME", 2, &UcsVariables::name), variable("UCSORG", 10, &UcsVariables::origin),
-    variable("UCSXDIR", 10, &UcsVariables::x), variable("UCSYDIR", 10, &UcsVariables::y));
+    variable("UCSNAME", 2, &UcsVariables::name),
+    variable("UCSORG", 10, &UcsVariables::origin),
+    variable("UCSXDIR", 10, &UcsVariables::x),
+    variable("UCSYDIR", 10, &UcsVariables::y));
 
 struct SpaceVariables
 {
@@ -90,8 +94,9 @@ struct ExtentsVariables
     AcGePoint3d high;
 };
 
-inline constexpr auto extentsVariables = rowsOf(variable("EXTMIN", 10, &ExtentsVariables::low),
-                                                variable("EXTMAX", 10, &ExtentsVariables::high));
+inline constexpr auto extentsVariables = rowsOf(
+    variable("EXTMIN", 10, &ExtentsVariables::low),
+    variable("EXTMAX", 10, &ExtentsVariables::high));
 
 struct HandleVariables
 {
@@ -100,3 +105,4 @@ struct HandleVariables
 
 inline constexpr auto handleVariables = rowsOf(variable("HANDSEED", 5, &HandleVariables::seed));
 }  // namespace host::dxf::schema
+// clang-format on

@@ -4,6 +4,8 @@
 #include "host/dxf/schema/structure.h"
 #include "host/dxf/schema/table.h"
 
+// A table has a row a line, which clang-format would pack.
+// clang-format off
 namespace host::dxf::schema
 {
 namespace dictionary
@@ -20,10 +22,11 @@ struct Dictionary
     int cloning = 1;  // of two records with the same key, the first stays
 };
 
-inline constexpr auto table = tableOf<Dictionary>(
-    "DICTIONARY", row(handle, &Dictionary::handle),
+inline constexpr auto table = tableOf<Dictionary>("DICTIONARY",
+    row(handle, &Dictionary::handle),
     listRow("{ACAD_REACTORS", owner, &Dictionary::reactors),
-    row(owner, &Dictionary::owner, When::always, Since::r2000), subclassRow("AcDbDictionary"),
+    row(owner, &Dictionary::owner, When::always, Since::r2000),
+    subclassRow("AcDbDictionary"),
     row(Code(281), &Dictionary::cloning, When::always, Since::r2000));
 
 struct Entry
@@ -50,10 +53,15 @@ struct Group
     Handles members;  // last in the record
 };
 
-inline constexpr auto table = tableOf<Group>(
-    "GROUP", row(handle, &Group::handle), listRow("{ACAD_REACTORS", owner, &Group::reactors),
-    row(owner, &Group::owner, When::always, Since::r2000), subclassRow("AcDbGroup"),
-    row(Code(300), &Group::description), row(Code(70), &Group::unnamed),
-    row(Code(71), &Group::selectable), row(member, &Group::members));
+inline constexpr auto table = tableOf<Group>("GROUP",
+    row(handle, &Group::handle),
+    listRow("{ACAD_REACTORS", owner, &Group::reactors),
+    row(owner, &Group::owner, When::always, Since::r2000),
+    subclassRow("AcDbGroup"),
+    row(Code(300), &Group::description),
+    row(Code(70), &Group::unnamed),
+    row(Code(71), &Group::selectable),
+    row(member, &Group::members));
 }  // namespace group
 }  // namespace host::dxf::schema
+// clang-format on

@@ -4,6 +4,8 @@
 
 #include "host/dxf/schema/entities.h"
 
+// A table has a row a line, which clang-format would pack.
+// clang-format off
 namespace host::dxf::schema
 {
 namespace insert
@@ -23,9 +25,11 @@ struct Insert
     AcGeVector3d normal{0, 0, 1};
 };
 
-inline constexpr auto table = tableOf<Insert>(
-    "INSERT", subclassRow("AcDbBlockReference"), row(name, &Insert::block),
-    row(Code(10), &Insert::position), row(Code(41), &Insert::scaleX, When::unlessUsual),
+inline constexpr auto table = tableOf<Insert>("INSERT",
+    subclassRow("AcDbBlockReference"),
+    row(name, &Insert::block),
+    row(Code(10), &Insert::position),
+    row(Code(41), &Insert::scaleX, When::unlessUsual),
     row(Code(42), &Insert::scaleY, When::unlessUsual),
     row(Code(43), &Insert::scaleZ, When::unlessUsual),
     row(Code(50), &Insert::rotation, When::unlessUsual),
@@ -44,8 +48,9 @@ struct Dimension
 };
 
 // Each kind of dimension has a type that ends with the type of this table: "ARC_DIMENSION".
-inline constexpr auto table =
-    tableOf<Dimension>("DIMENSION", subclassRow("AcDbDimension"), row(name, &Dimension::block));
+inline constexpr auto table = tableOf<Dimension>("DIMENSION",
+    subclassRow("AcDbDimension"),
+    row(name, &Dimension::block));
 }  // namespace dimension
 
 namespace attribute
@@ -62,10 +67,13 @@ struct Attribute : text::Words
     int flags = 0;
 };
 
-inline constexpr auto rows =
-    rowsOf(subclassRow("AcDbText"), text::rows, subclassRow("AcDbAttribute"),
-           row(name, &Attribute::tag), row(entity::flags, &Attribute::flags),
-           row(Code(74), &Attribute::verticalMode, When::unlessUsual));
+inline constexpr auto rows = rowsOf(
+    subclassRow("AcDbText"),
+    text::rows,
+    subclassRow("AcDbAttribute"),
+    row(name, &Attribute::tag),
+    row(entity::flags, &Attribute::flags),
+    row(Code(74), &Attribute::verticalMode, When::unlessUsual));
 inline constexpr auto table = tableOf<Attribute>("ATTRIB", rows);
 inline constexpr auto definition = tableOf<Attribute>("ATTDEF", rows);
 }  // namespace attribute
@@ -87,13 +95,18 @@ struct Paragraphs
     double lineSpacing = 1;
 };
 
-inline constexpr auto table = tableOf<Paragraphs>(
-    "MTEXT", subclassRow("AcDbMText"), row(Code(10), &Paragraphs::position),
-    row(Code(40), &Paragraphs::height), row(Code(41), &Paragraphs::width),
-    row(Code(71), &Paragraphs::attachment), row(Code(3), &Paragraphs::parts),
+inline constexpr auto table = tableOf<Paragraphs>("MTEXT",
+    subclassRow("AcDbMText"),
+    row(Code(10), &Paragraphs::position),
+    row(Code(40), &Paragraphs::height),
+    row(Code(41), &Paragraphs::width),
+    row(Code(71), &Paragraphs::attachment),
+    row(Code(3), &Paragraphs::parts),
     row(Code(1), &Paragraphs::lastPart),
     row(entity::normal, &Paragraphs::normal, When::unlessUsual),
-    row(Code(11), &Paragraphs::direction), row(Code(50), &Paragraphs::rotation, When::unlessUsual),
+    row(Code(11), &Paragraphs::direction),
+    row(Code(50), &Paragraphs::rotation, When::unlessUsual),
     row(Code(44), &Paragraphs::lineSpacing, When::unlessUsual, Since::r2000));
 }  // namespace paragraphs
 }  // namespace host::dxf::schema
+// clang-format on

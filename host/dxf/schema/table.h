@@ -6,12 +6,11 @@
 //         AcGePoint3d centre;
 //         double radius = 1;
 //     };
-//     inline constexpr auto table =
-//         tableOf<Circle>("CIRCLE",
-//                         entityRows,
-//                         subclassRow("AcDbCircle"),
-//                         row(centre, &Circle::centre),
-//                         row(radius, &Circle::radius));
+//     inline constexpr auto table = tableOf<Circle>("CIRCLE",
+//         entityRows,
+//         subclassRow("AcDbCircle"),
+//         row(centre, &Circle::centre),
+//         row(radius, &Circle::radius));
 //
 // A row does not compile if its member cannot have the type of its code. A member that is a vector
 // has a tag for each value. A std::string_view holds the file's bytes with their blanks [borrowed].

@@ -4,6 +4,8 @@
 #include "host/dxf/schema/structure.h"
 #include "host/dxf/schema/table.h"
 
+// A table has a row a line, which clang-format would pack.
+// clang-format off
 namespace host::dxf::schema
 {
 struct SymbolTable
@@ -13,10 +15,11 @@ struct SymbolTable
     int count = 0;
 };
 
-inline constexpr auto symbolTable =
-    tableOf<SymbolTable>("TABLE", row(name, &SymbolTable::name),
-                         row(handle, &SymbolTable::handle, When::always, Since::r13),
-                         subclassRow("AcDbSymbolTable"), row(Code(70), &SymbolTable::count));
+inline constexpr auto symbolTable = tableOf<SymbolTable>("TABLE",
+    row(name, &SymbolTable::name),
+    row(handle, &SymbolTable::handle, When::always, Since::r13),
+    subclassRow("AcDbSymbolTable"),
+    row(Code(70), &SymbolTable::count));
 
 inline constexpr std::string_view endOfTable = "ENDTAB";
 
@@ -29,13 +32,14 @@ struct SymbolRecord
     int flags = 0;
 };
 
-inline constexpr auto symbolRows =
-    rowsOf(row(handle, &SymbolRecord::handle, When::unlessUsual),
-           row(owner, &SymbolRecord::owner, When::unlessUsual, Since::r2000),
-           subclassRow("AcDbSymbolTableRecord"));
+inline constexpr auto symbolRows = rowsOf(
+    row(handle, &SymbolRecord::handle, When::unlessUsual),
+    row(owner, &SymbolRecord::owner, When::unlessUsual, Since::r2000),
+    subclassRow("AcDbSymbolTableRecord"));
 inline constexpr Code symbolFlags{70};
-inline constexpr auto nameAndFlagRows =
-    rowsOf(row(name, &SymbolRecord::name), row(symbolFlags, &SymbolRecord::flags));
+inline constexpr auto nameAndFlagRows = rowsOf(
+    row(name, &SymbolRecord::name),
+    row(symbolFlags, &SymbolRecord::flags));
 
 namespace linetype
 {
@@ -47,10 +51,14 @@ struct Linetype : SymbolRecord
     double length = 0;
 };
 
-inline constexpr auto table =
-    tableOf<Linetype>("LTYPE", symbolRows, subclassRow("AcDbLinetypeTableRecord"), nameAndFlagRows,
-                      row(Code(3), &Linetype::description), row(Code(72), &Linetype::alignment),
-                      row(Code(73), &Linetype::dashes), row(Code(40), &Linetype::length));
+inline constexpr auto table = tableOf<Linetype>("LTYPE",
+    symbolRows,
+    subclassRow("AcDbLinetypeTableRecord"),
+    nameAndFlagRows,
+    row(Code(3), &Linetype::description),
+    row(Code(72), &Linetype::alignment),
+    row(Code(73), &Linetype::dashes),
+    row(Code(40), &Linetype::length));
 }  // namespace linetype
 
 namespace layer
@@ -75,11 +83,14 @@ struct Layer : SymbolRecord
     std::optional<int> trueColor;  // 0xRRGGBB; goes before `color`
 };
 
-inline constexpr auto table =
-    tableOf<Layer>("LAYER", symbolRows, subclassRow("AcDbLayerTableRecord"), nameAndFlagRows,
-                   row(color, &Layer::color), row(linetype, &Layer::linetype),
-                   row(plots, &Layer::plots, When::unlessUsual, Since::r2000),
-                   row(trueColor, &Layer::trueColor, When::unlessUsual, Since::r2004));
+inline constexpr auto table = tableOf<Layer>("LAYER",
+    symbolRows,
+    subclassRow("AcDbLayerTableRecord"),
+    nameAndFlagRows,
+    row(color, &Layer::color),
+    row(linetype, &Layer::linetype),
+    row(plots, &Layer::plots, When::unlessUsual, Since::r2000),
+    row(trueColor, &Layer::trueColor, When::unlessUsual, Since::r2004));
 }  // namespace layer
 
 namespace textstyle
@@ -99,12 +110,17 @@ struct TextStyle : SymbolRecord
     std::wstring bigFont;
 };
 
-inline constexpr auto table =
-    tableOf<TextStyle>("STYLE", symbolRows, subclassRow("AcDbTextStyleTableRecord"),
-                       nameAndFlagRows, row(height, &TextStyle::height),
-                       row(widthFactor, &TextStyle::widthFactor), row(oblique, &TextStyle::oblique),
-                       row(Code(71), &TextStyle::generation), row(Code(42), &TextStyle::lastHeight),
-                       row(Code(3), &TextStyle::font), row(Code(4), &TextStyle::bigFont));
+inline constexpr auto table = tableOf<TextStyle>("STYLE",
+    symbolRows,
+    subclassRow("AcDbTextStyleTableRecord"),
+    nameAndFlagRows,
+    row(height, &TextStyle::height),
+    row(widthFactor, &TextStyle::widthFactor),
+    row(oblique, &TextStyle::oblique),
+    row(Code(71), &TextStyle::generation),
+    row(Code(42), &TextStyle::lastHeight),
+    row(Code(3), &TextStyle::font),
+    row(Code(4), &TextStyle::bigFont));
 }  // namespace textstyle
 
 namespace blockrecord
@@ -113,8 +129,10 @@ struct BlockRecord : SymbolRecord
 {
 };
 
-inline constexpr auto table = tableOf<BlockRecord>(
-    "BLOCK_RECORD", symbolRows, subclassRow("AcDbBlockTableRecord"), row(name, &BlockRecord::name));
+inline constexpr auto table = tableOf<BlockRecord>("BLOCK_RECORD",
+    symbolRows,
+    subclassRow("AcDbBlockTableRecord"),
+    row(name, &BlockRecord::name));
 }  // namespace blockrecord
 
 namespace viewport
@@ -154,12 +172,21 @@ struct Viewport : SymbolRecord
 
 // A changed coordinate system is written even to R12 files: readers that do not know its codes skip
 // them.
-inline constexpr auto table = tableOf<Viewport>(
-    "VPORT", symbolRows, subclassRow("AcDbViewportTableRecord"), nameAndFlagRows,
-    row(centre, &Viewport::centre), row(direction, &Viewport::direction),
-    row(target, &Viewport::target), row(height, &Viewport::height), row(aspect, &Viewport::aspect),
-    row(twist, &Viewport::twist), row(mode, &Viewport::mode), row(ucsIcon, &Viewport::ucsIcon),
-    row(Code(110), &Viewport::ucsOrigin), row(Code(111), &Viewport::ucsX),
+inline constexpr auto table = tableOf<Viewport>("VPORT",
+    symbolRows,
+    subclassRow("AcDbViewportTableRecord"),
+    nameAndFlagRows,
+    row(centre, &Viewport::centre),
+    row(direction, &Viewport::direction),
+    row(target, &Viewport::target),
+    row(height, &Viewport::height),
+    row(aspect, &Viewport::aspect),
+    row(twist, &Viewport::twist),
+    row(mode, &Viewport::mode),
+    row(ucsIcon, &Viewport::ucsIcon),
+    row(Code(110), &Viewport::ucsOrigin),
+    row(Code(111), &Viewport::ucsX),
     row(Code(112), &Viewport::ucsY));
 }  // namespace viewport
 }  // namespace host::dxf::schema
+// clang-format on
