@@ -88,14 +88,61 @@ struct TagSource
 
 // Read `tag` into `value` if the tag belongs to the attribute that begins with `code`. Throw an
 // Error if the value has another type.
-void takeValue(const TagSource& source, const Tag& tag, Code code, std::wstring& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, std::string_view& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, int& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, double& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handle& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, schema::PlanePoint& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, AcGePoint3d& value);
-void takeValue(const TagSource& source, const Tag& tag, Code code, AcGeVector3d& value);
+inline void takeValue(const TagSource& source, const Tag& tag, Code code, std::wstring& value)
+{
+    if (tag.code == code)
+    {
+        value = source.codePage.decode(tag.value);
+    }
+}
+inline void takeValue(const TagSource&, const Tag& tag, Code code, std::string_view& value)
+{
+    if (tag.code == code)
+    {
+        value = tag.value;
+    }
+}
+inline void takeValue(const TagSource& source, const Tag& tag, Code code, int& value)
+{
+    if (tag.code == code)
+    {
+        value = int(source.file.integer(tag));
+    }
+}
+inline void takeValue(const TagSource& source, const Tag& tag, Code code, double& value)
+{
+    if (tag.code == code)
+    {
+        value = source.file.real(tag);
+    }
+}
+inline void takeValue(const TagSource& source, const Tag& tag, Code code, schema::Handle& value)
+{
+    if (tag.code == code)
+    {
+        value = source.file.handle(tag);
+    }
+}
+template <class Point>
+void takePoint(const TagSource& source, const Tag& tag, Code code, Point& point)
+{
+    takeValue(source, tag, code, point.x);
+    takeValue(source, tag, code.y(), point.y);
+    takeValue(source, tag, code.z(), point.z);
+}
+inline void takeValue(const TagSource& source, const Tag& tag, Code code, schema::PlanePoint& value)
+{
+    takeValue(source, tag, code, value.x);
+    takeValue(source, tag, code.y(), value.y);
+}
+inline void takeValue(const TagSource& source, const Tag& tag, Code code, AcGePoint3d& value)
+{
+    takePoint(source, tag, code, value);
+}
+inline void takeValue(const TagSource& source, const Tag& tag, Code code, AcGeVector3d& value)
+{
+    takePoint(source, tag, code, value);
+}
 template <class Value>
 void takeValue(const TagSource& source, const Tag& tag, Code code, std::optional<Value>& value)
 {

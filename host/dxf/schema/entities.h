@@ -154,7 +154,6 @@ struct Words
     double rotation = 0;  // degrees
     double widthFactor = 1;
     double oblique = 0;  // degrees
-    std::wstring style;  // empty: the drawing's first style
     int generation = 0;
     int horizontalMode = leftMode;
     std::optional<AcGePoint3d> alignment;  // absent if both modes are 0
@@ -164,33 +163,43 @@ struct Words
 
 inline constexpr Code contents{1};
 
-inline constexpr auto rows = rowsOf(
+inline constexpr auto lettering = rowsOf(
     row(Code(10), &Words::position),
     row(Code(40), &Words::height),
     row(contents, &Words::contents),
     row(Code(50), &Words::rotation, When::unlessUsual),
     row(Code(41), &Words::widthFactor, When::unlessUsual),
-    row(Code(51), &Words::oblique, When::unlessUsual),
-    row(Code(7), &Words::style, When::unlessUsual),
+    row(Code(51), &Words::oblique, When::unlessUsual));
+
+// The style stands between the two.
+inline constexpr auto placement = rowsOf(
     row(Code(71), &Words::generation, When::unlessUsual),
     row(Code(72), &Words::horizontalMode, When::unlessUsual),
     row(Code(11), &Words::alignment, When::unlessUsual),
     row(entity::normal, &Words::normal, When::unlessUsual));
+inline constexpr auto verticalModeRow =
+    row(Code(73), &Words::verticalMode, When::unlessUsual);
 
-// Both halves of the record have the same subclass name.
+// What a plot needs of a text.
 inline constexpr auto words = partOf<Words>(
-    rows,
-    subclassRow("AcDbText"),
-    row(Code(73), &Words::verticalMode, When::unlessUsual));
+    lettering,
+    placement,
+    verticalModeRow);
 
 struct Text : entity::Entity, Words
 {
+    std::wstring style;  // empty: the drawing's first style
 };
 
+// Both halves of the record have the same subclass name.
 inline constexpr auto table = tableOf<Text>("TEXT",
     entity::rows,
     subclassRow("AcDbText"),
-    words.rows);
+    lettering,
+    row(Code(7), &Text::style, When::unlessUsual),
+    placement,
+    subclassRow("AcDbText"),
+    verticalModeRow);
 }  // namespace text
 
 namespace polyline

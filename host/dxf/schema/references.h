@@ -69,7 +69,8 @@ struct Attribute : text::Words
 
 inline constexpr auto rows = rowsOf(
     subclassRow("AcDbText"),
-    text::rows,
+    text::lettering,
+    text::placement,
     subclassRow("AcDbAttribute"),
     row(name, &Attribute::tag),
     row(entity::flags, &Attribute::flags),
