@@ -2,20 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/stubs.h"
+
 namespace
 {
 using host::DictionaryEntries;
 
-AcDbStub stub()
-{
-    AcDbStub made{};
-    return made;
-}
+;
 
 TEST(DictionaryEntries, areFoundInAnyLetterCaseUntilTheyAreErased)
 {
     DictionaryEntries entries;
-    AcDbStub grid = stub();
+    support::Stubs stubs;
+    AcDbStub& grid = stubs.add();
     entries.put(L"Сетка", &grid);
     EXPECT_EQ(entries.find(L"сЕТКА"), &grid);
     EXPECT_EQ(entries.find(L"Сетк"), nullptr);
@@ -27,7 +26,8 @@ TEST(DictionaryEntries, areFoundInAnyLetterCaseUntilTheyAreErased)
 TEST(DictionaryEntries, aNewEntryErasesTheFormerOneOfItsName)
 {
     DictionaryEntries entries;
-    AcDbStub former = stub(), other = stub(), next = stub();
+    support::Stubs stubs;
+    AcDbStub &former = stubs.add(), &other = stubs.add(), &next = stubs.add();
     entries.addLoaded(L"GRID", &former);
     entries.put(L"OTHER", &other);
     entries.put(L"grid", &next);
@@ -58,7 +58,8 @@ TEST(DictionaryEntries, anAnonymousOneGetsANameThatNoEntryHasHad)
     for (const Case& row : cases)
     {
         DictionaryEntries entries;
-        AcDbStub any = stub();
+        support::Stubs stubs;
+        AcDbStub& any = stubs.add();
         for (const wchar_t* key : row.loaded)
         {
             entries.addLoaded(key, &any);
@@ -71,7 +72,8 @@ TEST(DictionaryEntries, anAnonymousOneGetsANameThatNoEntryHasHad)
 TEST(DictionaryEntries, theNameOfAnErasedEntryIsNotGivenAgain)
 {
     DictionaryEntries entries;
-    AcDbStub first = stub();
+    support::Stubs stubs;
+    AcDbStub& first = stubs.add();
     entries.put(entries.keyFor(L"*A"), &first);
     first.setErased(true);
     EXPECT_EQ(entries.keyFor(L"*A"), L"*A2");

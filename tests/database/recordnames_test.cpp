@@ -2,14 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "host/database/stub.h"
+#include "tests/support/stubs.h"
 
 namespace
 {
 TEST(RecordNames, findTheFirstRecordOfANameInAnyLetterCase)
 {
     host::RecordNames names;
-    AcDbStub walls{}, axes{}, again{};
+    support::Stubs stubs;
+    AcDbStub &walls = stubs.add(), &axes = stubs.add(), &again = stubs.add();
     names.add(L"Walls", &walls);
     names.add(L"Оси", &axes);
     names.add(L"WALLS", &again);
@@ -23,7 +24,8 @@ TEST(RecordNames, findTheFirstRecordOfANameInAnyLetterCase)
 TEST(RecordNames, anAnswerIsNotTakenForThatOfAnotherName)
 {
     host::RecordNames names;
-    AcDbStub walls{}, axes{};
+    support::Stubs stubs;
+    AcDbStub &walls = stubs.add(), &axes = stubs.add();
     EXPECT_EQ(names.find(L"Walls"), nullptr);
     names.add(L"Walls", &walls);
     names.add(L"Axes", &axes);
@@ -40,7 +42,8 @@ TEST(RecordNames, anAnswerIsNotTakenForThatOfAnotherName)
 TEST(RecordNames, aNameStaysWhereItIsWhenMoreRecordsCome)
 {
     host::RecordNames names;
-    AcDbStub record{};
+    support::Stubs stubs;
+    AcDbStub& record = stubs.add();
     const std::wstring& first = names.add(L"First", &record);
     for (int i = 0; i < 10000; ++i)
     {
