@@ -443,6 +443,40 @@ TEST_F(Drawing, aFileThatDoesNotStateItsExtentsIsMeasured)
     EXPECT_EQ(count(text, corner("EXTMAX", "100.0", "8.0")), 1u);
 }
 
+// Measuring takes longer than reading the file, so a box that is stated is trusted.
+TEST_F(Drawing, aStatedBoxGrowsOverWhatHasBeenAddedAndAPointGivesWayToTheMeasuredBox)
+{
+    const auto stating = [](const std::string& low, const std::string& high)
+    {
+        return replaced(
+            replaced(host::dxf::emptyDrawing(), corner("EXTMIN", "1e+20", "1e+20") + "1e+20", low),
+            corner("EXTMAX", "-1e+20", "-1e+20") + "-1e+20", high);
+    };
+    const auto measure = [](const host::dxf::TagFile&) {
+        return host::dxf::Measured{{AcGePoint3d(-7, -8, 0), AcGePoint3d(70, 80, 0)}, true};
+    };
+    const struct
+    {
+        std::string drawing, low, high;
+    } rows[] = {
+        {stating(corner("EXTMIN", "0.0", "-5.0") + "0.0",
+                 corner("EXTMAX", "100.0", "50.0") + "0.0"),
+         corner("EXTMIN", "0.0", "-5.0"), corner("EXTMAX", "200.0", "50.0")},
+        {stating(corner("EXTMIN", "3.0", "3.0") + "0.0", corner("EXTMAX", "3.0", "3.0") + "0.0"),
+         corner("EXTMIN", "-7.0", "-8.0"), corner("EXTMAX", "200.0", "80.0")},
+    };
+    for (const auto& row : rows)
+    {
+        const auto database = opened(row.drawing);
+        host::dxf::setMeasure(measure);
+        addLine(*database, AcGePoint3d(10, 10, 0), AcGePoint3d(200, 40, 0));
+        const std::string text = saved(*database);
+        host::dxf::setMeasure(nullptr);
+        EXPECT_EQ(count(text, row.low), 1u) << row.low;
+        EXPECT_EQ(count(text, row.high), 1u) << row.high;
+    }
+}
+
 // A header may state the box of an earlier drawing.
 TEST_F(Drawing, theExtentsAreMeasuredAndThoseOfTheHeaderCountWhereThatIsNotPossible)
 {
