@@ -111,7 +111,8 @@ void loadTables(DatabaseCore& core, FileSource& source)
             loadBlockRecord(core, source, record);
         }
         else if (type == schema::viewport::table.type && source.viewport == nullptr &&
-                 equalNoCase(nameOf(schema::viewport::table, source, record), L"*ACTIVE"))
+                 equalNoCase(nameOf(schema::viewport::table, source, record),
+                             schema::viewport::active))
         {
             source.viewport = &record;
         }
@@ -194,7 +195,7 @@ void loadGroupDictionary(DatabaseCore& core, FileSource& source)
         std::uint64_t groups = 0;
         forEachEntry(source, *source.rootDictionary,
                      [&groups](const std::wstring& key, std::uint64_t handle)
-                     { groups = key == L"ACAD_GROUP" ? handle : groups; });
+                     { groups = key == schema::dictionary::groups ? handle : groups; });
         source.groupDictionary = objectWithHandle(source.file, groups);
     }
     auto* dictionary = new AcDbDictionary();

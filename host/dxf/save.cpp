@@ -218,7 +218,7 @@ void saveGroups(Edits& edits, DatabaseCore& core)
         }
     };
     const Producer rootEntry = [&source, own](TagWriter& writer)
-    { writeEntry(L"ACAD_GROUP", own, source, writer); };
+    { writeEntry(schema::dictionary::groups, own, source, writer); };
     if (!isNew)
     {
         edits.insert(endOfOwnTags(source.file, *source.groupDictionary), entries);

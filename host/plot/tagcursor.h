@@ -50,8 +50,6 @@ public:
         return true;
     }
 
-    void skip() { m_rest = m_rest.subspan(1); }
-
     // Reads a sequence and moves behind it. An attribute whose tag is not at its place keeps its
     // default.
     template <class Record, class Rows>
@@ -64,6 +62,8 @@ public:
     }
 
 private:
+    void skip() { m_rest = m_rest.subspan(1); }
+
     // Each returns true if the tag was there.
     bool take(Code code, double& value);
     bool take(Code code, int& value);

@@ -10,6 +10,8 @@ namespace host::dxf::schema
 {
 namespace dictionary
 {
+inline constexpr const wchar_t* groups = L"ACAD_GROUP";  // its key in the root dictionary
+
 inline constexpr Code key{3};
 inline constexpr Code softEntry{350};
 inline constexpr Code hardEntry{360};

@@ -137,6 +137,8 @@ inline constexpr auto table = tableOf<BlockRecord>("BLOCK_RECORD",
 
 namespace viewport
 {
+inline constexpr const wchar_t* active = L"*ACTIVE";  // in any letter case
+
 enum Mode
 {
     ucsFollowMode = 8
