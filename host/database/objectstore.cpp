@@ -77,10 +77,6 @@ void ObjectStore::pack(AcDbLine* line)
     }
     stub->flags |= AcDbStub::isPacked;
     m_retired.add(line);
-    if (stub->erased())
-    {
-        m_stubs.noteErased(stub);
-    }
 }
 
 // Writes a line into its stub. Returns false and changes nothing if the stub cannot hold it.

@@ -4,7 +4,6 @@
 #include <new>
 #ifdef __linux__
 #    include <sys/mman.h>
-#    include <unistd.h>
 #endif
 
 namespace host
@@ -20,15 +19,19 @@ void askForLargePage([[maybe_unused]] void* block, [[maybe_unused]] std::size_t 
 #endif
 }
 
-// Sets all bytes of a block behind its head to zero. The system takes the memory back if it can.
-void discard(std::byte* block, std::size_t head, std::size_t bytes)
+// Sets all bytes of a block to zero. The system takes the memory back if it can, as a whole,
+// because it keeps a large page of which it gets only a part. What is written afterwards takes
+// small pages.
+void discard([[maybe_unused]] void* block, [[maybe_unused]] std::size_t bytes)
 {
-    std::size_t kept = bytes;
 #ifdef __linux__
-    const std::size_t page = std::size_t(::sysconf(_SC_PAGESIZE));
-    kept = ::madvise(block + page, bytes - page, MADV_DONTNEED) == 0 ? page : bytes;
+    if (::madvise(block, bytes, MADV_DONTNEED) == 0)
+    {
+        ::madvise(block, bytes, MADV_NOHUGEPAGE);
+        return;
+    }
 #endif
-    std::memset(block + head, 0, kept - head);
+    std::memset(block, 0, bytes);
 }
 
 std::uint32_t highHalf(std::uint64_t handle)
@@ -47,6 +50,7 @@ StubArena::~StubArena()
 
 void StubArena::addBlock(bool isFlat, std::uint64_t handle)
 {
+    discardErased();
     void* memory = ::operator new(blockBytes, std::align_val_t(blockBytes));
     if (!m_blocks.empty())  // small drawings do not fill one block
     {
@@ -125,6 +129,7 @@ std::size_t StubArena::endOf(std::size_t block) const
 
 void StubArena::beginStep()
 {
+    discardErased();
     m_stepStart = m_size;
 }
 
@@ -141,23 +146,42 @@ bool StubArena::isOfThisStep(const AcDbStub* stub)
 void StubArena::noteErased(const AcDbStub* stub)
 {
     Block& block = *blockOf(stub);
-    const std::size_t room = roomOf(block.stride);
-    // The block is looked through only when all of its lines may be erased, so that each line is
-    // looked at once.
-    if (++block.erasings < room || &block == m_blocks.back() || block.firstIndex < m_stepStart)
+    if (++block.erasings == roomOf(block.stride))
     {
-        return;
+        block.arena->m_erased.push_back(&block);
     }
-    block.erasings = 0;
-    for (std::size_t i = 0; i < room; ++i)
+}
+
+void StubArena::discardErased()
+{
+    for (Block* block : m_erased)
     {
-        if (!block.stub(i)->packed() || !block.stub(i)->erased())
+        if (block->firstIndex >= m_stepStart && isAllErased(*block))
         {
-            return;
+            const Block head = *block;
+            discard(block, blockBytes);
+            (new (block) Block(head))->isGone = true;
         }
     }
-    block.isGone = true;
-    discard(reinterpret_cast<std::byte*>(&block), sizeof(Block), blockBytes);
+    m_erased.clear();
+}
+
+// Tells whether no stub of a full block is needed any more. Objects with a name may be asked for by
+// that name, so only entities and what is part of them can go. An object on the heap stays there.
+bool StubArena::isAllErased(const Block& block)
+{
+    for (std::size_t i = 0; i < roomOf(block.stride); ++i)
+    {
+        const AcDbStub& stub = *const_cast<Block&>(block).stub(i);
+        const bool isOnHeap = !stub.packed() && stub.object != nullptr;
+        const bool isNeeded =
+            isOnHeap && (stub.object->isReadEnabled() || (stub.flags & AcDbStub::isEntity) == 0);
+        if (!stub.erased() || isNeeded)
+        {
+            return false;
+        }
+    }
+    return true;
 }
 
 StubArena::Range StubArena::from(std::size_t index) const

@@ -71,8 +71,8 @@ struct LineEnds
 // flat block comes when the lines of a whole block lie at one elevation.
 //
 // A preview may make and erase a million lines many times in one step of undo. No undo brings such
-// a line back. So the memory of a block in which all lines are of the current step and erased is
-// given back. Its stubs stay erased for good.
+// a line back. So the memory of a block is given back when a new block or step begins, if all
+// objects of the block are of the current step, erased and closed. Its stubs stay erased for good.
 class StubArena
 {
 public:
@@ -114,8 +114,8 @@ public:
     void beginStep();
     // Tells whether a stub was made in the current step.
     static bool isOfThisStep(const AcDbStub* stub);
-    // Notes that an erased line has been packed. May give back the memory of its block.
-    void noteErased(const AcDbStub* stub);
+    // Notes that an object of the current step has been erased.
+    static void noteErased(const AcDbStub* stub);
     // Tells whether the memory of a stub was given back.
     static bool isGone(const AcDbStub* stub) { return blockOf(stub)->isGone; }
 
@@ -176,7 +176,7 @@ private:
         double elevation;  // [wcs] of the lines of a flat block; to be compared bit by bit
         std::uint32_t highHandle;
         std::uint32_t stride;
-        std::uint32_t erasings = 0;  // so many times an erased line of the block was packed
+        std::uint32_t erasings = 0;  // of objects of the current step
         bool isGone = false;         // only this head is left
 
         AcDbStub* stub(std::size_t index)
@@ -209,11 +209,14 @@ private:
         return (blockBytes - sizeof(Block)) / stride;
     }
     std::size_t endOf(std::size_t block) const;
+    static bool isAllErased(const Block& block);
+    void discardErased();
     AcDbStub* make(std::uint64_t handle);
     void addBlock(bool isFlat, std::uint64_t handle);
 
     DatabaseCore& m_core;
     std::vector<Block*> m_blocks;
+    std::vector<Block*> m_erased;  // blocks in which all objects have been erased at least once
     std::size_t m_size = 0;
     AcDbStub* m_next = nullptr;
     AcDbStub* m_end = nullptr;       // of the last block

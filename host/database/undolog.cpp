@@ -5,7 +5,11 @@ namespace host
 void UndoLog::erase(AcDbStub* stub, bool erasing)
 {
     stub->setErased(erasing);
-    if (erasing && !StubArena::isOfThisStep(stub))
+    if (erasing && StubArena::isOfThisStep(stub))
+    {
+        StubArena::noteErased(stub);
+    }
+    else if (erasing)
     {
         m_erased.push_back(stub);
     }

@@ -27,7 +27,7 @@ enum ErrorStatus
     eNotThatKindOfClass = 46,       // the object is not of the requested class
     eInvalidLayer = 50,             // the current layer cannot be frozen
     eWasErased = 80,                // the object is erased
-    ePermanentlyErased = 81,        // the object is a line that its own command made and erased
+    ePermanentlyErased = 81,        // the object was made and erased by the same command
     eWasOpenForRead = 82,           // the object has a reader, so it cannot be opened for write
     eWasOpenForWrite = 83,          // the object has a writer, so it cannot be opened at all
     eWasOpenForUndo = 84,           // never returned here

@@ -246,12 +246,12 @@ private:
 
 // Open an object by its id. The pointer is [borrowed], and the caller closes the object. Up to 256
 // readers, or a single writer, may have an object open at a time. Statuses: eNullObjectId;
-// eWasErased for an erased object unless openErased is set; ePermanentlyErased for a line that its
-// own command made and erased, if openErased is set and the host has given the memory of the line
-// back; eNotThatKindOfClass; eWasOpenForWrite; eWasOpenForRead when a writer asks for an object
-// that has readers; eAtMaxReaders; eOnLockedLayer when a writer asks for an entity on a locked
-// layer; eNotImplementedYet for kForNotify and for a kind of object that this host only carries
-// along. The pointer is null unless the status is eOk.
+// eWasErased for an erased object unless openErased is set; ePermanentlyErased for an entity that
+// the same command made and erased, if openErased is set and the host has given its memory back;
+// eNotThatKindOfClass; eWasOpenForWrite; eWasOpenForRead when a writer asks for an object that has
+// readers; eAtMaxReaders; eOnLockedLayer when a writer asks for an entity on a locked layer;
+// eNotImplementedYet for kForNotify and for a kind of object that this host only carries along. The
+// pointer is null unless the status is eOk.
 Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& object, AcDbObjectId id, AcDb::OpenMode mode,
                                      bool openErased = false);
 Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& entity, AcDbObjectId id, AcDb::OpenMode mode,

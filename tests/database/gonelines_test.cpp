@@ -25,6 +25,11 @@ protected:
         }
         return made;
     }
+    // A line at two elevations begins a block, and is erased.
+    void addBlock()
+    {
+        erase(drawing.add(new AcDbLine(AcGePoint3d(0, 0, 0), AcGePoint3d(0, 0, 1))).stub());
+    }
     static void erase(AcDbStub* stub, bool erasing = true)
     {
         AcDbObjectPointer<AcDbLine> line(AcDbObjectId(stub), AcDb::kForWrite, true);
@@ -57,11 +62,13 @@ protected:
 TEST_F(GoneLines, giveTheMemoryOfWholeBlocksBackAndStayErased)
 {
     const host::UndoMark mark = host::undoMark(drawing.database());
-    const std::vector<AcDbStub*> made = addLines();
     const std::size_t size = drawing.core().objects().size();
+    const std::vector<AcDbStub*> made = addLines();
     eraseAll(made);
+    EXPECT_EQ(goneOf(made), 0u);
+    addBlock();
     EXPECT_EQ(goneOf(made), (blocks - 1) * 52427);  // neither the first nor the last block
-    EXPECT_EQ(drawing.core().objects().size(), size);
+    EXPECT_EQ(drawing.core().objects().size(), size + lines + 1);
     EXPECT_EQ(living(), 0u);
     for (std::size_t i = 0; i < made.size(); i += 997)
     {
@@ -85,11 +92,34 @@ TEST_F(GoneLines, giveTheMemoryOfWholeBlocksBackAndStayErased)
     EXPECT_EQ(living(), 1u);
 }
 
+TEST_F(GoneLines, goAlsoWhenTheNextStepBeginsAndBesideErasedPolylines)
+{
+    host::undoMark(drawing.database());
+    std::vector<AcDbStub*> made = addLines();
+    AcGePoint3dArray corners;
+    corners.append(AcGePoint3d(0, 0, 0));
+    corners.append(AcGePoint3d(1, 1, 0));
+    const AcDbObjectId id = drawing.add(new AcDb2dPolyline(AcDb::k2dSimplePoly, corners));
+    const std::vector<AcDbStub*> more = addLines();
+    eraseAll(made);
+    eraseAll(more);
+    AcDbEntity* polyline = nullptr;
+    ASSERT_EQ(acdbOpenAcDbEntity(polyline, id, AcDb::kForWrite), Acad::eOk);
+    EXPECT_EQ(polyline->erase(), Acad::eOk);
+    polyline->close();
+    host::undoMark(drawing.database());
+    EXPECT_TRUE(StubArena::isGone(id.stub()));
+    EXPECT_EQ(acdbOpenAcDbEntity(polyline, id, AcDb::kForRead, true), Acad::ePermanentlyErased);
+    EXPECT_TRUE(StubArena::isGone(made.back()));
+    EXPECT_TRUE(StubArena::isGone(more.front()));
+}
+
 TEST_F(GoneLines, areNotThoseOfAnEarlierStep)
 {
     const std::vector<AcDbStub*> made = addLines();
     const host::UndoMark mark = host::undoMark(drawing.database());
     eraseAll(made);
+    addBlock();
     EXPECT_EQ(goneOf(made), 0u);
     const host::UndoneChanges undone = host::undoTo(drawing.database(), mark);
     EXPECT_EQ(living(), lines);
@@ -130,6 +160,7 @@ TEST_F(GoneLines, areNotThoseBesideALineThatStandsOrIsOpen)
             }
         }
     }
+    addBlock();
     EXPECT_EQ(goneOf(made), 0u);
     EXPECT_EQ(living(), 1u);
     EXPECT_EQ(line->startPoint(), AcGePoint3d(double(open), 0, 0));
