@@ -27,8 +27,7 @@ double guardBand(const AcGePoint3d& corner, const AcGePoint3d& opposite)
     const double ofHost =
         (std::max)(AcGeContext::gTol.equalPoint(), AcGeContext::gTol.equalVector());
     const double largest = (std::max)(largestCoordinate(corner), largestCoordinate(opposite));
-    const double tolerance = atLeastRounding((std::max)(ofHost, listTolerance), largest);
-    return (std::max)(1e-6 * corner.distanceTo(opposite), 4 * tolerance);
+    return 4 * atLeastRounding((std::max)(ofHost, listTolerance), largest);
 }
 }  // namespace
 
@@ -88,7 +87,8 @@ LineSpan lineSpan(const AcGePoint3dArray& outline, const AcGePoint3d& P, int axi
     for (int i = 1; isKnown && i < 4; i += 2)
     {
         const AcGePoint3d& corner = outline[0];
-        const double guard = guardBand(corner, outline[2]);
+        const double inside = guardBand(corner, outline[2]);
+        const double outside = (std::max)(inside, 2.5e-7 * corner.distanceTo(outline[2]));
         AcGePoint3d start = P;
         start[axis] = corner[axis];
         const double length = (outline[i] - corner).length();
@@ -98,10 +98,10 @@ LineSpan lineSpan(const AcGePoint3dArray& outline, const AcGePoint3d& P, int axi
         const double depth = slope < 0 ? length - fromCorner : fromCorner;
         const auto where = [&](double depthThere)
         { return corner[axis] + (depthThere - depth) / std::fabs(slope); };
-        span.outerLow = (std::max)(span.outerLow, where(-guard));
-        span.innerLow = (std::max)(span.innerLow, where(guard));
-        span.innerHigh = (std::min)(span.innerHigh, where(length - guard));
-        span.outerHigh = (std::min)(span.outerHigh, where(length + guard));
+        span.outerLow = (std::max)(span.outerLow, where(-outside));
+        span.innerLow = (std::max)(span.innerLow, where(inside));
+        span.innerHigh = (std::min)(span.innerHigh, where(length - inside));
+        span.outerHigh = (std::min)(span.outerHigh, where(length + outside));
     }
     return span;
 }

@@ -62,12 +62,12 @@ struct LineSpan
 // outline  The first four points are the corners in order, clockwise or counter-clockwise. If they
 //          are not a rectangle at the z of P, the span decides nothing.
 //
-// Between the outer and the inner bounds lies a guard band along the edges. It is four times as
-// wide as the largest current tolerance of the point tests, so rounding cannot reach across it. It
-// is at least a millionth of the outline's size wide. Seen from that distance, the angles between
-// the corners differ from the full turn by 8e-6, and the angle-sum test notices a difference of
-// 1e-6. The width is measured across the edge: where a line hardly slopes towards the edge, its way
-// through the band and the rounding of its bounds grow alike.
+// Between the outer and the inner bounds lies a guard band along the edges. On either side it is
+// four times as wide as the largest current tolerance of the point tests, so rounding cannot reach
+// across it. Outside it is at least 2.5e-7 of the outline's size wide. Seen from there, the angles
+// between the corners differ from the full turn by 2e-6, and the angle-sum test notices 1e-6. The
+// width is measured across the edge: where a line hardly slopes towards the edge, its way through
+// the band and the rounding of its bounds grow alike.
 LineSpan lineSpan(const AcGePoint3dArray& outline, const AcGePoint3d& P, int axis);
 
 // Points in the order of one coordinate, so that a search takes as long for many as for few.

@@ -90,13 +90,13 @@ TEST(LineSpan, takesTheLargestToleranceOfThePointTests)
     EXPECT_EQ(locate(small, {0.5, 4.01e-6, 0}), 1);
 }
 
-TEST(LineSpan, decidesNothingWithinAMillionthOfTheOutline)
+TEST(LineSpan, decidesNothingOutsideWithinAQuarterOfAMillionthOfTheOutline)
 {
     const Quad large = {{{0, 0, 0}, {300, 0, 0}, {300, 400, 0}, {0, 400, 0}}};
-    EXPECT_EQ(locate(large, {150, 500.1e-6, 0}), 1);
-    EXPECT_EQ(locate(large, {150, 499.9e-6, 0}), 0);
-    EXPECT_EQ(locate(large, {150, -499.9e-6, 0}), 0);
-    EXPECT_EQ(locate(large, {150, -500.1e-6, 0}), -1);
+    EXPECT_EQ(locate(large, {150, 4.01e-6, 0}), 1);
+    EXPECT_EQ(locate(large, {150, 3.99e-6, 0}), 0);
+    EXPECT_EQ(locate(large, {150, -124.9e-6, 0}), 0);
+    EXPECT_EQ(locate(large, {150, -125.1e-6, 0}), -1);
 }
 
 TEST(LineSpan, decidesNothingUnlessTheCornersMakeARectangle)
