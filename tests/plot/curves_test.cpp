@@ -200,6 +200,8 @@ TEST(Curves, aWeightedSplineCanBeAQuarterOfACircle)
 TEST(Curves, numbersThatMakeNoSplineGiveNoPoints)
 {
     const Points two{{0, 0, 0}, {1, 0, 0}};
+    std::vector<double> ofDegree26(54);
+    std::fill(ofDegree26.begin() + 27, ofDegree26.end(), 1);
     const struct
     {
         const char* what;
@@ -210,7 +212,7 @@ TEST(Curves, numbersThatMakeNoSplineGiveNoPoints)
     } rows[] = {
         {"degree 0", 0, {0, 1, 2}, two, {}},
         {"a negative degree", -1, {0, 1}, two, {}},
-        {"too high a degree", 26, std::vector<double>(53), Points(27), {}},
+        {"too high a degree", 26, ofDegree26, Points(27), {}},
         {"as many poles as the degree", 2, {0, 0, 0, 1, 1}, two, {}},
         {"too few knots", 1, {0, 0, 1}, two, {}},
         {"too many knots", 1, {0, 0, 1, 1, 1}, two, {}},
