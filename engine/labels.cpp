@@ -18,7 +18,8 @@ AcGePoint3dArray labelPoints(const GridRequest& request, const GridLines& lines,
     {
         return pairs;
     }
-    KnownPoints known(clipper.toWorld * (axis == 0 ? AcGeVector3d::kXAxis : AcGeVector3d::kYAxis));
+    KnownPoints known(clipper.toWorld *
+                      (axis == 0 ? AcGeVector3d(1, 0, 0) : AcGeVector3d(0, 1, 0)));
     for (std::size_t i = 0; i < lines.at[axis].size(); ++i)
     {
         line.start[axis] = lines.at[axis][i];
