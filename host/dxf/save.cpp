@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <map>
 #include <optional>
@@ -45,7 +46,7 @@ void saveLayer(Edits& edits, const FileSource& source, const LoadedLayer& loaded
     }
     if (layer.isOff() != loaded.off)
     {
-        now.color = layer.isOff() ? -std::abs(before.color) : std::abs(before.color);
+        now.color = int(-std::int64_t(before.color));  // of a damaged file it may be any int
     }
     const FileForm form{source.file.release(), source.codePage};
     saveChanges(edits, *loaded.record, RecordNumbers(table, before, form),
