@@ -29,7 +29,7 @@ const Script all[] = {
     {"a dialog that is cancelled", "", "zv_netrax|S|set 107 12|click 2|^C"},
     {"a dialog that refuses", "", "zv_netrax|S|set 107 0|click 1|click 2|^C"},
     // The second line is so near to the edge that only the polygon can decide.
-    {"a line along the edge", "HorStep=13.999995 WCSBasePoint=1", GRID "A"},
+    {"a line along the edge", "HorStep=13.999999 WCSBasePoint=1", GRID "A"},
 };
 }  // namespace
 
