@@ -101,8 +101,7 @@ inline void TagWriter::copy(std::string_view bytes)
     {
         return copyLong(bytes);
     }
-    std::memcpy(m_at, bytes.data(), bytes.size());
-    m_at += bytes.size();
+    m_at = std::copy(bytes.begin(), bytes.end(), m_at);  // there may be none, at no address
 }
 
 inline char* TagWriter::appendKnownReal(char* at, double value)
