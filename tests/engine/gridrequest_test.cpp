@@ -21,4 +21,13 @@ TEST(GridRequest, aHundredThousandEntitiesAreMovedSeldom)
     EXPECT_EQ(made.length(), 100000);
     EXPECT_LT(moves, 20);
 }
+
+TEST(GridRequest, cornersAreSortedByXAndYAndKeepTheirElevations)
+{
+    AcGePoint3d low(5, 1, 9);
+    AcGePoint3d high(2, 3, 4);
+    sortCorners(low, high);
+    EXPECT_EQ(low, AcGePoint3d(2, 1, 9));
+    EXPECT_EQ(high, AcGePoint3d(5, 3, 4));
+}
 }  // namespace
